@@ -1,0 +1,16 @@
+// The trimmed fixed-point form of a number: five decimals, cut at the leftmost zero behind the first.
+#pragma once
+
+#include <string>
+
+namespace encoding {
+
+/// Writes `value` with "%.5f" and cuts the text at the leftmost zero among its second to fifth decimals, so
+/// that at least one decimal stays: 0 is "0.0", 1.25 is "1.25", and 2.10305 is "2.1". Infinities and NaN are
+/// "inf", "-inf", "nan" and "-nan". No locale changes the text.
+std::wstring Double2TrimmedString(double value);
+
+/// Appends what Double2TrimmedString returns.
+void AppendTrimmed(std::wstring& text, double value);
+
+} // namespace encoding

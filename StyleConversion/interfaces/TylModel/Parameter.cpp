@@ -1,0 +1,7 @@
+#include "TylModel/Parameter.h"
+
+namespace TylModel {
+
+Parameter::~Parameter() = default;
+
+} // namespace TylModel
