@@ -36,18 +36,22 @@ protected:
         return {buffer, size};
     }
 
+    static std::wstring Wide(const fs::path& path) {
+        const std::u8string bytes = path.u8string();
+        return PathFromBytes({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    }
     std::string Open(const std::wstring& name) {
-        return TextOf(OpenForReading(((folder_ / "").wstring() + name).c_str()));
+        return TextOf(OpenForReading((Wide(folder_ / "") + name).c_str()));
     }
     std::string OpenIgnoringCase(const std::wstring& name) {
-        return TextOf(OpenForReadingIgnoringCase(((folder_ / "").wstring() + name).c_str()));
+        return TextOf(OpenForReadingIgnoringCase((Wide(folder_ / "") + name).c_str()));
     }
 
     fs::path folder_;
 };
 
 TEST_F(Files, AreOpenedByWideName) {
-    Write(fs::path(L"b\u00e4ume \u6797.shx"), "trees");
+    Write(fs::path(u8"b\u00e4ume \u6797.shx"), "trees");
     EXPECT_EQ(Open(L"b\u00e4ume \u6797.shx"), "trees");
     EXPECT_EQ(Open(L"other.shx"), "(null)");
 }
@@ -77,7 +81,7 @@ TEST_F(Files, LongPathsAreOpened) {
     }
     fs::create_directories(deep);
     std::ofstream(deep / "x.pat") << "deep";
-    EXPECT_EQ(TextOf(OpenForReading((deep / "x.pat").wstring().c_str())), "deep");
+    EXPECT_EQ(TextOf(OpenForReading(Wide(deep / "x.pat").c_str())), "deep");
 }
 
 #if !defined(_WIN32)

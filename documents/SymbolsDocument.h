@@ -1,0 +1,29 @@
+// Symbol definitions as a JSON document, written symbol by symbol.
+#pragma once
+
+#include "TylModel/TylModel.h"
+
+#include <functional>
+#include <string_view>
+
+namespace documents {
+
+/// Takes the next piece of a document's UTF-8 text. False stops the writing: the piece could not be stored.
+using TextSink = std::function<bool(std::string_view)>;
+
+/// Writes one symbols document: call Add for each symbol in turn, then Finish. The text of one symbol at a
+/// time is held in memory. Keys of empty properties and of usages that were never adopted are left out.
+class SymbolsWriter {
+public:
+    explicit SymbolsWriter(TextSink sink) : sink_(std::move(sink)) {}
+
+    /// False when the sink refused a piece; nothing more is to be written then.
+    bool Add(TylModel::SymbolDefinition& symbol);
+    bool Finish();
+
+private:
+    TextSink sink_;
+    bool started_ = false;
+};
+
+} // namespace documents

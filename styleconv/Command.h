@@ -1,0 +1,48 @@
+// What the commands of the tool share: exit statuses, common options, and how a command is registered.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <string>
+
+namespace styleconv {
+
+enum ExitStatus : int {
+    kDone = 0,
+    kInputFault = 1, // what was given could not be converted, or the result could not be written
+    kUsageFault = 2, // the command line is wrong
+};
+
+/// Options that every command takes.
+struct CommonOptions {
+    std::string output; // a path; standard output when empty
+    std::string format = "json";
+};
+
+/// Set by the command that the command line asks for, and run after parsing.
+using Runner = std::function<ExitStatus()>;
+
+/// Adds -o to a command.
+inline void AddOutputOption(CLI::App& command, std::string& output) {
+    command.add_option("-o,--output", output, "Write to this file instead of standard output")
+        ->type_name("PATH");
+}
+
+/// Adds -o and --format to a converting command.
+inline void AddCommonOptions(CLI::App& command, CommonOptions& options) {
+    AddOutputOption(command, options.output);
+    command.add_option("--format", options.format, "Form of the result: json")
+        ->check(CLI::IsMember({"json"}))
+        ->capture_default_str();
+}
+
+/// Adds --code-page to a command that reads text files.
+inline void AddCodePageOption(CLI::App& command, std::string& codePage) {
+    command
+        .add_option(
+            "--code-page", codePage,
+            "Character encoding of the file (default: UTF-8 when the whole file is, else WINDOWS-1252)")
+        ->type_name("NAME");
+}
+
+} // namespace styleconv

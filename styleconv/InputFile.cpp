@@ -1,0 +1,107 @@
+#include "styleconv/InputFile.h"
+
+#include "StyleConversion/platform/CodePage.h"
+#include "StyleConversion/platform/Files.h"
+#include "StyleConversion/platform/Utf8.h"
+#include "styleconv/Messages.h"
+#include "styleconv/OutputFile.h"
+#include "styleconv/Paths.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <system_error>
+#include <utility>
+
+namespace styleconv {
+namespace {
+
+struct CloseFile {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+// Reads to the end. False when reading failed, errno telling why.
+bool ReadAll(std::FILE* file, std::string& bytes) {
+    std::array<char, 1 << 16> block{};
+    std::size_t count = 0;
+    while ((count = std::fread(block.data(), 1, block.size(), file)) > 0) {
+        bytes.append(block.data(), count);
+    }
+    return std::ferror(file) == 0;
+}
+
+} // namespace
+
+InputFile::InputFile(std::string argument)
+    : argument_(std::move(argument)), name_(argument_ == "-" ? "standard input" : argument_) {}
+
+InputFile::~InputFile() {
+    if (!temporary_.empty()) {
+        std::error_code ignored;
+        std::filesystem::remove(temporary_, ignored);
+    }
+}
+
+bool InputFile::Read() {
+    return IsStandardInput() ? ReadStandardInput() : ReadNamed();
+}
+
+bool InputFile::ReadNamed() {
+    path_ = platform::PathFromBytes(argument_);
+    std::error_code error;
+    const std::filesystem::file_status status = std::filesystem::status(NativePath(argument_), error);
+    if (!std::filesystem::exists(status)) {
+        Say(name_, "cannot be opened: there is no such file");
+        return false;
+    }
+    if (std::filesystem::is_directory(status)) {
+        Say(name_, "cannot be read: it is a directory");
+        return false;
+    }
+    if (!std::filesystem::is_regular_file(status)) {
+        Say(name_, "cannot be read: it is not a regular file (give \"-\" to read standard input)");
+        return false;
+    }
+    const std::unique_ptr<std::FILE, CloseFile> file(platform::OpenForReading(path_.c_str()));
+    if (!file) {
+        Say(name_, std::string("cannot be opened: ") + std::strerror(errno));
+        return false;
+    }
+    if (!ReadAll(file.get(), bytes_)) {
+        Say(name_, std::string("cannot be read: ") + std::strerror(errno));
+        return false;
+    }
+    return true;
+}
+
+bool InputFile::ReadStandardInput() {
+    if (!ReadAll(stdin, bytes_)) {
+        Say(name_, std::string("cannot be read: ") + std::strerror(errno));
+        return false;
+    }
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+    std::unique_ptr<std::FILE, CloseFile> file(CreateTemporary(folder / "styleconv", temporary_));
+    if (!file || std::fwrite(bytes_.data(), 1, bytes_.size(), file.get()) != bytes_.size() ||
+        std::fclose(file.release()) != 0) {
+        Say(name_, std::string("cannot be copied into a temporary file: ") + std::strerror(errno));
+        return false;
+    }
+    path_ = WidePath(temporary_);
+    return true;
+}
+
+bool ChooseCodePage(const InputFile& input, const std::string& requested) {
+    if (requested.empty()) {
+        return platform::SetAnsiCodePage(platform::IsUtf8(input.Bytes()) ? "UTF-8" : "WINDOWS-1252");
+    }
+    if (!platform::SetAnsiCodePage(requested)) {
+        Say("--code-page", "the encoding " + Shown(requested) + " is not known");
+        return false;
+    }
+    return true;
+}
+
+} // namespace styleconv

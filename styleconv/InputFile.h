@@ -1,0 +1,46 @@
+// A file named on the command line, or standard input.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace styleconv {
+
+/// Makes a file's bytes and its path available. Standard input ("-") is first copied into a temporary file,
+/// since the library reads files by name; it is removed with this object.
+class InputFile {
+public:
+    /// `argument` as given on the command line.
+    explicit InputFile(std::string argument);
+    ~InputFile();
+    InputFile(const InputFile&) = delete;
+    InputFile& operator=(const InputFile&) = delete;
+
+    /// Reads the whole file. On failure says so on standard error and returns false.
+    bool Read();
+
+    /// How messages call it.
+    const std::string& Name() const { return name_; }
+    /// Its bytes, after Read.
+    const std::string& Bytes() const { return bytes_; }
+    /// A path for the library to open, after Read.
+    const std::wstring& Path() const { return path_; }
+    bool IsStandardInput() const { return argument_ == "-"; }
+
+private:
+    bool ReadStandardInput();
+    bool ReadNamed();
+
+    std::string argument_;
+    std::string name_;
+    std::string bytes_;
+    std::wstring path_;
+    std::filesystem::path temporary_;
+};
+
+/// Sets the code page that narrow text of `input` is converted through: `requested`, or when that is empty
+/// UTF-8 for a file that is UTF-8 throughout and WINDOWS-1252 for any other. False, with a message, when
+/// `requested` is not known.
+bool ChooseCodePage(const InputFile& input, const std::string& requested);
+
+} // namespace styleconv

@@ -1,0 +1,41 @@
+#include "styleconv/Messages.h"
+
+#include "StyleConversion/platform/Utf8.h"
+
+#include <cstdio>
+
+namespace styleconv {
+
+void Say(std::string_view file, std::string_view what) {
+    std::string line = Shown(file);
+    line += ": ";
+    line += what;
+    line += '\n';
+    // Nowhere is left to say that standard error cannot be written.
+    std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+void SayAtLine(std::string_view file, std::size_t line, std::string_view what) {
+    Say(file, "line " + std::to_string(line) + ": " + std::string(what));
+}
+
+void SayAtByte(std::string_view file, std::size_t byte, std::string_view what) {
+    Say(file, "byte " + std::to_string(byte) + ": " + std::string(what));
+}
+
+std::string Shown(std::wstring_view name) {
+    std::wstring shown(name);
+    for (wchar_t& c : shown) {
+        const bool control = (c >= 0 && c < L' ') || (c >= 0x7f && c < 0xa0);
+        if (control) {
+            c = L'?';
+        }
+    }
+    return platform::WideToValidUtf8(shown);
+}
+
+std::string Shown(std::string_view name) {
+    return Shown(platform::Utf8ToWide(name));
+}
+
+} // namespace styleconv

@@ -1,0 +1,23 @@
+// What the tool says on standard error: one line a fault or note, beginning with the file that it is about.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace styleconv {
+
+/// "file: what"
+void Say(std::string_view file, std::string_view what);
+
+/// "file: line 14: what"
+void SayAtLine(std::string_view file, std::size_t line, std::string_view what);
+
+/// "file: byte 412: what"
+void SayAtByte(std::string_view file, std::size_t byte, std::string_view what);
+
+/// A name as it stands in a message: UTF-8, with control characters shown as "?", so that no file can move
+/// the cursor of the terminal.
+std::string Shown(std::string_view name);
+std::string Shown(std::wstring_view name);
+
+} // namespace styleconv

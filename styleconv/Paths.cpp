@@ -1,0 +1,23 @@
+#include "styleconv/Paths.h"
+
+#include "StyleConversion/platform/Files.h"
+
+namespace styleconv {
+
+std::filesystem::path NativePath(const std::string& argument) {
+#if defined(_WIN32)
+    return std::filesystem::path(platform::PathFromBytes(argument));
+#else
+    return std::filesystem::path(argument);
+#endif
+}
+
+std::wstring WidePath(const std::filesystem::path& path) {
+#if defined(_WIN32)
+    return path.wstring();
+#else
+    return platform::PathFromBytes(path.native());
+#endif
+}
+
+} // namespace styleconv

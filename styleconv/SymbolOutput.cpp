@@ -1,0 +1,19 @@
+#include "styleconv/SymbolOutput.h"
+
+#include "documents/SymbolsDocument.h"
+#include "styleconv/OutputFile.h"
+
+#include <algorithm>
+
+namespace styleconv {
+
+ExitStatus WriteSymbols(const Symbols& symbols, const CommonOptions& options) {
+    OutputFile output(options.output);
+    documents::SymbolsWriter writer([&](std::string_view text) { return output.Write(text); });
+    const bool written = std::all_of(symbols.begin(), symbols.end(),
+                                     [&](const auto& symbol) { return writer.Add(*symbol); }) &&
+                         writer.Finish() && output.Commit();
+    return written ? kDone : kInputFault;
+}
+
+} // namespace styleconv

@@ -1,0 +1,17 @@
+// Symbols written in the form that the command line asks for.
+#pragma once
+
+#include "TylModel/TylModel.h"
+#include "styleconv/Command.h"
+
+#include <memory>
+#include <vector>
+
+namespace styleconv {
+
+using Symbols = std::vector<std::unique_ptr<TylModel::SymbolDefinition>>;
+
+/// Writes the symbols and gives the exit status. What goes wrong is said on standard error.
+ExitStatus WriteSymbols(const Symbols& symbols, const CommonOptions& options);
+
+} // namespace styleconv

@@ -1,0 +1,58 @@
+// The command line of styleconv: which commands there are, and what a wrong command line gets.
+
+#include "styleconv/Command.h"
+
+#include <CLI/CLI.hpp>
+#include <csignal>
+#include <cstdio>
+#include <exception>
+#include <new>
+
+namespace {
+
+using namespace styleconv;
+
+void AddCommands(CLI::App& /*app*/, Runner& /*runner*/) {}
+
+// Help and version are no errors and go to standard output.
+ExitStatus Explain(const CLI::App& app, const CLI::ParseError& error) {
+    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
+        app.exit(error);
+        return kDone;
+    }
+    std::fprintf(stderr, "styleconv: %s\nTry \"styleconv --help\" or \"styleconv COMMAND --help\".\n",
+                 error.what());
+    return kUsageFault;
+}
+
+ExitStatus Run(int argc, char** argv) {
+    CLI::App app("Turns CAD linetypes, hatch patterns, blocks and shape fonts into map symbols.",
+                 "styleconv");
+    app.set_version_flag("--version", "styleconv " STYLECONVERSION_VERSION);
+    app.require_subcommand(1);
+    Runner runner;
+    AddCommands(app, runner);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return Explain(app, error);
+    }
+    return runner();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+#if defined(SIGPIPE)
+    // A reader that went away shows as a failed write, which has a message of its own.
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
+    try {
+        return Run(argc, argv);
+    } catch (const std::bad_alloc&) {
+        std::fputs("styleconv: there is not enough memory\n", stderr);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "styleconv: %s\n", error.what());
+    }
+    return kInputFault;
+}
