@@ -1,0 +1,107 @@
+// Magic, kind word, and version text.
+#include "StyleConversion/shx/ShapeHeaderReader.h"
+
+#include "StyleConversion/shx/Limits.h"
+
+#include <cstddef>
+#include <cstring>
+#include <string_view>
+
+namespace ShxUtility {
+namespace {
+
+constexpr std::string_view kMagic = "Vorlanx-86 ";
+constexpr int kVersionEnd = 0x1a;
+
+ShxResult ReadMagic(ShapeReading& reading) {
+    char magic[kMagic.size()];
+    if (reading.stream.Read(magic, kMagic.size()) != kMagic.size()) {
+        return reading.FailHere(ShapeFileFault::MagicCutShort);
+    }
+    if (std::memcmp(magic, kMagic.data(), kMagic.size()) != 0) {
+        return reading.Fail(ShapeFileFault::MagicWrong, 0);
+    }
+    return kSuccess;
+}
+
+ShxResult ReadKind(ShapeReading& reading, ShapesInFile& out) {
+    const std::uint64_t start = reading.stream.Offset();
+    char word[kLongestKindWord];
+    std::size_t length = 0;
+    do {
+        if (length == kLongestKindWord) {
+            return reading.Fail(ShapeFileFault::KindTooLong, start);
+        }
+        const int byte = reading.stream.ReadByte();
+        if (byte == EOF) {
+            return reading.FailHere(ShapeFileFault::KindCutShort);
+        }
+        word[length++] = static_cast<char>(byte);
+    } while (word[length - 1] != ' ');
+
+    const std::string_view kind(word, length);
+    if (kind == "shapes ") {
+        out.kind = kShapes;
+    } else if (kind == "unifont ") {
+        out.kind = kUnifont;
+    } else if (kind == "bigfont ") {
+        out.kind = kBigfont;
+        return reading.Fail(ShapeFileFault::KindBigfont, start);
+    } else {
+        return reading.Fail(ShapeFileFault::KindUnknown, start);
+    }
+    return kSuccess;
+}
+
+bool IsAccepted(ShapeFileKind kind, std::uint32_t acceptedKinds) {
+    // Whether a "shapes " file is a font shows only from its entries, so who wants fonts gets all of them.
+    const std::uint32_t bits = kind == kShapes ? kShapes | kFont : kind;
+    return (acceptedKinds & bits) != 0;
+}
+
+ShxResult ReadVersion(ShapeReading& reading, ShapesInFile& out) {
+    const std::uint64_t start = reading.stream.Offset();
+    char text[kShortestVersion] = {};
+    std::size_t length = 0;
+    int byte = 0;
+    while (byte != kVersionEnd) {
+        if (length == kLongestVersion) {
+            return reading.Fail(ShapeFileFault::VersionTooLong, start);
+        }
+        byte = reading.stream.ReadByte();
+        if (byte == EOF) {
+            return reading.FailHere(ShapeFileFault::VersionCutShort);
+        }
+        if (length < kShortestVersion) {
+            text[length] = static_cast<char>(byte);
+        }
+        ++length;
+    }
+    const bool known =
+        length >= kShortestVersion && text[0] == '1' && text[1] == '.' && (text[2] == '0' || text[2] == '1');
+    if (!known) {
+        return reading.Fail(ShapeFileFault::VersionUnknown, start);
+    }
+    out.isVersion10 = text[2] == '0';
+    return kSuccess;
+}
+
+} // namespace
+
+ShxResult ReadHeader(ShapeReading& reading, ShapesInFile& out, std::uint32_t acceptedKinds) {
+    ShxResult result = ReadMagic(reading);
+    if (result != kSuccess) {
+        return result;
+    }
+    const std::uint64_t kindOffset = reading.stream.Offset();
+    result = ReadKind(reading, out);
+    if (result != kSuccess) {
+        return result;
+    }
+    if (!IsAccepted(out.kind, acceptedKinds)) {
+        return reading.Fail(ShapeFileFault::KindNotAccepted, kindOffset);
+    }
+    return ReadVersion(reading, out);
+}
+
+} // namespace ShxUtility
