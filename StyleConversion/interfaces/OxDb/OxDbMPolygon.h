@@ -1,0 +1,17 @@
+// Multi-polygons: filled areas with an outline, of several loops.
+#pragma once
+
+#include "OxDb/OxDbEntity.h"
+
+class OXDB_API OxDbMPolygon : public OxDbEntity {
+public:
+    ~OxDbMPolygon() override;
+    static const OxRxClass* desc();
+
+    virtual int numMPolygonLoops() const = 0;
+    /// The vertices of a loop, and a bulge for each, or no bulges at all when all segments are straight.
+    virtual Oxsys::ErrorStatus getMPolygonLoopAt(int index, OxGePoint2dArray& vertices,
+                                                 OxGeDoubleArray& bulges) const = 0;
+    /// The colour of the inside; color() is the outline's.
+    virtual OxCmColor fillColor() const = 0;
+};

@@ -1,0 +1,85 @@
+// Points, vectors and tolerances of the geometry library.
+#pragma once
+
+#include "OxDb/Export.h"
+#include "OxDb/OxArray.h"
+
+#include <cmath>
+
+/// Up to which distance two things count as equal.
+class OXDB_API OxGeTol {
+public:
+    /// 1e-10 for points and for vectors.
+    OxGeTol() = default;
+    OxGeTol(double equalPoint, double equalVector) : equalPoint_(equalPoint), equalVector_(equalVector) {}
+
+    double equalPoint() const { return equalPoint_; }
+    double equalVector() const { return equalVector_; }
+    OxGeTol& setEqualPoint(double value) {
+        equalPoint_ = value;
+        return *this;
+    }
+    OxGeTol& setEqualVector(double value) {
+        equalVector_ = value;
+        return *this;
+    }
+
+private:
+    double equalPoint_ = 1e-10;
+    double equalVector_ = 1e-10;
+};
+
+/// Tolerances that operations take when none is given.
+class OXDB_API OxGeContext {
+public:
+    static OxGeTol gTol;
+};
+
+/// A direction and length in the plane.
+struct OxGeVector2d {
+    double x = 0.0;
+    double y = 0.0;
+
+    double length() const { return std::sqrt(x * x + y * y); }
+    bool operator==(const OxGeVector2d&) const = default;
+};
+
+/// A direction and length in space.
+struct OxGeVector3d {
+    double x = 0.0;
+    double y = 0.0;
+    double z = 0.0;
+
+    double length() const { return std::sqrt(x * x + y * y + z * z); }
+    bool operator==(const OxGeVector3d&) const = default;
+};
+
+/// A point of the plane.
+struct OxGePoint2d {
+    double x = 0.0;
+    double y = 0.0;
+
+    double distanceTo(const OxGePoint2d& other) const {
+        const double dx = other.x - x;
+        const double dy = other.y - y;
+        return std::sqrt(dx * dx + dy * dy);
+    }
+    /// True when the distance is at most the tolerance's equalPoint(). False when a coordinate is NaN.
+    bool isEqualTo(const OxGePoint2d& other, const OxGeTol& tolerance = OxGeContext::gTol) const {
+        return distanceTo(other) <= tolerance.equalPoint();
+    }
+    bool operator==(const OxGePoint2d&) const = default;
+};
+
+/// A point of space. Entities of a block give their coordinates in the block's coordinate system.
+struct OxGePoint3d {
+    double x = 0.0;
+    double y = 0.0;
+    double z = 0.0;
+
+    bool operator==(const OxGePoint3d&) const = default;
+};
+
+using OxGePoint2dArray = OxArray<OxGePoint2d>;
+using OxGePoint3dArray = OxArray<OxGePoint3d>;
+using OxGeDoubleArray = OxArray<double>;
