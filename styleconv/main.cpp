@@ -45,7 +45,7 @@ ExitStatus Run(int argc, char** argv) {
 int main(int argc, char** argv) {
 #if defined(SIGPIPE)
     // A reader that went away shows as a failed write, which has a message of its own.
-    std::signal(SIGPIPE, SIG_IGN);
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
 #endif
     try {
         return Run(argc, argv);

@@ -28,7 +28,7 @@ public:
     }
 
     Writer& Number(double value) {
-        char digits[kLongestNumber];
+        char digits[kLongestNumber] = {};
         const char* const end = std::to_chars(digits, digits + kLongestNumber, value,
                                               std::chars_format::general, kSignificantDigits)
                                     .ptr;
@@ -39,7 +39,7 @@ public:
     }
 
     Writer& Integer(int value) {
-        char digits[kLongestNumber];
+        char digits[kLongestNumber] = {};
         const char* const end = std::to_chars(digits, digits + kLongestNumber, value).ptr;
         for (const char* digit = digits; digit != end; ++digit) {
             sharedBuffer[length_++] = static_cast<wchar_t>(*digit);

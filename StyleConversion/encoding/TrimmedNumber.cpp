@@ -96,7 +96,7 @@ void AppendTrimmed(std::wstring& text, double value) {
     char* const end = std::to_chars(buffer, buffer + kLongestText, value, std::chars_format::fixed,
                                     static_cast<int>(kDecimals))
                           .ptr;
-    std::size_t length = static_cast<std::size_t>(end - buffer);
+    auto length = static_cast<std::size_t>(end - buffer);
     const std::size_t original = length;
     // The scan does not stop at another digit: a zero further left still cuts the text there. That is wanted.
     for (std::size_t back = 1; back < kDecimals && back <= original; ++back) {
