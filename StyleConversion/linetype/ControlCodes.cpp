@@ -1,0 +1,96 @@
+// The "%%" codes in the texts of linetypes.
+#include "StyleConversion/linetype/ControlCodes.h"
+
+#include "StyleConversion/linetype/LinLimits.h"
+#include "StyleConversion/linetype/LinNames.h"
+
+#include <cstddef>
+
+namespace LineConverter {
+namespace {
+
+// The empty set rather than the letter with stroke, which most fonts have in its place: the output is wanted
+// so.
+constexpr wchar_t kDiameterSign = 8709;
+constexpr wchar_t kDegreeSign = 176;
+constexpr wchar_t kPlusMinusSign = 177;
+
+bool IsDigit(wchar_t c) {
+    return c >= L'0' && c <= L'9';
+}
+
+class Decoder {
+public:
+    DecodedText Decode(std::wstring_view text) {
+        for (std::size_t position = 0; position < text.size();) {
+            if (text.substr(position, 2) != L"%%") {
+                Emit(text[position++]);
+                continue;
+            }
+            position += 2;
+            position += Code(text.substr(position));
+        }
+        return std::move(decoded_);
+    }
+
+private:
+    void Emit(wchar_t c) {
+        decoded_.characters += c;
+        decoded_.overlined = decoded_.overlined && overline_;
+        decoded_.underlined = decoded_.underlined && underline_;
+    }
+
+    // Carries out the code at the start of `text` and returns how many characters it has behind its "%%".
+    std::size_t Code(std::wstring_view text) {
+        if (text.empty()) {
+            return 0;
+        }
+        if (IsDigit(text[0])) {
+            return CharacterCode(text);
+        }
+        switch (UpperCase(text[0])) {
+        case L'C':
+            Emit(kDiameterSign);
+            break;
+        case L'D':
+            Emit(kDegreeSign);
+            break;
+        case L'P':
+            Emit(kPlusMinusSign);
+            break;
+        case L'O':
+            overline_ = !overline_;
+            break;
+        case L'U':
+            underline_ = !underline_;
+            break;
+        default:
+            Emit(text[0]);
+            break;
+        }
+        return 1;
+    }
+
+    std::size_t CharacterCode(std::wstring_view text) {
+        int code = 0;
+        std::size_t digits = 0;
+        while (digits < kCharacterCodeDigits && digits < text.size() && IsDigit(text[digits])) {
+            code = code * 10 + static_cast<int>(text[digits] - L'0');
+            ++digits;
+        }
+        Emit(static_cast<wchar_t>(code));
+        return digits;
+    }
+
+    DecodedText decoded_;
+    bool overline_ = false;
+    bool underline_ = false;
+};
+
+} // namespace
+
+DecodedText DecodeControlCodes(std::wstring_view text) {
+    return Decoder().Decode(text);
+}
+
+} // namespace LineConverter

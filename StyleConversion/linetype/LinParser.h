@@ -1,0 +1,106 @@
+// Reads a linetype file and resolves the text styles and SHX files that it names.
+#pragma once
+
+#include "StyleConversion/linetype/LinFaults.h"
+#include "StyleConversion/linetype/LinLineReader.h"
+#include "StyleConversion/linetype/LinResult.h"
+#include "StyleConversion/linetype/LinStyleVisitor.h"
+#include "StyleConversion/linetype/LinetypeRecord.h"
+#include "StyleConversion/linetype/Services.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace LineConverter {
+
+/// A linetype file in memory. Not to be used again after a failure before Clear.
+class LinParser {
+public:
+    /// Both are borrowed and may be null: then no file may name a text style, or a shape file.
+    LinParser(IGetFontInfo* fontInfoProvider, IGetFile* fileProvider);
+    ~LinParser();
+    LinParser(const LinParser&) = delete;
+    LinParser& operator=(const LinParser&) = delete;
+
+    /// Read, then Resolve.
+    LinResult Parse(const std::wstring& path);
+
+    /// Reads all linetypes of a file. After a failure the linetypes before it stay, and the file stays open,
+    /// until Clear.
+    LinResult Read(const std::wstring& path);
+    /// Asks for the text styles, then loads the shape files and SHX fonts, that the linetypes name, each in
+    /// the order of its name.
+    LinResult Resolve();
+
+    /// Closes the file if it is still open and forgets everything.
+    void Clear();
+
+    /// Shows the linetypes to `visitor`. kShapeFileNotLoaded when a shape was left out because its file is
+    /// not a plain shape library; the walk is never cut short.
+    LinResult Accept(LinStyleVisitor& visitor);
+
+    const std::vector<LinetypeRecord>& linetypes() const { return linetypes_; }
+    const FontInfoMap& fontInfos() const { return fontInfos_; }
+    const ShapeFileMap& shapeFiles() const { return shapeFiles_; }
+
+    /// Why the last operations failed. A visitor may add to it during a walk.
+    LinFaultLog& faultLog() { return faultLog_; }
+    const std::vector<LinFault>& faults() const { return faultLog_.faults(); }
+
+private:
+    // The element that first names a style or file. Not a place: linetypes_ still grows.
+    struct Reference {
+        std::uint64_t line = 0;
+        std::size_t linetype = 0;
+        std::size_t element = 0;
+    };
+    // Which kinds of SHX file will do under a name.
+    struct ShapeFileReference {
+        std::uint32_t acceptedKinds = 0;
+        Reference first;
+    };
+
+    LinResult ReadLinetypes();
+    LinResult ReadLinetype(const char* header);
+    LinResult ReadPattern(LinetypeRecord& record);
+    LinResult ReadElement(const char*& cursor, LinElement& element);
+    LinResult ReadComplexElement(const char*& cursor, LinElement& element);
+    // Each reads one part of an element and leaves `cursor` behind it, or where it fails: from behind the
+    // opening quote to the "]" after a text, from behind the "[" to the "]" after a shape, and from behind a
+    // style or shape file to the "]".
+    LinResult ParseTextElement(const char*& cursor, LinElement& element);
+    LinResult ParseShapeElement(const char*& cursor, LinElement& element);
+    LinResult ParseTransform(const char*& cursor, ElementTransform& transform);
+    LinResult ParseTransformField(const char*& cursor, ElementTransform& transform);
+    LinResult ResolveStyles();
+    LinResult LoadShapeFiles();
+    LinResult LoadOneShapeFile(const std::wstring& name, std::uint32_t acceptedKinds);
+    // False when the element is a shape that had to be left out.
+    bool WalkElement(const LinElement& element, LinStyleVisitor& visitor);
+
+    Reference CurrentReference() const;
+    LinPlace PlaceOf(const Reference& reference) const;
+    // A syntax error that lies at `cursor`.
+    LinResult SyntaxError(LinFaultKind kind, const char* cursor);
+    LinResult Fault(LinResult result, LinFaultKind kind, const std::wstring& subject = {});
+
+    std::FILE* stream_ = nullptr;
+    std::vector<LinetypeRecord> linetypes_;
+    FontInfoMap fontInfos_;
+    ShapeFileMap shapeFiles_;
+    IGetFile* fileProvider_;
+    IGetFontInfo* fontInfoProvider_;
+
+    LinLineReader reader_;
+    std::map<std::wstring, Reference, Utf16Less> styleReferences_;
+    std::map<std::wstring, ShapeFileReference, Utf16Less> shapeFileReferences_;
+    // Of every element of every linetype, one after the other.
+    std::vector<std::uint64_t> elementLines_;
+    LinFaultLog faultLog_;
+};
+
+} // namespace LineConverter

@@ -1,0 +1,57 @@
+// Shows the linetypes of a file to a visitor.
+#include "StyleConversion/linetype/LinParser.h"
+
+namespace LineConverter {
+
+LinResult LinParser::Accept(LinStyleVisitor& visitor) {
+    LinResult result = kSuccess;
+    visitor.Begin();
+    std::size_t elementIndex = 0;
+    for (const LinetypeRecord& record : linetypes_) {
+        faultLog_.EnterPlace({0, &record, 0});
+        visitor.BeginLinetype(record, record.description, static_cast<int>(record.elements.size()));
+        std::size_t number = 0;
+        for (const LinElement& element : record.elements) {
+            faultLog_.EnterPlace({elementLines_[elementIndex++], &record, ++number});
+            if (!WalkElement(element, visitor)) {
+                result = kShapeFileNotLoaded;
+            }
+        }
+        visitor.EndLinetype();
+    }
+    visitor.End();
+    return result;
+}
+
+bool LinParser::WalkElement(const LinElement& element, LinStyleVisitor& visitor) {
+    switch (element.kind) {
+    case kDash:
+        if (element.length < 0) {
+            visitor.Gap(-element.length);
+        } else if (element.length > 0) {
+            visitor.Dash(element.length);
+        } else {
+            visitor.Dot();
+        }
+        return true;
+    case kShape: {
+        const auto found = shapeFiles_.find(element.shapeFile);
+        if (found == shapeFiles_.end() || found->second.kind != ShxUtility::kShapes) {
+            Fault(kShapeFileNotLoaded, LinFaultKind::kNotAShapeFile, element.shapeFile);
+            return false;
+        }
+        visitor.Shape(element.shapeName, element.transform, found->second);
+        return true;
+    }
+    case kText:
+        if (const auto found = fontInfos_.find(element.styleName); found != fontInfos_.end()) {
+            visitor.Text(element.text, element.transform, found->second, shapeFiles_);
+        }
+        return true;
+    case kNone:
+        return true;
+    }
+    return true;
+}
+
+} // namespace LineConverter

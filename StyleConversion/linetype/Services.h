@@ -1,0 +1,40 @@
+// What linetype conversion asks of its host: SHX files and text styles.
+#pragma once
+
+#include "StyleConversion/Export.h"
+#include "StyleConversion/linetype/FontInfo.h"
+
+#include <cstdio>
+
+namespace LineConverter {
+
+/// Finds and opens SHX files.
+class STYLECONVERSION_API IGetFile {
+public:
+    IGetFile();
+    IGetFile(const IGetFile& other);
+    IGetFile& operator=(const IGetFile& other);
+
+    /// Opens the file `name` for reading in binary mode; `extension` (".shx") is the one to try where the
+    /// name lacks it. Null when there is none. The caller closes the stream. This implementation has no
+    /// files.
+    virtual std::FILE* GetFile(const wchar_t* name, const wchar_t* extension);
+
+    virtual ~IGetFile();
+};
+
+/// Describes text styles.
+class STYLECONVERSION_API IGetFontInfo {
+public:
+    IGetFontInfo();
+    IGetFontInfo(const IGetFontInfo& other);
+    IGetFontInfo& operator=(const IGetFontInfo& other);
+
+    /// Fills `info` with the text style of that name, or returns false where there is none. Linetype files'
+    /// style names come in upper case. This implementation has no styles.
+    virtual bool GetFontInfoFromStyle(const wchar_t* styleName, FontInfo& info);
+
+    virtual ~IGetFontInfo();
+};
+
+} // namespace LineConverter
