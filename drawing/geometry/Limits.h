@@ -1,0 +1,39 @@
+// The limits of the plane geometry, each with its unit and its reason.
+#pragma once
+
+#include <cstddef>
+
+namespace geometry {
+
+/// Largest degree of a curve. Time per point grows with its square; drawings stop well below 30.
+inline constexpr int kMaximumDegree = 255;
+
+/// Largest magnitude of a coordinate, in drawing units: squares of differences stay far from overflow.
+inline constexpr double kMaximumCoordinate = 1e100;
+
+/// Largest ratio between two weights of one curve: beyond it the lighter point no longer shows in a double.
+inline constexpr double kMaximumWeightRatio = 1e15;
+
+/// Distance in drawing units below which the ends of a curve count as the same point.
+inline constexpr double kSamePoint = 1e-10;
+
+/// How far, in the knots' unit, a knot may lie below the one before it and still count as equal to it.
+inline constexpr double kSameKnot = 1e-9;
+
+/// Samples of one curve: at least this many are allowed, and kSamplesPerPiece more for each polynomial piece.
+/// Beyond that the tolerance asked for is below anything that can be drawn, and is raised.
+inline constexpr std::size_t kSamplesPerCurve = 65536;
+inline constexpr std::size_t kSamplesPerPiece = 64;
+
+/// Lines of one evaluated hatch.
+inline constexpr std::size_t kMaximumHatchLines = 1000000;
+
+/// Crossings of family lines with boundary edges that are looked at before a hatch is given up. Only loops
+/// that lie on top of each other come near it without exceeding the limit of lines.
+inline constexpr std::size_t kMaximumHatchCrossings = 32000000;
+
+/// Largest distance from a family's base point that still gives a meaningful line number or dash number, in
+/// spacings or pattern lengths: whole numbers beyond 2^53 are not exact.
+inline constexpr double kMaximumRepeats = 1e15;
+
+} // namespace geometry
