@@ -1,0 +1,30 @@
+// Walks over the lines of a file's bytes as a program that reads it in text mode, line by line, sees them.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace pattern {
+
+/// On every system alike: CR LF counts as LF, the byte 0x1A ends the file, and text behind the last LF is a
+/// line of its own.
+class LineCursor {
+public:
+    enum class Step { kLine, kTooLong, kEnd };
+
+    /// `bytes` must outlive the cursor and the lines that it gives.
+    explicit LineCursor(std::string_view bytes);
+
+    /// Gives the next line without its end. A NUL ends the text of its line, but what stands behind it counts
+    /// towards `longest`, the length above which a line is too long; the cursor has then passed it.
+    Step Next(std::size_t longest, std::string_view& line);
+
+    /// The number of the line that Next looked at last, from 1.
+    std::size_t GetLineNumber() const { return number_; }
+
+private:
+    std::string_view rest_;
+    std::size_t number_ = 0;
+};
+
+} // namespace pattern

@@ -1,0 +1,48 @@
+// Loading on first use, and the names' way through the code page.
+#include "StyleConversion/pattern/PatternConverter.h"
+
+#include "StyleConversion/pattern/AreaSymbol.h"
+#include "StyleConversion/platform/CodePage.h"
+
+#include <utility>
+
+PatternConverter::PatternConverter(const std::wstring& fileName) : fileName_(fileName) {}
+
+PatternConverter::~PatternConverter() = default;
+
+void PatternConverter::LoadFile() {
+    if (!descriptions_.empty()) {
+        return;
+    }
+    pattern::PatternFile file;
+    pattern::ReadPatternFile(fileName_, file);
+    descriptions_ = std::move(file.descriptions);
+    patterns_ = std::move(file.patterns);
+}
+
+void PatternConverter::GetPatternNames(std::vector<std::wstring>& names) {
+    LoadFile();
+    names.clear();
+    for (const auto& [name, description] : descriptions_) {
+        names.push_back(platform::AnsiToWide(name));
+    }
+}
+
+TylModel::SymbolDefinition* PatternConverter::Convert(const std::wstring& name) {
+    LoadFile();
+    // Names end at their terminator, as those of the file do.
+    const auto found = patterns_.find(platform::WideToAnsi(name.c_str()));
+    return found == patterns_.end() ? nullptr
+                                    : pattern::BuildAreaSymbol(found->first, found->second).release();
+}
+
+void PatternConverter::ConvertAll(std::vector<TylModel::SymbolDefinition*>& symbols) {
+    LoadFile();
+    symbols.clear();
+    symbols.reserve(patterns_.size()); // so that no symbol is lost for want of memory
+    for (auto& [name, lines] : patterns_) {
+        if (auto symbol = pattern::BuildAreaSymbol(name, lines)) {
+            symbols.push_back(symbol.release());
+        }
+    }
+}

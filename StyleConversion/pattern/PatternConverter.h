@@ -1,0 +1,51 @@
+// The hatch patterns of a pattern file as area symbols.
+#pragma once
+
+#include "StyleConversion/Export.h"
+#include "StyleConversion/pattern/PatternFile.h"
+#include "TylModel/SymbolDefinition.h"
+
+#include <string>
+#include <vector>
+
+/// Converts the hatch patterns of one pattern file (.pat).
+///
+/// The file is read by the first operation that needs it and kept; later changes of the file are not seen.
+/// As long as a reading finds no pattern, the next operation reads again. A file that cannot be opened has no
+/// patterns, and a line of more than 127 characters ends the reading: the patterns before it stay.
+///
+/// Symbols are simple symbols with an area usage, or compounds of such where the families of lines of a
+/// pattern need different tiles. Their geometry is in the units of the file, angles are degrees
+/// counter-clockwise; the parameters HATCHCOLOR and HATCHANGLE restyle and turn them. Converting a pattern
+/// again from the same converter turns the origins of its lines again, and so gives other geometry, unless
+/// all its lines run at 0 degrees or lie in upright tiles.
+///
+/// No operation throws but std::bad_alloc. A converter is used by one thread at a time.
+class STYLECONVERSION_API PatternConverter {
+public:
+    /// Keeps the name and touches no file.
+    explicit PatternConverter(const std::wstring& fileName);
+    /// Symbols handed out before live on.
+    ~PatternConverter();
+    PatternConverter(const PatternConverter&) = delete;
+    PatternConverter& operator=(const PatternConverter&) = delete;
+
+    /// Replaces `names` by the names of the file's patterns, in the order of their bytes in the file.
+    void GetPatternNames(std::vector<std::wstring>& names);
+
+    /// Converts the pattern of just this name. The caller owns the result. Null when the file has no such
+    /// pattern, or when none of its families of lines can be repeated by a rectangular tile.
+    TylModel::SymbolDefinition* Convert(const std::wstring& name);
+
+    /// Replaces `symbols` by the symbols of all patterns in the order of GetPatternNames, without those that
+    /// Convert would give null for. The pointers that it held are not deleted. The caller owns the results,
+    /// those also that are there when std::bad_alloc is thrown.
+    void ConvertAll(std::vector<TylModel::SymbolDefinition*>& symbols);
+
+private:
+    void LoadFile();
+
+    std::wstring fileName_;
+    pattern::Descriptions descriptions_;
+    pattern::Patterns patterns_;
+};
