@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace styleconv {
 
@@ -34,6 +35,12 @@ inline void AddCommonOptions(CLI::App& command, CommonOptions& options) {
     command.add_option("--format", options.format, "Form of the result: json")
         ->check(CLI::IsMember({"json"}))
         ->capture_default_str();
+}
+
+/// Adds --name, which may be given any number of times.
+inline void AddNameOption(CLI::App& command, std::vector<std::string>& names,
+                          const std::string& description) {
+    command.add_option("--name", names, description)->type_name("NAME")->expected(1)->take_all();
 }
 
 /// Adds --code-page to a command that reads text files.

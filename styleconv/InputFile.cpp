@@ -45,7 +45,14 @@ InputFile::~InputFile() {
 }
 
 bool InputFile::Read() {
-    return IsStandardInput() ? ReadStandardInput() : ReadNamed();
+    if (!IsStandardInput()) {
+        return ReadNamed();
+    }
+    if (!ReadAll(stdin, bytes_)) {
+        Say(name_, std::string("cannot be read: ") + std::strerror(errno));
+        return false;
+    }
+    return true;
 }
 
 bool InputFile::ReadNamed() {
@@ -76,10 +83,9 @@ bool InputFile::ReadNamed() {
     return true;
 }
 
-bool InputFile::ReadStandardInput() {
-    if (!ReadAll(stdin, bytes_)) {
-        Say(name_, std::string("cannot be read: ") + std::strerror(errno));
-        return false;
+bool InputFile::ProvidePath() {
+    if (!path_.empty()) {
+        return true;
     }
     std::error_code error;
     const std::filesystem::path folder = std::filesystem::temp_directory_path(error);

@@ -6,8 +6,8 @@
 
 namespace styleconv {
 
-/// Makes a file's bytes and its path available. Standard input ("-") is first copied into a temporary file,
-/// since the library reads files by name; it is removed with this object.
+/// Makes a file's bytes and, for what the library reads by name, its path available. For standard input ("-")
+/// that is the path of a temporary copy, which is removed with this object.
 class InputFile {
 public:
     /// `argument` as given on the command line.
@@ -18,17 +18,18 @@ public:
 
     /// Reads the whole file. On failure says so on standard error and returns false.
     bool Read();
+    /// Makes Path valid, after Read. On failure says so on standard error and returns false.
+    bool ProvidePath();
 
     /// How messages call it.
     const std::string& Name() const { return name_; }
     /// Its bytes, after Read.
     const std::string& Bytes() const { return bytes_; }
-    /// A path for the library to open, after Read.
+    /// A path for the library to open, after ProvidePath.
     const std::wstring& Path() const { return path_; }
     bool IsStandardInput() const { return argument_ == "-"; }
 
 private:
-    bool ReadStandardInput();
     bool ReadNamed();
 
     std::string argument_;

@@ -1,6 +1,6 @@
 // The command line of styleconv: which commands there are, and what a wrong command line gets.
-
-#include "styleconv/Command.h"
+#include "styleconv/ListCommand.h"
+#include "styleconv/PatternsCommand.h"
 
 #include <CLI/CLI.hpp>
 #include <csignal>
@@ -12,7 +12,10 @@ namespace {
 
 using namespace styleconv;
 
-void AddCommands(CLI::App& /*app*/, Runner& /*runner*/) {}
+void AddCommands(CLI::App& app, Runner& runner) {
+    AddPatternsCommand(app, runner);
+    AddListCommand(app, runner);
+}
 
 // Help and version are no errors and go to standard output.
 ExitStatus Explain(const CLI::App& app, const CLI::ParseError& error) {
@@ -20,8 +23,9 @@ ExitStatus Explain(const CLI::App& app, const CLI::ParseError& error) {
         app.exit(error);
         return kDone;
     }
+    const bool noCommand = app.get_subcommands().empty() && error.get_name() == "RequiredError";
     std::fprintf(stderr, "styleconv: %s\nTry \"styleconv --help\" or \"styleconv COMMAND --help\".\n",
-                 error.what());
+                 noCommand ? "a command is missing" : error.what());
     return kUsageFault;
 }
 

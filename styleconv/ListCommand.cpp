@@ -1,0 +1,91 @@
+#include "styleconv/ListCommand.h"
+
+#include "styleconv/InputFile.h"
+#include "styleconv/Messages.h"
+#include "styleconv/OutputFile.h"
+#include "styleconv/Paths.h"
+#include "styleconv/PatternsCommand.h"
+
+#include <memory>
+#include <string_view>
+
+namespace styleconv {
+namespace {
+
+using Lister = bool (*)(const InputFile& input, std::vector<std::string>& names);
+
+struct Kind {
+    std::string_view extension; // lower case
+    Lister lister;
+};
+
+constexpr Kind kKinds[] = {
+    {".pat", ListPatterns},
+};
+
+std::string LowerExtension(const std::string& path) {
+    std::string extension = NativePath(path).extension().string();
+    for (char& c : extension) {
+        c = static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
+    }
+    return extension;
+}
+
+Lister FindLister(const std::string& path) {
+    const std::string extension = LowerExtension(path);
+    for (const Kind& kind : kKinds) {
+        if (kind.extension == extension) {
+            return kind.lister;
+        }
+    }
+    return nullptr;
+}
+
+struct ListOptions {
+    std::string file;
+    std::string output;
+    std::string codePage;
+};
+
+ExitStatus List(const ListOptions& options) {
+    if (options.file == "-") {
+        Say("list", "standard input has no kind to go by: give a file");
+        return kUsageFault;
+    }
+    InputFile input(options.file);
+    if (!input.Read()) {
+        return kInputFault;
+    }
+    const Lister lister = FindLister(options.file);
+    if (lister == nullptr) {
+        Say(input.Name(), "is of no known kind: its name should end in .lin, .pat, .shx or .json");
+        return kInputFault;
+    }
+    if (!ChooseCodePage(input, options.codePage)) {
+        return kUsageFault;
+    }
+    std::vector<std::string> names;
+    if (!lister(input, names)) {
+        return kInputFault;
+    }
+    OutputFile output(options.output);
+    for (const std::string& name : names) {
+        if (!output.Write(name) || !output.Write("\n")) {
+            return kInputFault;
+        }
+    }
+    return output.Commit() ? kDone : kInputFault;
+}
+
+} // namespace
+
+void AddListCommand(CLI::App& app, Runner& runner) {
+    const auto options = std::make_shared<ListOptions>();
+    CLI::App* const command = app.add_subcommand("list", "Print the names of what a file holds, one a line");
+    command->add_option("FILE", options->file, "A .lin, .pat, .shx or drawing .json file")->required();
+    AddOutputOption(*command, options->output);
+    AddCodePageOption(*command, options->codePage);
+    command->callback([options, &runner] { runner = [options] { return List(*options); }; });
+}
+
+} // namespace styleconv

@@ -1,0 +1,148 @@
+#include "styleconv/PatternsCommand.h"
+
+#include "StyleConversion/pattern/AreaSymbol.h"
+#include "StyleConversion/pattern/PatternFile.h"
+#include "StyleConversion/pattern/PatternLimits.h"
+#include "StyleConversion/platform/CodePage.h"
+#include "StyleConversion/platform/Utf8.h"
+#include "styleconv/Messages.h"
+#include "styleconv/SymbolOutput.h"
+
+#include <memory>
+#include <string_view>
+
+namespace styleconv {
+namespace {
+
+struct PatternsOptions : CommonOptions {
+    std::string file;
+    std::vector<std::string> names;
+    std::string codePage;
+};
+
+struct LoadedPatterns {
+    pattern::PatternFile file;
+    pattern::PatternReading reading;
+};
+
+void SayThereAreNoPatterns(const InputFile& input) {
+    constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
+    if (input.Bytes().starts_with(kByteOrderMark)) {
+        SayAtLine(
+            input.Name(), 1,
+            "the file has no patterns: a UTF-8 byte-order mark stands before its first character and hides "
+            "a header there; save the file without it");
+    } else {
+        Say(input.Name(), "the file has no patterns: no line begins with \"*\"");
+    }
+}
+
+// False, after saying why, when the file has no patterns or its reading ended early.
+bool Load(const InputFile& input, LoadedPatterns& loaded) {
+    pattern::ParsePatternFile(input.Bytes(), loaded.file, &loaded.reading);
+    if (loaded.reading.end == pattern::PatternReading::End::kLineTooLong) {
+        SayAtLine(input.Name(), loaded.reading.endLine,
+                  "the line has more than " + std::to_string(pattern::kLongestLine) +
+                      " characters; nothing from here on can be read");
+        return false;
+    }
+    if (loaded.file.patterns.empty()) {
+        SayThereAreNoPatterns(input);
+        return false;
+    }
+    return true;
+}
+
+std::string ShownPattern(const std::string& name) {
+    return "pattern " + Shown(platform::AnsiToWide(name));
+}
+
+// Converts the pattern, or says why it becomes nothing.
+std::unique_ptr<TylModel::SymbolDefinition> ConvertPattern(const InputFile& input, LoadedPatterns& loaded,
+                                                           const std::string& name,
+                                                           std::string_view consequence) {
+    std::vector<pattern::PatternLine>& lines = loaded.file.patterns.at(name);
+    auto symbol = pattern::BuildAreaSymbol(name, lines);
+    if (symbol == nullptr) {
+        const std::string_view reason =
+            lines.empty() ? " has no lines"
+                          : " has no repeat tile: no rectangle of any size repeats its lines";
+        SayAtLine(input.Name(), loaded.reading.headerLines.at(name).front(),
+                  ShownPattern(name) + std::string(reason) + std::string(consequence));
+    }
+    return symbol;
+}
+
+// All that can be converted, in the order of the names. False when that is none.
+bool ConvertAll(const InputFile& input, LoadedPatterns& loaded, Symbols& symbols) {
+    for (const auto& [name, lines] : loaded.file.patterns) {
+        if (auto symbol = ConvertPattern(input, loaded, name, "; left out")) {
+            symbols.push_back(std::move(symbol));
+        }
+    }
+    if (symbols.empty()) {
+        Say(input.Name(), "none of the file's patterns can be converted");
+    }
+    return !symbols.empty();
+}
+
+// Those asked for, in the order asked. False when one is not there or cannot be converted.
+bool ConvertNamed(const InputFile& input, LoadedPatterns& loaded, const std::vector<std::string>& names,
+                  Symbols& symbols) {
+    bool complete = true;
+    for (const std::string& name : names) {
+        const std::string narrow = platform::WideToAnsi(platform::Utf8ToWide(name));
+        if (!loaded.file.patterns.contains(narrow)) {
+            Say(input.Name(), "the file has no pattern named " + Shown(name));
+            complete = false;
+        } else if (auto symbol = ConvertPattern(input, loaded, narrow, "")) {
+            symbols.push_back(std::move(symbol));
+        } else {
+            complete = false;
+        }
+    }
+    return complete;
+}
+
+ExitStatus Patterns(const PatternsOptions& options) {
+    InputFile input(options.file);
+    if (!input.Read()) {
+        return kInputFault;
+    }
+    if (!ChooseCodePage(input, options.codePage)) {
+        return kUsageFault;
+    }
+    LoadedPatterns loaded;
+    if (!Load(input, loaded)) {
+        return kInputFault;
+    }
+    Symbols symbols;
+    const bool converted = options.names.empty() ? ConvertAll(input, loaded, symbols)
+                                                 : ConvertNamed(input, loaded, options.names, symbols);
+    return converted ? WriteSymbols(symbols, options) : kInputFault;
+}
+
+} // namespace
+
+void AddPatternsCommand(CLI::App& app, Runner& runner) {
+    const auto options = std::make_shared<PatternsOptions>();
+    CLI::App* const command = app.add_subcommand("patterns", "Convert the hatch patterns of a .pat file");
+    command->add_option("FILE", options->file, "A pattern file, or - for standard input")->required();
+    AddNameOption(*command, options->names, "Convert only this pattern; may be given again");
+    AddCodePageOption(*command, options->codePage);
+    AddCommonOptions(*command, *options);
+    command->callback([options, &runner] { runner = [options] { return Patterns(*options); }; });
+}
+
+bool ListPatterns(const InputFile& input, std::vector<std::string>& names) {
+    LoadedPatterns loaded;
+    if (!Load(input, loaded)) {
+        return false;
+    }
+    for (const auto& [name, description] : loaded.file.descriptions) {
+        names.push_back(platform::WideToValidUtf8(platform::AnsiToWide(name)));
+    }
+    return true;
+}
+
+} // namespace styleconv

@@ -1,0 +1,81 @@
+"""Checks that every #include of the project follows an allowed arrow: check_includes.py ROOT"""
+import os
+import re
+import sys
+
+# Folder -> the folders that it may include from, itself left out. The longest matching folder counts.
+ALLOWED = {
+    "StyleConversion/platform": [],
+    "StyleConversion/encoding": ["StyleConversion/platform"],
+    "StyleConversion/interfaces": [],
+    "StyleConversion/shx": ["StyleConversion/encoding", "StyleConversion/platform"],
+    "StyleConversion/pattern": ["StyleConversion/encoding", "StyleConversion/platform", "StyleConversion/interfaces"],
+    "StyleConversion/linetype": ["StyleConversion/encoding", "StyleConversion/platform", "StyleConversion/interfaces",
+                                 "StyleConversion/shx"],
+    "StyleConversion/block": ["StyleConversion/encoding", "StyleConversion/platform", "StyleConversion/interfaces",
+                              "StyleConversion/shx"],
+    "StyleConversion": [],
+    "drawing": ["StyleConversion/interfaces"],
+    "drawing/geometry": [],
+    "documents": ["drawing", "StyleConversion"],
+    "preview": ["StyleConversion"],
+    "styleconv": ["documents", "preview", "drawing", "StyleConversion"],
+    "tests": ["StyleConversion", "drawing", "documents", "preview", "styleconv", "fuzz"],
+    "fuzz": ["StyleConversion", "drawing", "documents", "preview", "tests/support"],
+    "benchmarks": ["StyleConversion", "drawing", "documents", "preview", "tests/support"],
+    "examples": ["StyleConversion", "drawing", "documents", "tests/support"],
+}
+
+# These stand under every folder of the library.
+COMMON = ["StyleConversion/Export.h"]
+
+INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
+
+
+def folder_of(path):
+    """The folder of ALLOWED that a file of the project is in."""
+    matches = [folder for folder in ALLOWED if path.startswith(folder + "/")]
+    return max(matches, key=len) if matches else None
+
+
+def resolve(root, source, included):
+    """The path, from the root, of what a source includes; None for what is not the project's."""
+    for base in ("", "StyleConversion/interfaces/", os.path.dirname(source) + "/"):
+        if os.path.exists(os.path.join(root, base + included)):
+            return os.path.normpath(base + included)
+    return None
+
+
+def is_allowed(source, target):
+    if target in COMMON:
+        return True
+    folder = folder_of(source)
+    if folder is None:
+        return False
+    if folder_of(target) == folder:
+        return True
+    # A folder may look into the folders below it, and into those that it names.
+    return any(target.startswith(allowed + "/") for allowed in ALLOWED[folder] + [folder])
+
+
+def findings(root):
+    for directory, folders, names in os.walk(root):
+        folders[:] = [name for name in folders if not name.startswith(".") and name != "build"]
+        for name in names:
+            if not name.endswith((".h", ".cpp")):
+                continue
+            source = os.path.relpath(os.path.join(directory, name), root)
+            if source.startswith("examples/host/"):
+                continue
+            with open(os.path.join(root, source), encoding="utf-8") as file:
+                for number, line in enumerate(file, 1):
+                    match = INCLUDE.match(line)
+                    target = match and resolve(root, source, match.group(1))
+                    if target and not is_allowed(source, target):
+                        yield f"{source}:{number}: {folder_of(source) or source} must not include {target}"
+
+
+if __name__ == "__main__":
+    found = list(findings(sys.argv[1]))
+    print("\n".join(found))
+    sys.exit(1 if found else 0)

@@ -1,0 +1,43 @@
+// What the command line accepts and how it answers a wrong one.
+#include "tests/support/ToolRun.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ToolResult;
+
+TEST(CommandLine, WithoutACommandIsWrong) {
+    const ToolResult result = RunTool({});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors, "styleconv: a command is missing\n"
+                             "Try \"styleconv --help\" or \"styleconv COMMAND --help\".\n");
+}
+
+TEST(CommandLine, AnUnknownCommandOptionOrFormatIsWrong) {
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"paint"},
+                                                      {"patterns"},
+                                                      {"patterns", "a.pat", "b.pat"},
+                                                      {"patterns", "--colour", "x"},
+                                                      {"patterns", "a.pat", "--format", "png"},
+                                                      {"patterns", "a.pat", "--name"}}) {
+        const ToolResult result = RunTool(arguments);
+        EXPECT_EQ(result.status, 2) << arguments.back();
+        EXPECT_EQ(result.output, "") << arguments.back();
+        EXPECT_NE(result.errors.find("Try \"styleconv --help\""), std::string::npos) << result.errors;
+    }
+}
+
+TEST(CommandLine, HelpAndVersionAreAnswered) {
+    const ToolResult version = RunTool({"--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_TRUE(version.output.starts_with("styleconv "));
+    const ToolResult help = RunTool({"patterns", "--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_NE(help.output.find("--code-page"), std::string::npos);
+    EXPECT_EQ(help.errors, "");
+}
+
+} // namespace

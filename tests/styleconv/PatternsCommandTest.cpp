@@ -1,0 +1,259 @@
+// styleconv patterns and styleconv list on pattern files: what is converted, what is refused, and in which
+// words.
+#include "tests/support/ToolRun.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+
+// The values of all keys of this name, in document order.
+std::vector<std::string> ValuesOf(const std::string& document, const std::string& key) {
+    std::vector<std::string> values;
+    const std::string start = "\"" + key + "\": \"";
+    for (std::size_t at = document.find(start); at != std::string::npos; at = document.find(start, at)) {
+        at += start.size();
+        values.push_back(document.substr(at, document.find('"', at) - at));
+    }
+    return values;
+}
+
+using Texts = std::vector<std::string>;
+
+// At 17 degrees the shift 0.1 of the cycle 1 never comes back near a start, and no lattice cell stands
+// upright: the stacked search ends with its best error above a quarter of the shift.
+constexpr const char* kNoTile = "*NOTILE\n17,0,0,0.6180339887,1,0.5,-100.5\n";
+
+TEST(PatternsCommand, ConvertsAPatternWithAllItsKeys) {
+    const ScratchFolder folder;
+    const ToolResult result =
+        RunTool({"patterns", folder.Write("a.pat", "*LINE,Parallel lines\n0,0,0,0,.125\n")});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, R"({
+  "format": "styleconversion/symbols",
+  "version": 1,
+  "symbols": [
+    {
+      "type": "SimpleSymbolDefinition",
+      "name": "LINE",
+      "graphics": [
+        {
+          "type": "Path",
+          "geometry": "M 0.0,0.0 h 10.0",
+          "lineColor": "%HATCHCOLOR%"
+        }
+      ],
+      "parameters": [
+        {
+          "identifier": "HATCHCOLOR",
+          "displayName": "&Hatch Color",
+          "description": "Color for the hatch style",
+          "defaultValue": "0xff000000",
+          "dataType": 6
+        },
+        {
+          "identifier": "HATCHANGLE",
+          "displayName": "Hatch &Color",
+          "description": "Rotation angle for the hatch style",
+          "defaultValue": "0.0",
+          "dataType": 5
+        }
+      ],
+      "areaUsage": {
+        "angle": "%HATCHANGLE%",
+        "repeatX": "10.0",
+        "repeatY": "0.125"
+      }
+    }
+  ]
+}
+)");
+}
+
+TEST(PatternsCommand, ConvertsAllInTheOrderOfTheirNames) {
+    const ScratchFolder folder;
+    const ToolResult result =
+        RunTool({"patterns", folder.Write("a.pat", "*b\n0,0,0,0,1\n*a\n0,0,0,0,1\n*B\n0,0,0,0,1\n")});
+    EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"B", "a", "b"}));
+}
+
+TEST(PatternsCommand, ConvertsTheNamedOnesInTheOrderAsked) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*A\n0,0,0,0,1\n*B\n0,0,0,0,1\n");
+    const ToolResult result = RunTool({"patterns", file, "--name", "B", "--name", "A", "--name", "B"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"B", "A", "B"}));
+}
+
+// One converter does them all, and building a pattern turns its stored origin: (0, 1) by -90 degrees is (1,
+// 0), and by another -90 degrees (0, -1).
+TEST(PatternsCommand, APatternAskedForTwiceHasItsOriginTurnedTwice) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*A\n90,0,1,0,2\n");
+    const ToolResult result = RunTool({"patterns", file, "--name", "A", "--name", "A"});
+    EXPECT_EQ(ValuesOf(result.output, "geometry"), (Texts{"M 1.0,0.0 h 10.0", "M 0.0,-1.0 h 10.0"}));
+}
+
+TEST(PatternsCommand, AnUnknownNameIsAFault) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*A\n0,0,0,0,1\n");
+    folder.Write("out.json", "old");
+    const ToolResult result =
+        RunTool({"patterns", file, "--name", "a", "--name", "C", "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              file + ": the file has no pattern named a\n" + file + ": the file has no pattern named C\n");
+    EXPECT_EQ(folder.Read("out.json"), "old");
+}
+
+TEST(PatternsCommand, AFileThatIsNotThereIsAFault) {
+    const ScratchFolder folder;
+    folder.Write("out.json", "old");
+    const ToolResult result = RunTool({"patterns", folder / "no.pat", "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, (folder / "no.pat") + ": cannot be opened: there is no such file\n");
+    EXPECT_EQ(folder.Read("out.json"), "old");
+}
+
+TEST(PatternsCommand, ADirectoryIsAFault) {
+    const ScratchFolder folder;
+    std::filesystem::create_directory(folder / "d.pat");
+    folder.Write("out.json", "old");
+    const ToolResult result = RunTool({"patterns", folder / "d.pat", "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, (folder / "d.pat") + ": cannot be read: it is a directory\n");
+    EXPECT_EQ(folder.Read("out.json"), "old");
+}
+
+TEST(PatternsCommand, AnOverlongLineIsAFault) {
+    const ScratchFolder folder;
+    folder.Write("out.json", "old");
+    const std::string file =
+        folder.Write("a.pat", "*A\n0,0,0,0,1\n;" + std::string(127, 'x') + "\n*B\n0,0,0,0,1\n");
+    const ToolResult result = RunTool({"patterns", file, "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              file + ": line 3: the line has more than 127 characters; nothing from here on can be read\n");
+    EXPECT_EQ(folder.Read("out.json"), "old");
+}
+
+TEST(PatternsCommand, APatternWithoutATileIsNamedAndLeftOut) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", std::string("*A\n0,0,0,0,1\n") + kNoTile);
+    const ToolResult result = RunTool({"patterns", file});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"A"}));
+    EXPECT_EQ(result.errors,
+              file + ": line 3: pattern NOTILE has no repeat tile: no rectangle of any size repeats "
+                     "its lines; left out\n");
+}
+
+TEST(PatternsCommand, APatternWithoutATileThatIsAskedForIsAFault) {
+    const ScratchFolder folder;
+    folder.Write("out.json", "old");
+    const std::string file = folder.Write("a.pat", std::string("*A\n0,0,0,0,1\n") + kNoTile);
+    const ToolResult result = RunTool({"patterns", file, "--name", "NOTILE", "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              file + ": line 3: pattern NOTILE has no repeat tile: no rectangle of any size repeats "
+                     "its lines\n");
+    EXPECT_EQ(folder.Read("out.json"), "old");
+}
+
+TEST(PatternsCommand, AFileWhosePatternsAllLackATileIsAFault) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", std::string("*EMPTY\n") + kNoTile);
+    const ToolResult result = RunTool({"patterns", file});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors,
+              file + ": line 1: pattern EMPTY has no lines; left out\n" + file +
+                  ": line 2: pattern NOTILE has no repeat tile: no rectangle of any size repeats its "
+                  "lines; left out\n" +
+                  file + ": none of the file's patterns can be converted\n");
+}
+
+TEST(PatternsCommand, AFileWithoutPatternsIsAFault) {
+    const ScratchFolder folder;
+    folder.Write("out.json", "old");
+    const std::string file = folder.Write("a.pat", "; nothing here\n0,0,0,0,1\n");
+    const ToolResult result = RunTool({"patterns", file, "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, file + ": the file has no patterns: no line begins with \"*\"\n");
+    EXPECT_EQ(folder.Read("out.json"), "old");
+}
+
+TEST(PatternsCommand, AByteOrderMarkThatHidesTheOnlyHeaderIsNamed) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "\xef\xbb\xbf*A\n0,0,0,0,1\n");
+    const ToolResult result = RunTool({"patterns", file});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              file + ": line 1: the file has no patterns: a UTF-8 byte-order mark stands before its "
+                     "first character and hides a header there; save the file without it\n");
+}
+
+TEST(PatternsCommand, StandardInputIsReadForADash) {
+    const ToolResult result = RunTool({"patterns", "-"}, "*A\n0,0,0,0,1\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"A"}));
+    EXPECT_EQ(RunTool({"patterns", "-"}, "").errors,
+              "standard input: the file has no patterns: no line begins with \"*\"\n");
+}
+
+// "ä" is 0xe4 in WINDOWS-1252 and 0xc3 0xa4 in UTF-8; a file that is not UTF-8 throughout is WINDOWS-1252.
+TEST(PatternsCommand, NamesAreReadAsUtf8OrElseAsWindows1252) {
+    const ScratchFolder folder;
+    const std::string windows = folder.Write("w.pat", "*b\xe4ume\n0,0,0,0,1\n");
+    const std::string utf8 = folder.Write("u.pat", "*b\xc3\xa4ume\n0,0,0,0,1\n");
+    const std::string greek = folder.Write("g.pat", "*\xe1\n0,0,0,0,1\n");
+    EXPECT_EQ(ValuesOf(RunTool({"patterns", windows}).output, "name"), (Texts{"b\xc3\xa4ume"}));
+    EXPECT_EQ(ValuesOf(RunTool({"patterns", utf8}).output, "name"), (Texts{"b\xc3\xa4ume"}));
+    EXPECT_EQ(ValuesOf(RunTool({"patterns", greek, "--code-page", "WINDOWS-1253"}).output, "name"),
+              (Texts{"\xce\xb1"}));
+    EXPECT_EQ(RunTool({"patterns", windows, "--name", "b\xc3\xa4ume"}).status, 0);
+    EXPECT_EQ(RunTool({"list", windows}).output, "b\xc3\xa4ume\n");
+}
+
+TEST(PatternsCommand, AnUnknownCodePageIsWrong) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*A\n0,0,0,0,1\n");
+    const ToolResult result = RunTool({"patterns", file, "--code-page", "KLINGON"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "--code-page: the encoding KLINGON is not known\n");
+}
+
+TEST(ListCommand, PrintsTheNamesOfPatternsOneALine) {
+    const ScratchFolder folder;
+    const std::string file =
+        folder.Write("a.PAT", std::string("*b,x\n0,0,0,0,1\n*A , y\n0,0,0,0,1\n") + kNoTile);
+    const ToolResult result = RunTool({"list", file});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, "A\nNOTILE\nb\n");
+    EXPECT_EQ(RunTool({"list", file, "-o", folder / "names"}).status, 0);
+    EXPECT_EQ(folder.Read("names"), result.output);
+}
+
+TEST(ListCommand, AFileWithoutPatternsIsAFault) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "");
+    const ToolResult result = RunTool({"list", file});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, file + ": the file has no patterns: no line begins with \"*\"\n");
+}
+
+TEST(ListCommand, NeedsAFileOfAKnownKind) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.txt", "*A\n0,0,0,0,1\n");
+    EXPECT_EQ(RunTool({"list", file}).errors,
+              file + ": is of no known kind: its name should end in .lin, .pat, .shx or .json\n");
+    EXPECT_EQ(RunTool({"list", file}).status, 1);
+    EXPECT_EQ(RunTool({"list", "-"}, "*A\n").status, 2);
+}
+
+} // namespace

@@ -1,0 +1,131 @@
+#include "tests/support/ToolRun.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <random>
+
+#if !defined(_WIN32)
+#include <sys/wait.h>
+#endif
+
+namespace support {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Quoted(const std::string& word) {
+#if defined(_WIN32)
+    return "\"" + word + "\"";
+#else
+    std::string quoted = "'";
+    for (const char c : word) {
+        quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    }
+    return quoted + "'";
+#endif
+}
+
+std::string BytesOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+int ExitStatus(int result) {
+#if defined(_WIN32)
+    return result;
+#else
+    return WIFEXITED(result) ? WEXITSTATUS(result) : -1;
+#endif
+}
+
+std::string CommandLine(const std::vector<std::string>& arguments) {
+    std::string command = Quoted(STYLECONV_PATH);
+    for (const std::string& argument : arguments) {
+        command += " " + Quoted(argument);
+    }
+    return command;
+}
+
+ToolResult Run(const std::vector<std::string>& arguments, const std::string& input,
+               const std::string& redirection) {
+    const ScratchFolder scratch;
+    const std::string in = scratch.Write("in", input);
+    std::string command = CommandLine(arguments);
+    command += " < " + Quoted(in) + " 2> " + Quoted(scratch / "err") + " ";
+    command += redirection.empty() ? "> " + Quoted(scratch / "out") : redirection;
+#if defined(_WIN32)
+    // cmd takes the outer pair of quotes away.
+    command = "\"" + command + "\"";
+#endif
+    ToolResult result;
+    result.status = ExitStatus(std::system(command.c_str()));
+    result.output = BytesOf(scratch / "out");
+    result.errors = BytesOf(scratch / "err");
+    return result;
+}
+
+} // namespace
+
+ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input) {
+    return Run(arguments, input, "");
+}
+
+ToolResult RunToolRedirected(const std::vector<std::string>& arguments, const std::string& redirection) {
+    return Run(arguments, "", redirection);
+}
+
+#if !defined(_WIN32)
+ToolResult RunToolIntoClosedPipe(const std::vector<std::string>& arguments) {
+    const ScratchFolder scratch;
+    const std::string command = "(sleep 0.3; " + CommandLine(arguments) + " 2> " + Quoted(scratch / "err") +
+                                "; echo $? > " + Quoted(scratch / "status") + ") | true";
+    ToolResult result;
+    if (std::system(command.c_str()) == 0) {
+        // The shell ends with the pipe's reader; the writer may still be at work.
+        while (scratch.Read("status").find('\n') == std::string::npos) {
+        }
+        result.status = std::stoi(scratch.Read("status"));
+        result.errors = scratch.Read("err");
+    }
+    return result;
+}
+#endif
+
+ScratchFolder::ScratchFolder() {
+    std::random_device random;
+    do {
+        path_ = fs::temp_directory_path() / ("styleconv_test_" + std::to_string(random()));
+    } while (!fs::create_directory(path_));
+}
+
+ScratchFolder::~ScratchFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+}
+
+std::string ScratchFolder::operator/(const std::string& name) const {
+    return (path_ / name).string();
+}
+
+std::string ScratchFolder::Write(const std::string& name, const std::string& text) const {
+    std::ofstream(path_ / name, std::ios::binary) << text;
+    return *this / name;
+}
+
+std::string ScratchFolder::Read(const std::string& name) const {
+    return fs::exists(path_ / name) ? BytesOf(path_ / name) : "(none)";
+}
+
+std::vector<std::string> ScratchFolder::Names() const {
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(path_)) {
+        names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+} // namespace support

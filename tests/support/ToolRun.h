@@ -1,0 +1,48 @@
+// Runs the built tool as a person would, and keeps what it said.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace support {
+
+struct ToolResult {
+    int status = -1;
+    std::string output;
+    std::string errors;
+};
+
+/// Runs styleconv with the arguments. `input` is its standard input.
+ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input = "");
+
+/// The same with its standard output sent where the shell's words `redirection` say ("> /dev/full").
+ToolResult RunToolRedirected(const std::vector<std::string>& arguments, const std::string& redirection);
+
+#if !defined(_WIN32)
+/// The same with a pipe as standard output whose reader is gone before the tool starts.
+ToolResult RunToolIntoClosedPipe(const std::vector<std::string>& arguments);
+#endif
+
+/// A folder that is there and empty, and is removed with this object.
+class ScratchFolder {
+public:
+    ScratchFolder();
+    ~ScratchFolder();
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    /// The path of `name` in the folder.
+    std::string operator/(const std::string& name) const;
+    /// Writes a file and returns its path.
+    std::string Write(const std::string& name, const std::string& text) const;
+    /// The bytes of a file in the folder, or "(none)".
+    std::string Read(const std::string& name) const;
+    /// The names of all that is in the folder, sorted.
+    std::vector<std::string> Names() const;
+
+private:
+    std::filesystem::path path_;
+};
+
+} // namespace support
