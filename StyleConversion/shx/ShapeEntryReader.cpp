@@ -85,8 +85,12 @@ ShxResult ReadEntry(ShapeReading& reading, ShapesInFile& out, std::uint16_t numb
         return reading.Fail(ShapeFileFault::NameFillsEntry, start);
     }
     const std::size_t rest = length - static_cast<std::size_t>(used);
-    return number != 0 ? ReadProgram(reading, out, rest, start)
-                       : ReadFontInfo(reading, out, rest, kind, start);
+    const ShxResult result =
+        number != 0 ? ReadProgram(reading, out, rest, start) : ReadFontInfo(reading, out, rest, kind, start);
+    if (result == kSuccess) {
+        reading.report.shapeNumber = 0;
+    }
+    return result;
 }
 
 } // namespace ShxUtility
