@@ -1,16 +1,13 @@
 // The "%.15g" formatters over their shared buffer.
 #include "StyleConversion/encoding/PathCommands.h"
 
+#include "StyleConversion/encoding/GeneralNumber.h"
+
 #include <charconv>
 #include <cstddef>
 
 namespace encoding {
 namespace {
-
-constexpr int kSignificantDigits = 15;
-
-// The longest number is "-1.23456789012345e+308", 22 characters.
-constexpr std::size_t kLongestNumber = 32;
 
 // The longest command, an arc with five such numbers and two flags, takes 116 characters.
 constexpr std::size_t kBufferSize = 256;
@@ -28,19 +25,13 @@ public:
     }
 
     Writer& Number(double value) {
-        char digits[kLongestNumber] = {};
-        const char* const end = std::to_chars(digits, digits + kLongestNumber, value,
-                                              std::chars_format::general, kSignificantDigits)
-                                    .ptr;
-        for (const char* digit = digits; digit != end; ++digit) {
-            sharedBuffer[length_++] = static_cast<wchar_t>(*digit);
-        }
+        length_ = static_cast<std::size_t>(WriteGeneral(sharedBuffer + length_, value) - sharedBuffer);
         return *this;
     }
 
     Writer& Integer(int value) {
-        char digits[kLongestNumber] = {};
-        const char* const end = std::to_chars(digits, digits + kLongestNumber, value).ptr;
+        char digits[16] = {};
+        const char* const end = std::to_chars(digits, digits + sizeof digits, value).ptr;
         for (const char* digit = digits; digit != end; ++digit) {
             sharedBuffer[length_++] = static_cast<wchar_t>(*digit);
         }

@@ -1,6 +1,8 @@
 // "%.5f" and its trimming of zeros.
 #include "StyleConversion/encoding/TrimmedNumber.h"
 
+#include "StyleConversion/encoding/BinaryParts.h"
+#include "StyleConversion/encoding/WideProduct.h"
 #include "StyleConversion/encoding/Widening.h"
 
 #include <bit>
@@ -19,44 +21,10 @@ constexpr std::size_t kLongestText = 1 + 309 + 1 + kDecimals;
 // Below this, value * 10^5 fits 64 bits.
 constexpr double kFastLimit = 1e14;
 
-// The doubles' layout: value = significand * 2^(exponent - kExponentBias).
-constexpr int kSignificandBits = 52;
-constexpr int kExponentBias = 1075;
-
-// |value| * 10^5, rounded to the nearest integer and to the even one of two as near, which is what printf
-// does with the exact binary value. For |value| < kFastLimit.
-//
-// |value| * 10^5 = significand * 3125 * 2^(exponent + 5), where significand * 3125 < 2^65: the product is
-// held in 33 bits above 32 bits, and what the negative power of two shifts out decides the rounding.
+// |value| * 10^5, rounded as printf rounds: 10^5 is 3125 and a shift. For |value| < kFastLimit.
 std::uint64_t RoundedHundredThousandths(double value) {
-    const auto bits = std::bit_cast<std::uint64_t>(value);
-    const auto biased = static_cast<int>((bits >> kSignificandBits) & 0x7ff);
-    const std::uint64_t fraction = bits & ((std::uint64_t{1} << kSignificandBits) - 1);
-    const std::uint64_t significand =
-        biased == 0 ? fraction : fraction | (std::uint64_t{1} << kSignificandBits);
-    const int shift = kExponentBias - (biased == 0 ? 1 : biased) - 5;
-
-    const std::uint64_t low = (significand & 0xffffffff) * 3125;
-    const std::uint64_t upper = (significand >> 32) * 3125 + (low >> 32);
-    const std::uint64_t lower = low & 0xffffffff;
-    if (shift > 66) {
-        return 0; // Less than 2^65 / 2^67: below one half.
-    }
-    if (shift <= 0) {
-        return ((upper << 32) | lower) << -shift;
-    }
-    if (shift <= 32) {
-        const std::uint64_t quotient = (upper << (32 - shift)) | (lower >> shift);
-        const std::uint64_t rest = lower & ((std::uint64_t{1} << shift) - 1);
-        const std::uint64_t half = std::uint64_t{1} << (shift - 1);
-        return quotient + ((rest > half || (rest == half && (quotient & 1) != 0)) ? 1 : 0);
-    }
-    const int upperShift = shift - 32;
-    const std::uint64_t quotient = upper >> upperShift;
-    const std::uint64_t rest = upper & ((std::uint64_t{1} << upperShift) - 1);
-    const std::uint64_t half = std::uint64_t{1} << (upperShift - 1);
-    const bool above = rest > half || (rest == half && (lower != 0 || (quotient & 1) != 0));
-    return quotient + (above ? 1 : 0);
+    const BinaryParts parts = TakeApart(value);
+    return ShiftRounded(Multiply(parts.significand, 3125), -(parts.exponent + 5));
 }
 
 // The text of a value that has fewer than 15 digits before its point, trimmed already.

@@ -77,6 +77,28 @@ TEST(NumberText, IsPrintfsWhereTheFastPathEnds) {
     }
 }
 
+TEST(NumberText, IsPrintfsAroundPowersOfTen) {
+    for (int exponent = -30; exponent <= 30; ++exponent) {
+        double value = std::pow(10.0, exponent);
+        for (int step = 0; step < 40; ++step) {
+            value = std::nextafter(value, 0.0);
+        }
+        for (int step = 0; step < 80; ++step) {
+            ExpectPrintfTexts(value);
+            value = std::nextafter(value, 1e300);
+        }
+    }
+}
+
+// 15 nines and a digit that rounds them up, and 16 digits of which the last is 5: the even neighbour is
+// taken.
+TEST(NumberText, IsPrintfsWhereFifteenDigitsAreRounded) {
+    for (const double value : {9.999999999999996, 0.99999999999999967, 99999999999999.95, 1234567890123.125,
+                               1234567890123.375, 562949953421312.5, 562949953421313.5, 0.1234567890123455}) {
+        ExpectPrintfTexts(value);
+    }
+}
+
 TEST(NumberText, IsPrintfsAtTheEndsOfTheRange) {
     using Limits = std::numeric_limits<double>;
     for (const double value : {0.0, -0.0, Limits::denorm_min(), -Limits::denorm_min(), Limits::min(),
