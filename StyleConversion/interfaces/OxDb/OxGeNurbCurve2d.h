@@ -3,6 +3,8 @@
 
 #include "OxDb/OxGeCurve2d.h"
 
+struct OxGeNurbCurveData;
+
 /// The knots of a B-spline, not falling.
 class OXDB_API OxGeKnotVector {
 public:
@@ -65,7 +67,9 @@ public:
     void getSamplePoints(double fromParameter, double toParameter, double tolerance, OxGePoint2dArray& points,
                          OxGeDoubleArray& parameters) const override;
 
+    /// For the library itself; null when the curve is not defined.
+    const OxGeNurbCurveData* data() const { return data_; }
+
 private:
-    struct Data;
-    Data* data_ = nullptr;
+    OxGeNurbCurveData* data_ = nullptr;
 };

@@ -1,0 +1,86 @@
+// Hatches and multi-polygons.
+#pragma once
+
+#include "OxDb/OxDbHatch.h"
+#include "OxDb/OxDbMPolygon.h"
+#include "drawing/CurveEntities.h"
+#include "drawing/Resident.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace drawing {
+
+/// A closed line through vertices.
+struct PolylineLoop {
+    std::vector<BulgeVertex> vertices;
+    bool hasBulges = false; // false: the loop hands out no bulges at all
+};
+
+/// A loop of a hatch: edges or vertices.
+struct HatchLoop {
+    std::vector<std::unique_ptr<OxGeCurve2d>> edges;
+    std::optional<PolylineLoop> polyline; // set: a polyline loop, without edges
+};
+
+/// One family of parallel lines of a hatch pattern.
+struct HatchFamily {
+    double angle = 0.0; // radians
+    OxGePoint2d base;
+    OxGeVector2d offset; // from one line to the next, in drawing axes
+    std::vector<double> dashes;
+};
+
+struct HatchLine {
+    OxGePoint2d start;
+    OxGePoint2d end;
+};
+
+struct HatchData {
+    bool solid = false;
+    std::vector<HatchLoop> loops;
+    std::optional<std::vector<HatchFamily>> pattern;
+    /// When set, what an evaluation gives, instead of the pattern.
+    std::optional<std::vector<HatchLine>> lines;
+};
+
+class OXDB_API Hatch : public ResidentEntity<OxDbHatch> {
+public:
+    Hatch(Core& core, const EntityProperties& properties, HatchData data);
+    ~Hatch() override;
+
+    bool isSolidFill() const override { return data_.solid; }
+    int numLoops() const override { return static_cast<int>(data_.loops.size()); }
+    Oxsys::ErrorStatus getLoopAt(int index, int& loopType, OxArray<const OxGeCurve2d*>& edges,
+                                 OxArray<int>& edgeTypes) const override;
+    Oxsys::ErrorStatus getLoopAt(int index, int& loopType, OxGePoint2dArray& vertices,
+                                 OxGeDoubleArray& bulges) const override;
+    /// Succeeds when the hatch has lines of its own or a pattern that gives at most 1,000,000 lines.
+    Oxsys::ErrorStatus evaluateHatch(bool underestimateLines) override;
+    int numHatchLines() const override;
+    Oxsys::ErrorStatus getHatchLineDataAt(int index, OxGePoint2d& start, OxGePoint2d& end) const override;
+
+private:
+    HatchData data_;
+    std::vector<HatchLine> evaluated_;
+    bool isEvaluated_ = false;
+};
+
+class OXDB_API MPolygon : public ResidentEntity<OxDbMPolygon> {
+public:
+    MPolygon(Core& core, const EntityProperties& properties, std::vector<PolylineLoop> loops,
+             const OxCmColor& fillColor);
+    ~MPolygon() override;
+
+    int numMPolygonLoops() const override { return static_cast<int>(loops_.size()); }
+    Oxsys::ErrorStatus getMPolygonLoopAt(int index, OxGePoint2dArray& vertices,
+                                         OxGeDoubleArray& bulges) const override;
+    OxCmColor fillColor() const override { return fillColor_; }
+
+private:
+    std::vector<PolylineLoop> loops_;
+    OxCmColor fillColor_;
+};
+
+} // namespace drawing
