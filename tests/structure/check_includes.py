@@ -15,7 +15,8 @@ ALLOWED = {
     "StyleConversion/block": ["StyleConversion/encoding", "StyleConversion/platform", "StyleConversion/interfaces",
                               "StyleConversion/shx"],
     "StyleConversion": [],
-    "drawing": ["StyleConversion/interfaces"],
+    # Host services look for files by name, in the form of path that the platform folder defines.
+    "drawing": ["StyleConversion/interfaces", "StyleConversion/platform"],
     "drawing/geometry": [],
     "documents": ["drawing", "StyleConversion"],
     "preview": ["StyleConversion"],
