@@ -21,7 +21,7 @@ ALLOWED = {
     "documents": ["drawing", "StyleConversion"],
     "preview": ["StyleConversion"],
     "styleconv": ["documents", "preview", "drawing", "StyleConversion"],
-    "tests": ["StyleConversion", "drawing", "documents", "preview", "styleconv", "fuzz"],
+    "tests": ["StyleConversion", "drawing", "documents", "preview", "styleconv", "fuzz", "examples"],
     "fuzz": ["StyleConversion", "drawing", "documents", "preview", "tests/support"],
     "benchmarks": ["StyleConversion", "drawing", "documents", "preview", "tests/support"],
     "examples": ["StyleConversion", "drawing", "documents", "tests/support"],
