@@ -1,0 +1,62 @@
+// The symbol of the block under conversion, as the collectors see it.
+#pragma once
+
+#include "TylModel/TylModel.h"
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+namespace block {
+
+/// Lets a set of strings be searched for a string view.
+struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::wstring_view text) const { return std::hash<std::wstring_view>()(text); }
+};
+
+using TextSet = std::unordered_set<std::wstring, TextHash, std::equal_to<>>;
+
+/// The geometry of one entity: its own, and that of the shapes and texts in its linetype.
+struct EntityPath {
+    std::wstring path;
+    std::wstring shapes;
+};
+
+/// Lives as long as the conversion of one block and knows, beside the symbol, what would otherwise have to be
+/// searched for at every entity: the identifiers of the symbol's parameters, and the layers to ignore. The
+/// converter hands it to the collectors in the symbol's place, and so needs no state of its own between
+/// conversions. An entity's cost does not grow with the number of layers or parameters.
+class BlockSymbol {
+public:
+    /// Both must outlive this object.
+    BlockSymbol(TylModel::SimpleSymbolDefinition& symbol, const std::vector<std::wstring>& layersToIgnore);
+
+    bool IgnoresAnyLayer() const { return !layersToIgnore_.empty(); }
+    bool IgnoresLayer(std::wstring_view layer) const { return layersToIgnore_.contains(layer); }
+
+    /// Whether a search through the symbol's parameters for that identifier would find one.
+    bool HasParameter(std::wstring_view identifier) const { return identifiers_.contains(identifier); }
+
+    /// Both append to the symbol, which then owns the object. A parameter's identifier is not looked for.
+    void Adopt(std::unique_ptr<TylModel::Parameter> parameter);
+    void Adopt(std::unique_ptr<TylModel::GraphicElement> graphic);
+    void AdoptPointUsage(std::unique_ptr<TylModel::PointUsage> usage);
+
+    /// Room for the geometry of the next entity: both strings empty, with the storage of entities before.
+    EntityPath& StartPath();
+    /// What was written since.
+    EntityPath& CurrentPath() { return path_; }
+
+private:
+    TylModel::SimpleSymbolDefinition& symbol_;
+    TextSet identifiers_;
+    std::unordered_set<std::wstring_view> layersToIgnore_;
+    EntityPath path_;
+};
+
+} // namespace block

@@ -1,0 +1,27 @@
+// The end of every stroked entity: colour, line weight, and the path itself.
+#include "StyleConversion/block/BlockConverter.h"
+
+#include "OxDb/OxDbEntity.h"
+#include "StyleConversion/block/BlockSymbol.h"
+#include "StyleConversion/encoding/ValueForms.h"
+
+void BlockConverter::FinishStroke(const OxDbBlockTableRecord& record, const OxDbEntity& entity,
+                                  block::BlockSymbol& symbol) const {
+    auto& [path, shapes] = symbol.CurrentPath();
+    if (!shapes.empty()) {
+        path += L' ';
+        path += shapes;
+    }
+    // Resolved also for an entity without geometry: the parameters are wanted then too.
+    const std::wstring color = GetEntityColor(record, entity, entity.color(), symbol);
+    const std::wstring lineWeight = GetEntityLineweight(record, entity, symbol);
+    if (path.empty()) {
+        return;
+    }
+    auto graphic = std::make_unique<TylModel::Path>();
+    graphic->SetGeometry(path);
+    graphic->SetLineColor(color);
+    graphic->SetLineWeight(lineWeight);
+    graphic->SetLineWeightScalable(encoding::BooleanString(false));
+    symbol.Adopt(std::move(graphic));
+}

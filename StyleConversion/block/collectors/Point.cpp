@@ -1,0 +1,16 @@
+// Points: strokes without length.
+#include "OxDb/OxDbCurves.h"
+#include "StyleConversion/block/Angles.h"
+#include "StyleConversion/block/BlockConverter.h"
+#include "StyleConversion/block/BlockSymbol.h"
+
+void BlockConverter::CollectGeometryFromPoint(const OxDbBlockTableRecord& record, const OxDbPoint& point,
+                                              block::BlockSymbol& symbol) const {
+    std::wstring& path = symbol.StartPath().path;
+    const OxGePoint2d position = block::InPlane(point.position());
+    path += L"M ";
+    AppendPoint(path, position);
+    path += L" L ";
+    AppendPoint(path, position);
+    FinishStroke(record, point, symbol);
+}
