@@ -19,7 +19,7 @@ struct EndTangents {
 /// grows from point to point by their distance. At an end without tangent the second derivative is zero (a
 /// natural end), so two points without tangents give a straight line.
 ///
-/// Points that repeat their predecessor (within 1e-12 of the extent of all points) are passed once. When only
+/// Points that repeat their predecessor (within kSamePoint) are passed once. When only
 /// one point is left the curve stays there, with the parameter from 0 to 1.
 ///
 /// Refused, with `curve` left as it was: no points (kTooFewPoints), numbers that are not finite or too large.

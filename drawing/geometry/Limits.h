@@ -11,8 +11,9 @@ inline constexpr int kMaximumDegree = 255;
 /// Largest magnitude of a coordinate, in drawing units: squares of differences stay far from overflow.
 inline constexpr double kMaximumCoordinate = 1e100;
 
-/// Largest ratio between two weights of one curve: beyond it the lighter point no longer shows in a double.
-inline constexpr double kMaximumWeightRatio = 1e15;
+/// Largest ratio between two weights of one curve: beyond it a curve runs most of its way in a part of its
+/// interval that doubles cannot divide any more.
+inline constexpr double kMaximumWeightRatio = 1e9;
 
 /// Distance in drawing units below which the ends of a curve count as the same point.
 inline constexpr double kSamePoint = 1e-10;
@@ -28,9 +29,9 @@ inline constexpr std::size_t kSamplesPerPiece = 64;
 /// Lines of one evaluated hatch.
 inline constexpr std::size_t kMaximumHatchLines = 1000000;
 
-/// Crossings of family lines with boundary edges that are looked at before a hatch is given up. Only loops
-/// that lie on top of each other come near it without exceeding the limit of lines.
-inline constexpr std::size_t kMaximumHatchCrossings = 32000000;
+/// Crossings of one family's lines with boundary edges that are looked at before a hatch is given up. Two
+/// make a line, so only loops on top of each other, or very sparse dots, reach it below the limit of lines.
+inline constexpr std::size_t kMaximumHatchCrossings = 8000000;
 
 /// Largest distance from a family's base point that still gives a meaningful line number or dash number, in
 /// spacings or pattern lengths: whole numbers beyond 2^53 are not exact.

@@ -32,6 +32,10 @@ inline double Dot(Vector a, Vector b) {
     return a.x * b.x + a.y * b.y;
 }
 
+inline bool IsFinite(Point a) {
+    return std::isfinite(a.x) && std::isfinite(a.y);
+}
+
 /// Twice the signed area of the triangle (0, a, b): positive when b lies to the left of a.
 inline double Cross(Vector a, Vector b) {
     return a.x * b.y - a.y * b.x;
@@ -41,14 +45,23 @@ inline double Length(Vector a) {
     return std::sqrt(a.x * a.x + a.y * a.y);
 }
 
+/// The vector turned by +90 degrees.
+inline Vector TurnedLeft(Vector a) {
+    return {-a.y, a.x};
+}
+
 inline double Distance(Point a, Point b) {
     return Length(b - a);
 }
 
-/// The point at `fraction` of the way from a to b. Written so that equal ends give that very point, without
-/// rounding, whatever the fraction.
+/// The point at `fraction` of the way from a to b. Exact at both ends, and where both ends are the same
+/// point.
 inline Point Between(Point a, Point b, double fraction) {
-    return {a.x + fraction * (b.x - a.x), a.y + fraction * (b.y - a.y)};
+    if (fraction <= 0.5) {
+        return {a.x + fraction * (b.x - a.x), a.y + fraction * (b.y - a.y)};
+    }
+    const double back = 1.0 - fraction;
+    return {b.x - back * (b.x - a.x), b.y - back * (b.y - a.y)};
 }
 
 } // namespace geometry

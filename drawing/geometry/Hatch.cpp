@@ -1,0 +1,323 @@
+// Hatch evaluation: a sweep over the lines of each family, from the lowest up.
+#include "drawing/geometry/Hatch.h"
+
+#include "drawing/geometry/HatchDashes.h"
+#include "drawing/geometry/HatchFrame.h"
+#include "drawing/geometry/Limits.h"
+#include "drawing/geometry/MonotoneEdges.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <initializer_list>
+#include <limits>
+
+namespace geometry {
+
+namespace {
+
+/// Takes in every number of a hatch: the first fault, and how large the coordinates are.
+class NumberCheck {
+public:
+    void Take(std::initializer_list<double> values) {
+        for (const double value : values) {
+            if (status_ != Status::kOk) {
+                return;
+            }
+            if (!std::isfinite(value)) {
+                status_ = Status::kNotFinite;
+            } else if (std::fabs(value) > kMaximumCoordinate) {
+                status_ = Status::kOutOfRange;
+            }
+        }
+    }
+    void TakePoint(Point point) {
+        Take({point.x, point.y});
+        magnitude_ = std::max(magnitude_, std::max(std::fabs(point.x), std::fabs(point.y)));
+    }
+    void TakeReach(Point center, double radius) {
+        TakePoint(center);
+        Take({radius});
+        magnitude_ =
+            std::max(magnitude_, std::max(std::fabs(center.x), std::fabs(center.y)) + std::fabs(radius));
+    }
+
+    void TakeEdge(const LineEdge& edge) {
+        TakePoint(edge.start);
+        TakePoint(edge.end);
+    }
+    void TakeEdge(const BulgeEdge& edge) {
+        TakePoint(edge.start);
+        TakePoint(edge.end);
+        Take({edge.bulge});
+        // The arc stays this close to its chord.
+        TakeReach(edge.start, Distance(edge.start, edge.end) * (1.0 + std::fabs(edge.bulge)));
+    }
+    void TakeEdge(const ArcEdge& edge) {
+        TakeReach(edge.center, edge.radius);
+        Take({edge.startAngle, edge.endAngle});
+    }
+    void TakeEdge(const EllipseEdge& edge) {
+        TakePoint(edge.majorAxis);
+        TakeReach(edge.center, Length(edge.majorAxis) * std::max(1.0, std::fabs(edge.radiusRatio)));
+        Take({edge.radiusRatio, edge.startAngle, edge.endAngle});
+    }
+    void TakeEdge(const SplineEdge& edge) {
+        for (const Point& point : edge.curve.controlPoints) {
+            TakePoint(point);
+        }
+    }
+
+    Status Result() const { return status_; }
+    double Magnitude() const { return magnitude_; }
+
+private:
+    Status status_ = Status::kOk;
+    double magnitude_ = 0.0;
+};
+
+/// A monotone edge and the family lines that cross it, first <= last.
+struct SweptEdge {
+    std::int64_t first = 0;
+    std::int64_t last = 0;
+    std::size_t edge = 0;
+};
+
+/// Where a line meets the boundary: the distance along it from its origin, and the point.
+struct Crossing {
+    double distance = 0.0;
+    Point point;
+};
+
+class FamilyHatcher {
+public:
+    FamilyHatcher(const HatchFrame& frame, const std::vector<double>& dashes, double magnitude,
+                  std::vector<HatchLine>& lines)
+        : frame_(frame), isDashed_(!dashes.empty()), cycle_(MakeDashCycle(dashes)), magnitude_(magnitude),
+          lines_(lines) {}
+
+    Status Run(const std::vector<HatchLoop>& loops);
+
+private:
+    Status SortEdges();
+    Status HatchOneLine(double line, const std::vector<std::size_t>& crossed);
+    void PairCrossings();
+    Status DrawBetween(const Crossing& start, const Crossing& end, Point origin);
+    Status AddLine(Point start, Point end);
+    Crossing MakeCrossing(std::size_t edge, double line, Point origin) const;
+    Point WithoutNoise(Point point) const;
+
+    const HatchFrame& frame_;
+    bool isDashed_;
+    DashCycle cycle_;
+    double magnitude_;
+    double rounding_ = 0.0; ///< coordinates and distances on the current line smaller than this are noise
+    std::vector<HatchLine>& lines_;
+    MonotoneBoundary boundary_;
+    std::vector<SweptEdge> swept_;
+    std::vector<Crossing> crossings_;
+    std::vector<Stretch> stretches_;
+};
+
+/// Fills swept_, ordered by first line. Lines count the points of their own level as below themselves: an
+/// edge between levels a < b is crossed by the lines a <= k < b.
+Status FamilyHatcher::SortEdges() {
+    double total = 0.0;
+    bool isFar = false;
+    for (std::size_t index = 0; index < boundary_.edges.size(); ++index) {
+        const MonotoneEdge& edge = boundary_.edges[index];
+        const double first = std::ceil(std::min(edge.startLevel, edge.endLevel));
+        const double end = std::ceil(std::max(edge.startLevel, edge.endLevel));
+        const double count = end - first;
+        isFar = isFar || !(std::fabs(first) <= kMaximumRepeats && std::fabs(end) <= kMaximumRepeats);
+        if (count == 0.0) {
+            continue;
+        }
+        // Two infinite levels differ by what is not a number; they too are too many lines.
+        total = count > 0.0 ? total + count : std::numeric_limits<double>::infinity();
+        if (!isFar) {
+            swept_.push_back({static_cast<std::int64_t>(first), static_cast<std::int64_t>(end) - 1, index});
+        }
+    }
+    if (total > static_cast<double>(kMaximumHatchCrossings)) {
+        return Status::kTooManyLines;
+    }
+    if (isFar) {
+        return Status::kOutOfRange;
+    }
+    std::sort(swept_.begin(), swept_.end(), [](const SweptEdge& a, const SweptEdge& b) {
+        return a.first != b.first ? a.first < b.first : a.edge < b.edge;
+    });
+    return Status::kOk;
+}
+
+Status FamilyHatcher::Run(const std::vector<HatchLoop>& loops) {
+    boundary_ = MakeMonotoneBoundary(loops, frame_);
+    if (const Status status = SortEdges(); status != Status::kOk) {
+        return status;
+    }
+    std::vector<std::size_t> active; // positions in swept_
+    std::vector<std::size_t> crossed;
+    std::size_t next = 0;
+    std::int64_t line = 0;
+    while (next < swept_.size() || !active.empty()) {
+        if (active.empty()) {
+            line = swept_[next].first;
+        }
+        for (; next < swept_.size() && swept_[next].first == line; ++next) {
+            active.push_back(next);
+        }
+        crossed.clear();
+        for (const std::size_t position : active) {
+            crossed.push_back(swept_[position].edge);
+        }
+        if (const Status status = HatchOneLine(static_cast<double>(line), crossed); status != Status::kOk) {
+            return status;
+        }
+        std::erase_if(active, [&](std::size_t position) { return swept_[position].last == line; });
+        ++line;
+    }
+    return Status::kOk;
+}
+
+Crossing FamilyHatcher::MakeCrossing(std::size_t edge, double line, Point origin) const {
+    Point point = CrossingAt(boundary_, boundary_.edges[edge], frame_, line);
+    // The line knows its own coordinate better than the boundary does.
+    if (frame_.direction.y == 0.0) {
+        point.y = origin.y;
+    } else if (frame_.direction.x == 0.0) {
+        point.x = origin.x;
+    }
+    return {Dot(frame_.direction, point - origin), point};
+}
+
+/// Takes the crossings in pairs, drops pairs that only touch, and joins pairs that meet.
+void FamilyHatcher::PairCrossings() {
+    std::sort(crossings_.begin(), crossings_.end(),
+              [](const Crossing& a, const Crossing& b) { return a.distance < b.distance; });
+    std::size_t kept = 0;
+    for (std::size_t index = 0; index + 1 < crossings_.size(); index += 2) {
+        const Crossing start = crossings_[index];
+        const Crossing end = crossings_[index + 1];
+        if (end.distance - start.distance <= rounding_) {
+            continue;
+        }
+        if (kept > 0 && start.distance - crossings_[kept - 1].distance <= rounding_) {
+            crossings_[kept - 1] = end;
+            continue;
+        }
+        crossings_[kept++] = start;
+        crossings_[kept++] = end;
+    }
+    crossings_.resize(kept);
+}
+
+Status FamilyHatcher::HatchOneLine(double line, const std::vector<std::size_t>& crossed) {
+    const Point origin = LineOrigin(frame_, line);
+    const double magnitude = std::max(magnitude_, std::max(std::fabs(origin.x), std::fabs(origin.y)));
+    rounding_ = 16.0 * std::numeric_limits<double>::epsilon() * magnitude;
+    crossings_.clear();
+    for (const std::size_t edge : crossed) {
+        crossings_.push_back(MakeCrossing(edge, line, origin));
+    }
+    PairCrossings();
+    for (std::size_t index = 0; index < crossings_.size(); index += 2) {
+        const Status status = DrawBetween(crossings_[index], crossings_[index + 1], origin);
+        if (status != Status::kOk) {
+            return status;
+        }
+    }
+    return Status::kOk;
+}
+
+Status FamilyHatcher::DrawBetween(const Crossing& start, const Crossing& end, Point origin) {
+    if (!isDashed_) {
+        return AddLine(start.point, end.point);
+    }
+    stretches_.clear();
+    const DashResult result = LayDashes(cycle_, start.distance, end.distance, rounding_,
+                                        kMaximumHatchLines - lines_.size(), stretches_);
+    if (result != DashResult::kOk) {
+        return result == DashResult::kTooMany ? Status::kTooManyLines : Status::kOutOfRange;
+    }
+    const auto at = [&](double distance) {
+        if (distance == start.distance) {
+            return start.point;
+        }
+        return distance == end.distance ? end.point : origin + distance * frame_.direction;
+    };
+    for (const Stretch& stretch : stretches_) {
+        if (const Status status = AddLine(at(stretch.start), at(stretch.end)); status != Status::kOk) {
+            return status;
+        }
+    }
+    return Status::kOk;
+}
+
+Point FamilyHatcher::WithoutNoise(Point point) const {
+    return {std::fabs(point.x) <= rounding_ ? 0.0 : point.x, std::fabs(point.y) <= rounding_ ? 0.0 : point.y};
+}
+
+Status FamilyHatcher::AddLine(Point start, Point end) {
+    if (lines_.size() == kMaximumHatchLines) {
+        return Status::kTooManyLines;
+    }
+    lines_.push_back({WithoutNoise(start), WithoutNoise(end)});
+    return Status::kOk;
+}
+
+NumberCheck CheckNumbers(const std::vector<HatchLoop>& loops, const std::vector<HatchFamily>& families) {
+    NumberCheck check;
+    for (const HatchLoop& loop : loops) {
+        for (const HatchEdge& edge : loop.edges) {
+            std::visit([&](const auto& shape) { check.TakeEdge(shape); }, edge);
+        }
+    }
+    for (const HatchFamily& family : families) {
+        check.TakePoint(family.base);
+        check.Take({family.angle, family.offset.x, family.offset.y});
+        for (const double dash : family.dashes) {
+            check.Take({dash});
+        }
+    }
+    return check;
+}
+
+} // namespace
+
+HatchLoop LoopFromVertices(const std::vector<BulgeVertex>& vertices) {
+    HatchLoop loop;
+    if (vertices.size() < 2) {
+        return loop;
+    }
+    for (std::size_t index = 0; index < vertices.size(); ++index) {
+        const BulgeVertex& from = vertices[index];
+        const Point to = vertices[(index + 1) % vertices.size()].point;
+        if (from.bulge == 0.0) {
+            loop.edges.emplace_back(LineEdge{from.point, to});
+        } else {
+            loop.edges.emplace_back(BulgeEdge{from.point, to, from.bulge});
+        }
+    }
+    return loop;
+}
+
+Status EvaluateHatch(const std::vector<HatchLoop>& loops, const std::vector<HatchFamily>& families,
+                     std::vector<HatchLine>& lines) {
+    lines.clear();
+    const NumberCheck check = CheckNumbers(loops, families);
+    Status status = check.Result();
+    for (std::size_t index = 0; index < families.size() && status == Status::kOk; ++index) {
+        HatchFrame frame;
+        status = MakeHatchFrame(families[index], frame);
+        if (status == Status::kOk) {
+            status = FamilyHatcher(frame, families[index].dashes, check.Magnitude(), lines).Run(loops);
+        }
+    }
+    if (status != Status::kOk) {
+        lines.clear();
+    }
+    return status;
+}
+
+} // namespace geometry

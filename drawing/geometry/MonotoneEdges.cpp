@@ -1,0 +1,334 @@
+// Cutting boundary edges where they turn back across the lines of a family, and crossing what is left.
+#include "drawing/geometry/MonotoneEdges.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numbers>
+#include <optional>
+
+namespace geometry {
+
+namespace {
+
+constexpr double kFullTurn = 2.0 * std::numbers::pi;
+
+/// Below this bulge an arc's centre is so far away that its digits are lost; the arc is then taken as the
+/// rational parabola that it also is.
+constexpr double kFlatBulge = 0.01;
+
+/// Halvings of a Bernstein piece that does not become monotone.
+constexpr int kDeepest = 48;
+
+/// The angle that an arc runs through: 0 to 2 pi.
+double Sweep(double startAngle, double endAngle) {
+    constexpr double kClosed = 1e-9;
+    double sweep = endAngle - startAngle;
+    if (std::fabs(std::fabs(sweep) - kFullTurn) <= kClosed) {
+        return kFullTurn;
+    }
+    sweep = std::fmod(sweep, kFullTurn);
+    return sweep < 0.0 ? sweep + kFullTurn : sweep;
+}
+
+Point ConicPoint(const ConicArc& conic, double angle) {
+    return conic.center + std::cos(angle) * conic.major + std::sin(angle) * conic.minor;
+}
+
+/// A conic's level as center + amplitude cos(t - phase).
+struct Wave {
+    double center = 0.0;
+    double amplitude = 0.0;
+    double phase = 0.0;
+};
+
+Wave LevelWave(const ConicArc& conic, const HatchFrame& frame) {
+    const double cosine = Dot(frame.normal, conic.major) / frame.spacing;
+    const double sine = Dot(frame.normal, conic.minor) / frame.spacing;
+    return {RawLevel(frame, conic.center), std::sqrt(cosine * cosine + sine * sine),
+            std::atan2(sine, cosine)};
+}
+
+class BoundaryBuilder {
+public:
+    explicit BoundaryBuilder(const HatchFrame& frame) : frame_(frame) {}
+
+    void Add(const LineEdge& edge);
+    void Add(const BulgeEdge& edge);
+    void Add(const ArcEdge& edge);
+    void Add(const EllipseEdge& edge);
+    void Add(const SplineEdge& edge);
+    void CloseLoop();
+    MonotoneBoundary Take() { return std::move(boundary_); }
+
+private:
+    double Level(Point point) const { return SnappedLevel(RawLevel(frame_, point)); }
+    void ConnectTo(Point start);
+    void AddStraight(Point start, Point end);
+    void AddConic(const ConicArc& conic, double startAngle, double sweep, Point start, Point end);
+    void AddChain(const BezierChain& chain);
+    void AddBezier(std::span<const Point> points, std::span<const double> weights);
+
+    const HatchFrame& frame_;
+    MonotoneBoundary boundary_;
+    std::optional<Point> loopStart_;
+    Point current_;
+};
+
+/// An edge begins at `start`: the gap before it, if any, is closed.
+void BoundaryBuilder::ConnectTo(Point start) {
+    if (!loopStart_) {
+        loopStart_ = start;
+    } else if (current_ != start) {
+        AddStraight(current_, start);
+    }
+}
+
+void BoundaryBuilder::CloseLoop() {
+    if (loopStart_) {
+        ConnectTo(*loopStart_);
+    }
+    loopStart_.reset();
+}
+
+void BoundaryBuilder::AddStraight(Point start, Point end) {
+    boundary_.edges.push_back(
+        {.start = start, .end = end, .startLevel = Level(start), .endLevel = Level(end)});
+    current_ = end;
+}
+
+void BoundaryBuilder::Add(const LineEdge& edge) {
+    ConnectTo(edge.start);
+    AddStraight(edge.start, edge.end);
+}
+
+void BoundaryBuilder::Add(const BulgeEdge& edge) {
+    ConnectTo(edge.start);
+    const double bulge = edge.bulge;
+    const Vector chord = edge.end - edge.start;
+    if (bulge == 0.0 || edge.start == edge.end) {
+        AddStraight(edge.start, edge.end);
+        return;
+    }
+    const Point middle = Between(edge.start, edge.end, 0.5);
+    if (std::fabs(bulge) < kFlatBulge) {
+        const double square = bulge * bulge;
+        const Point apex = middle - (bulge / (1.0 - square)) * TurnedLeft(chord);
+        const BezierChain chain{
+            2, {0.0, 1.0}, {edge.start, apex, edge.end}, {1.0, (1.0 - square) / (1.0 + square), 1.0}};
+        AddChain(chain);
+        return;
+    }
+    // The angle counts from the start, in the sense of travel.
+    const Point center = middle + ((1.0 - bulge * bulge) / (4.0 * bulge)) * TurnedLeft(chord);
+    const Vector toStart = edge.start - center;
+    const Vector ahead = (bulge > 0.0 ? 1.0 : -1.0) * TurnedLeft(toStart);
+    AddConic({center, toStart, ahead}, 0.0, 4.0 * std::atan(std::fabs(bulge)), edge.start, edge.end);
+}
+
+void BoundaryBuilder::Add(const ArcEdge& edge) {
+    Add(EllipseEdge{edge.center, {edge.radius, 0.0}, 1.0, edge.startAngle, edge.endAngle, edge.clockwise});
+}
+
+void BoundaryBuilder::Add(const EllipseEdge& edge) {
+    const double ratio = edge.clockwise ? -edge.radiusRatio : edge.radiusRatio;
+    const ConicArc conic{edge.center, edge.majorAxis, ratio * TurnedLeft(edge.majorAxis)};
+    const double startAngle = std::fmod(edge.startAngle, kFullTurn);
+    const double sweep = Sweep(edge.startAngle, edge.endAngle);
+    const Point start = ConicPoint(conic, startAngle);
+    const Point end = sweep == kFullTurn ? start : ConicPoint(conic, startAngle + sweep);
+    ConnectTo(start);
+    AddConic(conic, startAngle, sweep, start, end);
+}
+
+void BoundaryBuilder::Add(const SplineEdge& edge) {
+    const BezierChain chain = DecomposeIntoBezier(edge.curve);
+    ConnectTo(chain.points.front());
+    AddChain(chain);
+}
+
+/// Cut at the angles where the level is greatest or least: phase plus whole half turns.
+void BoundaryBuilder::AddConic(const ConicArc& conic, double startAngle, double sweep, Point start,
+                               Point end) {
+    const Wave wave = LevelWave(conic, frame_);
+    const double endAngle = startAngle + sweep;
+    MonotoneEdge edge;
+    edge.start = start;
+    edge.startLevel = Level(start);
+    edge.shape = EdgeShape::kConic;
+    edge.index = boundary_.conics.size();
+    edge.startAngle = startAngle;
+    boundary_.conics.push_back(conic);
+    double halfTurns = std::floor((startAngle - wave.phase) / std::numbers::pi) + 1.0;
+    for (;;) {
+        const double turn = wave.phase + halfTurns * std::numbers::pi;
+        if (!(turn < endAngle)) {
+            break;
+        }
+        const bool top = std::fmod(halfTurns, 2.0) == 0.0;
+        edge.end = ConicPoint(conic, turn);
+        edge.endLevel = SnappedLevel(wave.center + (top ? wave.amplitude : -wave.amplitude));
+        edge.endAngle = turn;
+        boundary_.edges.push_back(edge);
+        edge.start = edge.end;
+        edge.startLevel = edge.endLevel;
+        edge.startAngle = turn;
+        halfTurns += 1.0;
+    }
+    edge.end = end;
+    edge.endLevel = Level(end);
+    edge.endAngle = endAngle;
+    boundary_.edges.push_back(edge);
+    current_ = end;
+}
+
+void BoundaryBuilder::AddChain(const BezierChain& chain) {
+    BezierStack stack(chain);
+    std::vector<double> levels(static_cast<std::size_t>(chain.degree) + 1);
+    for (std::size_t piece = 0; piece < PieceCount(chain); ++piece) {
+        stack.Push(piece, 0.0, 1.0);
+        while (!stack.IsEmpty()) {
+            const std::span<const Point> points = stack.TopPoints();
+            double greatest = 0.0;
+            for (std::size_t index = 0; index < points.size(); ++index) {
+                levels[index] = RawLevel(frame_, points[index]);
+                greatest = std::max(greatest, std::fabs(levels[index]));
+            }
+            // Steps smaller than this are rounding: no line lies between their ends.
+            const double nothing = 1e-12 + 8.0 * std::numeric_limits<double>::epsilon() * greatest;
+            bool rises = false;
+            bool falls = false;
+            for (std::size_t index = 1; index < levels.size(); ++index) {
+                rises = rises || levels[index] > levels[index - 1] + nothing;
+                falls = falls || levels[index] < levels[index - 1] - nothing;
+            }
+            if (rises && falls && stack.TopDepth() < kDeepest) {
+                stack.HalveTop();
+                continue;
+            }
+            AddBezier(points, stack.TopWeights());
+            stack.Pop();
+        }
+    }
+    current_ = chain.points.back();
+}
+
+void BoundaryBuilder::AddBezier(std::span<const Point> points, std::span<const double> weights) {
+    boundary_.edges.push_back({.start = points.front(),
+                               .end = points.back(),
+                               .startLevel = Level(points.front()),
+                               .endLevel = Level(points.back()),
+                               .shape = EdgeShape::kBezier,
+                               .index = boundary_.points.size(),
+                               .order = points.size()});
+    boundary_.points.insert(boundary_.points.end(), points.begin(), points.end());
+    if (weights.empty()) {
+        boundary_.weights.insert(boundary_.weights.end(), points.size(), 1.0);
+    } else {
+        boundary_.weights.insert(boundary_.weights.end(), weights.begin(), weights.end());
+    }
+}
+
+Point ConicCrossing(const ConicArc& conic, const MonotoneEdge& edge, const HatchFrame& frame, double level) {
+    const Wave wave = LevelWave(conic, frame);
+    const double middle = 0.5 * (edge.startAngle + edge.endAngle);
+    const double halfTurns = std::floor((middle - wave.phase) / std::numbers::pi);
+    const bool falling = std::fmod(halfTurns, 2.0) == 0.0;
+    const double cosine = std::clamp((level - wave.center) / wave.amplitude, -1.0, 1.0);
+    const double angle = wave.phase + halfTurns * std::numbers::pi + std::acos(falling ? cosine : -cosine);
+    return ConicPoint(conic, std::clamp(angle, edge.startAngle, edge.endAngle));
+}
+
+/// The Bernstein polynomial with these coefficients at `fraction`.
+double EvaluateBernstein(std::span<const double> coefficients, std::vector<double>& scratch,
+                         double fraction) {
+    scratch.assign(coefficients.begin(), coefficients.end());
+    for (std::size_t round = 1; round < scratch.size(); ++round) {
+        for (std::size_t index = 0; index + round < scratch.size(); ++index) {
+            scratch[index] = (1.0 - fraction) * scratch[index] + fraction * scratch[index + 1];
+        }
+    }
+    return scratch.front();
+}
+
+/// The fraction at which a polynomial that changes its sign once is zero: the secant of the bracket, the side
+/// that stays being halved in value (so that both sides close in), and plain halving every third time.
+double RootOf(std::span<const double> coefficients) {
+    double low = 0.0;
+    double high = 1.0;
+    double atLow = coefficients.front();
+    double atHigh = coefficients.back();
+    if (atLow == 0.0 || (atLow > 0.0) == (atHigh > 0.0)) {
+        return std::fabs(atLow) <= std::fabs(atHigh) ? 0.0 : 1.0;
+    }
+    std::vector<double> scratch;
+    int lastSide = 0;
+    for (int round = 1; round <= 150 && high - low > std::numeric_limits<double>::epsilon() * high; ++round) {
+        double middle = 0.5 * (low + high);
+        if (round % 3 != 0) {
+            const double secant = low + (high - low) * (atLow / (atLow - atHigh));
+            middle = secant > low && secant < high ? secant : middle;
+        }
+        const double value = EvaluateBernstein(coefficients, scratch, middle);
+        if (value == 0.0) {
+            return middle;
+        }
+        const int side = (value > 0.0) == (atLow > 0.0) ? -1 : 1;
+        if (side < 0) {
+            low = middle;
+            atLow = value;
+            atHigh = lastSide == side ? 0.5 * atHigh : atHigh;
+        } else {
+            high = middle;
+            atHigh = value;
+            atLow = lastSide == side ? 0.5 * atLow : atLow;
+        }
+        lastSide = side;
+    }
+    return 0.5 * (low + high);
+}
+
+Point BezierCrossing(const MonotoneBoundary& boundary, const MonotoneEdge& edge, const HatchFrame& frame,
+                     double level) {
+    const std::span<const Point> points = std::span(boundary.points).subspan(edge.index, edge.order);
+    const std::span<const double> weights = std::span(boundary.weights).subspan(edge.index, edge.order);
+    std::vector<double> above(edge.order);
+    for (std::size_t index = 0; index < edge.order; ++index) {
+        above[index] = weights[index] * (RawLevel(frame, points[index]) - level);
+    }
+    return EvaluateBezier(points, weights, RootOf(above));
+}
+
+} // namespace
+
+MonotoneBoundary MakeMonotoneBoundary(const std::vector<HatchLoop>& loops, const HatchFrame& frame) {
+    BoundaryBuilder builder(frame);
+    for (const HatchLoop& loop : loops) {
+        for (const HatchEdge& edge : loop.edges) {
+            std::visit([&](const auto& shape) { builder.Add(shape); }, edge);
+        }
+        builder.CloseLoop();
+    }
+    return builder.Take();
+}
+
+Point CrossingAt(const MonotoneBoundary& boundary, const MonotoneEdge& edge, const HatchFrame& frame,
+                 double level) {
+    if (level == edge.startLevel) {
+        return edge.start;
+    }
+    if (level == edge.endLevel) {
+        return edge.end;
+    }
+    switch (edge.shape) {
+    case EdgeShape::kConic:
+        return ConicCrossing(boundary.conics[edge.index], edge, frame, level);
+    case EdgeShape::kBezier:
+        return BezierCrossing(boundary, edge, frame, level);
+    case EdgeShape::kStraight:
+        break;
+    }
+    return Between(edge.start, edge.end, (level - edge.startLevel) / (edge.endLevel - edge.startLevel));
+}
+
+} // namespace geometry
