@@ -4,6 +4,7 @@
 #include "StyleConversion/encoding/NumberReader.h"
 #include "StyleConversion/platform/Files.h"
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -22,6 +23,7 @@ void LinParser::Clear() {
         stream_ = nullptr;
     }
     linetypes_.clear();
+    elementMemory_.release();
     fontInfos_.clear();
     shapeFiles_.clear();
     styleReferences_.clear();
@@ -64,7 +66,7 @@ LinResult LinParser::ReadLinetypes() {
 }
 
 LinResult LinParser::ReadLinetype(const char* header) {
-    LinetypeRecord& record = linetypes_.emplace_back();
+    LinetypeRecord& record = linetypes_.emplace_back(&elementMemory_);
     if (const char* const comma = std::strchr(header, ',')) {
         record.name.assign(header, comma);
         record.description = comma + 1;
@@ -84,6 +86,8 @@ LinResult LinParser::ReadPattern(LinetypeRecord& record) {
         return SyntaxError(LinFaultKind::kAlignmentMissing, cursor);
     }
     cursor += 2;
+    record.elements.reserve(1 +
+                            static_cast<std::size_t>(std::count(cursor, cursor + std::strlen(cursor), ',')));
     do {
         LinElement& element = record.elements.emplace_back();
         faultLog_.EnterPlace({reader_.LineNumber(), &record, record.elements.size()});

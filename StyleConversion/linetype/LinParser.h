@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <map>
+#include <memory_resource>
 #include <string>
 #include <vector>
 
@@ -87,6 +88,9 @@ private:
     // A syntax error that lies at `cursor`.
     LinResult SyntaxError(LinFaultKind kind, const char* cursor);
     LinResult Fault(LinResult result, LinFaultKind kind, const std::wstring& subject = {});
+
+    // Of the linetypes' elements: files may have many thousands of short lists.
+    std::pmr::monotonic_buffer_resource elementMemory_;
 
     std::FILE* stream_ = nullptr;
     std::vector<LinetypeRecord> linetypes_;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <memory_resource>
 #include <string>
 #include <vector>
 
@@ -48,12 +49,16 @@ struct LinElement {
 };
 
 struct LinetypeRecord {
+    /// The elements come from `memory`, which is borrowed.
+    explicit LinetypeRecord(std::pmr::memory_resource* memory = std::pmr::get_default_resource())
+        : elements(memory) {}
+
     /// The header's bytes between the "*" and the first comma, as written.
     std::string name;
     /// The header's bytes after that comma; empty where there is none.
     std::string description;
     /// In pattern order.
-    std::vector<LinElement> elements;
+    std::pmr::vector<LinElement> elements;
 };
 
 } // namespace LineConverter
