@@ -1,6 +1,7 @@
 #include "documents/SymbolsDocument.h"
 
 #include "StyleConversion/platform/Utf8.h"
+#include "documents/ItemText.h"
 
 #include <nlohmann/json.hpp>
 #include <string>
@@ -117,23 +118,6 @@ constexpr std::string_view kHead = "{\n"
                                    "  \"format\": \"styleconversion/symbols\",\n"
                                    "  \"version\": 1,\n"
                                    "  \"symbols\": [";
-
-constexpr int kIndent = 2;
-
-// The text of a symbol as an item of the document's list. Line ends stand only between values, never inside
-// one, so moving every line to the right is safe.
-std::string ItemText(const Json& json) {
-    const std::string text = json.dump(kIndent);
-    std::string item = "\n    ";
-    item.reserve(text.size() + text.size() / 4);
-    for (const char c : text) {
-        item += c;
-        if (c == '\n') {
-            item += "    ";
-        }
-    }
-    return item;
-}
 
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "styleconv/ListCommand.h"
 
+#include "styleconv/GlyphsCommand.h"
 #include "styleconv/InputFile.h"
 #include "styleconv/Messages.h"
 #include "styleconv/OutputFile.h"
@@ -21,6 +22,7 @@ struct Kind {
 
 constexpr Kind kKinds[] = {
     {".pat", ListPatterns},
+    {".shx", ListShapes},
 };
 
 std::string LowerExtension(const std::string& path) {

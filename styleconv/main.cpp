@@ -1,4 +1,5 @@
 // The command line of styleconv: which commands there are, and what a wrong command line gets.
+#include "styleconv/GlyphsCommand.h"
 #include "styleconv/ListCommand.h"
 #include "styleconv/PatternsCommand.h"
 
@@ -14,6 +15,7 @@ using namespace styleconv;
 
 void AddCommands(CLI::App& app, Runner& runner) {
     AddPatternsCommand(app, runner);
+    AddGlyphsCommand(app, runner);
     AddListCommand(app, runner);
 }
 

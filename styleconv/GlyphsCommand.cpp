@@ -1,0 +1,165 @@
+#include "styleconv/GlyphsCommand.h"
+
+#include "StyleConversion/platform/CodePage.h"
+#include "StyleConversion/platform/Files.h"
+#include "StyleConversion/platform/Utf8.h"
+#include "StyleConversion/shx/ShapeFileFault.h"
+#include "StyleConversion/shx/ShxUtility.h"
+#include "documents/GlyphsDocument.h"
+#include "styleconv/Messages.h"
+#include "styleconv/NumberOption.h"
+#include "styleconv/OutputFile.h"
+#include "styleconv/ShapeFileMessages.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+
+namespace styleconv {
+namespace {
+
+struct GlyphsOptions : CommonOptions {
+    std::string file;
+    std::string codePage;
+    std::vector<std::int64_t> numbers;
+    double scale = 1.0;
+    double rotation = 0.0; // degrees
+    double x = 0.0;
+    double y = 0.0;
+    bool vertical = false;
+};
+
+struct CloseFile {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+// False, after saying why, where the file is refused or has no shapes.
+bool LoadShapes(const InputFile& input, ShxUtility::ShapesInFile& file) {
+    const std::unique_ptr<std::FILE, CloseFile> stream(platform::OpenForReading(input.Path().c_str()));
+    if (!stream) {
+        Say(input.Name(), std::string("cannot be opened: ") + std::strerror(errno));
+        return false;
+    }
+    ShxUtility::ShapeFileFaultReport report;
+    if (LoadShapeFile(stream.get(), file, ShxUtility::kAllKinds, report) != ShxUtility::kSuccess) {
+        SayAtByte(input.Name(), static_cast<std::size_t>(report.offset), Sentence(report));
+        return false;
+    }
+    if (file.numberIndex.empty()) {
+        Say(input.Name(), "the file has no shapes");
+        return false;
+    }
+    return true;
+}
+
+// Positions of the shapes to draw, in the order in which they are drawn. False, after saying so, where the
+// file lacks one.
+bool ChooseShapes(const InputFile& input, const ShxUtility::ShapesInFile& file,
+                  const std::vector<std::int64_t>& numbers, std::vector<std::size_t>& positions) {
+    if (numbers.empty()) {
+        for (std::size_t i = 0; i < file.shapes.size(); ++i) {
+            // The font information is no glyph.
+            if (file.shapes[i].number != 0) {
+                positions.push_back(i);
+            }
+        }
+        return true;
+    }
+    bool complete = true;
+    for (const std::int64_t number : numbers) {
+        const bool possible = number >= 0 && number <= UINT16_MAX;
+        const auto found =
+            possible ? file.numberIndex.find(static_cast<std::uint16_t>(number)) : file.numberIndex.end();
+        if (found == file.numberIndex.end()) {
+            Say(input.Name(), "the file has no shape " + std::to_string(number));
+            complete = false;
+        } else {
+            positions.push_back(found->second);
+        }
+    }
+    return complete;
+}
+
+documents::Glyph DrawGlyph(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape,
+                           const GlyphsOptions& options) {
+    documents::Glyph glyph;
+    glyph.number = shape.number;
+    glyph.name = platform::AnsiToWide(shape.name);
+    ShxUtility::ShapeInstructions instructions;
+    glyph.result = ShxUtility::DecodeShape(instructions, shape.data.data(),
+                                           static_cast<std::uint16_t>(shape.data.size()), file.kind);
+    if (glyph.result != ShxUtility::kSuccess) {
+        return glyph;
+    }
+    glyph.endX = options.x;
+    glyph.endY = options.y;
+    double scale = options.scale;
+    ShxUtility::PositionStack positions;
+    std::vector<std::uint16_t> activeSubshapes;
+    bool penDown = true;
+    glyph.result =
+        ShxUtility::DrawShape(glyph.path, glyph.endX, glyph.endY, scale, positions, activeSubshapes, penDown,
+                              instructions, file, options.rotation, options.vertical);
+    return glyph;
+}
+
+ExitStatus Glyphs(const GlyphsOptions& options) {
+    InputFile input(options.file);
+    if (!input.Read() || !input.ProvidePath()) {
+        return kInputFault;
+    }
+    if (!ChooseCodePage(input, options.codePage)) {
+        return kUsageFault;
+    }
+    ShxUtility::ShapesInFile file;
+    std::vector<std::size_t> positions;
+    if (!LoadShapes(input, file) || !ChooseShapes(input, file, options.numbers, positions)) {
+        return kInputFault;
+    }
+    OutputFile output(options.output);
+    documents::GlyphsWriter writer(file, [&](std::string_view text) { return output.Write(text); });
+    for (const std::size_t position : positions) {
+        if (!writer.Add(DrawGlyph(file, file.shapes[position], options))) {
+            return kInputFault;
+        }
+    }
+    return writer.Finish() && output.Commit() ? kDone : kInputFault;
+}
+
+} // namespace
+
+void AddGlyphsCommand(CLI::App& app, Runner& runner) {
+    const auto options = std::make_shared<GlyphsOptions>();
+    CLI::App* const command = app.add_subcommand("glyphs", "Draw the shapes of a shape or font file");
+    command->add_option("FILE", options->file, "A .shx file, or - for standard input")->required();
+    command->add_option("--number", options->numbers, "Draw only this shape; may be given again")
+        ->type_name("N")
+        ->expected(1)
+        ->take_all();
+    AddNumberOption(*command, "--scale", options->scale, "Path units per shape unit (default: 1)");
+    AddNumberOption(*command, "--rotation", options->rotation,
+                    "Degrees by which shapes are turned counter-clockwise (default: 0)");
+    AddPointOption(*command, "--at", options->x, options->y,
+                   "Where every shape begins, in path units (default: 0,0)");
+    command->add_flag("--vertical", options->vertical, "Draw as in vertical text");
+    AddCodePageOption(*command, options->codePage);
+    AddCommonOptions(*command, *options);
+    command->callback([options, &runner] { runner = [options] { return Glyphs(*options); }; });
+}
+
+bool ListShapes(const InputFile& input, std::vector<std::string>& names) {
+    ShxUtility::ShapesInFile file;
+    if (!LoadShapes(input, file)) {
+        return false;
+    }
+    for (const ShxUtility::Shape& shape : file.shapes) {
+        if (shape.number != 0 && !shape.name.empty()) {
+            names.push_back(platform::WideToValidUtf8(platform::AnsiToWide(shape.name)));
+        }
+    }
+    return true;
+}
+
+} // namespace styleconv
