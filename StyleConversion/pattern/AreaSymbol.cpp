@@ -2,12 +2,13 @@
 #include "StyleConversion/pattern/AreaSymbol.h"
 
 #include "StyleConversion/encoding/TrimmedNumber.h"
+#include "StyleConversion/pattern/LinePath.h"
 #include "StyleConversion/pattern/PatternLimits.h"
 #include "StyleConversion/platform/CodePage.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
+#include <cstddef>
 
 namespace pattern {
 namespace {
@@ -26,13 +27,6 @@ const std::wstring kHatchAngleDefault = L"0.0";
 // The angle's display name speaks of a colour: hosts know it by this text.
 const std::wstring kHatchAngleDisplayName = L"Hatch &Color";
 const std::wstring kHatchAngleDescription = L"Rotation angle for the hatch style";
-
-// How a tile lies: its angle in degrees and its size, without signs.
-struct Tile {
-    double angle = 0.0;
-    double width = 0.0;
-    double height = 0.0;
-};
 
 Tile TileOf(const PatternLine& line) {
     return {line.rotatedTile ? 0.0 : line.angle, std::fabs(line.repeatX), std::fabs(line.repeatY)};
@@ -64,88 +58,6 @@ bool IsDrawnBefore(const PatternLine& first, const PatternLine& second) {
         }
     }
     return false;
-}
-
-void SeparateFromPrevious(std::wstring& path) {
-    if (!path.empty() && path.back() != L' ') {
-        path += L' ';
-    }
-}
-
-void AppendPair(std::wstring& path, double x, double y) {
-    encoding::AppendTrimmed(path, x);
-    path += L',';
-    encoding::AppendTrimmed(path, y);
-}
-
-void AppendHorizontal(std::wstring& path, double x, double y, double length) {
-    path += L"M ";
-    AppendPair(path, x, y);
-    path += L" h ";
-    encoding::AppendTrimmed(path, length);
-}
-
-// Turns points by the family's angle about its origin.
-class Rotation {
-public:
-    explicit Rotation(const PatternLine& line)
-        : originX_(line.originX), originY_(line.originY), cos_(std::cos(line.angle * kRadiansPerDegree)),
-          sin_(std::sin(line.angle * kRadiansPerDegree)) {}
-
-    void AppendTurned(std::wstring& path, double x, double y) const {
-        AppendPair(path, (x - originX_) * cos_ - (y - originY_) * sin_ + originX_,
-                   (x - originX_) * sin_ + (y - originY_) * cos_ + originY_);
-    }
-
-private:
-    double originX_;
-    double originY_;
-    double cos_;
-    double sin_;
-};
-
-void AppendTurnedDash(std::wstring& path, const Rotation& rotation, double x, double y, double length) {
-    path += L"M ";
-    rotation.AppendTurned(path, x, y);
-    path += L" L ";
-    rotation.AppendTurned(path, x + length, y);
-}
-
-// From the drawing's frame into the family's own, in which its lines run along the x axis.
-void TurnOriginIntoOwnFrame(PatternLine& line) {
-    const double radians = -line.angle * kRadiansPerDegree;
-    const double c = std::cos(radians);
-    const double s = std::sin(radians);
-    const double x = line.originX;
-    const double y = line.originY;
-    line.originX = x * c - y * s;
-    line.originY = x * s + y * c;
-}
-
-// Calls draw(x, y, length) for every dash and dot of one row.
-template <class Draw>
-void WalkDashes(const PatternLine& line, double x, double y, Draw draw) {
-    for (const double dash : line.dashes) {
-        if (dash >= 0) {
-            draw(x, y, dash);
-        }
-        x += std::fabs(dash);
-    }
-}
-
-void AppendRow(std::wstring& path, const PatternLine& line, const Rotation& rotation, double x, double y) {
-    if (line.dashes.empty()) {
-        AppendHorizontal(path, x, y, line.repeatX);
-    } else {
-        WalkDashes(line, x, y, [&](double startX, double startY, double length) {
-            SeparateFromPrevious(path);
-            if (line.rotatedTile) {
-                AppendTurnedDash(path, rotation, startX, startY, length);
-            } else {
-                AppendHorizontal(path, startX, startY, length);
-            }
-        });
-    }
 }
 
 void AdoptParameter(SimpleSymbolDefinition& definition, const std::wstring& identifier,
@@ -192,56 +104,8 @@ void AdoptPath(SimpleSymbolDefinition& definition, const std::wstring& geometry)
     definition.GetGraphics().Adopt(path.release());
 }
 
-using Definitions = std::vector<std::unique_ptr<SimpleSymbolDefinition>>;
-
-// Collects the families of a pattern, in their sorted order, into one definition for each group.
-class Grouping {
-public:
-    explicit Grouping(const std::wstring& name) : name_(name) {}
-
-    void Take(PatternLine& line) {
-        if (line.rowCount < 0) {
-            return;
-        }
-        const Tile tile = TileOf(line);
-        if (IsSameTile(tile, previous_)) {
-            const std::wstring more = BuildLinePath(line);
-            if (!more.empty()) {
-                path_ += L' ';
-                path_ += more;
-            }
-        } else {
-            if (!path_.empty()) {
-                FlushPath();
-            }
-            definitions_.push_back(MakeDefinition(name_, tile));
-            path_ = BuildLinePath(line);
-        }
-        previous_ = tile;
-    }
-
-    // The last group has a path even when nothing is drawn by it.
-    Definitions Finish() {
-        FlushPath();
-        return std::move(definitions_);
-    }
-
-private:
-    // A family whose angle and tile are all but 0 joins the group before the first: its path has no symbol
-    // to go to and is dropped, which is wanted.
-    void FlushPath() {
-        if (!definitions_.empty()) {
-            AdoptPath(*definitions_.back(), path_);
-        }
-    }
-
-    const std::wstring& name_;
-    Definitions definitions_;
-    std::wstring path_;
-    Tile previous_;
-};
-
-std::unique_ptr<SymbolDefinition> MakeCompound(const std::wstring& name, Definitions definitions) {
+std::unique_ptr<SymbolDefinition>
+MakeCompound(const std::wstring& name, std::vector<std::unique_ptr<SimpleSymbolDefinition>>& definitions) {
     auto compound = std::make_unique<TylModel::CompoundSymbolDefinition>();
     compound->SetName(name);
     for (std::unique_ptr<SimpleSymbolDefinition>& definition : definitions) {
@@ -254,37 +118,62 @@ std::unique_ptr<SymbolDefinition> MakeCompound(const std::wstring& name, Definit
 
 } // namespace
 
-std::unique_ptr<SymbolDefinition> BuildAreaSymbol(const std::string& name, std::vector<PatternLine>& lines) {
-    if (lines.empty()) {
-        return nullptr;
-    }
+std::unique_ptr<SymbolDefinition> AreaSymbolBuilder::Build(const std::string& name,
+                                                           std::vector<PatternLine>& lines) {
     std::stable_sort(lines.begin(), lines.end(), IsDrawnBefore);
-    const std::wstring wideName = platform::AnsiToWide(name);
-    Grouping grouping(wideName);
+    name_ = platform::AnsiToWide(name);
+    definitions_.clear();
+    path_.clear();
+    previous_ = {};
     for (PatternLine& line : lines) {
-        grouping.Take(line);
+        Take(line);
     }
-    Definitions definitions = grouping.Finish();
-    if (definitions.empty()) {
+    if (definitions_.empty()) {
         return nullptr;
     }
-    if (definitions.size() == 1) {
-        return std::move(definitions.front());
+    AdoptPath(*definitions_.back(), path_); // though it may be empty
+    if (definitions_.size() == 1) {
+        return std::move(definitions_.front());
     }
-    return MakeCompound(wideName, std::move(definitions));
+    return MakeCompound(name_, definitions_);
 }
 
-std::wstring BuildLinePath(PatternLine& line) {
-    if (!line.rotatedTile) {
-        TurnOriginIntoOwnFrame(line);
+void AreaSymbolBuilder::Take(PatternLine& line) {
+    if (line.rowCount < 0) {
+        return;
     }
-    const Rotation rotation(line);
-    std::wstring path;
-    for (std::int32_t row = 0; row < line.rowCount; ++row) {
-        SeparateFromPrevious(path);
-        AppendRow(path, line, rotation, row * line.offset + line.originX, row * line.spacing + line.originY);
+    const Tile tile = TileOf(line);
+    if (IsSameTile(tile, previous_)) {
+        JoinGroup(line);
+    } else {
+        StartGroup(line, tile);
     }
-    return path;
+    previous_ = tile;
+}
+
+// A family whose angle and tile are all but 0 comes here before there is a group: its path will have no
+// symbol to go to, which is wanted. The blank is written even behind an empty path, but not for a family that
+// draws nothing.
+void AreaSymbolBuilder::JoinGroup(PatternLine& line) {
+    path_ += L' ';
+    const std::size_t start = path_.size();
+    AppendLinePath(path_, line);
+    if (path_.size() == start) {
+        path_.pop_back();
+    }
+}
+
+void AreaSymbolBuilder::StartGroup(PatternLine& line, const Tile& tile) {
+    if (!definitions_.empty() && !path_.empty()) {
+        AdoptPath(*definitions_.back(), path_);
+    }
+    definitions_.push_back(MakeDefinition(name_, tile));
+    path_.clear();
+    AppendLinePath(path_, line);
+}
+
+std::unique_ptr<SymbolDefinition> BuildAreaSymbol(const std::string& name, std::vector<PatternLine>& lines) {
+    return AreaSymbolBuilder().Build(name, lines);
 }
 
 } // namespace pattern

@@ -10,17 +10,38 @@
 
 namespace pattern {
 
-/// A simple symbol with one path and one area usage for each group of families that share an angle and a
-/// tile; a compound of them where there are several groups. Null when no family has a tile. `name` is in the
-/// ANSI code page.
-///
-/// Sorts `lines`, and turns the origins of those that it draws in their own frame: another symbol made from
-/// the same lines differs, which is wanted.
+/// How a tile lies: its angle in degrees and its size, without signs.
+struct Tile {
+    double angle = 0.0;
+    double width = 0.0;
+    double height = 0.0;
+};
+
+/// Builds the symbols of any number of patterns, one after another, in the same memory for their paths.
+class AreaSymbolBuilder {
+public:
+    /// A simple symbol with one path and one area usage for each group of families that share an angle and a
+    /// tile; a compound of them where there are several groups. Null when no family has a tile. `name` is in
+    /// the ANSI code page.
+    ///
+    /// Sorts `lines`, and turns the origins of those that it draws in their own frame: another symbol made
+    /// from the same lines differs, which is wanted.
+    std::unique_ptr<TylModel::SymbolDefinition> Build(const std::string& name,
+                                                      std::vector<PatternLine>& lines);
+
+private:
+    void Take(PatternLine& line);
+    void JoinGroup(PatternLine& line);
+    void StartGroup(PatternLine& line, const Tile& tile);
+
+    std::wstring name_;
+    std::vector<std::unique_ptr<TylModel::SimpleSymbolDefinition>> definitions_; // one for each group
+    std::wstring path_;                                                          // of the last group
+    Tile previous_;                                                              // of the line before
+};
+
+/// What AreaSymbolBuilder::Build makes of one pattern.
 std::unique_ptr<TylModel::SymbolDefinition> BuildAreaSymbol(const std::string& name,
                                                             std::vector<PatternLine>& lines);
-
-/// The path of one family inside its tile: "M x,y h length" for each dash of each row, or "M x,y L x,y" where
-/// the tile is rotated. Turns the line's origin unless the tile is rotated.
-std::wstring BuildLinePath(PatternLine& line);
 
 } // namespace pattern

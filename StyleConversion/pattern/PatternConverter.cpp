@@ -6,6 +6,7 @@
 
 #include <utility>
 
+// NOLINTNEXTLINE(modernize-pass-by-value): hosts link to this signature.
 PatternConverter::PatternConverter(const std::wstring& fileName) : fileName_(fileName) {}
 
 PatternConverter::~PatternConverter() = default;
@@ -40,8 +41,9 @@ void PatternConverter::ConvertAll(std::vector<TylModel::SymbolDefinition*>& symb
     LoadFile();
     symbols.clear();
     symbols.reserve(patterns_.size()); // so that no symbol is lost for want of memory
+    pattern::AreaSymbolBuilder builder;
     for (auto& [name, lines] : patterns_) {
-        if (auto symbol = pattern::BuildAreaSymbol(name, lines)) {
+        if (auto symbol = builder.Build(name, lines)) {
             symbols.push_back(symbol.release());
         }
     }

@@ -3,18 +3,71 @@
 
 #include "StyleConversion/pattern/PatternLimits.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace pattern {
 namespace {
 
+bool IsNearInteger(double value) {
+    return std::fabs(value - std::floor(value + 0.5)) < kLatticeTolerance;
+}
+
+// The first n from `first` to `last` for which n * step is nearly a whole number, or 0.
+int FirstNearInteger(double step, int first, int last) {
+    for (int n = first; n <= last; ++n) {
+        if (IsNearInteger(n * step)) {
+            return n;
+        }
+    }
+    return 0;
+}
+
+// Finds the multiples of a step that may be nearly whole numbers, several at a time. It works on the
+// fraction of the step in units of 2^-32, where unsigned arithmetic drops whole numbers by itself.
+class NearIntegerSieve {
+public:
+    static constexpr int kBlock = 16;
+
+    // Multiples of steps below this are exact to 2^-28, which the slack covers.
+    static bool Takes(double step) { return std::fabs(step) < 65536.0; }
+
+    explicit NearIntegerSieve(double step)
+        : fraction_(static_cast<std::uint32_t>(static_cast<std::int64_t>(step * kUnits))) {}
+
+    // False when none of the kBlock multiples from `first` on is nearly a whole number.
+    bool MayHold(int first) const {
+        const std::uint32_t start = static_cast<std::uint32_t>(first) * fraction_ + kNear;
+        std::uint32_t hits = 0;
+        for (std::uint32_t i = 0; i < kBlock; ++i) {
+            hits |= start + i * fraction_ <= 2 * kNear ? 1 : 0;
+        }
+        return hits != 0;
+    }
+
+private:
+    static constexpr double kUnits = 4294967296.0;
+    // Truncating the fraction costs up to one unit in each of the multiples.
+    static constexpr double kSlack = 4.0 * kLatticeSearch / kUnits;
+    static constexpr auto kNear = static_cast<std::uint32_t>((kLatticeTolerance + kSlack) * kUnits);
+
+    std::uint32_t fraction_;
+};
+
 // The first n, from 1 on, for which n * step is nearly a whole number; 0 when the search ends without one.
 int FirstNearInteger(double step) {
-    for (int n = 1; n <= kLatticeSearch; ++n) {
-        const double v = n * step;
-        if (std::fabs(v - std::floor(v + 0.5)) < kLatticeTolerance) {
-            return n;
+    if (!NearIntegerSieve::Takes(step)) {
+        return FirstNearInteger(step, 1, kLatticeSearch);
+    }
+    const NearIntegerSieve sieve(step);
+    for (int first = 1; first <= kLatticeSearch; first += NearIntegerSieve::kBlock) {
+        if (sieve.MayHold(first)) {
+            const int last = std::min(first + NearIntegerSieve::kBlock - 1, kLatticeSearch);
+            if (const int n = FirstNearInteger(step, first, last); n != 0) {
+                return n;
+            }
         }
     }
     return 0;

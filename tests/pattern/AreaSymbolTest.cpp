@@ -4,6 +4,7 @@
 #include "StyleConversion/pattern/AreaSymbol.h"
 #include "StyleConversion/pattern/PatternFile.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -13,26 +14,17 @@
 namespace {
 
 using pattern::BuildAreaSymbol;
-using pattern::BuildLinePath;
 using pattern::ParsePatternLine;
 using pattern::PatternLine;
 
 class AreaSymbol : public PatternTest {};
-class LinePath : public PatternTest {};
 
 // The symbol of the families that the texts define, described; empty for none.
 std::string Convert(const std::vector<const char*>& families) {
-    std::vector<PatternLine> lines;
-    for (const char* const family : families) {
-        lines.push_back(ParsePatternLine(family));
-    }
+    std::vector<PatternLine> lines(families.size());
+    std::transform(families.begin(), families.end(), lines.begin(), ParsePatternLine);
     const Symbol symbol = BuildAreaSymbol("P", lines);
     return symbol ? Describe(*symbol) : "";
-}
-
-std::wstring PathOf(const char* family) {
-    PatternLine line = ParsePatternLine(family);
-    return BuildLinePath(line);
 }
 
 TEST_F(AreaSymbol, OfOneContinuousFamilyIsSimple) {
@@ -283,65 +275,6 @@ TEST_F(AreaSymbol, SortsFamiliesWhoseTileIsNoNumber) {
         EXPECT_LT(lines[i - 1].repeatX, lines[i].repeatX);
     }
     EXPECT_TRUE(std::isnan(lines[40].repeatX));
-}
-
-TEST_F(LinePath, DrawsEveryRowOfAStack) {
-    EXPECT_EQ(PathOf("0,1,2,0.25,1,0.5,-0.5"),
-              L"M 1.0,2.0 h 0.5 M 1.25,3.0 h 0.5 M 1.5,4.0 h 0.5 M 1.75,5.0 h 0.5");
-}
-
-TEST_F(LinePath, AdvancesOverGaps) {
-    EXPECT_EQ(PathOf("0,0,0,0,1,0.5,-0.5"), L"M 0.0,0.0 h 0.5");
-    EXPECT_EQ(PathOf("0,0,0,0,1,-1,2,-3,4,-5"), L"M 1.0,0.0 h 2.0 M 6.0,0.0 h 4.0");
-}
-
-TEST_F(LinePath, SeparatesRowsAndDashesByOneBlank) {
-    EXPECT_EQ(PathOf("0,0,0,5,1,-1,2,-3,4"),
-              L"M 1.0,0.0 h 2.0 M 6.0,0.0 h 4.0 M 6.0,1.0 h 2.0 M 11.0,1.0 h 4.0");
-}
-
-TEST_F(LinePath, DrawsADotAsAZeroLengthSegment) {
-    EXPECT_EQ(PathOf("0,0,0,0,1,0,-1"), L"M 0.0,0.0 h 0.0");
-    EXPECT_EQ(PathOf("0,0,0,0,1,-0,-1"), L"M 0.0,0.0 h -0.0"); // a negative zero is a dot too
-}
-
-TEST_F(LinePath, OfAContinuousFamilySpansTheTile) {
-    EXPECT_EQ(PathOf("0,1,2,0,1"), L"M 1.0,2.0 h 10.0");
-}
-
-TEST_F(LinePath, OfNothingButAGapIsEmpty) {
-    EXPECT_EQ(PathOf("0,0,0,0,1,-1"), L"");
-    EXPECT_EQ(PathOf("0,0,0,0,1,-1,-2"), L"");
-}
-
-TEST_F(LinePath, InARotatedTileIsTurnedAboutItsOrigin) {
-    // 45 degrees from (1, 2): a dash of 1 ends at (1 + sqrt(0.5), 2 + sqrt(0.5)).
-    // 1.70711 is cut at its zero decimal to 1.7; 2.70711 likewise.
-    EXPECT_EQ(PathOf("45,1,2,1,1,1,-1"), L"M 1.0,2.0 L 1.7,2.7");
-}
-
-TEST_F(LinePath, InARotatedTileKeepsTheOriginItself) {
-    PatternLine line = ParsePatternLine("45,1,2,1,1,1,-1");
-    BuildLinePath(line);
-    EXPECT_EQ(line.originX, 1.0);
-    EXPECT_EQ(line.originY, 2.0);
-}
-
-TEST_F(LinePath, WritesNegativeZeros) {
-    // Turning (-0, -0) by -0 degrees: x' = -0 * 1 - -0 * -0 = -0, y' = -0 * -0 + -0 * 1 = 0. To x the first
-    // row adds 0 * offset, and the shift of -3 in a cycle of 1 is an offset of -0.
-    EXPECT_EQ(PathOf("0,-0,-0,-3,1,0.5,-0.5"), L"M -0.0,0.0 h 0.5");
-    EXPECT_EQ(PathOf("0,-0,-0,3,1,0.5,-0.5"), L"M 0.0,0.0 h 0.5");
-}
-
-TEST_F(LinePath, RoundsASmallNegativeNumberToANegativeZero) {
-    EXPECT_EQ(PathOf("0,-0.000001,-0.000001,0,1"), L"M -0.0,-0.0 h 10.0");
-}
-
-TEST_F(LinePath, WritesNumbersThatAreNotFinite) {
-    PatternLine line;
-    line.repeatX = std::numeric_limits<double>::infinity();
-    EXPECT_EQ(BuildLinePath(line), L"M 0.0,0.0 h inf");
 }
 
 } // namespace

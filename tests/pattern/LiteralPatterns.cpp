@@ -56,7 +56,7 @@ LiteralPatterns::Family LiteralPatterns::ParseFamily(const std::string& line) {
     std::string rest = line + ",";
     while (!rest.empty()) {
         const std::size_t comma = rest.find(',');
-        numbers.push_back(std::atof(rest.substr(0, comma).c_str()));
+        numbers.push_back(std::strtod(rest.substr(0, comma).c_str(), nullptr));
         rest = rest.substr(comma + 1);
     }
     while (numbers.size() < 5) {

@@ -26,16 +26,6 @@ std::string ConvertOne(PatternConverter& converter, const std::wstring& name) {
     return symbol ? Describe(*symbol) : "null";
 }
 
-std::vector<std::string> ConvertAll(PatternConverter& converter) {
-    std::vector<TylModel::SymbolDefinition*> symbols;
-    converter.ConvertAll(symbols);
-    std::vector<std::string> descriptions;
-    for (TylModel::SymbolDefinition* const symbol : symbols) {
-        descriptions.push_back(Describe(*Symbol(symbol)));
-    }
-    return descriptions;
-}
-
 const std::string kSymbolA = "simple A\narea %HATCHANGLE% 10.0 1.0\npath M 0.0,0.0 h 10.0\n";
 const std::string kSymbolB = "simple B\narea %HATCHANGLE% 10.0 2.0\npath M 0.0,0.0 h 10.0\n";
 

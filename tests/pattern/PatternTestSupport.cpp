@@ -1,7 +1,6 @@
 // Symbols are read through visitors, as a host would read them.
 #include "PatternTestSupport.h"
 
-#include "StyleConversion/pattern/PatternConverter.h"
 #include "StyleConversion/platform/Utf8.h"
 
 #include <fstream>
@@ -102,6 +101,17 @@ std::string Describe(TylModel::SymbolDefinition& symbol) {
         }
     }
     return text;
+}
+
+std::vector<std::string> ConvertAll(PatternConverter& converter) {
+    std::vector<TylModel::SymbolDefinition*> symbols;
+    converter.ConvertAll(symbols);
+    std::vector<std::string> descriptions;
+    descriptions.reserve(symbols.size());
+    for (TylModel::SymbolDefinition* const symbol : symbols) {
+        descriptions.push_back(Describe(*Symbol(symbol)));
+    }
+    return descriptions;
 }
 
 void PatternTest::TearDown() {

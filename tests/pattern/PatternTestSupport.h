@@ -1,6 +1,7 @@
 // What the tests of patterns share: files that clean up, symbols as text, a watch over unowned objects.
 #pragma once
 
+#include "StyleConversion/pattern/PatternConverter.h"
 #include "TylModel/TylModel.h"
 
 #include <gtest/gtest.h>
@@ -41,6 +42,9 @@ std::vector<std::wstring> Geometries(const TylModel::SimpleSymbolDefinition& def
 /// A symbol in lines of text: its kind and name, then for each simple definition "area" with the usage's
 /// three values and "path" with the geometry.
 std::string Describe(TylModel::SymbolDefinition& symbol);
+
+/// Describes the symbols that the converter's ConvertAll gives, and deletes them.
+std::vector<std::string> ConvertAll(PatternConverter& converter);
 
 /// Fails a test that leaves objects of the symbol model behind, in builds that count them.
 class PatternTest : public ::testing::Test {

@@ -2,8 +2,6 @@
 #include "LiteralPatterns.h"
 #include "PatternTestSupport.h"
 
-#include "StyleConversion/pattern/PatternConverter.h"
-
 #include <random>
 
 namespace {
@@ -82,16 +80,6 @@ private:
     std::mt19937_64 random_{20240611};
 };
 
-std::vector<std::string> ConvertAll(PatternConverter& converter) {
-    std::vector<TylModel::SymbolDefinition*> symbols;
-    converter.ConvertAll(symbols);
-    std::vector<std::string> descriptions;
-    for (TylModel::SymbolDefinition* const symbol : symbols) {
-        descriptions.push_back(Describe(*Symbol(symbol)));
-    }
-    return descriptions;
-}
-
 TEST_F(RandomPatterns, ConvertAsThePlainImplementationConvertsThem) {
     std::size_t symbols = 0;
     for (int round = 0; round < 150; ++round) {
@@ -106,6 +94,16 @@ TEST_F(RandomPatterns, ConvertAsThePlainImplementationConvertsThem) {
         }
     }
     EXPECT_GT(symbols, 5000U); // most patterns become symbols, so that something is compared
+}
+
+TEST_F(RandomPatterns, FindTheTilesThatTryingEveryMultipleFinds) {
+    std::string text = "*P,\n";
+    for (int i = 0; i < 30000; ++i) {
+        text += LatticeFamily() + "\n" + Family() + "\n";
+    }
+    const TemporaryFile file(text);
+    PatternConverter converter(file.GetName());
+    EXPECT_TRUE(ConvertAll(converter) == LiteralPatterns(text).ConvertAll()); // too long to be printed
 }
 
 } // namespace
