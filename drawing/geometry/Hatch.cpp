@@ -16,7 +16,7 @@ namespace geometry {
 
 namespace {
 
-/// Takes in every number of a hatch: the first fault, and how large the coordinates are.
+/// Takes in every number of a hatch: the first fault, and how large the boundary's coordinates are.
 class NumberCheck {
 public:
     void Take(std::initializer_list<double> values) {
@@ -83,7 +83,8 @@ struct SweptEdge {
     std::size_t edge = 0;
 };
 
-/// Where a line meets the boundary: the distance along it from its origin, and the point.
+/// Where a line meets the boundary. Distances along lines count from a point of the boundary, not from the
+/// line's origin: that may be so far away that it would swallow them, and only dashes care for it.
 struct Crossing {
     double distance = 0.0;
     Point point;
@@ -94,7 +95,7 @@ public:
     FamilyHatcher(const HatchFrame& frame, const std::vector<double>& dashes, double magnitude,
                   std::vector<HatchLine>& lines)
         : frame_(frame), isDashed_(!dashes.empty()), cycle_(MakeDashCycle(dashes)), magnitude_(magnitude),
-          lines_(lines) {}
+          rounding_(RoundingAt(magnitude + std::fabs(Dot(frame.normal, frame.base)))), lines_(lines) {}
 
     Status Run(const std::vector<HatchLoop>& loops);
 
@@ -105,13 +106,17 @@ private:
     Status DrawBetween(const Crossing& start, const Crossing& end, Point origin);
     Status AddLine(Point start, Point end);
     Crossing MakeCrossing(std::size_t edge, double line, Point origin) const;
-    Point WithoutNoise(Point point) const;
+    static Point WithoutNoise(Point point, double noise);
+    static double RoundingAt(double magnitude) {
+        return 16.0 * std::numeric_limits<double>::epsilon() * magnitude;
+    }
 
     const HatchFrame& frame_;
     bool isDashed_;
     DashCycle cycle_;
-    double magnitude_;
-    double rounding_ = 0.0; ///< coordinates and distances on the current line smaller than this are noise
+    double magnitude_; ///< of the boundary's coordinates
+    double rounding_;  ///< coordinates and distances smaller than this are noise
+    Point reference_;  ///< where distances along lines count from
     std::vector<HatchLine>& lines_;
     MonotoneBoundary boundary_;
     std::vector<SweptEdge> swept_;
@@ -156,6 +161,9 @@ Status FamilyHatcher::Run(const std::vector<HatchLoop>& loops) {
     if (const Status status = SortEdges(); status != Status::kOk) {
         return status;
     }
+    if (!swept_.empty()) {
+        reference_ = boundary_.edges[swept_.front().edge].start;
+    }
     std::vector<std::size_t> active; // positions in swept_
     std::vector<std::size_t> crossed;
     std::size_t next = 0;
@@ -188,7 +196,7 @@ Crossing FamilyHatcher::MakeCrossing(std::size_t edge, double line, Point origin
     } else if (frame_.direction.x == 0.0) {
         point.x = origin.x;
     }
-    return {Dot(frame_.direction, point - origin), point};
+    return {Dot(frame_.direction, point - reference_), point};
 }
 
 /// Takes the crossings in pairs, drops pairs that only touch, and joins pairs that meet.
@@ -214,8 +222,6 @@ void FamilyHatcher::PairCrossings() {
 
 Status FamilyHatcher::HatchOneLine(double line, const std::vector<std::size_t>& crossed) {
     const Point origin = LineOrigin(frame_, line);
-    const double magnitude = std::max(magnitude_, std::max(std::fabs(origin.x), std::fabs(origin.y)));
-    rounding_ = 16.0 * std::numeric_limits<double>::epsilon() * magnitude;
     crossings_.clear();
     for (const std::size_t edge : crossed) {
         crossings_.push_back(MakeCrossing(edge, line, origin));
@@ -232,19 +238,23 @@ Status FamilyHatcher::HatchOneLine(double line, const std::vector<std::size_t>& 
 
 Status FamilyHatcher::DrawBetween(const Crossing& start, const Crossing& end, Point origin) {
     if (!isDashed_) {
-        return AddLine(start.point, end.point);
+        return AddLine(WithoutNoise(start.point, rounding_), WithoutNoise(end.point, rounding_));
     }
+    const double shift = Dot(frame_.direction, reference_ - origin);
+    const double from = start.distance + shift;
+    const double to = end.distance + shift;
+    const double rounding = RoundingAt(magnitude_ + std::fabs(origin.x) + std::fabs(origin.y));
     stretches_.clear();
-    const DashResult result = LayDashes(cycle_, start.distance, end.distance, rounding_,
-                                        kMaximumHatchLines - lines_.size(), stretches_);
+    const DashResult result =
+        LayDashes(cycle_, from, to, rounding, kMaximumHatchLines - lines_.size(), stretches_);
     if (result != DashResult::kOk) {
         return result == DashResult::kTooMany ? Status::kTooManyLines : Status::kOutOfRange;
     }
     const auto at = [&](double distance) {
-        if (distance == start.distance) {
-            return start.point;
+        if (distance == from || distance == to) {
+            return WithoutNoise(distance == from ? start.point : end.point, rounding_);
         }
-        return distance == end.distance ? end.point : origin + distance * frame_.direction;
+        return WithoutNoise(origin + distance * frame_.direction, rounding);
     };
     for (const Stretch& stretch : stretches_) {
         if (const Status status = AddLine(at(stretch.start), at(stretch.end)); status != Status::kOk) {
@@ -254,15 +264,15 @@ Status FamilyHatcher::DrawBetween(const Crossing& start, const Crossing& end, Po
     return Status::kOk;
 }
 
-Point FamilyHatcher::WithoutNoise(Point point) const {
-    return {std::fabs(point.x) <= rounding_ ? 0.0 : point.x, std::fabs(point.y) <= rounding_ ? 0.0 : point.y};
+Point FamilyHatcher::WithoutNoise(Point point, double noise) {
+    return {std::fabs(point.x) <= noise ? 0.0 : point.x, std::fabs(point.y) <= noise ? 0.0 : point.y};
 }
 
 Status FamilyHatcher::AddLine(Point start, Point end) {
     if (lines_.size() == kMaximumHatchLines) {
         return Status::kTooManyLines;
     }
-    lines_.push_back({WithoutNoise(start), WithoutNoise(end)});
+    lines_.push_back({start, end});
     return Status::kOk;
 }
 
@@ -274,8 +284,7 @@ NumberCheck CheckNumbers(const std::vector<HatchLoop>& loops, const std::vector<
         }
     }
     for (const HatchFamily& family : families) {
-        check.TakePoint(family.base);
-        check.Take({family.angle, family.offset.x, family.offset.y});
+        check.Take({family.angle, family.base.x, family.base.y, family.offset.x, family.offset.y});
         for (const double dash : family.dashes) {
             check.Take({dash});
         }

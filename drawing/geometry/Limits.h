@@ -33,8 +33,8 @@ inline constexpr std::size_t kMaximumHatchLines = 1000000;
 /// make a line, so only loops on top of each other, or very sparse dots, reach it below the limit of lines.
 inline constexpr std::size_t kMaximumHatchCrossings = 8000000;
 
-/// Largest distance from a family's base point that still gives a meaningful line number or dash number, in
-/// spacings or pattern lengths: whole numbers beyond 2^53 are not exact.
-inline constexpr double kMaximumRepeats = 1e15;
+/// Largest distance from a family's base point, in spacings or pattern lengths: beyond it doubles no longer
+/// tell where between two lines, or in which part of the pattern, a point lies.
+inline constexpr double kMaximumRepeats = 1e12;
 
 } // namespace geometry
