@@ -86,10 +86,15 @@ Oxsys::ErrorStatus SortentsTable::getFullDrawOrder(OxDbObjectIdArray& ids,
     return status;
 }
 
-BlockRecord::BlockRecord(Core& core, const std::wstring& name, const BlockData& data)
-    : NamedRecord(core, name), data_(data), name_(core.names.Intern(name)) {}
+BlockRecord::BlockRecord(Core& core) : NamedRecord(core, {}), nameIndex_(core.names.Intern({})) {}
 
 BlockRecord::~BlockRecord() = default;
+
+void BlockRecord::Set(const std::wstring& name, const BlockData& data) {
+    SetName(name);
+    nameIndex_ = SharedCore().names.Intern(name);
+    data_ = data;
+}
 
 void BlockRecord::SetDrawOrder(std::vector<OxDbObjectId> order) {
     sortentsTable_ = std::make_unique<SortentsTable>(SharedCore(), std::move(order));
@@ -109,7 +114,7 @@ Oxsys::ErrorStatus BlockRecord::newIterator(OxDbBlockTableRecordIterator*& itera
 }
 
 Oxsys::ErrorStatus BlockRecord::newBlockReferenceIdIterator(OxDbBlockReferenceIdIterator*& iterator) const {
-    const std::vector<OxDbStub*>& references = SharedCore().names.Things(name_).references;
+    const std::vector<OxDbStub*>& references = SharedCore().names.Things(nameIndex_).references;
     return MakeIterator<ReferenceIterator>(SharedCore(), Operation::kNewBlockReferenceIterator,
                                            ListWalk(references, true, false), iterator);
 }

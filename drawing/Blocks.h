@@ -29,8 +29,10 @@ private:
 
 class OXDB_API BlockRecord : public NamedRecord<OxDbBlockTableRecord, Operation::kBlockGetName> {
 public:
-    BlockRecord(Core& core, const std::wstring& name, const BlockData& data);
+    explicit BlockRecord(Core& core);
     ~BlockRecord() override;
+
+    void Set(const std::wstring& name, const BlockData& data);
 
     /// Adds an entity of the model's class T, or of one derived from it, at the end of the block:
     /// `block.Add<Line>(properties, start, end)`. It belongs to the block.
@@ -55,7 +57,7 @@ public:
 
 private:
     BlockData data_;
-    NameIndex name_;
+    NameIndex nameIndex_;
     ObjectList entities_;
     std::unique_ptr<SortentsTable> sortentsTable_;
 };

@@ -26,10 +26,7 @@ Oxsys::ErrorStatus Polyline::getArcSegAt(unsigned int index, OxGeCircArc3d& segm
     return Fails(Operation::kGetArcSegAt, status) ? status : OxDbPolyline::getArcSegAt(index, segment);
 }
 
-Spline::Spline(Core& core, const EntityProperties& properties, FitData data)
-    : ResidentCurve(core, properties), data_(std::move(data)) {}
-
-Spline::Spline(Core& core, const EntityProperties& properties, NurbsData data)
+Spline::Spline(Core& core, const EntityProperties& properties, SplineData data)
     : ResidentCurve(core, properties), data_(std::move(data)) {}
 
 Spline::~Spline() = default;

@@ -26,8 +26,7 @@ public:
 
 class OXDB_API Spline : public ResidentCurve<OxDbSpline> {
 public:
-    Spline(Core& core, const EntityProperties& properties, FitData data);
-    Spline(Core& core, const EntityProperties& properties, NurbsData data);
+    Spline(Core& core, const EntityProperties& properties, SplineData data);
     ~Spline() override;
 
     bool hasFitData() const override { return std::holds_alternative<FitData>(data_); }

@@ -92,11 +92,21 @@ TextStyleRecord* Database::AddTextStyle(const std::wstring& name, TextStyleData 
 }
 
 BlockRecord* Database::AddBlock(const std::wstring& name, const BlockData& data) {
+    return AddBlock(name, data, MakeBlock());
+}
+
+std::unique_ptr<BlockRecord> Database::MakeBlock() {
+    return std::make_unique<BlockRecord>(*core_);
+}
+
+BlockRecord* Database::AddBlock(const std::wstring& name, const BlockData& data,
+                                std::unique_ptr<BlockRecord> block) {
     NamedThings& things = core_->names.Things(core_->names.Intern(name));
     if (things.block != nullptr) {
         return nullptr;
     }
-    BlockRecord& record = tables_->blockTable.Adopt(std::make_unique<BlockRecord>(*core_, name, data));
+    block->Set(name, data);
+    BlockRecord& record = tables_->blockTable.Adopt(std::move(block));
     things.block = &record.Stub();
     return &record;
 }

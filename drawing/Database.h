@@ -31,6 +31,12 @@ public:
     TextStyleRecord* AddTextStyle(const std::wstring& name, TextStyleData data);
     BlockRecord* AddBlock(const std::wstring& name, const BlockData& data = {});
 
+    /// A block that is filled before its name is known, and added then. When the name is taken, null comes
+    /// back and the block is deleted with its entities.
+    std::unique_ptr<BlockRecord> MakeBlock();
+    BlockRecord* AddBlock(const std::wstring& name, const BlockData& data,
+                          std::unique_ptr<BlockRecord> block);
+
     /// Marks the object as erased: it is then opened only where erased objects may be.
     static void Erase(OxDbObjectId id) { id.stub()->erased = true; }
     /// Lets the object answer that it is not resident; it can be opened as before.

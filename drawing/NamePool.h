@@ -1,6 +1,7 @@
 // Every name of a drawing is kept once; what the tables have under it is found from there.
 #pragma once
 
+#include "OxDb/Export.h"
 #include "drawing/CaseFolding.h"
 
 #include <cstdint>
@@ -26,7 +27,7 @@ struct NamedThings {
     std::vector<OxDbStub*> references; // inserts of the block of this name, in order of creation
 };
 
-class NamePool {
+class OXDB_API NamePool {
 public:
     /// The index of the name, which is added when it is new.
     NameIndex Intern(std::wstring_view name);

@@ -27,6 +27,7 @@ public:
 
 protected:
     NamedRecord(Core& core, std::wstring name) : Resident<Interface>(core), name_(std::move(name)) {}
+    void SetName(std::wstring name) { name_ = std::move(name); }
 
 private:
     std::wstring name_;

@@ -35,6 +35,6 @@ struct NurbsData {
 using SplineData = std::variant<FitData, NurbsData>;
 
 /// The plane curve of a spline: never null, but not defined when the data makes no curve.
-std::unique_ptr<OxGeNurbCurve2d> BuildCurve(const SplineData& data);
+OXDB_API std::unique_ptr<OxGeNurbCurve2d> BuildCurve(const SplineData& data);
 
 } // namespace drawing

@@ -139,6 +139,7 @@ public:
     OxGePoint2d center() const { return center_; }
     double majorRadius() const { return majorAxis_.length(); }
     double minorRadius() const { return majorAxis_.length() * radiusRatio_; }
+    double radiusRatio() const { return radiusRatio_; }
     double startAng() const { return startAngle_; }
     double endAng() const { return endAngle_; }
     bool isClockWise() const { return clockwise_; }

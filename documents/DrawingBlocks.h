@@ -1,0 +1,46 @@
+// Blocks of a drawing document, and the document as a whole.
+#pragma once
+
+#include "documents/DrawingEntity.h"
+#include "documents/DrawingTables.h"
+
+namespace documents {
+
+class BlockNode : public ObjectNode {
+public:
+    BlockNode();
+    bool BeginObject(ReadState& state) override;
+
+protected:
+    bool Finish(ReadState& state) override;
+
+private:
+    bool SetDrawOrder(ReadState& state);
+
+    BlockInReading block_;
+    TextNode name_;
+    BooleanNode layout_;
+    BooleanNode anonymous_;
+    IntegerNode units_{0, 0, 20};
+    ListNode<EntityNode> entities_{block_};
+    WordsNode drawOrder_;
+};
+
+class DrawingNode : public ObjectNode {
+public:
+    DrawingNode();
+
+protected:
+    bool Finish(ReadState& state) override;
+
+private:
+    FixedTextNode format_{"styleconversion/drawing"};
+    IntegerNode version_{1, 1, 1};
+    IntegerNode insunits_{0, 0, 20};
+    ListNode<LayerNode> layers_;
+    ListNode<LinetypeNode> linetypes_;
+    ListNode<TextStyleNode> textStyles_;
+    ListNode<BlockNode> blocks_;
+};
+
+} // namespace documents

@@ -1,0 +1,212 @@
+// Entities of a drawing document.
+#include "documents/DrawingEntity.h"
+
+#include "drawing/CurveEntities.h"
+#include "drawing/SimpleEntities.h"
+#include "drawing/Texts.h"
+
+#include <numbers>
+
+namespace documents {
+namespace {
+
+// In the order in which AddTypes adds them.
+enum EntityType : std::size_t {
+    kPoint,
+    kLine,
+    kArc,
+    kCircle,
+    kEllipse,
+    kPolyline,
+    kHatch,
+    kMPolygon,
+    kText,
+    kAttributeDefinition,
+    kMText,
+    kInsert,
+    kOther,
+    kSpline,
+};
+
+} // namespace
+
+EntityNode::EntityNode(BlockInReading& block) : SplineObjectNode("an entity"), block_(block) {
+    BindCommon("id", id_);
+    BindCommon("layer", layer_);
+    BindCommon("color", color_);
+    BindCommon("lineWeight", lineWeight_);
+    BindCommon("linetype", linetype_);
+    BindGeometry();
+    BindSpline();
+    BindAreasAndTexts();
+    AddTypes();
+    AddSplineType();
+}
+
+void EntityNode::BindGeometry() {
+    Bind("position", position_);
+    Bind("start", start_);
+    Bind("end", end_);
+    Bind("center", center_);
+    Bind("radius", radius_);
+    Bind("majorAxis", majorAxis_);
+    Bind("radiusRatio", radiusRatio_);
+    Bind("startAngle", startAngle_);
+    Bind("endAngle", endAngle_);
+    Bind("normal", normal_);
+    Bind("vertices", vertices_);
+    Bind("plinegen", plinegen_);
+}
+
+void EntityNode::BindAreasAndTexts() {
+    Bind("solid", solid_);
+    Bind("loops", loops_);
+    Bind("pattern", pattern_);
+    Bind("hatchLines", hatchLines_);
+    Bind("fillColor", fillColor_);
+    Bind("height", height_);
+    Bind("rotation", rotation_);
+    Bind("text", text_);
+    Bind("style", style_);
+    Bind("horizontalMode", horizontalMode_);
+    Bind("verticalMode", verticalMode_);
+    Bind("tag", tag_);
+    Bind("prompt", prompt_);
+    Bind("location", location_);
+    Bind("textHeight", textHeight_);
+    Bind("contents", contents_);
+    Bind("actualWidth", actualWidth_);
+    Bind("actualHeight", actualHeight_);
+    Bind("block", insertedBlock_);
+    Bind("class", className_);
+}
+
+void EntityNode::AddTypes() {
+    AddType("point", {&position_}, {});
+    AddType("line", {&start_, &end_}, {});
+    AddType("arc", {&center_, &radius_, &startAngle_, &endAngle_}, {&normal_});
+    AddType("circle", {&center_, &radius_}, {});
+    AddType("ellipse", {&center_, &majorAxis_, &radiusRatio_}, {&startAngle_, &endAngle_});
+    AddType("polyline", {&vertices_}, {&Closed(), &plinegen_});
+    AddType("hatch", {&loops_}, {&solid_, &pattern_, &hatchLines_});
+    AddType("mpolygon", {&loops_}, {&fillColor_});
+    AddType("text", {&position_, &height_, &text_}, {&rotation_, &style_, &horizontalMode_, &verticalMode_});
+    AddType("attributeDefinition", {&position_, &height_, &text_, &tag_, &prompt_},
+            {&rotation_, &style_, &horizontalMode_, &verticalMode_});
+    AddType("mtext", {&location_, &textHeight_, &contents_},
+            {&rotation_, &style_, &actualWidth_, &actualHeight_});
+    AddType("insert", {&insertedBlock_}, {});
+    AddType("other", {&className_}, {});
+}
+
+drawing::EntityProperties EntityNode::Properties() const {
+    return {layer_.Value(), color_.Value(), static_cast<OxDb::LineWeight>(lineWeight_.Value()),
+            linetype_.Value()};
+}
+
+template <class T, class... Args>
+bool EntityNode::Add(ReadState& state, Args&&... args) {
+    const T& added = block_.record->Add<T>(Properties(), std::forward<Args>(args)...);
+    if (Has(id_) && !block_.ids.emplace(id_.Value(), added.objectId()).second) {
+        return state.Refuse(
+            "expected an id that no other entity of the block has, found " + Shown(id_.Value()), PathOf(id_));
+    }
+    return true;
+}
+
+bool EntityNode::FinishType(ReadState& state, std::size_t type) {
+    switch (type) {
+    case kPolyline:
+        return Add<drawing::Polyline>(state, vertices_.Values(), Closed().Value(), plinegen_.Value());
+    case kSpline:
+        return AddSpline(state);
+    case kHatch:
+        return AddHatch(state);
+    case kMPolygon:
+        return AddMPolygon(state);
+    case kText:
+    case kAttributeDefinition:
+    case kMText:
+        return AddText(state, type);
+    case kInsert:
+        return Add<drawing::BlockReference>(state, insertedBlock_.Value());
+    case kOther:
+        return Add<drawing::OtherEntity>(state, className_.Value());
+    default:
+        return AddCurve(state, type);
+    }
+}
+
+bool EntityNode::AddCurve(ReadState& state, std::size_t type) {
+    switch (type) {
+    case kPoint:
+        return Add<drawing::Point>(state, position_.Point3d());
+    case kLine:
+        return Add<drawing::Line>(state, start_.Point3d(), end_.Point3d());
+    case kArc:
+        return Add<drawing::Arc>(state,
+                                 drawing::ArcData{center_.Point3d(), radius_.Value(), startAngle_.Value(),
+                                                  endAngle_.Value(), normal_.Vector3d()});
+    case kCircle:
+        return Add<drawing::Circle>(state, center_.Point3d(), radius_.Value());
+    default:
+        break;
+    }
+    const double endAngle = Has(endAngle_) ? endAngle_.Value() : 2.0 * std::numbers::pi;
+    return Add<drawing::Ellipse>(state,
+                                 drawing::EllipseData{center_.Point3d(), majorAxis_.Vector3d(),
+                                                      radiusRatio_.Value(), startAngle_.Value(), endAngle});
+}
+
+bool EntityNode::AddText(ReadState& state, std::size_t type) {
+    if (type == kMText) {
+        return Add<drawing::ParagraphText>(
+            state, drawing::ParagraphTextData{location_.Point3d(), textHeight_.Value(), rotation_.Value(),
+                                              contents_.Value(), style_.Value(), actualWidth_.Value(),
+                                              actualHeight_.Value()});
+    }
+    drawing::TextData data;
+    data.position = position_.Point3d();
+    data.height = height_.Value();
+    data.rotation = rotation_.Value();
+    data.text = text_.Value();
+    data.style = style_.Value();
+    data.horizontalMode = static_cast<OxDb::TextHorzMode>(horizontalMode_.Value());
+    data.verticalMode = static_cast<OxDb::TextVertMode>(verticalMode_.Value());
+    if (type == kText) {
+        return Add<drawing::Text>(state, std::move(data));
+    }
+    return Add<drawing::AttributeDefinition>(state, std::move(data), tag_.Value(), prompt_.Value());
+}
+
+bool EntityNode::AddSpline(ReadState& state) {
+    drawing::SplineData data;
+    return TakeSpline(state, data) && Add<drawing::Spline>(state, std::move(data));
+}
+
+bool EntityNode::AddHatch(ReadState& state) {
+    drawing::HatchData data;
+    data.solid = solid_.Value();
+    data.loops = std::move(loops_.Values());
+    if (Has(pattern_)) {
+        data.pattern = std::move(pattern_.Values());
+    }
+    if (Has(hatchLines_)) {
+        data.lines = std::move(hatchLines_.Values());
+    }
+    return Add<drawing::Hatch>(state, std::move(data));
+}
+
+bool EntityNode::AddMPolygon(ReadState& state) {
+    std::vector<drawing::PolylineLoop> loops;
+    for (drawing::HatchLoop& loop : loops_.Values()) {
+        if (!loop.polyline) {
+            return state.Refuse("a loop of a multi-polygon has no edges",
+                                ".loops[" + std::to_string(loops.size()) + "].edges");
+        }
+        loops.push_back(std::move(*loop.polyline));
+    }
+    return Add<drawing::MPolygon>(state, std::move(loops), fillColor_.Value());
+}
+
+} // namespace documents

@@ -1,0 +1,104 @@
+// What may stand at one place of a drawing document: nodes take the values as they are read, one by one.
+#pragma once
+
+#include "documents/DrawingFault.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace drawing {
+class Database;
+}
+
+namespace documents {
+
+class Node;
+
+/// A number of the document.
+struct NumberToken {
+    double value = 0.0;
+    bool isInteger = false; // written without fraction and exponent, and within 64 bits
+    std::int64_t integer = 0;
+    std::string_view text; // as written, when it is not an integer
+};
+
+/// The number as it stands in a message.
+std::string Shown(const NumberToken& number);
+/// A text as it stands in a message: in quotes, shortened, control characters as "?".
+std::string Shown(std::string_view text);
+
+/// Where reading has got to, and what it refused.
+class ReadState {
+public:
+    explicit ReadState(drawing::Database& database) : database_(database) {}
+
+    drawing::Database& Target() { return database_; }
+
+    /// Keeps the fault, at the place that reading has got to, or `below` it ("[3].name"). Always false.
+    bool Refuse(std::string what, std::string_view below = {});
+    const DrawingFault& Fault() const { return fault_; }
+
+    void Enter(Node& node, bool isArray);
+    /// Leaves the innermost object or array and gives its node.
+    Node& Leave();
+    bool IsAtTop() const { return depth_ == 0; }
+    /// Notes a key of the innermost object; false when it has no place.
+    bool GoToKey(const std::string& key);
+    /// The node of the value that comes next inside the innermost object or array; null when there is no
+    /// place for it (the fault is kept then).
+    Node* NextInside();
+
+private:
+    struct Frame {
+        Node* node = nullptr;
+        bool isArray = false;
+        bool hasPlace = false; // a key or an element was met
+        std::size_t index = 0;
+        std::string key;
+        Node* value = nullptr;
+    };
+
+    std::string Path() const;
+
+    drawing::Database& database_;
+    DrawingFault fault_;
+    std::vector<Frame> frames_; // kept for reuse above depth_
+    std::size_t depth_ = 0;
+};
+
+/// Base of all nodes. A value of a kind that a node does not take is refused. Each of the taking operations
+/// is false when the value was refused.
+class Node {
+public:
+    virtual ~Node() = default;
+    Node() = default;
+    Node(const Node&) = delete;
+    Node& operator=(const Node&) = delete;
+
+    /// What belongs here: "a number".
+    virtual std::string Expected() const = 0;
+
+    virtual bool Null(ReadState& state) { return RefuseKind(state, "null"); }
+    virtual bool Boolean(ReadState& state, bool value);
+    virtual bool Number(ReadState& state, const NumberToken& number);
+    virtual bool String(ReadState& state, std::string& value);
+
+    virtual bool BeginObject(ReadState& state) { return RefuseKind(state, "an object"); }
+    virtual bool BeginArray(ReadState& state) { return RefuseKind(state, "an array"); }
+    /// The node of the value of a key of this object; null when there is no such key.
+    virtual Node* Key(ReadState& state, std::string_view key);
+    /// The node of the next element of this array.
+    virtual Node* Element(ReadState& state);
+    /// The object or array is complete.
+    virtual bool End(ReadState& state);
+
+    /// Forgets the value, for the next object of the same kind.
+    virtual void Reset() {}
+
+protected:
+    bool RefuseKind(ReadState& state, std::string_view found) const;
+};
+
+} // namespace documents

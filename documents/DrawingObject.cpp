@@ -1,0 +1,81 @@
+// Objects of a drawing document.
+#include "documents/DrawingObject.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace documents {
+
+void ObjectNode::Bind(std::string_view name, Node& node, Presence presence) {
+    const auto index = static_cast<std::uint8_t>(bindings_.size());
+    bindings_.push_back({name, &node});
+    const auto before = [this](std::string_view text, std::uint8_t other) {
+        return text < bindings_[other].name;
+    };
+    byName_.insert(std::upper_bound(byName_.begin(), byName_.end(), name, before), index);
+    if (presence == kRequired) {
+        required_ |= std::uint64_t{1} << index;
+    }
+}
+
+bool ObjectNode::BeginObject(ReadState& /*state*/) {
+    Reset();
+    return true;
+}
+
+void ObjectNode::Reset() {
+    for (std::uint64_t left = given_; left != 0; left &= left - 1) {
+        bindings_[static_cast<std::size_t>(std::countr_zero(left))].node->Reset();
+    }
+    given_ = 0;
+}
+
+Node* ObjectNode::Key(ReadState& state, std::string_view key) {
+    const auto before = [this](std::uint8_t index, std::string_view text) {
+        return bindings_[index].name < text;
+    };
+    const auto place = std::lower_bound(byName_.begin(), byName_.end(), key, before);
+    if (place == byName_.end() || bindings_[*place].name != key) {
+        state.Refuse("unknown key");
+        return nullptr;
+    }
+    const std::uint64_t bit = std::uint64_t{1} << *place;
+    if ((given_ & bit) != 0) {
+        state.Refuse("the key is given twice");
+        return nullptr;
+    }
+    given_ |= bit;
+    return bindings_[*place].node;
+}
+
+bool ObjectNode::End(ReadState& state) {
+    return RefuseMissingKeys(state, required_) && Finish(state);
+}
+
+std::size_t ObjectNode::IndexOf(const Node& node) const {
+    std::size_t index = 0;
+    while (bindings_[index].node != &node) {
+        ++index;
+    }
+    return index;
+}
+
+bool ObjectNode::Has(const Node& node) const {
+    return (given_ >> IndexOf(node) & 1U) != 0;
+}
+
+std::string ObjectNode::PathOf(const Node& node) const {
+    return '.' + std::string(bindings_[IndexOf(node)].name);
+}
+
+bool ObjectNode::RefuseMissing(ReadState& state, const Node& node) const {
+    return state.Refuse("expected " + node.Expected() + ", found nothing", PathOf(node));
+}
+
+bool ObjectNode::RefuseMissingKeys(ReadState& state, std::uint64_t required) const {
+    const std::uint64_t missing = required & ~given_;
+    return missing == 0 ||
+           RefuseMissing(state, *bindings_[static_cast<std::size_t>(std::countr_zero(missing))].node);
+}
+
+} // namespace documents

@@ -1,0 +1,170 @@
+// Reads drawing documents: hands the JSON parser's events to the nodes of the document.
+#include "documents/DrawingReader.h"
+
+#include "documents/DrawingBlocks.h"
+
+#include <array>
+#include <iterator>
+#include <limits>
+#include <nlohmann/json.hpp>
+
+namespace documents {
+namespace {
+
+constexpr std::size_t kChunkSize = 65536; // bytes read from the file at a time
+constexpr int kNumberOutOfRange = 406;    // the JSON library's code for a number that no double can hold
+
+/// A file as a sequence of characters.
+class FileBytes {
+public:
+    explicit FileBytes(std::FILE* file) : file_(file) { Fill(); }
+    bool AtEnd() const { return position_ == size_; }
+    char Current() const { return chunk_[position_]; }
+    void Advance() {
+        if (++position_ == size_) {
+            Fill();
+        }
+    }
+
+private:
+    void Fill() {
+        size_ = std::fread(chunk_.data(), 1, chunk_.size(), file_);
+        position_ = 0;
+    }
+
+    std::FILE* file_;
+    std::array<char, kChunkSize> chunk_;
+    std::size_t position_ = 0;
+    std::size_t size_ = 0;
+};
+
+/// Input iterator over a file; a default one is the end.
+class FileIterator {
+public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char*;
+    using reference = char;
+
+    FileIterator() = default;
+    explicit FileIterator(FileBytes& bytes) : bytes_(&bytes) {}
+    char operator*() const { return bytes_->Current(); }
+    FileIterator& operator++() {
+        bytes_->Advance();
+        return *this;
+    }
+    bool operator==(const FileIterator& other) const { return IsEnd() == other.IsEnd(); }
+    bool operator!=(const FileIterator& other) const { return !(*this == other); }
+
+private:
+    bool IsEnd() const { return bytes_ == nullptr || bytes_->AtEnd(); }
+
+    FileBytes* bytes_ = nullptr;
+};
+
+/// Receives the JSON parser's events.
+class EventReceiver : public nlohmann::json_sax<nlohmann::json> {
+public:
+    explicit EventReceiver(drawing::Database& database) : state_(database) {}
+
+    const DrawingFault& Fault() const { return state_.Fault(); }
+
+    bool null() override {
+        Node* const node = Next();
+        return node != nullptr && node->Null(state_);
+    }
+    bool boolean(bool value) override {
+        Node* const node = Next();
+        return node != nullptr && node->Boolean(state_, value);
+    }
+    bool number_integer(number_integer_t value) override {
+        return Number({static_cast<double>(value), true, value, {}});
+    }
+    bool number_unsigned(number_unsigned_t value) override {
+        if (value <= static_cast<number_unsigned_t>(std::numeric_limits<std::int64_t>::max())) {
+            return number_integer(static_cast<std::int64_t>(value));
+        }
+        const std::string text = std::to_string(value);
+        return Number({static_cast<double>(value), false, 0, text});
+    }
+    bool number_float(number_float_t value, const string_t& text) override {
+        return Number({value, false, 0, text});
+    }
+    bool string(string_t& value) override {
+        Node* const node = Next();
+        return node != nullptr && node->String(state_, value);
+    }
+    bool binary(binary_t& /*value*/) override { return false; } // JSON text has none
+    bool start_object(std::size_t /*elements*/) override {
+        Node* const node = Next();
+        if (node == nullptr || !node->BeginObject(state_)) {
+            return false;
+        }
+        state_.Enter(*node, false);
+        return true;
+    }
+    bool key(string_t& value) override { return state_.GoToKey(value); }
+    bool end_object() override { return state_.Leave().End(state_); }
+    bool start_array(std::size_t /*elements*/) override {
+        Node* const node = Next();
+        if (node == nullptr || !node->BeginArray(state_)) {
+            return false;
+        }
+        state_.Enter(*node, true);
+        return true;
+    }
+    bool end_array() override { return state_.Leave().End(state_); }
+
+    bool parse_error(std::size_t /*position*/, const std::string& lastToken,
+                     const nlohmann::json::exception& error) override {
+        if (error.id == kNumberOutOfRange) {
+            Next(); // the place is the number's own
+            return state_.Refuse("expected a number that is finite, found " + lastToken);
+        }
+        // "[json.exception.parse_error.101] parse error at line 1, column 5: ..."
+        const std::string text = error.what();
+        const std::size_t place = text.find("line ");
+        return state_.Refuse("expected JSON, found an error at " +
+                             (place == std::string::npos ? text : text.substr(place)));
+    }
+
+private:
+    Node* Next() { return state_.IsAtTop() ? &document_ : state_.NextInside(); }
+    bool Number(const NumberToken& number) {
+        Node* const node = Next();
+        return node != nullptr && node->Number(state_, number);
+    }
+
+    ReadState state_;
+    DrawingNode document_;
+};
+
+template <class Iterator>
+std::unique_ptr<drawing::Database> Read(Iterator begin, Iterator end, DrawingFault& fault) {
+    auto database = std::make_unique<drawing::Database>();
+    EventReceiver receiver(*database);
+    if (!nlohmann::json::sax_parse(begin, end, &receiver)) {
+        fault = receiver.Fault();
+        return nullptr;
+    }
+    return database;
+}
+
+} // namespace
+
+std::unique_ptr<drawing::Database> ReadDrawing(std::FILE* file, DrawingFault& fault) {
+    FileBytes bytes(file);
+    std::unique_ptr<drawing::Database> database = Read(FileIterator(bytes), FileIterator(), fault);
+    if (std::ferror(file) != 0) {
+        fault = {{}, "cannot be read to its end"};
+        return nullptr;
+    }
+    return database;
+}
+
+std::unique_ptr<drawing::Database> ReadDrawing(std::string_view text, DrawingFault& fault) {
+    return Read(text.begin(), text.end(), fault);
+}
+
+} // namespace documents

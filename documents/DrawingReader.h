@@ -1,0 +1,21 @@
+// Reads drawing documents into drawings in memory.
+#pragma once
+
+#include "documents/DrawingFault.h"
+#include "drawing/Database.h"
+
+#include <cstdio>
+#include <memory>
+#include <string_view>
+
+namespace documents {
+
+/// Reads a drawing document (UTF-8 JSON) from where `file` stands to its end. The file stays the caller's.
+/// The document is never held as a whole: what is read goes into the drawing entity by entity. Null when the
+/// document is refused, with `fault` set.
+std::unique_ptr<drawing::Database> ReadDrawing(std::FILE* file, DrawingFault& fault);
+
+/// The same from memory.
+std::unique_ptr<drawing::Database> ReadDrawing(std::string_view text, DrawingFault& fault);
+
+} // namespace documents
