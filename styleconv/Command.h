@@ -43,6 +43,14 @@ inline void AddNameOption(CLI::App& command, std::vector<std::string>& names,
     command.add_option("--name", names, description)->type_name("NAME")->expected(1)->take_all();
 }
 
+/// Adds --shapes, which may be given any number of times, to a command that looks for shape files.
+inline void AddShapesOption(CLI::App& command, std::vector<std::string>& folders) {
+    command.add_option("--shapes", folders, "Look for shape files in this folder, too; may be given again")
+        ->type_name("DIR")
+        ->expected(1)
+        ->take_all();
+}
+
 /// Adds --code-page to a command that reads text files.
 inline void AddCodePageOption(CLI::App& command, std::string& codePage) {
     command

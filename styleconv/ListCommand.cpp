@@ -2,6 +2,7 @@
 
 #include "styleconv/GlyphsCommand.h"
 #include "styleconv/InputFile.h"
+#include "styleconv/LinetypesCommand.h"
 #include "styleconv/Messages.h"
 #include "styleconv/OutputFile.h"
 #include "styleconv/Paths.h"
@@ -21,6 +22,7 @@ struct Kind {
 };
 
 constexpr Kind kKinds[] = {
+    {".lin", ListLinetypes},
     {".pat", ListPatterns},
     {".shx", ListShapes},
 };

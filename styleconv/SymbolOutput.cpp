@@ -8,11 +8,22 @@
 namespace styleconv {
 
 ExitStatus WriteSymbols(const Symbols& symbols, const CommonOptions& options) {
+    std::vector<TylModel::SymbolDefinition*> borrowed;
+    borrowed.reserve(symbols.size());
+    for (const auto& symbol : symbols) {
+        borrowed.push_back(symbol.get());
+    }
+    return WriteSymbols(borrowed, options);
+}
+
+ExitStatus WriteSymbols(const std::vector<TylModel::SymbolDefinition*>& symbols,
+                        const CommonOptions& options) {
     OutputFile output(options.output);
     documents::SymbolsWriter writer([&](std::string_view text) { return output.Write(text); });
-    const bool written = std::all_of(symbols.begin(), symbols.end(),
-                                     [&](const auto& symbol) { return writer.Add(*symbol); }) &&
-                         writer.Finish() && output.Commit();
+    const bool written =
+        std::all_of(symbols.begin(), symbols.end(),
+                    [&](TylModel::SymbolDefinition* symbol) { return writer.Add(*symbol); }) &&
+        writer.Finish() && output.Commit();
     return written ? kDone : kInputFault;
 }
 

@@ -13,5 +13,8 @@ using Symbols = std::vector<std::unique_ptr<TylModel::SymbolDefinition>>;
 
 /// Writes the symbols and gives the exit status. What goes wrong is said on standard error.
 ExitStatus WriteSymbols(const Symbols& symbols, const CommonOptions& options);
+/// The same for symbols that belong to someone else, and may be in the list more than once.
+ExitStatus WriteSymbols(const std::vector<TylModel::SymbolDefinition*>& symbols,
+                        const CommonOptions& options);
 
 } // namespace styleconv

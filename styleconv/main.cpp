@@ -1,5 +1,6 @@
 // The command line of styleconv: which commands there are, and what a wrong command line gets.
 #include "styleconv/GlyphsCommand.h"
+#include "styleconv/LinetypesCommand.h"
 #include "styleconv/ListCommand.h"
 #include "styleconv/PatternsCommand.h"
 
@@ -14,6 +15,7 @@ namespace {
 using namespace styleconv;
 
 void AddCommands(CLI::App& app, Runner& runner) {
+    AddLinetypesCommand(app, runner);
     AddPatternsCommand(app, runner);
     AddGlyphsCommand(app, runner);
     AddListCommand(app, runner);

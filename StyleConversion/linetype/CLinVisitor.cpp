@@ -164,7 +164,7 @@ void CLinVisitor::Shape(const std::string& shapeName, const ElementTransform& tr
     std::wstring path;
     const ShxUtility::ShxResult drawn = DrawShxShape(path, pen, file.shapes[found->second], file);
     if (drawn != ShxUtility::kSuccess) {
-        Fail(LinFaultKind::kShapeNotDrawn, platform::AnsiToWide(shapeName), {}, drawn);
+        Fail(LinFaultKind::kShapeNotDrawn, platform::AnsiToWide(shapeName), drawn);
         return;
     }
     AddDrawnMember(path, transform, x);
@@ -270,7 +270,7 @@ void CLinVisitor::AddShxText(const std::string& text, const ElementTransform& tr
         }
         const ShxUtility::ShxResult drawn = DrawShxShape(path, pen, *glyph, file);
         if (drawn != ShxUtility::kSuccess) {
-            Fail(LinFaultKind::kCharacterNotDrawn, std::wstring(1, character), font.fileName, drawn);
+            Fail(LinFaultKind::kCharacterNotDrawn, std::wstring(1, character), drawn);
             return;
         }
     }
@@ -291,14 +291,12 @@ void CLinVisitor::AddDrawnMember(const std::wstring& path, const ElementTransfor
     }
 }
 
-void CLinVisitor::Fail(LinFaultKind kind, const std::wstring& subject, const std::wstring& file,
-                       std::int32_t shxResult) {
+void CLinVisitor::Fail(LinFaultKind kind, const std::wstring& subject, std::int32_t shxResult) {
     failed_ = true;
     if (faultLog_ != nullptr) {
         // The walk itself has gone well: no result code.
         LinFault& fault = faultLog_->Add(kSuccess, kind);
         fault.subject = subject;
-        fault.file = file;
         fault.shxResult = shxResult;
     }
 }

@@ -51,8 +51,7 @@ private:
     // The distance along the line, and to its left, at which an element is placed.
     double ElementX(const ElementTransform& transform) const;
     double ElementY(const ElementTransform& transform) const;
-    void Fail(LinFaultKind kind, const std::wstring& subject, const std::wstring& file = {},
-              std::int32_t shxResult = 0);
+    void Fail(LinFaultKind kind, const std::wstring& subject, std::int32_t shxResult = 0);
 
     std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> results_;
     std::unique_ptr<TylModel::CompoundSymbolDefinition> compound_;

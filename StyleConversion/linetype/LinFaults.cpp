@@ -16,6 +16,11 @@ LinFault& LinFaultLog::Add(LinResult result, LinFaultKind kind) {
     fault.element = place_.element;
     if (place_.linetype != nullptr) {
         fault.linetype = place_.linetype->name;
+        if (fault.element >= 1 && fault.element <= place_.linetype->elements.size()) {
+            const LinElement& element = place_.linetype->elements[fault.element - 1];
+            fault.shapeFile = element.shapeFile;
+            fault.styleName = element.styleName;
+        }
     }
     faults_.push_back(std::move(fault));
     return faults_.back();

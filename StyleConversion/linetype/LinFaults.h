@@ -3,6 +3,7 @@
 
 #include "StyleConversion/linetype/LinResult.h"
 #include "StyleConversion/linetype/LinetypeRecord.h"
+#include "StyleConversion/shx/ShapeFileFault.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -65,11 +66,15 @@ struct LinFault {
     /// The linetype's name and the element's number, from 1; empty and 0 when the fault is in neither.
     std::string linetype;
     std::size_t element = 0;
-    /// What the kind speaks of, and for a shape or character the file that it is in.
+    /// What the kind speaks of: a shape, a character, a text style or a file.
     std::wstring subject;
-    std::wstring file;
-    /// For what was not loaded or drawn: the SHX result code.
+    /// The shape file or text style of the element.
+    std::wstring shapeFile;
+    std::wstring styleName;
+    /// For what could not be drawn: the SHX result code.
     std::int32_t shxResult = 0;
+    /// For what could not be loaded: where and why.
+    ShxUtility::ShapeFileFaultReport shapeFileFault;
 };
 
 /// An element of a linetype file, or, with number 0, a linetype.

@@ -63,13 +63,15 @@ LinResult LinParser::LoadOneShapeFile(const std::wstring& name, std::uint32_t ac
     if (!stream) {
         return Fault(kShapeFileNotLoaded, LinFaultKind::kShapeFileNotFound, name);
     }
+    ShxUtility::ShapeFileFaultReport report;
     const ShxUtility::ShxResult loaded =
-        ShxUtility::LoadShapeFile(stream.get(), shapeFiles_[name], acceptedKinds);
+        ShxUtility::LoadShapeFile(stream.get(), shapeFiles_[name], acceptedKinds, report);
     if (loaded != ShxUtility::kSuccess) {
         shapeFiles_.erase(name);
         LinFault& fault = faultLog_.Add(kShapeFileNotLoaded, LinFaultKind::kShapeFileNotLoaded);
         fault.subject = name;
         fault.shxResult = loaded;
+        fault.shapeFileFault = report;
         return kShapeFileNotLoaded;
     }
     return kSuccess;

@@ -1,0 +1,21 @@
+#include "styleconv/BuiltInFont.h"
+
+#include "styleconv/BuiltInFontBytes.h"
+
+namespace styleconv {
+
+std::FILE* OpenBuiltInFont() {
+    // The reader of fonts reads streams, and C has none over memory.
+    std::FILE* const stream = std::tmpfile();
+    if (stream != nullptr &&
+        std::fwrite(kBuiltInFont, 1, sizeof kBuiltInFont, stream) != sizeof kBuiltInFont) {
+        std::fclose(stream);
+        return nullptr;
+    }
+    if (stream != nullptr) {
+        std::rewind(stream);
+    }
+    return stream;
+}
+
+} // namespace styleconv
