@@ -169,7 +169,7 @@ bool ChooseNamed(const InputFile& input, const std::vector<std::string>& names, 
 
 ExitStatus Linetypes(const LinetypesOptions& options) {
     InputFile input(options.file);
-    if (!input.Read()) {
+    if (!input.Read() || !input.ProvidePath()) {
         return kInputFault;
     }
     if (!ChooseCodePage(input, options.codePage)) {

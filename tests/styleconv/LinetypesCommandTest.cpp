@@ -1,0 +1,293 @@
+// styleconv linetypes and styleconv list on linetype files: what is converted, what is refused, and in which
+// words.
+#include "tests/support/ShapeFileBuilder.h"
+#include "tests/support/ToolRun.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+using test_support::ShapeFileBuilder;
+
+using Texts = std::vector<std::string>;
+
+// The values of all keys of this name, in document order.
+Texts ValuesOf(const std::string& document, const std::string& key) {
+    Texts values;
+    const std::string start = "\"" + key + "\": \"";
+    for (std::size_t at = document.find(start); at != std::string::npos; at = document.find(start, at)) {
+        at += start.size();
+        values.push_back(document.substr(at, document.find('"', at) - at));
+    }
+    return values;
+}
+
+// A library with the shape MARK, a stroke of one unit.
+std::string Marks() {
+    return ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Text();
+}
+
+// A font, 4 units high, with the letter A, a stroke of one unit.
+std::string Font() {
+    return ShapeFileBuilder::Shapes().FontInfo("FONT", {4, 1, 0}).Shape(65, "A", {0x10, 0}).Text();
+}
+
+class LinetypesCommand : public testing::Test {
+protected:
+    // The tool runs in another directory than the one that the files are in.
+    ToolResult Run(const std::string& text, Texts more = {}) {
+        Texts arguments = {"linetypes", folder.Write("lines.lin", text)};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return RunTool(arguments);
+    }
+
+    // Every line begins with the file's name.
+    std::string WithoutFileName(std::string lines) const {
+        const std::string start = folder / "lines.lin" + ": ";
+        for (std::size_t at = 0; at < lines.size(); at = lines.find('\n', at) + 1) {
+            if (lines.compare(at, start.size(), start) != 0) {
+                return "unexpected: " + lines;
+            }
+            lines.erase(at, start.size());
+        }
+        return lines;
+    }
+
+    // What is said on standard error about the file, without its name.
+    std::string Fault(const std::string& text, const Texts& more = {}) {
+        const ToolResult result = Run(text, more);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.output, "");
+        return WithoutFileName(result.errors);
+    }
+
+    // The folder of the linetype file, as messages have it.
+    std::string Here() const { return folder / ""; }
+
+    ScratchFolder folder;
+};
+
+TEST_F(LinetypesCommand, ConvertsALinetypeWithAllItsKeys) {
+    const ToolResult result = Run("*DASHED,Dashed __ __\nA,.5,-.25\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output.substr(0, result.output.find_last_not_of('\n') + 1), R"({
+  "format": "styleconversion/symbols",
+  "version": 1,
+  "symbols": [
+    {
+      "type": "SimpleSymbolDefinition",
+      "name": "DASHED",
+      "description": "Dashed __ __",
+      "graphics": [
+        {
+          "type": "Path",
+          "geometry": "M 0,0 L 0.5,0 ",
+          "lineColor": "%LINECOLOR%",
+          "lineWeight": "%LINEWEIGHT%",
+          "lineWeightScalable": "false"
+        }
+      ],
+      "parameters": [
+        {
+          "identifier": "LINECOLOR",
+          "displayName": "Line &Color",
+          "description": "Line Color",
+          "defaultValue": "ff000000",
+          "dataType": 7
+        },
+        {
+          "identifier": "LINEWEIGHT",
+          "displayName": "Line &Thickness",
+          "description": "Line Thickness",
+          "defaultValue": "0.0",
+          "dataType": 8
+        }
+      ],
+      "lineUsage": {
+        "repeat": "0.75"
+      }
+    }
+  ]
+})");
+}
+
+TEST_F(LinetypesCommand, ReadsStandardInput) {
+    const ToolResult result = RunTool({"linetypes", "-"}, "*X\nA,1\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(ValuesOf(result.output, "name"), Texts{"X"});
+}
+
+TEST_F(LinetypesCommand, ScaleMultipliesLengths) {
+    EXPECT_EQ(ValuesOf(Run("*X\nA,1,-1\n", {"--scale", "25.4"}).output, "geometry"),
+              Texts{"M 0,0 L 25.4,0 "});
+    EXPECT_EQ(Run("*X\nA,1\n", {"--scale", "wide"}).status, 2);
+    EXPECT_EQ(Run("*X\nA,1\n", {"--scale", "1e999"}).status, 2);
+}
+
+TEST_F(LinetypesCommand, GivesTheLinetypesAskedForInTheOrderAsked) {
+    const std::string text = "*A\nA,1\n*B\nA,2\n*A\nA,3\n*a\nA,4\n";
+    EXPECT_EQ(ValuesOf(Run(text).output, "repeat"), (Texts{"1", "2", "3", "4"}));
+    EXPECT_EQ(ValuesOf(Run(text, {"--name", "B", "--name", "A"}).output, "repeat"), (Texts{"2", "1", "3"}));
+    EXPECT_EQ(ValuesOf(Run(text, {"--name", "a", "--name", "a"}).output, "repeat"), (Texts{"4", "4"}));
+}
+
+TEST_F(LinetypesCommand, NamesThatTheFileLacksAreFaults) {
+    EXPECT_EQ(Fault("*A\nA,1\n", {"--name", "B", "--name", "A"}), "the file has no linetype named B\n");
+}
+
+TEST_F(LinetypesCommand, NamesAreOfTheFilesEncoding) {
+    // 0xE9 is é in the encoding that a file which is not UTF-8 is taken to have.
+    const ToolResult result = Run("*caf\xE9\nA,1\n", {"--name", "caf\xC3\xA9"});
+    EXPECT_EQ(ValuesOf(result.output, "name"), Texts{"caf\xC3\xA9"});
+}
+
+TEST_F(LinetypesCommand, FileWithoutLinetypesIsAFault) {
+    EXPECT_EQ(Fault("; nothing\nA,1\n"), "the file has no linetypes: no line begins with \"*\" and a name\n");
+    EXPECT_EQ(Fault("\xEF\xBB\xBF*X\nA,1\n"),
+              "line 1: the file has no linetypes: a UTF-8 byte-order mark stands before its first character "
+              "and hides a header there; save the file without it\n");
+}
+
+TEST_F(LinetypesCommand, SyntaxErrorsNameLineElementAndByte) {
+    EXPECT_EQ(Fault("*GOOD\nA,1\n*BAD\n  A,1,,2\n"),
+              "line 4: syntax error in linetype BAD, element 2: expected the length of a dash, or \"[\" at "
+              "byte 7: A,1,,2\n");
+    EXPECT_EQ(
+        Fault("*BAD\nB,1\n"),
+        "line 2: syntax error in linetype BAD: expected \"A,\" or \"S,\" at the start of the pattern at "
+        "byte 1: B,1\n");
+    EXPECT_EQ(Fault("*BAD\n"), "line 1: syntax error: the file ends before the pattern of linetype BAD\n");
+    EXPECT_EQ(Fault("*BAD\nA,1,\n"),
+              "line 2: syntax error: the file ends behind a comma, within the pattern of linetype BAD\n");
+    EXPECT_EQ(
+        Fault("*BAD\nA,[\"GAS\"],1\n"),
+        "line 2: syntax error in linetype BAD, element 1: expected another \"]\": a text needs a style, "
+        "as in [\"TEXT\",STANDARD] at byte 10: A,[\"GAS\"],1\n");
+}
+
+TEST_F(LinetypesCommand, EverySyntaxErrorHasWordsOfItsOwn) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"[\"A", "expected a closing quote"},
+        {"[\"A\"x", "expected \",\" and a text style behind the text"},
+        {"[\"A\",ST", "expected \",\" or \"]\" behind the text style"},
+        {"[\"A\",]", "expected the name of a text style"},
+        {"[A]", "expected \",\" and a shape file behind the shape's name"},
+        {"[A,f", "expected \",\" or \"]\" behind the shape file"},
+        {"[A,]", "expected the name of a shape file"},
+        {"[A,f,Z=1]", "expected A=, R=, S=, X= or Y="},
+        {"[A,f,S]", "expected \"=\""},
+        {"[A,f,S=x]", "expected a number"},
+        {"[A,f,S=1d]", "units (d, g, r) go with A= and R= only"},
+        {"[A,f,S=1 ]", "expected \",\" or \"]\""},
+    };
+    for (const auto& [element, words] : cases) {
+        EXPECT_NE(Fault("*X\nA," + std::string(element) + "\n").find(std::string(": ") + words + " at byte"),
+                  std::string::npos)
+            << element;
+    }
+}
+
+TEST_F(LinetypesCommand, ShapeFilesAreFoundBesideTheLinetypeFile) {
+    folder.Write("marks.shx", Marks());
+    EXPECT_EQ(ValuesOf(Run("*X\nA,1,[MARK,marks.shx]\n").output, "geometry"),
+              (Texts{"M 1,0 l 1,0 ", "M 0,0 L 1,0 "}));
+}
+
+TEST_F(LinetypesCommand, ShapeFilesAreFoundInTheFoldersGivenInTheirOrder) {
+    std::filesystem::create_directory(folder / "one");
+    std::filesystem::create_directory(folder / "two");
+    folder.Write("one/other.shx", Marks());
+    folder.Write("two/marks.shx", Marks());
+    const std::string text = "*X\nA,1,[MARK,marks],[MARK,other]\n";
+    EXPECT_EQ(Run(text, {"--shapes", folder / "one", "--shapes", folder / "two"}).status, 0);
+    folder.Write("one/marks.shx", "this is no shape file");
+    EXPECT_EQ(Run(text, {"--shapes", folder / "one", "--shapes", folder / "two"}).status, 1);
+    EXPECT_EQ(Run(text, {"--shapes", folder / "two", "--shapes", folder / "one"}).status, 0);
+}
+
+TEST_F(LinetypesCommand, ShapeFileThatIsNotFoundIsNamedWithTheFoldersSearched) {
+    EXPECT_EQ(Fault("*X\nA,1\n*Y\nA,1,\n[MARK,marks.shx]\n", {"--shapes", "shapes/", "--shapes", "more"}),
+              "line 5: shape file MARKS.SHX not found in ., " + Here() + ", shapes/, more\n");
+    EXPECT_EQ(Fault("*X\nA,[MARK,sub/marks.shx]\n", {"--shapes", "shapes/"}),
+              "line 2: shape file SUB/MARKS.SHX not found in SUB/, shapes/\n");
+}
+
+TEST_F(LinetypesCommand, NothingIsBesideStandardInput) {
+    const ToolResult result = RunTool({"linetypes", "-", "--shapes", "shapes/"}, "*X\nA,[MARK,marks.shx]\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "standard input: line 2: shape file MARKS.SHX not found in ., shapes/\n");
+}
+
+TEST_F(LinetypesCommand, DamagedShapeFileIsNamedWithItsFault) {
+    folder.Write("marks.shx", "Vorlanx-86 shapes 2.0\r\n\x1A");
+    EXPECT_EQ(Fault("*X\nA,[MARK,marks.shx]\n"),
+              "line 2: shape file MARKS.SHX cannot be read: at its byte 18: "
+              "expected the version 1.0 or 1.1\n");
+}
+
+TEST_F(LinetypesCommand, FaultsOfElementsAreSaidOneALine) {
+    folder.Write(
+        "marks.shx",
+        ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Shape(131, "LOOP", {7, 131, 0}).Text());
+    folder.Write("font.shx", Font());
+    EXPECT_EQ(Fault("*X\nA,1,[NONE,marks.shx],[LOOP,marks.shx]\n*Y\nA,[A,font.shx]\n"),
+              "line 2: linetype X, element 2: shape file MARKS.SHX has no shape NONE\n"
+              "line 2: linetype X, element 3: shape LOOP of MARKS.SHX cannot be drawn: it draws itself as a "
+              "subshape\n"
+              "line 4: linetype Y, element 1: shape file FONT.SHX is a font; shapes come from files without "
+              "font information\n");
+}
+
+TEST_F(LinetypesCommand, FontOfHeightZeroIsAFault) {
+    folder.Write("txt.shx",
+                 ShapeFileBuilder::Shapes().FontInfo("FONT", {0, 1, 0}).Shape(65, "A", {0x10, 0}).Text());
+    EXPECT_EQ(Fault("*GAS\nA,1,[\"A\",STANDARD]\n"),
+              "line 2: linetype GAS, element 2: font TXT.SHX of text style STANDARD has height 0\n");
+}
+
+TEST_F(LinetypesCommand, DefaultStyleIsStandardInItsFontFile) {
+    folder.Write("txt.shx", Font());
+    const ToolResult result = Run("*X\nA,1,[\"A\",Standard,S=2]\n");
+    EXPECT_EQ(result.errors, "");
+    // 2 / 4 units high.
+    EXPECT_EQ(ValuesOf(result.output, "geometry"), (Texts{"M 1,0 l 0.5,0 ", "M 0,0 L 1,0 "}));
+}
+
+TEST_F(LinetypesCommand, BuiltInFontStandsInForTheDefaultStylesAndSaysSo) {
+    const ToolResult result = Run("*X\nA,1,[\"I\",STANDARD,S=21]\n", {"--shapes", "shapes/"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, folder / "lines.lin" + ": note: font file txt.shx not found in ., " + Here() +
+                                 ", shapes/; the built-in font stands in for it\n");
+    // Its letters are 21 units high, and its I is one stroke from top to bottom.
+    EXPECT_EQ(ValuesOf(result.output, "geometry"), (Texts{"M 5,21 l 0,-21 ", "M 0,0 L 1,0 "}));
+}
+
+TEST_F(LinetypesCommand, UnknownStyleIsAFault) {
+    EXPECT_EQ(Fault("*X\nA,1,[\"A\",roads]\n"),
+              "line 2: text style ROADS not found in the empty drawing that is used without --drawing\n");
+}
+
+TEST_F(LinetypesCommand, FailureLeavesTheOutputFileAsItWas) {
+    folder.Write("out.json", "before");
+    Run("*X\nA,x\n", {"-o", folder / "out.json"});
+    EXPECT_EQ(folder.Read("out.json"), "before");
+}
+
+TEST_F(LinetypesCommand, ListPrintsNamesInFileOrder) {
+    const ToolResult result =
+        RunTool({"list", folder.Write("a.LIN", "*B,x\nA,[\"A\",none],[M,none]\n*A\nA,1\n*B\nA,1\n")});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, "B\nA\nB\n");
+}
+
+TEST_F(LinetypesCommand, ListRefusesWhatCannotBeRead) {
+    EXPECT_EQ(RunTool({"list", folder.Write("a.lin", "*B\nA,x\n")}).status, 1);
+    EXPECT_EQ(RunTool({"list", folder.Write("b.lin", "nothing\n")}).status, 1);
+}
+
+} // namespace
