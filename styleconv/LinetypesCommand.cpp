@@ -9,6 +9,7 @@
 #include "drawing/Database.h"
 #include "drawing/HostServices.h"
 #include "styleconv/BuiltInFont.h"
+#include "styleconv/DrawingFile.h"
 #include "styleconv/LinetypeMessages.h"
 #include "styleconv/Messages.h"
 #include "styleconv/NumberOption.h"
@@ -25,6 +26,7 @@ struct LinetypesOptions : CommonOptions {
     std::string file;
     std::vector<std::string> names;
     std::string codePage;
+    std::string drawing;
     std::vector<std::string> shapeFolders;
     double scale = 1.0;
 };
@@ -64,19 +66,24 @@ public:
     Conversion(const InputFile& input, const LinetypesOptions& options)
         : input_(input), options_(options), searchDirectory_(FolderOf(input)),
           services_(WidePaths(options.shapeFolders)), dependencies_(&services_, searchDirectory_.c_str()),
-          shapeFiles_(dependencies_, true), parser_(&dependencies_, &shapeFiles_) {
+          shapeFiles_(dependencies_, options.drawing.empty()), parser_(&dependencies_, &shapeFiles_) {
         sources_.linetypeFolder = platform::PathToBytes(searchDirectory_);
         sources_.searchPath = options.shapeFolders;
     }
 
     // False after saying why.
     bool ReadDrawing() {
-        sources_.styles = "in the empty drawing that is used without --drawing";
-        auto drawing = std::make_unique<drawing::Database>();
-        drawing::TextStyleData style;
-        style.fileName = kDefaultFont;
-        drawing->AddTextStyle(kDefaultStyle, std::move(style));
-        drawing_ = std::move(drawing);
+        sources_.styles = options_.drawing.empty() ? "in the empty drawing that is used without --drawing"
+                                                   : "in " + Shown(options_.drawing);
+        if (options_.drawing.empty()) {
+            auto drawing = std::make_unique<drawing::Database>();
+            drawing::TextStyleData style;
+            style.fileName = kDefaultFont;
+            drawing->AddTextStyle(kDefaultStyle, std::move(style));
+            drawing_ = std::move(drawing);
+        } else {
+            drawing_ = ReadDrawingFile(options_.drawing);
+        }
         services_.setWorkingDatabase(drawing_.get());
         return drawing_ != nullptr;
     }
@@ -199,6 +206,10 @@ void AddLinetypesCommand(CLI::App& app, Runner& runner) {
     command->add_option("FILE", options->file, "A linetype file, or - for standard input")->required();
     AddNameOption(*command, options->names, "Convert only the linetypes of this name; may be given again");
     AddNumberOption(*command, "--scale", options->scale, "Multiply all lengths by this (default: 1)");
+    command
+        ->add_option("--drawing", options->drawing,
+                     "Take text styles from this drawing document (default: one style STANDARD with txt.shx)")
+        ->type_name("DRAWING.json");
     AddShapesOption(*command, options->shapeFolders);
     AddCodePageOption(*command, options->codePage);
     AddCommonOptions(*command, *options);

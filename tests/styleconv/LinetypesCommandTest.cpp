@@ -272,6 +272,44 @@ TEST_F(LinetypesCommand, UnknownStyleIsAFault) {
               "line 2: text style ROADS not found in the empty drawing that is used without --drawing\n");
 }
 
+class LinetypesOverADrawing : public LinetypesCommand {
+protected:
+    Texts Drawing(const std::string& textStyles) const {
+        return {"--drawing",
+                folder.Write("drawing.json", R"({"format": "styleconversion/drawing", "version": 1,
+            "textStyles": [)" + textStyles + "]}")};
+    }
+};
+
+TEST_F(LinetypesOverADrawing, TextStylesAreTheDrawings) {
+    const Texts drawing = Drawing(R"({"name": "Roads", "typeface": "Arial", "bold": true, "textSize": 2.5},
+                                     {"name": "Pipes", "fileName": "pipes.shx", "textSize": 8})");
+    folder.Write("pipes.shx", Font());
+    const ToolResult result = Run("*X\nA,1,[\"A\",ROADS],[\"A\",pipes]\n", drawing);
+    EXPECT_EQ(result.errors, "");
+    // A height of 2.5; a stroke of 1 / 4 × 8 units.
+    EXPECT_EQ(ValuesOf(result.output, "height"), Texts{"2.5"});
+    EXPECT_EQ(ValuesOf(result.output, "bold"), Texts{"true"});
+    EXPECT_EQ(ValuesOf(result.output, "geometry"), (Texts{"M 1,0 l 2,0 ", "M 0,0 L 1,0 "}));
+}
+
+TEST_F(LinetypesOverADrawing, StandardIsNotImplied) {
+    EXPECT_EQ(Fault("*X\nA,1,[\"A\",STANDARD]\n", Drawing("")),
+              "line 2: text style STANDARD not found in " + folder / "drawing.json" + "\n");
+}
+
+TEST_F(LinetypesOverADrawing, BuiltInFontDoesNotStandIn) {
+    EXPECT_EQ(Fault("*X\nA,1,[\"A\",STANDARD]\n", Drawing(R"({"name": "STANDARD", "fileName": "txt.shx"})")),
+              "line 2: font file TXT.SHX of text style STANDARD not found in ., " + Here() + "\n");
+}
+
+TEST_F(LinetypesOverADrawing, DrawingThatCannotBeReadIsAFault) {
+    const ToolResult result = Run("*X\nA,1\n", Drawing(R"({"name": "S", "bold": 1})"));
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors.find(folder / "drawing.json" + ": textStyles[0].bold: expected "), 0U);
+    EXPECT_EQ(Run("*X\nA,1\n", {"--drawing", folder / "none.json"}).status, 1);
+}
+
 TEST_F(LinetypesCommand, FailureLeavesTheOutputFileAsItWas) {
     folder.Write("out.json", "before");
     Run("*X\nA,x\n", {"-o", folder / "out.json"});
