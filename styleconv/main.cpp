@@ -19,6 +19,9 @@ void AddCommands(CLI::App& app, Runner& runner) {
     AddPatternsCommand(app, runner);
     AddGlyphsCommand(app, runner);
     AddListCommand(app, runner);
+    for (CLI::App* const command : app.get_subcommands({})) {
+        command->group("Commands");
+    }
 }
 
 // Help and version are no errors and go to standard output.
@@ -38,6 +41,7 @@ ExitStatus Run(int argc, char** argv) {
                  "styleconv");
     app.set_version_flag("--version", "styleconv " STYLECONVERSION_VERSION);
     app.require_subcommand(1);
+    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     Runner runner;
     AddCommands(app, runner);
     try {
