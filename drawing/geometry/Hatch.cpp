@@ -3,78 +3,18 @@
 
 #include "drawing/geometry/HatchDashes.h"
 #include "drawing/geometry/HatchFrame.h"
+#include "drawing/geometry/HatchNumbers.h"
 #include "drawing/geometry/Limits.h"
 #include "drawing/geometry/MonotoneEdges.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <initializer_list>
 #include <limits>
 
 namespace geometry {
 
 namespace {
-
-/// Takes in every number of a hatch: the first fault, and how large the boundary's coordinates are.
-class NumberCheck {
-public:
-    void Take(std::initializer_list<double> values) {
-        for (const double value : values) {
-            if (status_ != Status::kOk) {
-                return;
-            }
-            if (!std::isfinite(value)) {
-                status_ = Status::kNotFinite;
-            } else if (std::fabs(value) > kMaximumCoordinate) {
-                status_ = Status::kOutOfRange;
-            }
-        }
-    }
-    void TakePoint(Point point) {
-        Take({point.x, point.y});
-        magnitude_ = std::max(magnitude_, std::max(std::fabs(point.x), std::fabs(point.y)));
-    }
-    void TakeReach(Point center, double radius) {
-        TakePoint(center);
-        Take({radius});
-        magnitude_ =
-            std::max(magnitude_, std::max(std::fabs(center.x), std::fabs(center.y)) + std::fabs(radius));
-    }
-
-    void TakeEdge(const LineEdge& edge) {
-        TakePoint(edge.start);
-        TakePoint(edge.end);
-    }
-    void TakeEdge(const BulgeEdge& edge) {
-        TakePoint(edge.start);
-        TakePoint(edge.end);
-        Take({edge.bulge});
-        // The arc stays this close to its chord.
-        TakeReach(edge.start, Distance(edge.start, edge.end) * (1.0 + std::fabs(edge.bulge)));
-    }
-    void TakeEdge(const ArcEdge& edge) {
-        TakeReach(edge.center, edge.radius);
-        Take({edge.startAngle, edge.endAngle});
-    }
-    void TakeEdge(const EllipseEdge& edge) {
-        TakePoint(edge.majorAxis);
-        TakeReach(edge.center, Length(edge.majorAxis) * std::max(1.0, std::fabs(edge.radiusRatio)));
-        Take({edge.radiusRatio, edge.startAngle, edge.endAngle});
-    }
-    void TakeEdge(const SplineEdge& edge) {
-        for (const Point& point : edge.curve.controlPoints) {
-            TakePoint(point);
-        }
-    }
-
-    Status Result() const { return status_; }
-    double Magnitude() const { return magnitude_; }
-
-private:
-    Status status_ = Status::kOk;
-    double magnitude_ = 0.0;
-};
 
 /// A monotone edge and the family lines that cross it, first <= last.
 struct SweptEdge {
@@ -276,22 +216,6 @@ Status FamilyHatcher::AddLine(Point start, Point end) {
     return Status::kOk;
 }
 
-NumberCheck CheckNumbers(const std::vector<HatchLoop>& loops, const std::vector<HatchFamily>& families) {
-    NumberCheck check;
-    for (const HatchLoop& loop : loops) {
-        for (const HatchEdge& edge : loop.edges) {
-            std::visit([&](const auto& shape) { check.TakeEdge(shape); }, edge);
-        }
-    }
-    for (const HatchFamily& family : families) {
-        check.Take({family.angle, family.base.x, family.base.y, family.offset.x, family.offset.y});
-        for (const double dash : family.dashes) {
-            check.Take({dash});
-        }
-    }
-    return check;
-}
-
 } // namespace
 
 HatchLoop LoopFromVertices(const std::vector<BulgeVertex>& vertices) {
@@ -314,13 +238,13 @@ HatchLoop LoopFromVertices(const std::vector<BulgeVertex>& vertices) {
 Status EvaluateHatch(const std::vector<HatchLoop>& loops, const std::vector<HatchFamily>& families,
                      std::vector<HatchLine>& lines) {
     lines.clear();
-    const NumberCheck check = CheckNumbers(loops, families);
-    Status status = check.Result();
+    double magnitude = 0.0;
+    Status status = CheckHatchNumbers(loops, families, magnitude);
     for (std::size_t index = 0; index < families.size() && status == Status::kOk; ++index) {
         HatchFrame frame;
         status = MakeHatchFrame(families[index], frame);
         if (status == Status::kOk) {
-            status = FamilyHatcher(frame, families[index].dashes, check.Magnitude(), lines).Run(loops);
+            status = FamilyHatcher(frame, families[index].dashes, magnitude, lines).Run(loops);
         }
     }
     if (status != Status::kOk) {

@@ -4,6 +4,7 @@
 #include "drawing/geometry/BezierChain.h"
 #include "drawing/geometry/HatchFrame.h"
 
+#include <cmath>
 #include <cstddef>
 #include <vector>
 
@@ -15,6 +16,19 @@ struct ConicArc {
     Vector major;
     Vector minor;
 };
+
+inline Point ConicPoint(const ConicArc& conic, double angle) {
+    return conic.center + std::cos(angle) * conic.major + std::sin(angle) * conic.minor;
+}
+
+/// A conic's level as center + amplitude cos(t - phase).
+struct LevelWave {
+    double center = 0.0;
+    double amplitude = 0.0;
+    double phase = 0.0;
+};
+
+LevelWave MakeLevelWave(const ConicArc& conic, const HatchFrame& frame);
 
 /// The straight parts, conics and Bernstein pieces that a monotone edge can be part of.
 enum class EdgeShape : unsigned char { kStraight, kConic, kBezier };

@@ -67,8 +67,8 @@ void RepeatPeriod(NurbsCurve& curve) {
     }
     std::vector<double> before(degree);
     for (std::size_t index = 0; index < degree; ++index) {
-        const auto turns = static_cast<double>(index / count);
-        const double beyond = length * (turns + 1.0);
+        const std::size_t turns = index / count + 1;
+        const double beyond = length * static_cast<double>(turns);
         before[degree - 1 - index] = period[count - 1 - index % count] - beyond;
         curve.knots.push_back(period[1 + index % count] + beyond);
     }

@@ -106,8 +106,9 @@ void CutSolidLine(const HatchLine& solid, const HatchFamily& family, std::vector
     for (const double dash : family.dashes) {
         cycle += std::fabs(dash);
     }
-    for (double turn = std::floor(from / cycle) - 2; turn * cycle <= to; turn += 1) {
-        double at = turn * cycle;
+    const double firstTurn = std::floor(from / cycle) - 2;
+    for (int turn = 0; (firstTurn + turn) * cycle <= to; ++turn) {
+        double at = (firstTurn + turn) * cycle;
         for (const double dash : family.dashes) {
             const double next = at + std::fabs(dash);
             const bool isSeen = dash > 0 ? std::min(next, to) > std::max(at, from) : at >= from && at <= to;

@@ -145,10 +145,8 @@ TEST(HatchProperties, AreaTurnedMovedAndScaledGivesTheLinesTurnedMovedAndScaled)
             return Point{50 + scale * (std::cos(turn) * p.x - std::sin(turn) * p.y),
                          -70 + scale * (std::sin(turn) * p.x + std::cos(turn) * p.y)};
         };
-        std::vector<Point> image;
-        for (const Point& corner : star) {
-            image.push_back(moved(corner));
-        }
+        std::vector<Point> image(star.size());
+        std::transform(star.begin(), star.end(), image.begin(), moved);
         HatchFamily family = Solid(RandomBetween(random, -1, 1), {0.3, 0.4}, 0.37);
         family.dashes = {0.5, -0.25, 0.0, -0.25};
         HatchFamily other = family;

@@ -18,9 +18,9 @@ using geometry::Point;
 using geometry::Vector;
 
 HatchLoop Polygon(const std::vector<Point>& corners) {
-    std::vector<geometry::BulgeVertex> vertices;
-    for (const Point& corner : corners) {
-        vertices.push_back({corner, 0.0});
+    std::vector<geometry::BulgeVertex> vertices(corners.size());
+    for (std::size_t index = 0; index < corners.size(); ++index) {
+        vertices[index].point = corners[index];
     }
     return geometry::LoopFromVertices(vertices);
 }

@@ -188,15 +188,16 @@ TEST(HostileHatch, RandomNumbersOfAnySizeEnd) {
     for (int round = 0; round < 3000; ++round) {
         std::vector<HatchLoop> loops(1 + random() % 2);
         for (HatchLoop& loop : loops) {
-            loop.edges.push_back(geometry::LineEdge{{any(), any()}, {any(), any()}});
-            loop.edges.push_back(geometry::BulgeEdge{{any(), any()}, {any(), any()}, any()});
-            loop.edges.push_back(geometry::ArcEdge{{any(), any()}, any(), any(), any(), random() % 2 == 0});
-            loop.edges.push_back(geometry::EllipseEdge{
+            loop.edges.emplace_back(geometry::LineEdge{{any(), any()}, {any(), any()}});
+            loop.edges.emplace_back(geometry::BulgeEdge{{any(), any()}, {any(), any()}, any()});
+            loop.edges.emplace_back(
+                geometry::ArcEdge{{any(), any()}, any(), any(), any(), random() % 2 == 0});
+            loop.edges.emplace_back(geometry::EllipseEdge{
                 {any(), any()}, {any(), any()}, any(), any(), any(), random() % 2 == 0});
             geometry::NurbsCurve curve;
             if (MakeNurbsCurve(2, {0, 0, 0, 1, 1, 1}, {{any(), any()}, {any(), any()}, {any(), any()}},
                                {1, std::fabs(any()), 1}, false, curve) == Status::kOk) {
-                loop.edges.push_back(geometry::SplineEdge{curve});
+                loop.edges.emplace_back(geometry::SplineEdge{curve});
             }
         }
         HatchFamily family{any(), {any(), any()}, {any(), any()}, {any(), any()}};

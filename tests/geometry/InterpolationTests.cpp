@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -178,10 +179,8 @@ TEST(Interpolation, TurnedMovedAndScaledPointsGiveTheCurveTurnedMovedAndScaled) 
     std::mt19937_64 random(6);
     const std::vector<Point> points = RandomPoints(random, 12);
     const auto moved = [](Point p) { return Point{7 + 3 * p.x - 4 * p.y, -2 + 4 * p.x + 3 * p.y}; };
-    std::vector<Point> other;
-    for (const Point& point : points) {
-        other.push_back(moved(point));
-    }
+    std::vector<Point> other(points.size());
+    std::transform(points.begin(), points.end(), other.begin(), moved);
     const NurbsCurve curve = Through(points);
     const NurbsCurve image = Through(other);
     for (std::size_t index = 0; index < curve.controlPoints.size(); ++index) {

@@ -111,10 +111,10 @@ TEST(NurbsCurve, EndsOfAClampedCurveAreItsFirstAndLastControlPointExactly) {
     std::mt19937_64 random(1);
     for (int round = 0; round < 100; ++round) {
         const int degree = 1 + round % 7;
-        std::vector<Point> points;
-        for (int index = 0; index < degree + 5; ++index) {
-            points.push_back({geometrytests::RandomBetween(random, -1e5, 1e5),
-                              geometrytests::RandomBetween(random, -1.0, 1.0)});
+        std::vector<Point> points(static_cast<std::size_t>(degree) + 5);
+        for (Point& point : points) {
+            point = {geometrytests::RandomBetween(random, -1e5, 1e5),
+                     geometrytests::RandomBetween(random, -1.0, 1.0)};
         }
         const NurbsCurve curve = MakeCurve(degree, ClampedKnots(degree, points.size()), points);
         const Interval interval = ParameterInterval(curve);

@@ -40,9 +40,11 @@ std::vector<double> DenseParameters(double from, double to, int count) {
     for (int step = 0; step <= count; ++step) {
         parameters.push_back(from + (to - from) * step / count);
     }
-    for (double part = 0.5; part > 1e-12; part *= 0.7) {
+    double part = 0.5;
+    while (part > 1e-12) {
         parameters.push_back(from + (to - from) * part);
         parameters.push_back(to - (to - from) * part);
+        part *= 0.7;
     }
     return parameters;
 }
@@ -175,9 +177,9 @@ TEST(Sampling, StraightCurveNeedsItsTwoEnds) {
 }
 
 TEST(Sampling, TeethFinerThanTheToleranceAreSkipped) {
-    std::vector<Point> points;
-    for (int index = 0; index < 5000; ++index) {
-        points.push_back({0.01 * index, index % 2 == 0 ? 0.0 : 0.001});
+    std::vector<Point> points(5000);
+    for (std::size_t index = 0; index < points.size(); ++index) {
+        points[index] = {0.01 * static_cast<double>(index), index % 2 == 0 ? 0.0 : 0.001};
     }
     EXPECT_EQ(SampleAll(MakeCurve(1, ClampedKnots(1, points.size()), points), 0.01).size(), 2U);
 }
@@ -256,9 +258,9 @@ TEST(Sampling, HugeCoordinatesEnd) {
 }
 
 TEST(Sampling, ManyCornersAreAllAllowed) {
-    std::vector<Point> points;
-    for (int index = 0; index < 100000; ++index) {
-        points.push_back({0.5 * index, index % 2 == 0 ? 0.0 : 100.0});
+    std::vector<Point> points(100000);
+    for (std::size_t index = 0; index < points.size(); ++index) {
+        points[index] = {0.5 * static_cast<double>(index), index % 2 == 0 ? 0.0 : 100.0};
     }
     EXPECT_EQ(SampleAll(MakeCurve(1, ClampedKnots(1, points.size()), points), 0.001).size(), points.size());
 }
