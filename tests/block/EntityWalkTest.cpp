@@ -1,0 +1,271 @@
+// The way from a block to its graphics: names, order, layers, classes, the point usage.
+#include "tests/block/BlockTest.h"
+
+namespace blocktest {
+namespace {
+
+using drawing::Operation;
+using Paths = std::vector<std::wstring>;
+
+class EntityWalk : public BlockTest {
+protected:
+    // A point at (x, 0); its path tells which one it is.
+    OxDbObjectId AddPoint(int x, const std::wstring& layer = L"0") {
+        drawing::EntityProperties properties = Solid();
+        properties.layer = layer;
+        return block.Add<drawing::Point>(properties, OxGePoint3d{static_cast<double>(x), 0, 0}).objectId();
+    }
+
+    static std::wstring PathOf(int x) {
+        const std::wstring place = std::to_wstring(x) + L".0,0.0";
+        return L"M " + place + L" L " + place;
+    }
+};
+
+TEST_F(EntityWalk, SymbolIsNamedAfterTheBlockInItsOwnSpelling) {
+    EXPECT_EQ(Convert(L"b")->GetName(), L"B");
+}
+
+TEST_F(EntityWalk, SymbolOfAnEmptyBlockHasItsNameTheRotationAndThePointUsageOnly) {
+    const Symbol symbol = Convert();
+    EXPECT_EQ(symbol->GetName(), L"B");
+    EXPECT_EQ(symbol->GetDescription(), L"");
+    EXPECT_EQ(symbol->GetGraphics().GetCount(), 0);
+    ASSERT_EQ(symbol->GetParameterDefinition().GetCount(), 1);
+    const TylModel::Parameter& rotation = ParameterAt(symbol, 0);
+    EXPECT_EQ(rotation.GetIdentifier(), L"ROTATION");
+    EXPECT_EQ(rotation.GetDisplayName(), L"&Rotation");
+    EXPECT_EQ(rotation.GetDescription(), L"Rotation");
+    EXPECT_EQ(rotation.GetDefaultValue(), L"0.0");
+    EXPECT_EQ(static_cast<int>(rotation.GetDataType()), 5);
+    ASSERT_NE(symbol->GetPointUsage(), nullptr);
+    EXPECT_EQ(symbol->GetPointUsage()->GetAngle(), L"%ROTATION%");
+    EXPECT_EQ(symbol->GetLineUsage(), nullptr);
+    EXPECT_EQ(symbol->GetAreaUsage(), nullptr);
+}
+
+TEST_F(EntityWalk, RotationComesBehindTheParametersOfColoursAndLineWeights) {
+    block.Add<drawing::Point>(Drawn(L"0", ByLayer(), -1), OxGePoint3d{});
+    EXPECT_EQ(Identifiers(Convert()), (Paths{L"COLORBYLAYER0", L"LWBYLAYER0", L"ROTATION"}));
+}
+
+TEST_F(EntityWalk, EntitiesComeInTheOrderOfCreationWithoutADrawOrder) {
+    AddPoint(3);
+    AddPoint(1);
+    AddPoint(2);
+    EXPECT_EQ(Geometries(), (Paths{PathOf(3), PathOf(1), PathOf(2)}));
+}
+
+TEST_F(EntityWalk, EntitiesComeInDrawOrderAndOnlyThoseThatItLists) {
+    const OxDbObjectId first = AddPoint(1);
+    AddPoint(2);
+    const OxDbObjectId third = AddPoint(3);
+    block.SetDrawOrder({third, first});
+    EXPECT_EQ(Geometries(), (Paths{PathOf(3), PathOf(1)}));
+}
+
+TEST_F(EntityWalk, EmptyDrawOrderFallsBackToTheOrderOfCreation) {
+    AddPoint(1);
+    block.SetDrawOrder({});
+    EXPECT_EQ(Geometries(), Paths{PathOf(1)});
+}
+
+TEST_F(EntityWalk, DrawOrderThatCannotBeReadFallsBackToTheOrderOfCreation) {
+    const OxDbObjectId first = AddPoint(1);
+    const OxDbObjectId second = AddPoint(2);
+    block.SetDrawOrder({second, first});
+    database.Failures().Fail(Operation::kGetFullDrawOrder, 1, Oxsys::eInvalidInput);
+    EXPECT_EQ(Geometries(), (Paths{PathOf(1), PathOf(2)}));
+    database.Failures().Clear();
+    database.Failures().Fail(Operation::kGetSortentsTable, 1, Oxsys::eInvalidInput);
+    EXPECT_EQ(Geometries(), (Paths{PathOf(1), PathOf(2)}));
+}
+
+TEST_F(EntityWalk, EntityOfTheDrawOrderThatCannotBeOpenedIsSkipped) {
+    const OxDbObjectId first = AddPoint(1);
+    const OxDbObjectId erased = AddPoint(2);
+    const OxDbObjectId third = AddPoint(3);
+    drawing::Database::Erase(erased);
+    block.SetDrawOrder({third, erased, OxDbObjectId(), block.objectId(), first});
+    EXPECT_EQ(Geometries(), (Paths{PathOf(3), PathOf(1)}));
+}
+
+TEST_F(EntityWalk, EntityOfTheIteratorThatCannotBeOpenedIsSkipped) {
+    AddPoint(1);
+    AddPoint(2);
+    AddPoint(3);
+    database.Failures().Fail(Operation::kBlockIteratorGetEntity, 2, Oxsys::eUnknownObject);
+    EXPECT_EQ(Geometries(), (Paths{PathOf(1), PathOf(3)}));
+}
+
+TEST_F(EntityWalk, BlockWithoutAnIteratorBecomesASymbolWithoutGraphics) {
+    AddPoint(1);
+    database.Failures().Fail(Operation::kBlockNewIterator, 1, Oxsys::eInvalidInput);
+    const Symbol symbol = Convert();
+    EXPECT_EQ(symbol->GetGraphics().GetCount(), 0);
+    EXPECT_NE(symbol->GetPointUsage(), nullptr);
+}
+
+TEST_F(EntityWalk, LayersToIgnoreAreComparedExactly) {
+    database.AddLayer(L"Walls", Index(1));
+    AddPoint(1, L"Walls");
+    AddPoint(2, L"Wall");
+    struct Case {
+        Paths ignored;
+        Paths drawn;
+    };
+    const Paths all{PathOf(1), PathOf(2)};
+    const Case cases[] = {
+        {{L"Walls"}, {PathOf(2)}},
+        {{L"Doors", L"Walls", L"Walls"}, {PathOf(2)}},
+        {{L"walls"}, all},
+        {{L"WALLS"}, all},
+        {{L"Walls "}, all},
+        {{L" Walls"}, all},
+        {{L""}, all},
+        {{L"Walls", L"Wall"}, {}},
+    };
+    BlockConverter converter(&database);
+    for (const Case& row : cases) {
+        converter.SetLayersToIgnore(row.ignored);
+        const Symbol symbol(dynamic_cast<TylModel::SimpleSymbolDefinition*>(converter.Convert(L"B")));
+        Paths drawn;
+        for (std::int32_t i = 0; i < symbol->GetGraphics().GetCount(); ++i) {
+            drawn.push_back(PathAt(symbol, i).GetGeometry());
+        }
+        EXPECT_EQ(drawn, row.drawn) << ::testing::PrintToString(row.ignored);
+    }
+}
+
+TEST_F(EntityWalk, LayerFilterComparesTheEntitysOwnSpelling) {
+    database.AddLayer(L"Walls", Index(1));
+    AddPoint(1, L"WALLS");
+    BlockConverter converter(&database);
+    converter.SetLayersToIgnore({L"Walls"});
+    const Symbol kept(dynamic_cast<TylModel::SimpleSymbolDefinition*>(converter.Convert(L"B")));
+    EXPECT_EQ(kept->GetGraphics().GetCount(), 1);
+    converter.SetLayersToIgnore({L"WALLS"});
+    const Symbol dropped(dynamic_cast<TylModel::SimpleSymbolDefinition*>(converter.Convert(L"B")));
+    EXPECT_EQ(dropped->GetGraphics().GetCount(), 0);
+}
+
+TEST_F(EntityWalk, IgnoredEntityLeavesNoParameter) {
+    database.AddLayer(L"Walls", Index(1));
+    block.Add<drawing::Point>(Drawn(L"Walls", ByLayer(), -1), OxGePoint3d{});
+    BlockConverter converter(&database);
+    converter.SetLayersToIgnore({L"Walls"});
+    const Symbol symbol(dynamic_cast<TylModel::SimpleSymbolDefinition*>(converter.Convert(L"B")));
+    EXPECT_EQ(Identifiers(symbol), Paths{L"ROTATION"});
+}
+
+TEST_F(EntityWalk, EntityWhoseLayerCannotBeReadIsDrawn) {
+    AddPoint(1);
+    BlockConverter converter(&database);
+    converter.SetLayersToIgnore({L"0", L""});
+    database.Failures().Fail(Operation::kEntityLayer, 1, Oxsys::eInvalidInput);
+    const Symbol symbol(dynamic_cast<TylModel::SimpleSymbolDefinition*>(converter.Convert(L"B")));
+    EXPECT_EQ(symbol->GetGraphics().GetCount(), 1);
+}
+
+TEST_F(EntityWalk, CopiesOfAConverterHaveTheirOwnListOfLayers) {
+    AddPoint(1);
+    BlockConverter converter(&database);
+    converter.SetLayersToIgnore({L"0"});
+    BlockConverter copy(converter);
+    converter.SetLayersToIgnore({});
+    const Symbol without(dynamic_cast<TylModel::SimpleSymbolDefinition*>(copy.Convert(L"B")));
+    EXPECT_EQ(without->GetGraphics().GetCount(), 0);
+    const Symbol with(dynamic_cast<TylModel::SimpleSymbolDefinition*>(converter.Convert(L"B")));
+    EXPECT_EQ(with->GetGraphics().GetCount(), 1);
+}
+
+TEST_F(EntityWalk, InsertsAndUnknownEntitiesAreIgnored) {
+    block.Add<drawing::BlockReference>(Solid(), L"B");
+    block.Add<drawing::OtherEntity>(Solid(), L"OxDbDimension");
+    block.Add<drawing::OtherEntity>(Drawn(L"0", ByLayer(), -1), L"OxDbFace");
+    const Symbol symbol = Convert();
+    EXPECT_EQ(symbol->GetGraphics().GetCount(), 0);
+    EXPECT_EQ(Identifiers(symbol), Paths{L"ROTATION"});
+}
+
+// A class of the host that derives from one of the drawing's: entities of it are seen as the base class.
+class SurveyPoint : public drawing::Point {
+public:
+    using Point::Point;
+    const OxRxClass* isA() const override { return Class(); }
+    static const OxRxClass* Class() {
+        static const OxRxClass kClass(L"SurveyPoint", OxDbPoint::desc());
+        return &kClass;
+    }
+};
+
+class DeepSurveyPoint : public SurveyPoint {
+public:
+    using SurveyPoint::SurveyPoint;
+    const OxRxClass* isA() const override {
+        static const OxRxClass kClass(L"DeepSurveyPoint", SurveyPoint::Class());
+        return &kClass;
+    }
+};
+
+TEST_F(EntityWalk, EntityOfADerivedClassGoesToTheCollectorOfItsBaseClass) {
+    block.Add<SurveyPoint>(Solid(), OxGePoint3d{1, 0, 0});
+    block.Add<DeepSurveyPoint>(Solid(), OxGePoint3d{2, 0, 0});
+    EXPECT_EQ(Geometries(), (Paths{PathOf(1), PathOf(2)}));
+}
+
+TEST_F(EntityWalk, ConvertsLayoutsAndAnonymousBlocksByName) {
+    drawing::BlockData data;
+    data.layout = true;
+    database.AddBlock(L"*Model_Space", data);
+    EXPECT_EQ(Convert(L"*Model_Space")->GetName(), L"*Model_Space");
+}
+
+TEST_F(EntityWalk, UnknownBlockGivesNothing) {
+    BlockConverter converter(&database);
+    EXPECT_EQ(converter.Convert(L"NOWHERE"), nullptr);
+    drawing::Database::Erase(block.objectId());
+    EXPECT_EQ(converter.Convert(L"B"), nullptr);
+}
+
+TEST_F(EntityWalk, NoDatabaseGivesNothing) {
+    BlockConverter converter(nullptr);
+    EXPECT_EQ(converter.Convert(L"B"), nullptr);
+    EXPECT_EQ(converter.Convert(&block), nullptr);
+    converter.SetLayersToIgnore({L"0"});
+}
+
+TEST_F(EntityWalk, FailingTableRecordOrNameGivesNothing) {
+    BlockConverter converter(&database);
+    for (const Operation operation :
+         {Operation::kGetBlockTable, Operation::kBlockTableGetAt, Operation::kBlockGetName}) {
+        for (const Oxsys::ErrorStatus status : {Oxsys::eInvalidInput, Oxsys::eOk}) {
+            database.Failures().Clear();
+            database.Failures().Fail(operation, 1, status);
+            EXPECT_EQ(converter.Convert(L"B"), nullptr) << drawing::OperationName(operation);
+            EXPECT_TRUE(database.IsEverythingClosed()) << drawing::OperationName(operation);
+        }
+    }
+}
+
+TEST_F(EntityWalk, RecordOfTheCallerIsConvertedAndStaysOpen) {
+    AddPoint(1);
+    OxDbBlockTable* table = nullptr;
+    OxDbBlockTableRecord* record = nullptr;
+    ASSERT_EQ(database.getSymbolTable(table, OxDb::kForRead), Oxsys::eOk);
+    ASSERT_EQ(table->getAt(L"B", record, OxDb::kForRead, false), Oxsys::eOk);
+    table->close();
+    BlockConverter converter(&database);
+    const Symbol symbol(dynamic_cast<TylModel::SimpleSymbolDefinition*>(converter.Convert(record)));
+    ASSERT_NE(symbol, nullptr);
+    EXPECT_EQ(symbol->GetName(), L"B");
+    EXPECT_EQ(drawing::Database::OpenCount(block.objectId()), 1U);
+    database.Failures().Fail(Operation::kBlockGetName, 1, Oxsys::eInvalidInput);
+    EXPECT_EQ(converter.Convert(record), nullptr);
+    EXPECT_EQ(drawing::Database::OpenCount(block.objectId()), 1U);
+    record->close();
+    EXPECT_EQ(converter.Convert(static_cast<OxDbBlockTableRecord*>(nullptr)), nullptr);
+}
+
+} // namespace
+} // namespace blocktest

@@ -1,0 +1,236 @@
+// Polylines whose linetype starts anew at every segment.
+#include "tests/block/BlockTest.h"
+#include "tests/block/CirclePoints.h"
+
+namespace blocktest {
+namespace {
+
+using Vertices = std::vector<drawing::BulgeVertex>;
+
+class PolylineSegments : public BlockTest {
+protected:
+    std::wstring Path(const std::wstring& linetype, const Vertices& vertices, bool closed = false,
+                      bool plinegen = false) {
+        block.Add<drawing::Polyline>(Dashed(linetype), vertices, closed, plinegen);
+        return Geometry();
+    }
+};
+
+TEST_F(PolylineSegments, OpenPolylineHasOneSegmentLessThanVertices) {
+    EXPECT_EQ(Path(L"Continuous", {{{0, 0}}, {{1, 0}}, {{1, 1}}}),
+              L"M 0.0,0.0 L 1.0,0.0 M 1.0,0.0 L 1.0,1.0");
+}
+
+TEST_F(PolylineSegments, ClosedPolylineHasAsManySegmentsAsVertices) {
+    EXPECT_EQ(Path(L"Continuous", {{{0, 0}}, {{1, 0}}, {{1, 1}}}, true),
+              L"M 0.0,0.0 L 1.0,0.0 M 1.0,0.0 L 1.0,1.0 M 1.0,1.0 L 0.0,0.0");
+}
+
+TEST_F(PolylineSegments, BulgesAreArcsByTheirSense) {
+    // A bulge of 1 is a half circle: to the right of the chord counter-clockwise, to its left clockwise.
+    EXPECT_EQ(Path(L"Continuous", {{{0, 0}, 1}, {{2, 0}, -1}, {{4, 0}}}),
+              L"M 0.0,0.0 A 1.0,1.0 0.0 1 0 2.0,0.0 M 2.0,0.0 A 1.0,1.0 0.0 1 1 4.0,0.0");
+}
+
+TEST_F(PolylineSegments, EachSegmentStartsThePattern) {
+    database.AddLinetype(L"DASHED", Dashes({0.5, -0.25}));
+    EXPECT_EQ(
+        Path(L"DASHED", {{{0, 0}}, {{2, 0}}, {{2, 0.5}}}),
+        L"M 0.0,0.0 L 0.5,0.0 M 0.75,0.0 L 1.25,0.0 M 1.5,0.0 L 2.0,0.0 M 2.0,0.0 L 2.0,0.25 L 2.0,0.5");
+}
+
+TEST_F(PolylineSegments, LinetypeGenerationWithoutDashesOrWithoutALengthDrawsSegments) {
+    database.AddLinetype(L"NONE", Dashes({1, -1}), 0.0);
+    const std::wstring expected = L"M 0.0,0.0 L 1.0,0.0 M 1.0,0.0 L 1.0,1.0";
+    const Vertices vertices{{{0, 0}}, {{1, 0}}, {{1, 1}}};
+    for (const wchar_t* const linetype : {L"Continuous", L"NOWHERE", L"NONE"}) {
+        block.Add<drawing::Polyline>(Dashed(linetype), vertices, false, true);
+    }
+    for (const std::wstring& path : Geometries()) {
+        EXPECT_EQ(path, expected);
+    }
+}
+
+TEST_F(PolylineSegments, CoincidentSegmentsAddNothing) {
+    EXPECT_EQ(Path(L"Continuous", {{{0, 0}}, {{0, 0}}, {{1, 0}}, {{1, 0}, 1}, {{1, 0}}}),
+              L"M 0.0,0.0 L 1.0,0.0");
+}
+
+TEST_F(PolylineSegments, PolylineWithoutSegmentsAddsNoPathButItsParameters) {
+    const drawing::EntityProperties byLayer{L"0", ByLayer(), OxDb::kLnWtByLayer, L"Continuous"};
+    block.Add<drawing::Polyline>(byLayer, Vertices{}, false, false);
+    block.Add<drawing::Polyline>(byLayer, Vertices{}, true, true);
+    block.Add<drawing::Polyline>(byLayer, Vertices{{{1, 1}}}, false, true);
+    block.Add<drawing::Polyline>(byLayer, Vertices{{{1, 1}}}, true, false);
+    block.Add<drawing::Polyline>(byLayer, Vertices{{{1, 1}}, {{1, 1}}}, true, false);
+    const Symbol symbol = Convert();
+    EXPECT_EQ(symbol->GetGraphics().GetCount(), 0);
+    EXPECT_EQ(Identifiers(symbol), (std::vector<std::wstring>{L"COLORBYLAYER0", L"LWBYLAYER0", L"ROTATION"}));
+}
+
+TEST_F(PolylineSegments, SegmentThatCannotBeReadIsLeftOut) {
+    database.Failures().Fail(drawing::Operation::kGetLineSegAt, 2, Oxsys::eInvalidIndex);
+    EXPECT_EQ(Path(L"Continuous", {{{0, 0}}, {{1, 0}}, {{2, 0}}, {{3, 0}}}),
+              L"M 0.0,0.0 L 1.0,0.0 M 2.0,0.0 L 3.0,0.0");
+    database.Failures().Clear();
+    database.Failures().Fail(drawing::Operation::kGetLineSegAt, 1, Oxsys::eInvalidIndex);
+    EXPECT_EQ(Geometry(), L"M 1.0,0.0 L 2.0,0.0 M 2.0,0.0 L 3.0,0.0");
+}
+
+// A linetype that runs on over the vertices.
+class PolylineWalk : public BlockTest {
+protected:
+    std::wstring Path(const std::vector<double>& dashes, const Vertices& vertices, bool closed = false) {
+        database.AddLinetype(L"DASHED", Dashes(dashes));
+        block.Add<drawing::Polyline>(Dashed(L"DASHED"), vertices, closed, true);
+        return Geometry();
+    }
+};
+
+TEST_F(PolylineWalk, DashThatCrossesAVertexIsDrawnInTwoPieces) {
+    // 6 = 2 x 3: the lead is half of the first dash. The dash from 2.5 on is cut at 3 and ends at 4.5.
+    EXPECT_EQ(Path({2, -1}, {{{0, 0}}, {{3, 0}}, {{3, 3}}}),
+              L"M 0.0,0.0 L 1.0,0.0 M 2.0,0.0 L 3.0,0.0 L 3.0,1.0 M 3.0,2.0 L 3.0,3.0");
+}
+
+TEST_F(PolylineWalk, GapThatCrossesAVertexMovesTwice) {
+    // 6 = 3 x 2: stops at 0.5, 1.5, 2.5, then a gap from 2.5 to 3.5 over the vertex at 3.
+    EXPECT_EQ(Path({1, -1}, {{{0, 0}}, {{3, 0}}, {{3, 3}}}),
+              L"M 0.0,0.0 L 0.5,0.0 M 1.5,0.0 L 2.5,0.0 M 3.0,0.0 M 3.0,0.5 L 3.0,1.5 M 3.0,2.5 L 3.0,3.0");
+}
+
+TEST_F(PolylineWalk, EntryThatEndsAtAVertexNeedsNoSecondPiece) {
+    // 4 = 2 x 2: stops at 0.5, 1.5, 2.5, 3.5; the vertex is at 1.5.
+    EXPECT_EQ(Path({1, -1}, {{{0, 0}}, {{1.5, 0}}, {{4, 0}}}),
+              L"M 0.0,0.0 L 0.5,0.0 M 1.5,0.0 L 2.5,0.0 M 3.5,0.0 L 4.0,0.0");
+}
+
+TEST_F(PolylineWalk, ShorterThanThePatternRunsOnFromTheSecondEntryWithoutALeadOut) {
+    // Half of 3 is drawn; then the gap of 1, then the dash of 5 until the end.
+    EXPECT_EQ(Path({5, -1}, {{{0, 0}}, {{3, 0}}}), L"M 0.0,0.0 L 1.5,0.0 M 2.5,0.0 L 3.0,0.0");
+}
+
+TEST_F(PolylineWalk, ClosedPolylineIsWalkedBackToItsStart) {
+    // 8 = 4 x 2: stops at 0.5, 1.5 and so on to 7.5.
+    EXPECT_EQ(Path({1, -1}, {{{0, 0}}, {{2, 0}}, {{2, 2}}, {{0, 2}}}, true),
+              L"M 0.0,0.0 L 0.5,0.0 M 1.5,0.0 L 2.0,0.0 L 2.0,0.5 M 2.0,1.5 L 2.0,2.0 "
+              L"L 1.5,2.0 M 0.5,2.0 L 0.0,2.0 L 0.0,1.5 M 0.0,0.5 L 0.0,0.0");
+}
+
+TEST_F(PolylineWalk, WhatIsLeftBehindTheLeadOutIsWalkedWithThePattern) {
+    // 5 = 2 x 2 + 1: the lead is 0.5. The first gap is skipped, the lead-out ends at 4, and the pattern goes
+    // on with the gap of dash 0.
+    EXPECT_EQ(Path({-1, 1}, {{{0, 0}}, {{5, 0}}}),
+              L"M 0.0,0.0 L 0.5,0.0 L 1.5,0.0 M 2.5,0.0 L 3.5,0.0 L 4.0,0.0 M 5.0,0.0");
+}
+
+TEST_F(PolylineWalk, LeadOutMayBeginOnALaterSegment) {
+    // As before, with vertices at 3.5 and 3.75: the lead-out is cut in two.
+    EXPECT_EQ(Path({-1, 1}, {{{0, 0}}, {{3.5, 0}}, {{3.75, 0}}, {{5, 0}}}),
+              L"M 0.0,0.0 L 0.5,0.0 L 1.5,0.0 M 2.5,0.0 L 3.5,0.0 L 3.75,0.0 L 4.0,0.0 M 5.0,0.0");
+}
+
+TEST_F(PolylineWalk, DotsAreLinesToTheSamePointAlsoInFrontOfALeadWithoutLength) {
+    // 4 = 4 x 1 with a dot last: the lead has no length and is a dot itself. Eight entries, the lead-in the
+    // first, then the lead-out, another dot; the skipped gap is left over and walked.
+    EXPECT_EQ(Path({-1, 0}, {{{0, 0}}, {{4, 0}}}),
+              L"M 0.0,0.0 L 0.0,0.0 L 0.0,0.0 M 1.0,0.0 L 1.0,0.0 M 2.0,0.0 L 2.0,0.0 M 3.0,0.0 L 3.0,0.0 "
+              L"L 3.0,0.0 M 4.0,0.0 L 4.0,0.0");
+}
+
+TEST_F(PolylineWalk, DrawnEntryStartsAgainAtFullLengthBehindAnArc) {
+    // A half circle of radius 1, then 4 straight up: 7.14 = 2 x 3 + 1.14, the lead 1.57 is a quarter circle.
+    // The gap of 1 ends 1 radian after the lowest point; the dash of 2 is cut by the arc's end and is drawn
+    // whole behind it.
+    EXPECT_EQ(Path({2, -1}, {{{0, 0}, 1}, {{2, 0}}, {{2, 4}}}),
+              L"M 0.0,0.0 A 1.0,1.0 0.0 0 0 1.0,-1.0 M 1.84147,-0.54 A 1.0,1.0 0.0 0 0 2.0,0.0 L 2.0,2.0 "
+              L"M 2.0,3.0 L 2.0,4.0");
+}
+
+TEST_F(PolylineWalk, GapThatIsCutByAnArcIsNotRestarted) {
+    // A half circle of radius 1, then 4 up, with (0.5, -3): 7.14 = 2 x 3.5 + 0.14, the lead is 0.32. The gap
+    // has 2.82 of the arc and 0.18 of the line.
+    EXPECT_EQ(Path({0.5, -3}, {{{0, 0}, 1}, {{2, 0}}, {{2, 4}}}),
+              L"M 0.0,0.0 A 1.0,1.0 0.0 0 0 " +
+                  OnCircle(1, 0, 1, 180 + 0.3207963267948966 * 180 / 3.141592653589793) +
+                  L" M 2.0,0.0 M 2.0,0.1792 L 2.0,0.6792 M 2.0,3.6792 L 2.0,4.0");
+}
+
+TEST_F(PolylineWalk, LargeFlagBehindACutIsJudgedFromTheWholeEntry) {
+    // A half circle of radius 0.5 is 1.57 long; the lead of 2.29 is cut by its end. 2.29 / 0.5 is more than
+    // pi, though the half circle is not. Then the lead runs again at full length.
+    EXPECT_EQ(Path({2, -1}, {{{0, 0}, 1}, {{1, 0}}, {{1, 4}}}),
+              L"M 0.0,0.0 A 0.5,0.5 0.0 1 0 1.0,0.0 L 1.0,2.2854 M 1.0,3.2854 L 1.0,4.0");
+}
+
+TEST_F(PolylineWalk, ClockwiseArcsAreWalkedWithTheAngleFalling) {
+    // The half circle over (1, 0) from (0, 0), radius 1, with (2, -1): 3.14 = 1 x 3 + 0.14, the lead is 1.07.
+    const double lead = (2 + 0.14159265358979312) / 2;
+    const auto on = [&](double length) { return OnCircle(1, 0, 1, 180 - length * 180 / 3.141592653589793); };
+    const std::wstring path = Path({2, -1}, {{{0, 0}, -1}, {{2, 0}}});
+    EXPECT_EQ(path, L"M 0.0,0.0 A 1.0,1.0 0.0 0 1 " + on(lead) + L" M " + on(lead + 1) +
+                        L" A 1.0,1.0 0.0 0 1 2.0,0.0");
+}
+
+TEST_F(PolylineWalk, DotsOnArcsAreLinesToTheSamePoint) {
+    // 3.14 = 2 x 1.5 + 0.14: the lead is 0.57.
+    const double lead = (1 + 0.14159265358979312) / 2;
+    const auto on = [&](double length) { return OnCircle(1, 0, 1, 180 + length * 180 / 3.141592653589793); };
+    const std::wstring arc = L" A 1.0,1.0 0.0 0 0 ";
+    EXPECT_EQ(Path({1, 0, -0.5}, {{{0, 0}, 1}, {{2, 0}}}),
+              L"M 0.0,0.0" + arc + on(lead) + L" L " + on(lead) + L" M " + on(lead + 0.5) + arc +
+                  on(lead + 1.5) + L" L " + on(lead + 1.5) + L" M " + on(lead + 2) + arc + L"2.0,0.0");
+}
+
+TEST_F(PolylineWalk, CoincidentSegmentsAreNoPartOfIt) {
+    EXPECT_EQ(Path({2, -1}, {{{0, 0}}, {{0, 0}}, {{3, 0}}, {{3, 0}}, {{3, 3}}}),
+              L"M 0.0,0.0 L 1.0,0.0 M 2.0,0.0 L 3.0,0.0 L 3.0,1.0 M 3.0,2.0 L 3.0,3.0");
+}
+
+TEST_F(PolylineWalk, LinetypeOfDotsOnlyDrawsTheRestSolid) {
+    // With a length of 1 that its one dot does not have: 3.5 = 3 x 1 + 0.5, the lead is 0.25, and the dot
+    // behind it is a whole round of the pattern that gets nowhere.
+    database.AddLinetype(L"DOTS", Dashes({0}), 1.0);
+    block.Add<drawing::Polyline>(Dashed(L"DOTS"), Vertices{{{0, 0}}, {{2.5, 0}}, {{2.5, 1}, 1}, {{2.5, 2}}},
+                                 false, true);
+    // 3.5 + a half circle of radius 0.5: 5.07, a lead of 0.0354.
+    EXPECT_EQ(Geometry(),
+              L"M 0.0,0.0 L 0.0354,0.0 L 0.0354,0.0 L 2.5,0.0 L 2.5,1.0 A 0.5,0.5 0.0 1 0 2.5,2.0");
+}
+
+TEST_F(PolylineWalk, DashesTooShortToCountDrawTheRestSolid) {
+    // 1e-30 changes nothing of a length of 10.
+    database.AddLinetype(L"DUST", Dashes({1e-30, -1e-30}), 5.0);
+    block.Add<drawing::Polyline>(Dashed(L"DUST"), Vertices{{{0, 0}}, {{20, 0}}, {{20, 1}}}, false, true);
+    // 21 = 4 x 5 + 1: a lead of 0.5, then one round of a gap and a dash of no length.
+    EXPECT_EQ(Geometry(), L"M 0.0,0.0 L 0.5,0.0 M 0.5,0.0 L 0.5,0.0 L 20.0,0.0 L 20.0,1.0");
+}
+
+TEST_F(PolylineWalk, CountsOfRepetitionsThatDoNotFitWrapAndEnd) {
+    // 10 / 1e-9 gives -2^31 repetitions; with two dashes that is a count of 0, which never comes back to 0.
+    // The lead is (4 + 10 + 2.147483648) / 2.
+    database.AddLinetype(L"TWO", Dashes({4, -4}), 1e-9);
+    database.AddLinetype(L"THREE", Dashes({4, -4, 0}), 1e-9);
+    const Vertices vertices{{{0, 0}}, {{10, 0}}};
+    block.Add<drawing::Polyline>(Dashed(L"TWO"), vertices, false, true);
+    block.Add<drawing::Polyline>(Dashed(L"THREE"), vertices, false, true);
+    for (const std::wstring& path : Geometries()) {
+        EXPECT_EQ(path, L"M 0.0,0.0 L 8.07374,0.0 M 10.0,0.0");
+    }
+}
+
+TEST_F(PolylineWalk, LengthsThatAreNotFiniteEnd) {
+    database.AddLinetype(L"DASHED", Dashes({1, -1}));
+    database.AddLinetype(L"ENDLESS", Dashes({1, -1}), std::numeric_limits<double>::infinity());
+    for (const wchar_t* const linetype : {L"DASHED", L"ENDLESS"}) {
+        block.Add<drawing::Polyline>(Dashed(linetype), Vertices{{{0, 0}}, {{1e300, 0}}, {{0, 0}}}, false,
+                                     true);
+        block.Add<drawing::Polyline>(Dashed(linetype), Vertices{{{0, 0}}, {{HUGE_VAL, 0}}, {{0, 0}}}, false,
+                                     true);
+        block.Add<drawing::Polyline>(Dashed(linetype), Vertices{{{0, 0}}, {{NAN, 0}}, {{0, 0}}}, false, true);
+    }
+    EXPECT_EQ(Geometries().size(), 6U);
+}
+
+} // namespace
+} // namespace blocktest
