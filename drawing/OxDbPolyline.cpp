@@ -5,6 +5,7 @@
 #include "drawing/Resident.h"
 
 #include <cmath>
+#include <memory>
 #include <vector>
 
 namespace {
@@ -59,8 +60,10 @@ struct OxDbPolyline::Data {
     }
 };
 
-OxDbPolyline::OxDbPolyline(unsigned int vertexCount) : data_(new Data) {
-    data_->vertices.reserve(vertexCount);
+OxDbPolyline::OxDbPolyline(unsigned int vertexCount) {
+    auto data = std::make_unique<Data>();
+    data->vertices.reserve(vertexCount);
+    data_ = data.release();
 }
 
 OxDbPolyline::~OxDbPolyline() {
