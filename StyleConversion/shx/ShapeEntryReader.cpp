@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <string>
 
 namespace ShxUtility {
@@ -36,7 +37,7 @@ ShxResult ReadProgram(ShapeReading& reading, ShapesInFile& out, std::size_t leng
         return reading.Fail(ShapeFileFault::NumberTwice, start);
     }
     if (!shape.name.empty()) {
-        out.nameIndex.try_emplace(shape.name, position);
+        reading.nameHint = std::next(out.nameIndex.try_emplace(reading.nameHint, shape.name, position));
     }
     shape.data.Resize(length);
     if (reading.stream.Read(shape.data.data(), length) != length) {

@@ -96,6 +96,7 @@ ShxResult ReadFile(ShapeReading& reading, ShapesInFile& out, std::uint32_t accep
     out.fontInfo.clear();
     out.numberIndex.clear();
     out.nameIndex.clear();
+    reading.nameHint = out.nameIndex.end();
     result = out.kind == kShapes ? ReadShapesBody(reading, out) : ReadUnifontBody(reading, out);
     if (result == kSuccess && reading.stream.EndOfFileIndicator()) {
         return reading.FailHere(ShapeFileFault::EndOfFileIndicator);
@@ -107,7 +108,7 @@ ShxResult ReadFile(ShapeReading& reading, ShapesInFile& out, std::uint32_t accep
 
 ShxResult LoadShapeFile(std::FILE* stream, ShapesInFile& out, std::uint32_t acceptedKinds,
                         ShapeFileFaultReport& report) {
-    ShapeReading reading(stream, report);
+    ShapeReading reading(stream, out, report);
     if (stream == nullptr) {
         return reading.FailHere(ShapeFileFault::NoStream);
     }
@@ -125,7 +126,7 @@ ShxResult LoadShapeFile(std::FILE* stream, ShapesInFile& out, std::uint32_t acce
 
 ShxResult ReadFileHeader(std::FILE* stream, ShapesInFile& out, std::uint32_t acceptedKinds) {
     ShapeFileFaultReport unread;
-    ShapeReading reading(stream, unread);
+    ShapeReading reading(stream, out, unread);
     if (stream == nullptr) {
         return kNoStream;
     }
@@ -135,7 +136,7 @@ ShxResult ReadFileHeader(std::FILE* stream, ShapesInFile& out, std::uint32_t acc
 ShxResult ReadShapeEntry(std::FILE* stream, ShapesInFile& out, std::uint16_t number, std::uint16_t length,
                          ShapeFileKind kind) {
     ShapeFileFaultReport unread;
-    ShapeReading reading(stream, unread);
+    ShapeReading reading(stream, out, unread);
     if (stream == nullptr) {
         return kNoStream;
     }

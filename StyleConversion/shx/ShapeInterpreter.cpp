@@ -4,10 +4,17 @@
 #include "StyleConversion/encoding/PathCommands.h"
 #include "StyleConversion/shx/ShapeDrawer.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <new>
 
 namespace ShxUtility {
 namespace {
+
+// Room to make in the path at first: characters that a turned segment takes, and instructions to count them
+// for.
+constexpr std::size_t kTextOfAnInstruction = 64;
+constexpr std::size_t kMostReserved = 128;
 
 class PathText {
 public:
@@ -30,6 +37,7 @@ ShxResult DrawShape(std::wstring& path, double& x, double& y, double& scale, Pos
                     const ShapeInstructions& instructions, const ShapesInFile& file, double rotation,
                     bool vertical) {
     try {
+        path.reserve(path.size() + kTextOfAnInstruction * std::min(instructions.size(), kMostReserved));
         PathText text(path);
         const DrawingState state{x, y, scale, positionStack, activeSubshapes, penDown};
         return ShapeDrawer<PathText>(text, state, file, rotation).Draw(instructions, vertical);

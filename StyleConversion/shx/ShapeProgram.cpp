@@ -6,6 +6,7 @@
 #include "StyleConversion/shx/ProgramCursor.h"
 #include "StyleConversion/shx/ShapesInFile.h"
 
+#include <algorithm>
 #include <new>
 
 namespace ShxUtility {
@@ -13,6 +14,10 @@ namespace {
 
 constexpr double kDegreesPerOctant = 45.0;
 constexpr int kOctants = 8;
+
+// Instructions to make room for at first. No program has more of them than bytes, and few have more than
+// this.
+constexpr std::uint16_t kMostReserved = 128;
 
 struct Displacement {
     double x;
@@ -257,6 +262,9 @@ ShxResult ShapeDecoder::ManyBulgeArcs() {
 ShxResult DecodeShape(ShapeInstructions& out, const std::uint8_t* bytes, std::uint16_t length,
                       std::int32_t kind) {
     try {
+        if (out.empty()) {
+            out.reserve(std::min(length, kMostReserved));
+        }
         return ShapeDecoder(out, bytes, length, kind).Decode();
     } catch (const std::bad_alloc&) {
         return kOutOfMemory;

@@ -3,10 +3,14 @@
 
 #include "StyleConversion/shx/ShapeFileFault.h"
 #include "StyleConversion/shx/ShapeStream.h"
+#include "StyleConversion/shx/ShapesInFile.h"
 #include "StyleConversion/shx/ShxResult.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <map>
+#include <string>
 
 namespace ShxUtility {
 
@@ -34,7 +38,8 @@ inline std::uint16_t LittleEndian(const std::uint8_t* bytes) {
 }
 
 struct ShapeReading {
-    ShapeReading(std::FILE* file, ShapeFileFaultReport& faultReport) : stream(file), report(faultReport) {
+    ShapeReading(std::FILE* file, ShapesInFile& out, ShapeFileFaultReport& faultReport)
+        : stream(file), report(faultReport), nameHint(out.nameIndex.end()) {
         report = ShapeFileFaultReport{};
     }
 
@@ -50,6 +55,8 @@ struct ShapeReading {
 
     ShapeStream stream;
     ShapeFileFaultReport& report;
+    /// Where the next name is looked for first: behind the last one, as names often come in order.
+    std::map<std::string, std::size_t>::iterator nameHint;
 };
 
 } // namespace ShxUtility

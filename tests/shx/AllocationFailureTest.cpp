@@ -131,12 +131,13 @@ TEST(AllocationFailure, WhileAProgramIsDecoded) {
         builder.BulgeArcs({{1, 2, 3}, {4, 5, 6}});
     }
     const Bytes program = builder.End();
+    // 340 instructions: the list grows more than once.
     EXPECT_GE(FailEach([&] {
                   ShapeInstructions out;
                   return static_cast<int>(
                       DecodeShape(out, program.data(), static_cast<std::uint16_t>(program.size()), kShapes));
               }),
-              5U);
+              3U);
 }
 
 TEST(AllocationFailure, WhileAShapeAndItsSubshapesAreDrawn) {
