@@ -7,7 +7,7 @@ namespace {
 
 using ShxUtility::ShapeFileFault;
 
-const char* const kExpectedKind = "expected the kind \"shapes \" or \"unifont \"";
+const char* const kExpectedKind = R"(expected the kind "shapes " or "unifont ")";
 
 std::string Entry(std::uint16_t number) {
     return number == 0 ? "the font information (shape 0)" : "shape " + std::to_string(number);

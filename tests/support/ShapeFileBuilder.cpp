@@ -53,7 +53,7 @@ ShapeFileBuilder& ShapeFileBuilder::Trailer(std::string bytes) {
     return *this;
 }
 
-ShapeFileBuilder& ShapeFileBuilder::Append(std::string bytes) {
+ShapeFileBuilder& ShapeFileBuilder::Append(const std::string& bytes) {
     behind_ += bytes;
     return *this;
 }

@@ -43,7 +43,7 @@ public:
     /// Of a "shapes " file.
     ShapeFileBuilder& Trailer(std::string bytes);
     /// Bytes behind everything else.
-    ShapeFileBuilder& Append(std::string bytes);
+    ShapeFileBuilder& Append(const std::string& bytes);
 
     /// The file, or its first `size` bytes.
     std::string Text() const;
