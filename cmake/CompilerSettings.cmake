@@ -24,7 +24,7 @@ target_include_directories(project_settings INTERFACE
 
 # The digits of the output are the product: no contraction into fused operations.
 target_compile_options(project_settings INTERFACE
-  -ffp-contract=off -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+  -ffp-contract=off -Wall -Wextra -Wpedantic -Wconversion -Wno-sign-conversion -Wshadow)
 if(STYLECONVERSION_WARNINGS_AS_ERRORS)
   target_compile_options(project_settings INTERFACE -Werror)
 endif()
@@ -34,6 +34,12 @@ if(STYLECONVERSION_SANITIZE)
     -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(project_settings INTERFACE
     -fsanitize=address,undefined,float-cast-overflow)
+endif()
+
+# Coverage of the project's own code leads the fuzzers.
+if(STYLECONVERSION_FUZZERS)
+  target_compile_options(project_settings INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(project_settings INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # A library of the project: add_project_library(name [OBJECT|STATIC|SHARED] sources...)

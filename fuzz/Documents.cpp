@@ -1,0 +1,38 @@
+#include "fuzz/Documents.h"
+
+#include "documents/SymbolsDocument.h"
+#include "fuzz/Fuzzing.h"
+
+#include <nlohmann/json.hpp>
+
+namespace fuzzing {
+
+Symbols Owned(std::vector<TylModel::SymbolDefinition*>* symbols) {
+    Symbols owned;
+    for (std::size_t i = 0; symbols != nullptr && i < symbols->size(); ++i) {
+        owned.emplace_back((*symbols)[i]);
+    }
+    delete symbols;
+    return owned;
+}
+
+std::string TextOf(const Symbols& symbols) {
+    std::string text;
+    documents::SymbolsWriter writer([&](std::string_view piece) {
+        text += piece;
+        return true;
+    });
+    for (const auto& symbol : symbols) {
+        Require(symbol != nullptr && writer.Add(*symbol), "a symbol that can be written");
+    }
+    Require(writer.Finish(), "a document that can be written");
+    return text;
+}
+
+void RequireDocument(const std::string& text, std::size_t symbolCount) {
+    const auto json = nlohmann::json::parse(text, nullptr, false);
+    Require(!json.is_discarded() && json.at("symbols").size() == symbolCount,
+            "a document that reads as JSON and holds every symbol");
+}
+
+} // namespace fuzzing

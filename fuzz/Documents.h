@@ -1,0 +1,24 @@
+// The documents of what a target converted.
+#pragma once
+
+#include "TylModel/TylModel.h"
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace fuzzing {
+
+using Symbols = std::vector<std::unique_ptr<TylModel::SymbolDefinition>>;
+
+/// Takes the symbols over; a null pointer holds none.
+Symbols Owned(std::vector<TylModel::SymbolDefinition*>* symbols);
+
+/// The symbols document.
+std::string TextOf(const Symbols& symbols);
+
+/// Requires that the text is a JSON document with so many symbols.
+void RequireDocument(const std::string& text, std::size_t symbolCount);
+
+} // namespace fuzzing
