@@ -21,7 +21,7 @@ inline void Require(bool condition, const char* expectation) {
 }
 
 inline std::string_view Text(const std::uint8_t* data, std::size_t size) {
-    return size == 0 ? std::string_view() : std::string_view(reinterpret_cast<const char*>(data), size);
+    return size == 0 ? std::string_view("") : std::string_view(reinterpret_cast<const char*>(data), size);
 }
 
 } // namespace fuzzing
