@@ -1,5 +1,6 @@
 #include "styleconv/ListCommand.h"
 
+#include "styleconv/BlocksCommand.h"
 #include "styleconv/GlyphsCommand.h"
 #include "styleconv/InputFile.h"
 #include "styleconv/LinetypesCommand.h"
@@ -25,6 +26,7 @@ constexpr Kind kKinds[] = {
     {".lin", ListLinetypes},
     {".pat", ListPatterns},
     {".shx", ListShapes},
+    {".json", ListBlocks},
 };
 
 std::string LowerExtension(const std::string& path) {

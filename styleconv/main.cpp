@@ -1,4 +1,5 @@
 // The command line of styleconv: which commands there are, and what a wrong command line gets.
+#include "styleconv/BlocksCommand.h"
 #include "styleconv/GlyphsCommand.h"
 #include "styleconv/LinetypesCommand.h"
 #include "styleconv/ListCommand.h"
@@ -17,6 +18,7 @@ using namespace styleconv;
 void AddCommands(CLI::App& app, Runner& runner) {
     AddLinetypesCommand(app, runner);
     AddPatternsCommand(app, runner);
+    AddBlocksCommand(app, runner);
     AddGlyphsCommand(app, runner);
     AddListCommand(app, runner);
     for (CLI::App* const command : app.get_subcommands({})) {
