@@ -55,7 +55,7 @@ ShxResult ReadKind(ShapeReading& reading, ShapesInFile& out) {
 
 bool IsAccepted(ShapeFileKind kind, std::uint32_t acceptedKinds) {
     // Whether a "shapes " file is a font shows only from its entries, so who wants fonts gets all of them.
-    const std::uint32_t bits = kind == kShapes ? kShapes | kFont : kind;
+    const auto bits = static_cast<std::uint32_t>(kind == kShapes ? kShapes | kFont : kind);
     return (acceptedKinds & bits) != 0;
 }
 
