@@ -10,6 +10,7 @@
 #include "styleconv/NumberOption.h"
 #include "styleconv/OutputFile.h"
 #include "styleconv/ShapeFileMessages.h"
+#include "styleconv/WorkLimits.h"
 
 #include <cerrno>
 #include <cstdint>
@@ -121,6 +122,7 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     OutputFile output(options.output);
     documents::GlyphsWriter writer(file, [&](std::string_view text) { return output.Write(text); });
     for (const std::size_t position : positions) {
+        NowAtItem("shape " + std::to_string(file.shapes[position].number));
         if (!writer.Add(DrawGlyph(file, file.shapes[position], options))) {
             return kInputFault;
         }

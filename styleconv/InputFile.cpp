@@ -4,8 +4,8 @@
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "styleconv/Messages.h"
-#include "styleconv/OutputFile.h"
 #include "styleconv/Paths.h"
+#include "styleconv/WorkLimits.h"
 
 #include <array>
 #include <cerrno>
@@ -37,14 +37,8 @@ bool ReadAll(std::FILE* file, std::string& bytes) {
 InputFile::InputFile(std::string argument)
     : argument_(std::move(argument)), name_(argument_ == "-" ? "standard input" : argument_) {}
 
-InputFile::~InputFile() {
-    if (!temporary_.empty()) {
-        std::error_code ignored;
-        std::filesystem::remove(temporary_, ignored);
-    }
-}
-
 bool InputFile::Read() {
+    NowAtFile(name_);
     if (!IsStandardInput()) {
         return ReadNamed();
     }
@@ -89,13 +83,13 @@ bool InputFile::ProvidePath() {
     }
     std::error_code error;
     const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
-    std::unique_ptr<std::FILE, CloseFile> file(CreateTemporary(folder / "styleconv", temporary_));
-    if (!file || std::fwrite(bytes_.data(), 1, bytes_.size(), file.get()) != bytes_.size() ||
-        std::fclose(file.release()) != 0) {
+    if (!temporary_.Create(folder / "styleconv") ||
+        std::fwrite(bytes_.data(), 1, bytes_.size(), temporary_.Stream()) != bytes_.size() ||
+        !temporary_.Close()) {
         Say(name_, std::string("cannot be copied into a temporary file: ") + std::strerror(errno));
         return false;
     }
-    path_ = WidePath(temporary_);
+    path_ = WidePath(temporary_.Path());
     return true;
 }
 

@@ -1,7 +1,8 @@
 // A file named on the command line, or standard input.
 #pragma once
 
-#include <filesystem>
+#include "styleconv/TemporaryFile.h"
+
 #include <string>
 
 namespace styleconv {
@@ -12,9 +13,6 @@ class InputFile {
 public:
     /// `argument` as given on the command line.
     explicit InputFile(std::string argument);
-    ~InputFile();
-    InputFile(const InputFile&) = delete;
-    InputFile& operator=(const InputFile&) = delete;
 
     /// Reads the whole file. On failure says so on standard error and returns false.
     bool Read();
@@ -36,7 +34,7 @@ private:
     std::string name_;
     std::string bytes_;
     std::wstring path_;
-    std::filesystem::path temporary_;
+    TemporaryFile temporary_;
 };
 
 /// Sets the code page that narrow text of `input` is converted through: `requested`, or when that is empty

@@ -8,6 +8,7 @@
 #include "StyleConversion/platform/Utf8.h"
 #include "drawing/Database.h"
 #include "drawing/HostServices.h"
+#include "styleconv/AnnouncedLinetypes.h"
 #include "styleconv/BuiltInFont.h"
 #include "styleconv/DrawingFile.h"
 #include "styleconv/LinetypeMessages.h"
@@ -101,7 +102,8 @@ public:
             return false;
         }
         LineConverter::CLinVisitor visitor(options_.scale, &parser_.faultLog());
-        const LineConverter::LinResult walked = parser_.Accept(visitor);
+        AnnouncedLinetypes announced(visitor);
+        const LineConverter::LinResult walked = parser_.Accept(announced);
         const std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> results(visitor.TakeResults());
         for (std::size_t i = 0; results && i < results->size(); ++i) {
             symbols.emplace_back((*results)[i]);

@@ -2,10 +2,11 @@
 
 #include "styleconv/Messages.h"
 #include "styleconv/Paths.h"
+#include "styleconv/WorkLimits.h"
 
 #include <cerrno>
 #include <cstring>
-#include <random>
+#include <mutex>
 #include <system_error>
 #include <utility>
 
@@ -14,53 +15,22 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::FILE* OpenForWriting(const fs::path& path, bool mustBeNew) {
-    if (mustBeNew && fs::exists(fs::symlink_status(path))) {
-        errno = EEXIST;
-        return nullptr;
-    }
+std::FILE* OpenForWriting(const fs::path& path) {
 #if defined(_WIN32)
     return _wfopen(path.c_str(), L"wb");
 #else
-    return std::fopen(path.c_str(), mustBeNew ? "wbx" : "wb");
+    return std::fopen(path.c_str(), "wb");
 #endif
 }
 
 } // namespace
 
-std::FILE* CreateTemporary(const fs::path& like, fs::path& created) {
-    constexpr int kAttempts = 100;
-    constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyz0123456789";
-    constexpr int kRandomLetters = 8;
-    std::random_device random;
-    for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        std::string ending = ".";
-        for (int i = 0; i < kRandomLetters; ++i) {
-            ending += kLetters[random() % kLetters.size()];
-        }
-        fs::path candidate = like;
-        candidate += ending;
-        if (std::FILE* const file = OpenForWriting(candidate, true)) {
-            created = std::move(candidate);
-            return file;
-        }
-        if (errno != EEXIST) {
-            return nullptr;
-        }
-    }
-    return nullptr;
-}
-
 OutputFile::OutputFile(std::string path)
     : path_(std::move(path)), name_(path_.empty() ? "standard output" : path_) {}
 
 OutputFile::~OutputFile() {
-    if (file_ != nullptr && file_ != stdout) {
-        std::fclose(file_);
-    }
-    if (!temporary_.empty()) {
-        std::error_code ignored;
-        fs::remove(temporary_, ignored);
+    if (device_ != nullptr) {
+        std::fclose(device_);
     }
 }
 
@@ -86,15 +56,16 @@ bool OutputFile::Open() {
         return Fail();
     }
     if (fs::exists(status) && !fs::is_regular_file(status)) {
-        file_ = OpenForWriting(target_, false);
+        device_ = OpenForWriting(target_);
+        file_ = device_;
         return file_ != nullptr || Fail();
     }
-    file_ = CreateTemporary(target_, temporary_);
-    if (file_ == nullptr) {
+    if (!temporary_.Create(target_)) {
         return Fail();
     }
+    file_ = temporary_.Stream();
     if (fs::exists(status)) {
-        fs::permissions(temporary_, status.permissions(), error);
+        fs::permissions(temporary_.Path(), status.permissions(), error);
     }
     return true;
 }
@@ -110,21 +81,25 @@ bool OutputFile::Commit() {
     if (file_ == nullptr && !Open()) {
         return false;
     }
-    if (std::fflush(file_) != 0) {
+    if (std::fflush(file_) != 0 || !temporary_.Close()) {
         return Fail();
     }
-    if (file_ != stdout && std::fclose(std::exchange(file_, nullptr)) != 0) {
+    if (device_ != nullptr && std::fclose(std::exchange(device_, nullptr)) != 0) {
         return Fail();
     }
-    if (!temporary_.empty()) {
-        std::error_code error;
-        fs::rename(temporary_, target_, error);
+    return PutInPlace();
+}
+
+bool OutputFile::PutInPlace() {
+    const std::lock_guard lock(FilesMutex());
+    if (!temporary_.Path().empty()) {
+        const std::error_code error = temporary_.KeepAs(target_);
         if (error) {
             errno = error.value();
             return Fail();
         }
-        temporary_.clear();
     }
+    WorkLimits::Lift();
     return true;
 }
 

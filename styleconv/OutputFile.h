@@ -1,17 +1,14 @@
 // Where a command's result goes: a file that is replaced in one step, or standard output.
 #pragma once
 
+#include "styleconv/TemporaryFile.h"
+
 #include <cstdio>
 #include <filesystem>
-#include <memory>
 #include <string>
 #include <string_view>
 
 namespace styleconv {
-
-/// Creates a new file beside `like`, named after it with a random ending, open for writing in binary mode.
-/// Null, with errno set, on failure; `created` is its path otherwise.
-std::FILE* CreateTemporary(const std::filesystem::path& like, std::filesystem::path& created);
 
 /// Collects the result and puts it in place when all of it is there. Until Commit succeeds, a file that stood
 /// at the path is as it was. Devices and pipes are written directly.
@@ -30,12 +27,14 @@ public:
 private:
     bool Open();
     bool Fail();
+    bool PutInPlace();
 
     std::string path_;
     std::string name_;
-    std::FILE* file_ = nullptr;
+    std::FILE* file_ = nullptr;   // the stream of one of the three
+    std::FILE* device_ = nullptr; // a target that is written directly
     std::filesystem::path target_;
-    std::filesystem::path temporary_; // empty when the target is written directly
+    TemporaryFile temporary_;
 };
 
 } // namespace styleconv

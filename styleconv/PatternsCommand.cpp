@@ -7,6 +7,7 @@
 #include "StyleConversion/platform/Utf8.h"
 #include "styleconv/Messages.h"
 #include "styleconv/SymbolOutput.h"
+#include "styleconv/WorkLimits.h"
 
 #include <memory>
 #include <string_view>
@@ -61,6 +62,7 @@ std::string ShownPattern(const std::string& name) {
 std::unique_ptr<TylModel::SymbolDefinition> ConvertPattern(const InputFile& input, LoadedPatterns& loaded,
                                                            const std::string& name,
                                                            std::string_view consequence) {
+    NowAtItem(ShownPattern(name));
     std::vector<pattern::PatternLine>& lines = loaded.file.patterns.at(name);
     auto symbol = pattern::BuildAreaSymbol(name, lines);
     if (symbol == nullptr) {

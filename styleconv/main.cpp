@@ -4,6 +4,7 @@
 #include "styleconv/LinetypesCommand.h"
 #include "styleconv/ListCommand.h"
 #include "styleconv/PatternsCommand.h"
+#include "styleconv/WorkLimits.h"
 
 #include <CLI/CLI.hpp>
 #include <csignal>
@@ -15,7 +16,7 @@ namespace {
 
 using namespace styleconv;
 
-void AddCommands(CLI::App& app, Runner& runner) {
+void AddCommands(CLI::App& app, Runner& runner, LimitOptions& limits) {
     AddLinetypesCommand(app, runner);
     AddPatternsCommand(app, runner);
     AddBlocksCommand(app, runner);
@@ -23,6 +24,7 @@ void AddCommands(CLI::App& app, Runner& runner) {
     AddListCommand(app, runner);
     for (CLI::App* const command : app.get_subcommands({})) {
         command->group("Commands");
+        AddLimitOptions(*command, limits);
     }
 }
 
@@ -45,12 +47,14 @@ ExitStatus Run(int argc, char** argv) {
     app.require_subcommand(1);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     Runner runner;
-    AddCommands(app, runner);
+    LimitOptions limits;
+    AddCommands(app, runner, limits);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return Explain(app, error);
     }
+    const WorkLimits kept(limits);
     return runner();
 }
 
