@@ -7,6 +7,7 @@
 #include "styleconv/Messages.h"
 #include "styleconv/ShapeSearch.h"
 #include "styleconv/SymbolOutput.h"
+#include "styleconv/WorkLimits.h"
 
 #include <memory>
 
@@ -57,6 +58,7 @@ bool ConvertibleBlocks(const InputFile& input, BlockConverter& converter, std::v
 bool Convert(const InputFile& input, BlockConverter& converter, const std::vector<std::wstring>& names,
              Symbols& symbols) {
     for (const std::wstring& name : names) {
+        NowAtItem("block " + Shown(name));
         std::unique_ptr<TylModel::SymbolDefinition> symbol(converter.Convert(name));
         if (symbol) {
             symbols.push_back(std::move(symbol));

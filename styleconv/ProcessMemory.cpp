@@ -5,7 +5,6 @@
 // Behind it: uses its types.
 #include <psapi.h>
 #else
-#include <charconv>
 #include <fcntl.h>
 #include <string_view>
 #include <unistd.h>
@@ -35,10 +34,9 @@ std::uint64_t ProcessMemory() {
     const ssize_t size = read(file, text, sizeof text);
     close(file);
     const std::string_view line(text, size > 0 ? static_cast<std::size_t>(size) : 0);
-    const std::size_t space = line.find(' ');
     std::uint64_t pages = 0;
-    if (space != std::string_view::npos) {
-        std::from_chars(line.data() + space + 1, line.data() + line.size(), pages);
+    for (std::size_t i = line.find(' ') + 1; i != 0 && i < line.size() && line[i] != ' '; ++i) {
+        pages = pages * 10 + static_cast<std::uint64_t>(line[i] - '0');
     }
     return pages * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
 }

@@ -1,7 +1,9 @@
 #include "styleconv/SymbolOutput.h"
 
 #include "documents/SymbolsDocument.h"
+#include "styleconv/Messages.h"
 #include "styleconv/OutputFile.h"
+#include "styleconv/WorkLimits.h"
 
 #include <algorithm>
 
@@ -20,10 +22,12 @@ ExitStatus WriteSymbols(const std::vector<TylModel::SymbolDefinition*>& symbols,
                         const CommonOptions& options) {
     OutputFile output(options.output);
     documents::SymbolsWriter writer([&](std::string_view text) { return output.Write(text); });
-    const bool written =
-        std::all_of(symbols.begin(), symbols.end(),
-                    [&](TylModel::SymbolDefinition* symbol) { return writer.Add(*symbol); }) &&
-        writer.Finish() && output.Commit();
+    const bool written = std::all_of(symbols.begin(), symbols.end(),
+                                     [&](TylModel::SymbolDefinition* symbol) {
+                                         NowAtItem("symbol " + Shown(symbol->GetName()));
+                                         return writer.Add(*symbol);
+                                     }) &&
+                         writer.Finish() && output.Commit();
     return written ? kDone : kInputFault;
 }
 

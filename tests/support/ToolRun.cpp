@@ -49,11 +49,12 @@ std::string CommandLine(const std::vector<std::string>& arguments) {
     return command;
 }
 
+// `prefix` stands before the command for the shell to read.
 ToolResult Run(const std::vector<std::string>& arguments, const std::string& input,
-               const std::string& redirection) {
+               const std::string& redirection, const std::string& prefix = "") {
     const ScratchFolder scratch;
     const std::string in = scratch.Write("in", input);
-    std::string command = CommandLine(arguments);
+    std::string command = prefix + CommandLine(arguments);
     command += " < " + Quoted(in) + " 2> " + Quoted(scratch / "err") + " ";
     command += redirection.empty() ? "> " + Quoted(scratch / "out") : redirection;
 #if defined(_WIN32)
@@ -78,6 +79,11 @@ ToolResult RunToolRedirected(const std::vector<std::string>& arguments, const st
 }
 
 #if !defined(_WIN32)
+ToolResult RunToolWithTemporariesIn(const std::string& folder, const std::vector<std::string>& arguments,
+                                    const std::string& input) {
+    return Run(arguments, input, "", "TMPDIR=" + Quoted(folder) + " ");
+}
+
 ToolResult RunToolIntoClosedPipe(const std::vector<std::string>& arguments) {
     const ScratchFolder scratch;
     const std::string command = "(sleep 0.3; " + CommandLine(arguments) + " 2> " + Quoted(scratch / "err") +

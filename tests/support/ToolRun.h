@@ -20,6 +20,10 @@ ToolResult RunTool(const std::vector<std::string>& arguments, const std::string&
 ToolResult RunToolRedirected(const std::vector<std::string>& arguments, const std::string& redirection);
 
 #if !defined(_WIN32)
+/// The same with its temporary files in `folder`.
+ToolResult RunToolWithTemporariesIn(const std::string& folder, const std::vector<std::string>& arguments,
+                                    const std::string& input);
+
 /// The same with a pipe as standard output whose reader is gone before the tool starts.
 ToolResult RunToolIntoClosedPipe(const std::vector<std::string>& arguments);
 #endif

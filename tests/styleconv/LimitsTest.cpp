@@ -1,0 +1,155 @@
+// Work without end is given up: in time, in words, and without a trace.
+#include "tests/support/ShapeFileBuilder.h"
+#include "tests/support/ShapeProgramBuilder.h"
+#include "tests/support/ToolRun.h"
+
+#include <chrono>
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+using test_support::ShapeFileBuilder;
+using test_support::ShapeProgramBuilder;
+
+// Shape 40 draws shape 39 sixteen times, that shape 38 sixteen times, and so on: 16 to the 39th strokes.
+std::string FanningShapes(const ShapeProgramBuilder& last) {
+    ShapeFileBuilder file = ShapeFileBuilder::Shapes();
+    ShapeProgramBuilder program = last;
+    file.Shape(1, "LAST", program.End());
+    for (int number = 2; number <= 40; ++number) {
+        ShapeProgramBuilder fan;
+        for (int i = 0; i < 16; ++i) {
+            fan.Subshape(number - 1);
+        }
+        file.Shape(static_cast<std::uint16_t>(number), "FAN", fan.End());
+    }
+    return file.Text();
+}
+
+// Draws nothing, so that only time is used up.
+std::string FanOfNothing() {
+    return FanningShapes(ShapeProgramBuilder().PenUp());
+}
+
+// A kilometre, drawn in a pattern of that length.
+std::string LongLine(const std::string& patternLength) {
+    return R"({"format": "styleconversion/drawing", "version": 1,
+      "layers": [{"name": "0"}],
+      "linetypes": [{"name": "D", "patternLength": )" +
+           patternLength + R"(, "dashes": [{"length": 5e-10}, {"length": -5e-10}]}],
+      "blocks": [{"name": "FINE", "entities": [{"type": "point", "position": [1, 2]}]},
+                 {"name": "ROAD", "entities": [{"type": "line", "start": [0, 0], "end": [1000, 0],
+                                                "linetype": "D"}]}]})";
+}
+
+// A square kilometre of hatch lines a micrometre apart.
+constexpr const char* kEndlessHatch = R"({"format": "styleconversion/drawing", "version": 1,
+  "layers": [{"name": "0"}],
+  "blocks": [{"name": "FIELD", "entities": [
+    {"type": "hatch", "loops": [{"vertices": [[0, 0], [1000, 0], [1000, 1000], [0, 1000]]}],
+     "pattern": [{"angle": 0, "base": [0, 0], "offset": [0, 1e-6], "dashes": []}]}]}]})";
+
+double SecondsSince(std::chrono::steady_clock::time_point start) {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+TEST(Limits, TimeEndsShapesThatFanOutWithoutEnd) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("fan.shx", FanOfNothing());
+    folder.Write("out.json", "old");
+    const auto start = std::chrono::steady_clock::now();
+    const ToolResult result = RunTool({"glyphs", file, "--number", "1", "--number", "40", "--time-limit",
+                                       "0.5", "-o", folder / "out.json"});
+    const double seconds = SecondsSince(start);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, file + ": shape 40: not done within the time limit of 0.5 seconds; --time-limit "
+                                    "gives it more\n");
+    EXPECT_GE(seconds, 0.5);
+    EXPECT_LT(seconds, 1.5);
+    EXPECT_EQ(folder.Read("out.json"), "old");
+    EXPECT_EQ(folder.Names(), (std::vector<std::string>{"fan.shx", "out.json"}));
+}
+
+TEST(Limits, MemoryEndsShapesThatFanOutWithoutEnd) {
+    const ScratchFolder folder;
+    const std::string file =
+        folder.Write("fan.shx", FanningShapes(ShapeProgramBuilder().Vector(15, 1).Vector(15, 9)));
+    folder.Write("out.json", "old");
+    const ToolResult result =
+        RunTool({"glyphs", file, "--number", "40", "--memory-limit", "300", "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, file + ": shape 40: needs more memory than the limit of 300 MiB; --memory-limit "
+                                    "gives it more\n");
+    EXPECT_EQ(folder.Read("out.json"), "old");
+    EXPECT_EQ(folder.Names(), (std::vector<std::string>{"fan.shx", "out.json"}));
+}
+
+TEST(Limits, EndDashesOfAMicrometreOnAKilometre) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("road.json", LongLine("1e-6"));
+    folder.Write("out.json", "old");
+    const ToolResult result = RunTool({"blocks", file, "--time-limit", "0.5", "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, file +
+                                 ": block ROAD: not done within the time limit of 0.5 seconds; --time-limit "
+                                 "gives it more\n");
+    EXPECT_EQ(folder.Read("out.json"), "old");
+    EXPECT_EQ(folder.Names(), (std::vector<std::string>{"out.json", "road.json"}));
+
+    const ToolResult memory = RunTool({"blocks", file, "--memory-limit", "300"});
+    EXPECT_EQ(memory.status, 1);
+    EXPECT_EQ(memory.errors, file + ": block ROAD: needs more memory than the limit of 300 MiB; "
+                                    "--memory-limit gives it more\n");
+}
+
+TEST(Limits, APatternOfANanometreOnAKilometreRepeatsTooOftenToBeCounted) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("road.json", LongLine("1e-9"));
+    const ToolResult result = RunTool({"blocks", file, "--time-limit", "20", "--memory-limit", "500"});
+    // A count beyond 32 bits is none at all: the line is drawn without dashes.
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_NE(result.output.find("\"name\": \"ROAD\""), std::string::npos) << result.output;
+    EXPECT_LT(result.output.size(), 10000U);
+}
+
+TEST(Limits, AHatchOfABillionLinesDoesNotEvenNeedThem) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("field.json", kEndlessHatch);
+    const ToolResult result = RunTool({"blocks", file, "--time-limit", "20", "--memory-limit", "500"});
+    // The drawing refuses to evaluate such a hatch, and the block is converted without it.
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_NE(result.output.find("\"graphics\": []"), std::string::npos) << result.output;
+}
+
+#if !defined(_WIN32)
+TEST(Limits, LeaveNoCopyOfStandardInput) {
+    const ScratchFolder folder;
+    const ToolResult result = support::RunToolWithTemporariesIn(
+        folder / ".", {"glyphs", "-", "--time-limit", "0.2"}, FanOfNothing());
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.errors.starts_with("standard input: shape ")) << result.errors;
+    EXPECT_EQ(folder.Names(), std::vector<std::string>());
+}
+#endif
+
+TEST(Limits, AreFarAwayFromOrdinaryWork) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*LINES,Lines\n0, 0,0, 0,.125\n");
+    EXPECT_EQ(RunTool({"patterns", file}).status, 0);
+    EXPECT_EQ(RunTool({"patterns", file, "--time-limit", "1e300", "--memory-limit", "1e300"}).status, 0);
+}
+
+TEST(Limits, AreNumbersAboveZero) {
+    for (const char* const option : {"--time-limit", "--memory-limit"}) {
+        for (const char* const value : {"0", "-1", "x", "1s", "", "nan", "inf", "1e999"}) {
+            const ToolResult result = RunTool({"patterns", "a.pat", option, value});
+            EXPECT_EQ(result.status, 2) << option << ' ' << value;
+            EXPECT_NE(result.errors.find(option), std::string::npos) << result.errors;
+        }
+    }
+}
+
+} // namespace
