@@ -16,5 +16,15 @@ mkdir -p "$results"
 for file in examples/patterns/*.pat; do
   "$tool" patterns "$file" -o "$results/$(basename "$file" .pat).json"
 done
+for file in examples/linetypes/*.lin; do
+  "$tool" linetypes "$file" --drawing examples/linetypes/styles.json --shapes examples/shapes \
+    -o "$results/$(basename "$file" .lin)-linetypes.json"
+done
+for file in examples/shapes/*.shx; do
+  "$tool" glyphs "$file" -o "$results/$(basename "$file" .shx)-glyphs.json"
+done
+for file in examples/drawings/*.json; do
+  "$tool" blocks "$file" --shapes examples/shapes -o "$results/$(basename "$file" .json)-blocks.json"
+done
 echo "The converted examples are in $results/:"
 ls "$results"
