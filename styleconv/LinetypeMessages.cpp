@@ -16,25 +16,25 @@ using LineConverter::LinFaultKind;
 const char* ExpectedSyntax(LinFaultKind kind) {
     switch (kind) {
     case LinFaultKind::kAlignmentMissing:
-        return "expected \"A,\" or \"S,\" at the start of the pattern";
+        return R"(expected "A," or "S," at the start of the pattern)";
     case LinFaultKind::kDashNotANumber:
         return "expected the length of a dash, or \"[\"";
     case LinFaultKind::kElementNotClosed:
-        return "expected \",\" or \"]\"";
+        return R"(expected "," or "]")";
     case LinFaultKind::kTextWithoutStyle:
-        return "expected another \"]\": a text needs a style, as in [\"TEXT\",STANDARD]";
+        return R"(expected another "]": a text needs a style, as in ["TEXT",STANDARD])";
     case LinFaultKind::kTextNotClosed:
         return "expected a closing quote";
     case LinFaultKind::kTextNotFollowedByStyle:
         return "expected \",\" and a text style behind the text";
     case LinFaultKind::kStyleNameNotClosed:
-        return "expected \",\" or \"]\" behind the text style";
+        return R"(expected "," or "]" behind the text style)";
     case LinFaultKind::kStyleNameEmpty:
         return "expected the name of a text style";
     case LinFaultKind::kShapeNameNotClosed:
         return "expected \",\" and a shape file behind the shape's name";
     case LinFaultKind::kShapeFileNotClosed:
-        return "expected \",\" or \"]\" behind the shape file";
+        return R"(expected "," or "]" behind the shape file)";
     case LinFaultKind::kShapeFileEmpty:
         return "expected the name of a shape file";
     case LinFaultKind::kFieldUnknown:

@@ -4,8 +4,8 @@
 namespace LineConverter {
 
 IGetFile::IGetFile() = default;
-IGetFile::IGetFile(const IGetFile& other) = default;
-IGetFile& IGetFile::operator=(const IGetFile& other) = default;
+IGetFile::IGetFile(const IGetFile&) = default;
+IGetFile& IGetFile::operator=(const IGetFile&) = default;
 IGetFile::~IGetFile() = default;
 
 std::FILE* IGetFile::GetFile(const wchar_t* /*name*/, const wchar_t* /*extension*/) {
@@ -13,8 +13,8 @@ std::FILE* IGetFile::GetFile(const wchar_t* /*name*/, const wchar_t* /*extension
 }
 
 IGetFontInfo::IGetFontInfo() = default;
-IGetFontInfo::IGetFontInfo(const IGetFontInfo& other) = default;
-IGetFontInfo& IGetFontInfo::operator=(const IGetFontInfo& other) = default;
+IGetFontInfo::IGetFontInfo(const IGetFontInfo&) = default;
+IGetFontInfo& IGetFontInfo::operator=(const IGetFontInfo&) = default;
 IGetFontInfo::~IGetFontInfo() = default;
 
 bool IGetFontInfo::GetFontInfoFromStyle(const wchar_t* /*styleName*/, FontInfo& /*info*/) {

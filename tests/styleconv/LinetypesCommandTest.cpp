@@ -172,18 +172,18 @@ TEST_F(LinetypesCommand, SyntaxErrorsNameLineElementAndByte) {
 
 TEST_F(LinetypesCommand, EverySyntaxErrorHasWordsOfItsOwn) {
     const std::pair<const char*, const char*> cases[] = {
-        {"[\"A", "expected a closing quote"},
-        {"[\"A\"x", "expected \",\" and a text style behind the text"},
-        {"[\"A\",ST", "expected \",\" or \"]\" behind the text style"},
-        {"[\"A\",]", "expected the name of a text style"},
-        {"[A]", "expected \",\" and a shape file behind the shape's name"},
-        {"[A,f", "expected \",\" or \"]\" behind the shape file"},
+        {R"(["A)", "expected a closing quote"},
+        {R"(["A"x)", R"(expected "," and a text style behind the text)"},
+        {R"(["A",ST)", R"(expected "," or "]" behind the text style)"},
+        {R"(["A",])", "expected the name of a text style"},
+        {"[A]", R"(expected "," and a shape file behind the shape's name)"},
+        {"[A,f", R"(expected "," or "]" behind the shape file)"},
         {"[A,]", "expected the name of a shape file"},
         {"[A,f,Z=1]", "expected A=, R=, S=, X= or Y="},
-        {"[A,f,S]", "expected \"=\""},
+        {"[A,f,S]", R"(expected "=")"},
         {"[A,f,S=x]", "expected a number"},
         {"[A,f,S=1d]", "units (d, g, r) go with A= and R= only"},
-        {"[A,f,S=1 ]", "expected \",\" or \"]\""},
+        {"[A,f,S=1 ]", R"(expected "," or "]")"},
     };
     for (const auto& [element, words] : cases) {
         EXPECT_NE(Fault("*X\nA," + std::string(element) + "\n").find(std::string(": ") + words + " at byte"),
