@@ -65,6 +65,10 @@ int main(int argc, char** argv) {
     // A reader that went away shows as a failed write, which has a message of its own.
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
 #endif
+#if defined(SIGXFSZ)
+    // As does a file that may not grow any more.
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+#endif
     try {
         return Run(argc, argv);
     } catch (const std::bad_alloc&) {

@@ -79,6 +79,10 @@ ToolResult RunToolRedirected(const std::vector<std::string>& arguments, const st
 }
 
 #if !defined(_WIN32)
+ToolResult RunToolWithFileSizeLimit(std::size_t bytes, const std::vector<std::string>& arguments) {
+    return Run(arguments, "", "", "prlimit --fsize=" + std::to_string(bytes) + " ");
+}
+
 ToolResult RunToolWithTemporariesIn(const std::string& folder, const std::vector<std::string>& arguments,
                                     const std::string& input) {
     return Run(arguments, input, "", "TMPDIR=" + Quoted(folder) + " ");

@@ -1,6 +1,7 @@
 // Runs the built tool as a person would, and keeps what it said.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -20,6 +21,9 @@ ToolResult RunTool(const std::vector<std::string>& arguments, const std::string&
 ToolResult RunToolRedirected(const std::vector<std::string>& arguments, const std::string& redirection);
 
 #if !defined(_WIN32)
+/// The same, unable to write a file longer than `bytes`; its own standard output and error are files too.
+ToolResult RunToolWithFileSizeLimit(std::size_t bytes, const std::vector<std::string>& arguments);
+
 /// The same with its temporary files in `folder`.
 ToolResult RunToolWithTemporariesIn(const std::string& folder, const std::vector<std::string>& arguments,
                                     const std::string& input);
