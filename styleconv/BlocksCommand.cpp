@@ -2,8 +2,8 @@
 
 #include "StyleConversion/block/BlockConverter.h"
 #include "StyleConversion/platform/Utf8.h"
-#include "documents/DrawingReader.h"
 #include "drawing/Database.h"
+#include "styleconv/DrawingFile.h"
 #include "styleconv/Messages.h"
 #include "styleconv/ShapeSearch.h"
 #include "styleconv/SymbolOutput.h"
@@ -28,16 +28,6 @@ std::vector<std::wstring> Wide(const std::vector<std::string>& texts) {
         wide.push_back(platform::Utf8ToWide(text));
     }
     return wide;
-}
-
-// Null after saying why.
-std::unique_ptr<drawing::Database> ReadDrawing(const InputFile& input) {
-    documents::DrawingFault fault;
-    std::unique_ptr<drawing::Database> drawing = documents::ReadDrawing(input.Bytes(), fault);
-    if (!drawing) {
-        Say(input.Name(), fault.Text());
-    }
-    return drawing;
 }
 
 // False, after saying so, when there are none.
@@ -71,7 +61,7 @@ bool Convert(const InputFile& input, BlockConverter& converter, const std::vecto
 
 ExitStatus Blocks(const BlocksOptions& options) {
     InputFile input(options.file);
-    if (!input.Read()) {
+    if (!input.Open()) {
         return kInputFault;
     }
     const std::unique_ptr<drawing::Database> drawing = ReadDrawing(input);

@@ -11,16 +11,11 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <memory>
 #include <system_error>
 #include <utility>
 
 namespace styleconv {
 namespace {
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 // Reads to the end. False when reading failed, errno telling why.
 bool ReadAll(std::FILE* file, std::string& bytes) {
@@ -37,19 +32,24 @@ bool ReadAll(std::FILE* file, std::string& bytes) {
 InputFile::InputFile(std::string argument)
     : argument_(std::move(argument)), name_(argument_ == "-" ? "standard input" : argument_) {}
 
-bool InputFile::Read() {
+bool InputFile::Open() {
     NowAtFile(name_);
-    if (!IsStandardInput()) {
-        return ReadNamed();
+    return IsStandardInput() || OpenNamed();
+}
+
+bool InputFile::Read() {
+    if (!Open()) {
+        return false;
     }
-    if (!ReadAll(stdin, bytes_)) {
+    if (!ReadAll(Stream(), bytes_)) {
         Say(name_, std::string("cannot be read: ") + std::strerror(errno));
         return false;
     }
+    file_.reset();
     return true;
 }
 
-bool InputFile::ReadNamed() {
+bool InputFile::OpenNamed() {
     path_ = platform::PathFromBytes(argument_);
     std::error_code error;
     const std::filesystem::file_status status = std::filesystem::status(NativePath(argument_), error);
@@ -65,13 +65,9 @@ bool InputFile::ReadNamed() {
         Say(name_, "cannot be read: it is not a regular file (give \"-\" to read standard input)");
         return false;
     }
-    const std::unique_ptr<std::FILE, CloseFile> file(platform::OpenForReading(path_.c_str()));
-    if (!file) {
+    file_.reset(platform::OpenForReading(path_.c_str()));
+    if (!file_) {
         Say(name_, std::string("cannot be opened: ") + std::strerror(errno));
-        return false;
-    }
-    if (!ReadAll(file.get(), bytes_)) {
-        Say(name_, std::string("cannot be read: ") + std::strerror(errno));
         return false;
     }
     return true;

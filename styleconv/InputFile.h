@@ -3,6 +3,8 @@
 
 #include "styleconv/TemporaryFile.h"
 
+#include <cstdio>
+#include <memory>
 #include <string>
 
 namespace styleconv {
@@ -13,6 +15,11 @@ class InputFile {
 public:
     /// `argument` as given on the command line.
     explicit InputFile(std::string argument);
+
+    /// Opens the file, to be read from Stream. On failure says so on standard error and returns false.
+    bool Open();
+    /// The open file, after Open.
+    std::FILE* Stream() const { return IsStandardInput() ? stdin : file_.get(); }
 
     /// Reads the whole file. On failure says so on standard error and returns false.
     bool Read();
@@ -28,12 +35,17 @@ public:
     bool IsStandardInput() const { return argument_ == "-"; }
 
 private:
-    bool ReadNamed();
+    struct CloseFile {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+
+    bool OpenNamed();
 
     std::string argument_;
     std::string name_;
     std::string bytes_;
     std::wstring path_;
+    std::unique_ptr<std::FILE, CloseFile> file_;
     TemporaryFile temporary_;
 };
 

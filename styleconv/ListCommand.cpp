@@ -59,10 +59,11 @@ ExitStatus List(const ListOptions& options) {
         return kUsageFault;
     }
     InputFile input(options.file);
-    if (!input.Read()) {
+    const Lister lister = FindLister(options.file);
+    // Drawings are read as they come, for they may be large; what else there is, as a whole.
+    if (!(lister == ListBlocks ? input.Open() : input.Read())) {
         return kInputFault;
     }
-    const Lister lister = FindLister(options.file);
     if (lister == nullptr) {
         Say(input.Name(), "is of no known kind: its name should end in .lin, .pat, .shx or .json");
         return kInputFault;
