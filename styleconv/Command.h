@@ -32,8 +32,8 @@ inline void AddOutputOption(CLI::App& command, std::string& output) {
 /// Adds -o and --format to a converting command.
 inline void AddCommonOptions(CLI::App& command, CommonOptions& options) {
     AddOutputOption(command, options.output);
-    command.add_option("--format", options.format, "Form of the result: json")
-        ->check(CLI::IsMember({"json"}))
+    command.add_option("--format", options.format, "Form of the result: json, svg or html")
+        ->check(CLI::IsMember({"json", "svg", "html"}))
         ->capture_default_str();
 }
 

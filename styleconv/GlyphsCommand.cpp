@@ -6,10 +6,12 @@
 #include "StyleConversion/shx/ShapeFileFault.h"
 #include "StyleConversion/shx/ShxUtility.h"
 #include "documents/GlyphsDocument.h"
+#include "styleconv/GlyphSymbols.h"
 #include "styleconv/Messages.h"
 #include "styleconv/NumberOption.h"
 #include "styleconv/OutputFile.h"
 #include "styleconv/ShapeFileMessages.h"
+#include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
 
 #include <cerrno>
@@ -106,6 +108,29 @@ documents::Glyph DrawGlyph(const ShxUtility::ShapesInFile& file, const ShxUtilit
     return glyph;
 }
 
+ExitStatus WriteDocument(const ShxUtility::ShapesInFile& file, const std::vector<std::size_t>& positions,
+                         const GlyphsOptions& options) {
+    OutputFile output(options.output);
+    documents::GlyphsWriter writer(file, [&](std::string_view text) { return output.Write(text); });
+    for (const std::size_t position : positions) {
+        NowAtItem("shape " + std::to_string(file.shapes[position].number));
+        if (!writer.Add(DrawGlyph(file, file.shapes[position], options))) {
+            return kInputFault;
+        }
+    }
+    return writer.Finish() && output.Commit() ? kDone : kInputFault;
+}
+
+ExitStatus WritePictures(const ShxUtility::ShapesInFile& file, const std::vector<std::size_t>& positions,
+                         const GlyphsOptions& options) {
+    Symbols symbols;
+    for (const std::size_t position : positions) {
+        NowAtItem("shape " + std::to_string(file.shapes[position].number));
+        symbols.push_back(SymbolOf(DrawGlyph(file, file.shapes[position], options)));
+    }
+    return WriteSymbols(symbols, options);
+}
+
 ExitStatus Glyphs(const GlyphsOptions& options) {
     InputFile input(options.file);
     if (!input.Read() || !input.ProvidePath()) {
@@ -119,15 +144,8 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     if (!LoadShapes(input, file) || !ChooseShapes(input, file, options.numbers, positions)) {
         return kInputFault;
     }
-    OutputFile output(options.output);
-    documents::GlyphsWriter writer(file, [&](std::string_view text) { return output.Write(text); });
-    for (const std::size_t position : positions) {
-        NowAtItem("shape " + std::to_string(file.shapes[position].number));
-        if (!writer.Add(DrawGlyph(file, file.shapes[position], options))) {
-            return kInputFault;
-        }
-    }
-    return writer.Finish() && output.Commit() ? kDone : kInputFault;
+    return options.format == "json" ? WriteDocument(file, positions, options)
+                                    : WritePictures(file, positions, options);
 }
 
 } // namespace

@@ -1,0 +1,121 @@
+#include "preview/Gallery.h"
+
+#include "preview/GalleryFiles.h"
+#include "preview/Markup.h"
+#include "preview/NumberTexts.h"
+#include "preview/PageTemplate.h"
+#include "preview/Picture.h"
+#include "preview/SvgWriter.h"
+
+namespace preview {
+namespace {
+
+using TylModel::Parameter;
+
+constexpr std::string_view kTitle = "Symbols";
+
+// The size of a card's picture in pixels; the style sheet's .picture has the same proportion.
+constexpr double kPictureWidth = 300;
+constexpr double kPictureHeight = 220;
+
+std::string Counted(std::size_t count, const std::string& noun) {
+    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+std::string_view KindOf(Usage usage) {
+    switch (usage) {
+    case Usage::kLine:
+        return "line";
+    case Usage::kArea:
+        return "area";
+    case Usage::kPoint:
+        break;
+    }
+    return "point";
+}
+
+// The default of a parameter as its control shows it.
+std::string ValueJson(const ResolvedParameter& parameter) {
+    switch (parameter.type) {
+    case Parameter::kFillColor:
+    case Parameter::kLineColor:
+    case Parameter::kTextColor:
+        return JsonString(ColorText(parameter.color.value_or(Color{})));
+    case Parameter::kAngle:
+    case Parameter::kLineWeight:
+        return ExactNumber(parameter.number.value_or(0.0));
+    case Parameter::kText:
+        break;
+    }
+    return JsonString(parameter.text.value_or(parameter.defaultValue));
+}
+
+std::string ParametersJson(const ResolvedSymbol& symbol) {
+    std::string json = "[";
+    for (const ResolvedParameter& parameter : symbol.parameters) {
+        json += json.size() > 1 ? "," : "";
+        json += R"({"identifier":)" + JsonString(parameter.identifier);
+        json += R"(,"label":)" + JsonString(parameter.displayName);
+        json += R"(,"description":)" + JsonString(parameter.description);
+        json += R"(,"type":)" + std::to_string(static_cast<int>(parameter.type));
+        json += R"(,"value":)" + ValueJson(parameter) + "}";
+    }
+    return json + "]";
+}
+
+std::string PictureSvg(const ResolvedSymbol& symbol, const Picture& picture) {
+    std::string out;
+    SvgWriter svg(out);
+    svg.Open("svg").Set("xmlns", "http://www.w3.org/2000/svg").Set("viewBox", "0 0 300 220");
+    svg.Set("role", "img").Open("title").Text(symbol.name).Text(", ").Text(Describe(symbol)).Close();
+    out += picture.markup;
+    svg.Close();
+    return out;
+}
+
+std::string NotesMarkup(const Picture& picture) {
+    std::string markup;
+    for (const std::string& note : picture.notes) {
+        markup += "<li>" + Escaped(note) + "</li>";
+    }
+    return markup;
+}
+
+} // namespace
+
+bool GalleryWriter::WriteHead() {
+    const std::string_view page = SplitAt(gallery_files::kPage, "cards").before;
+    return sink_(Filled(page, {Field::Text("title", kTitle), Field::Text("count", Counted(count_, "symbol")),
+                               Field::Markup("scriptHash", gallery_files::kScriptHash),
+                               Field::Markup("style", gallery_files::kStyle)}));
+}
+
+bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol) {
+    const ResolvedSymbol resolved = Resolve(symbol);
+    PictureStyle style;
+    style.width = kPictureWidth;
+    style.height = kPictureHeight;
+    style.idPrefix = "s" + std::to_string(added_);
+    style.bindings = true;
+    const Picture picture = DrawPicture(resolved, style);
+    const std::string data = R"({"svg":)" + JsonString(PictureSvg(resolved, picture)) + R"(,"parameters":)" +
+                             ParametersJson(resolved) + "}";
+    const bool written =
+        (added_ > 0 || WriteHead()) &&
+        sink_(Filled(gallery_files::kCard,
+                     {Field::Text("kind", KindOf(resolved.usage)), Field::Text("name", resolved.name),
+                      Field::Text("description", resolved.description),
+                      Field::Text("detail", Describe(resolved)), Field::Markup("notes", NotesMarkup(picture)),
+                      Field::Text("parameterCount", Counted(resolved.parameters.size(), "parameter")),
+                      Field::Markup("data", data)}));
+    ++added_;
+    return written;
+}
+
+bool GalleryWriter::Finish() {
+    const std::string_view page = SplitAt(gallery_files::kPage, "cards").after;
+    return (added_ > 0 || WriteHead()) &&
+           sink_(Filled(page, {Field::Markup("script", gallery_files::kScript)}));
+}
+
+} // namespace preview

@@ -1,0 +1,226 @@
+// What pictures say in their markup. How they look is tested on rasterised ones.
+#include "preview/Picture.h"
+#include "preview/Gallery.h"
+#include "tests/preview/SampleSymbols.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace preview;
+using namespace preview_test;
+
+Picture Draw(TylModel::SymbolDefinition& symbol, bool bindings = false) {
+    PictureStyle style;
+    style.bindings = bindings;
+    return DrawPicture(Resolve(symbol), style);
+}
+
+std::size_t Count(const std::string& text, const std::string& part) {
+    std::size_t count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+bool Has(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
+std::unique_ptr<TylModel::SimpleSymbolDefinition> DashSymbol(const std::wstring& repeat) {
+    auto symbol = NewSymbol(L"DASHED");
+    AddPath(*symbol, L"M 0,0 L 0.5,0 ", L"%LINECOLOR%").SetLineWeight(L"%LINEWEIGHT%");
+    AddLineParameters(*symbol);
+    SetLineUsage(*symbol, repeat);
+    return symbol;
+}
+
+TEST(Picture, ALineWeightIsMillimetresWhateverTheScale) {
+    auto symbol = NewSymbol(L"A");
+    AddPath(*symbol, L"M 0,0 L 1000,0 ").SetLineWeight(L"2.54");
+    SetPointUsage(*symbol);
+    const std::string markup = Draw(*symbol).markup;
+    // 2.54 mm of 96 pixels to 25.4 mm.
+    EXPECT_TRUE(Has(markup, "stroke-width=\"9.6\" vector-effect=\"non-scaling-stroke\"")) << markup;
+}
+
+TEST(Picture, AScalableLineWeightGrowsWithTheSymbol) {
+    auto symbol = NewSymbol(L"A");
+    TylModel::Path& path = AddPath(*symbol, L"M 0,0 L 14,0 ");
+    path.SetLineWeight(L"2");
+    path.SetLineWeightScalable(L"true");
+    SetPointUsage(*symbol);
+    // 320 pixels less twice 20 for 14 units: 20 pixels a unit.
+    const std::string markup = Draw(*symbol).markup;
+    EXPECT_TRUE(Has(markup, "stroke-width=\"40\"")) << markup;
+    EXPECT_FALSE(Has(markup, "vector-effect")) << markup;
+}
+
+TEST(Picture, APathWithoutColoursIsNotDrawn) {
+    auto symbol = NewSymbol(L"A");
+    AddPath(*symbol, L"M 0,0 L 1,1", L"");
+    SetPointUsage(*symbol);
+    EXPECT_FALSE(Has(Draw(*symbol).markup, "<path"));
+}
+
+TEST(Picture, TransparencyIsKept) {
+    auto symbol = NewSymbol(L"A");
+    AddPath(*symbol, L"M 0,0 L 1,1", L"80102030");
+    SetPointUsage(*symbol);
+    EXPECT_TRUE(Has(Draw(*symbol).markup, "stroke=\"#102030\" stroke-opacity=\"0.5\""));
+}
+
+TEST(Picture, ATextKeepsFontStyleAndAnchor) {
+    auto symbol = NewSymbol(L"A");
+    TylModel::Text& text = AddText(*symbol, L"'A''B'");
+    text.SetFontName(L"Some \"Font'");
+    text.SetBold(L"true");
+    text.SetItalic(L"true");
+    text.SetUnderlined(L"true");
+    text.SetOverlined(L"true");
+    text.SetAngle(L"30");
+    text.SetHorizontalAlignment(L"'Right'");
+    SetPointUsage(*symbol);
+    const std::string markup = Draw(*symbol).markup;
+    for (const char* part : {"font-family=\"&#39;Some Font&#39;, sans-serif\"", "font-weight=\"bold\"",
+                             "font-style=\"italic\"", "text-decoration=\"underline overline\"",
+                             "text-anchor=\"end\"", "rotate(-30)", ">A&#39;B</text>"}) {
+        EXPECT_TRUE(Has(markup, part)) << part << " in " << markup;
+    }
+}
+
+TEST(Picture, EachMemberOfACompoundHasItsOwnRepeat) {
+    std::vector<std::unique_ptr<TylModel::SimpleSymbolDefinition>> members;
+    for (const wchar_t* repeat : {L"1", L"2"}) {
+        members.push_back(DashSymbol(repeat));
+        AddPath(*members.back(), L"M 0,0 L 0.1,0.1 ");
+    }
+    const std::string markup = Draw(*Compound(L"A", std::move(members))).markup;
+    const std::size_t often = Count(markup, "#s-0\"");
+    const std::size_t seldom = Count(markup, "#s-1\"");
+    EXPECT_GT(seldom, 2U);
+    EXPECT_GE(often, seldom * 2 - 3); // on three lines each may begin with one in common
+    EXPECT_LE(often, seldom * 2);
+}
+
+TEST(Picture, AnUprightMemberIsNotTurnedByTheLine) {
+    auto symbol = DashSymbol(L"1");
+    AddPath(*symbol, L"M 0,0 L 0.1,0.1 ");
+    EXPECT_TRUE(Has(Draw(*symbol).markup, ") rotate("));
+    symbol->GetLineUsage()->SetAngle(L"30");
+    symbol->GetLineUsage()->SetAngleControl(L"'FromAngle'");
+    const std::string upright = Draw(*symbol).markup;
+    EXPECT_FALSE(Has(upright, ") rotate(")) << upright;
+    EXPECT_TRUE(Has(upright, "<g transform=\"rotate(-30)\">")) << upright;
+}
+
+TEST(Picture, ThePageCanSeeWhichParametersAnElementFollows) {
+    const std::string dashes = Draw(*DashSymbol(L"1"), true).markup;
+    EXPECT_TRUE(Has(dashes, "data-stroke=\"0\"")) << dashes;
+    EXPECT_TRUE(Has(dashes, "data-weight=\"0;1*1\"")) << dashes;
+    auto area = NewSymbol(L"A");
+    AddPath(*area, L"M 0.0,0.0 h 10.0", L"%HATCHCOLOR%");
+    SetAreaUsage(*area, L"%HATCHANGLE%+45.0", L"10.0", L"1.0");
+    const std::string hatch = Draw(*area, true).markup;
+    EXPECT_TRUE(Has(hatch, "transform=\"rotate(-45)\" data-angle=\"45;1*1\"")) << hatch;
+    EXPECT_FALSE(Has(Draw(*area, false).markup, "data-"));
+}
+
+TEST(Picture, DescribesTheSymbol) {
+    EXPECT_EQ(Describe(Resolve(*DashSymbol(L"0.75"))), "Line symbol, repeat 0.75");
+    EXPECT_EQ(Describe(Resolve(*PointSymbol(L"A", L"M 0,0 L 25.4,12.7"))),
+              "Point symbol, 25.4 \xc3\x97 12.7 mm");
+    auto area = NewSymbol(L"A");
+    SetAreaUsage(*area, L"0", L"10.0", L"0.125");
+    EXPECT_EQ(Describe(Resolve(*area)), "Area symbol, tile 10 \xc3\x97 0.125");
+}
+
+TEST(Picture, LightColoursGetDarkPaper) {
+    auto symbol = NewSymbol(L"A");
+    AddPath(*symbol, L"M 0,0 L 1,1", L"ffffffff");
+    EXPECT_LT(Luminance(PaperFor(Resolve(*symbol))), 0.1);
+    AddPath(*symbol, L"M 0,0 L 1,1", L"ff000000");
+    const double both = Luminance(PaperFor(Resolve(*symbol)));
+    EXPECT_GT(Contrast(both, 0.0), 4);
+    EXPECT_GT(Contrast(both, 1.0), 4);
+    EXPECT_EQ(PaperFor(Resolve(*PointSymbol(L"A", L"M 0,0 L 1,1"))), (Color{255, 255, 255, 255}));
+}
+
+TEST(Picture, HostileSymbolsGiveSmallPicturesThatSaySo) {
+    for (const auto& symbol : HostileSymbols()) {
+        const Picture picture = Draw(*symbol, true);
+        EXPECT_LT(picture.markup.size(), 600'000U);
+        for (const char* word : {"nan", "inf", "e+"}) {
+            EXPECT_FALSE(Has(picture.markup, word)) << picture.markup.substr(0, 1000);
+        }
+    }
+    // What stands beside the line keeps a picture from showing single repetitions of a millionth of its size.
+    auto dense = DashSymbol(L"1e-6");
+    AddPath(*dense, L"M 0,0 L 1,1 ");
+    EXPECT_EQ(Draw(*dense).notes, std::vector<std::string>{"Not all repetitions are drawn."});
+    EXPECT_EQ(Draw(*DashSymbol(L"1e300")).notes,
+              std::vector<std::string>{"The repeat is longer than the picture."});
+    EXPECT_EQ(Draw(*DashSymbol(L"nan")).notes, std::vector<std::string>{"Values that cannot be read: 1."});
+    EXPECT_TRUE(Draw(*DashSymbol(L"1")).notes.empty());
+}
+
+TEST(Picture, AMillionCommandsAreDrawnOnceEach) {
+    std::wstring path = L"M 0,0 ";
+    for (int i = 0; i < 500'000; ++i) {
+        path += L"l 1,1 l 1,-1 ";
+    }
+    const std::string point = Draw(*PointSymbol(L"A", path)).markup;
+    EXPECT_GT(point.size(), 1'000U);
+    auto line = NewSymbol(L"A");
+    AddPath(*line, path);
+    SetLineUsage(*line, L"1");
+    EXPECT_FALSE(Draw(*line).notes.empty());
+    auto area = NewSymbol(L"A");
+    AddPath(*area, path);
+    SetAreaUsage(*area, L"0", L"1", L"1");
+    EXPECT_FALSE(Draw(*area).notes.empty());
+}
+
+TEST(Gallery, NamesOfAFileCannotBecomeMarkup) {
+    std::string page;
+    const auto symbols = HostileSymbols();
+    GalleryWriter writer(symbols.size(), [&](std::string_view piece) {
+        page += piece;
+        return true;
+    });
+    for (const auto& symbol : symbols) {
+        ASSERT_TRUE(writer.Add(*symbol));
+    }
+    ASSERT_TRUE(writer.Finish());
+    EXPECT_EQ(Count(page, "</script>"), symbols.size() + 1);
+    EXPECT_EQ(Count(page, "<script"), symbols.size() + 1);
+    EXPECT_FALSE(Has(page, "<img"));
+    EXPECT_FALSE(Has(page, "{{"));
+}
+
+TEST(Gallery, StopsWhenItsTextCannotBeStored) {
+    GalleryWriter writer(1, [](std::string_view) { return false; });
+    EXPECT_FALSE(writer.Add(*DashSymbol(L"1")));
+}
+
+TEST(SymbolSheet, HoldsEverySymbolAndEndsWithoutAny) {
+    std::string sheet;
+    const TextSink sink = [&](std::string_view piece) {
+        sheet += piece;
+        return true;
+    };
+    const auto symbols = TypicalSymbols();
+    SheetWriter writer(symbols.size(), sink);
+    for (const auto& symbol : symbols) {
+        ASSERT_TRUE(writer.Add(*symbol));
+    }
+    ASSERT_TRUE(writer.Finish());
+    EXPECT_EQ(Count(sheet, "<svg"), symbols.size() + 1);
+    EXPECT_EQ(Count(sheet, "</svg>"), symbols.size() + 1);
+    sheet.clear();
+    ASSERT_TRUE(SheetWriter(0, sink).Finish());
+    EXPECT_EQ(Count(sheet, "</svg>"), 1U);
+}
+
+} // namespace
