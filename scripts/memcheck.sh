@@ -13,7 +13,7 @@ cmake --build build/memcheck --target styleconv
 check() {
   echo "styleconv $*"
   valgrind --quiet --leak-check=full --errors-for-leak-kinds=definite,indirect,possible --error-exitcode=99 \
-    --num-callers=30 build/memcheck/bin/styleconv "$@" --time-limit 600 -o build/memcheck/result
+    --num-callers=30 --suppressions=scripts/memcheck.supp build/memcheck/bin/styleconv "$@" --time-limit 600 -o build/memcheck/result
 }
 
 for file in examples/patterns/*.pat; do
