@@ -18,8 +18,11 @@ constexpr double kShortestRepeat = 48;
 constexpr double kLongestRepeat = 200;
 constexpr double kRepeatPerPiece = 26;
 constexpr double kLegibleHeight = 12;
-constexpr double kGreatestHeight = 34;
+constexpr double kGreatestHeight = 32;
+constexpr double kGreatestReach = 24; // to one side
 constexpr double kUnrepeatedLength = 200;
+// How far something may reach over the end of a line.
+constexpr double kOverhang = 16;
 
 std::array<SampleLine, 3> SampleLines(const PictureStyle& style) {
     const double left = 24;
@@ -50,6 +53,7 @@ bool FollowsLine(const Member& member, const Part& part) {
 struct Extent {
     double repeat = 0.0; // the longest of the members
     double height = 0.0; // of what stands beside the line
+    double reach = 0.0;  // of it, from the line
     double width = 0.0;
     double pieces = 0.0; // of one repetition
 };
@@ -68,6 +72,7 @@ Extent ExtentOf(const ResolvedSymbol& symbol) {
     }
     extent.height = bounds.Height();
     extent.width = bounds.Width();
+    extent.reach = bounds.IsEmpty() ? 0.0 : std::max(std::fabs(bounds.low.y), std::fabs(bounds.high.y));
     return extent;
 }
 
@@ -83,7 +88,9 @@ double ScaleFor(const Extent& extent, Canvas& canvas) {
     if (extent.height > 0.0) {
         const double limit = extent.repeat > 0.0 ? kLongestRepeat / extent.repeat : scale;
         scale = std::max(scale, std::min(kLegibleHeight / extent.height, limit));
-        scale = std::min(scale, kGreatestHeight / extent.height);
+    }
+    if (extent.reach > 0.0) {
+        scale = std::min({scale, kGreatestReach / extent.reach, kGreatestHeight / extent.height});
     }
     const double size = std::max(extent.width, extent.height);
     if (size > 0.0 && size * scale < 1.0) {
@@ -233,7 +240,9 @@ void LinePicture::DrawUpright(const Member& member, const Part& part) {
     const std::string id = Define(member, part, anchor);
     const int most = static_cast<int>(std::max<std::size_t>(1, kMostDrawnCommands / CommandsOf(part)));
     for (const SampleLine& line : lines_) {
-        Repetitions places(member, scale_, line.Length(), anchor, anchor);
+        // What would reach over the line's end is left out, as nothing would be there to carry it.
+        const double end = bounds.high.x * scale_ - kOverhang;
+        Repetitions places(member, scale_, line.Length(), std::max(anchor, end), anchor);
         places.Limit(most);
         for (int i = 0; i < places.Count(); ++i) {
             Use(line.At(places.Place(i) + anchor), !member.fromAngle, id);

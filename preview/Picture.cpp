@@ -82,6 +82,17 @@ double ContrastOn(const Color& paper, const ResolvedSymbol& symbol) {
 // A thin line is seen from here on: cyan on white has 1.25, yellow 1.07.
 constexpr double kEnoughContrast = 1.2;
 
+bool DrawsNothing(const ResolvedSymbol& symbol) {
+    for (const Member& member : symbol.members) {
+        for (const Part& part : member.parts) {
+            if (IsVisible(part) && !PartBounds(part).IsEmpty()) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 void Canvas::Note(std::string_view note) {
@@ -128,6 +139,9 @@ Picture DrawPicture(const ResolvedSymbol& symbol, const PictureStyle& style) {
     Canvas canvas{SvgWriter(picture.markup), style, picture.notes};
     if (symbol.unreadable > 0) {
         canvas.Note("Values that cannot be read: " + std::to_string(symbol.unreadable) + ".");
+    }
+    if (DrawsNothing(symbol)) {
+        canvas.Note("The symbol draws nothing.");
     }
     canvas.svg.Open("g").Set("fill", "none").Set("stroke-linejoin", "round");
     switch (symbol.usage) {

@@ -29,7 +29,6 @@ void DrawPointPicture(Canvas& canvas, const ResolvedSymbol& symbol) {
         bounds.Include(member.bounds);
     }
     if (bounds.IsEmpty()) {
-        canvas.Note("The symbol draws nothing.");
         return;
     }
     const double scale = FittingScale(TurnedBounds(symbol), canvas.style);

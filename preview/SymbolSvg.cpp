@@ -34,13 +34,13 @@ struct CardSize {
     double Height() const { return picture + caption; }
 };
 
-constexpr CardSize kSheetCard{300, 220, 66, 12, 15, 11.5, 1};
-constexpr CardSize kSingleCard{640, 440, 104, 20, 22, 14, 3};
+constexpr CardSize kSheetCard{300, 220, 84, 12, 15, 11.5, 1};
+constexpr CardSize kSingleCard{640, 440, 116, 20, 22, 14, 2};
 
 constexpr double kGap = 16;
 constexpr double kLineHeight = 1.5;
 // The mean advance of a letter of the caption's font, in em; a little too much rather than too little.
-constexpr double kCaptionAdvance = 0.6;
+constexpr double kCaptionAdvance = 0.57;
 constexpr wchar_t kEllipsis = L'\u2026';
 
 std::wstring Shortened(const std::wstring& text, double width, double fontSize) {
@@ -109,11 +109,10 @@ void CardDrawing::Draw(std::string& out) {
     svg_.Text("\n").Open("g").Set("font-family", kCaptionFont);
     y_ = size_.picture + 2;
     Line(symbol_.name, size_.nameSize, kNameColor, true);
-    std::wstring detail = platform::Utf8ToWide(Describe(symbol_));
+    Line(platform::Utf8ToWide(Describe(symbol_)), size_.detailSize, kDetailColor, false);
     if (!symbol_.description.empty()) {
-        detail += L" \u00b7 " + symbol_.description;
+        Line(symbol_.description, size_.detailSize, kDetailColor, false);
     }
-    Line(detail, size_.detailSize, kDetailColor, false);
     const auto notes = std::min(picture.notes.size(), static_cast<std::size_t>(size_.notes));
     for (std::size_t i = 0; i < notes; ++i) {
         Line(platform::Utf8ToWide(picture.notes[i]), size_.detailSize, kNoteColor, false);
