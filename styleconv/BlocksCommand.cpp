@@ -5,6 +5,7 @@
 #include "drawing/Database.h"
 #include "styleconv/DrawingFile.h"
 #include "styleconv/Messages.h"
+#include "styleconv/Progress.h"
 #include "styleconv/ShapeSearch.h"
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
@@ -47,6 +48,7 @@ bool ConvertibleBlocks(const InputFile& input, BlockConverter& converter, std::v
 // False, after saying which, when one of the blocks is not there.
 bool Convert(const InputFile& input, BlockConverter& converter, const std::vector<std::wstring>& names,
              Symbols& symbols) {
+    BeginStage("Converting", names.size());
     for (const std::wstring& name : names) {
         NowAtItem("block " + Shown(name));
         std::unique_ptr<TylModel::SymbolDefinition> symbol(converter.Convert(name));

@@ -10,6 +10,7 @@
 #include "styleconv/Messages.h"
 #include "styleconv/NumberOption.h"
 #include "styleconv/OutputFile.h"
+#include "styleconv/Progress.h"
 #include "styleconv/ShapeFileMessages.h"
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
@@ -112,6 +113,7 @@ ExitStatus WriteDocument(const ShxUtility::ShapesInFile& file, const std::vector
                          const GlyphsOptions& options) {
     OutputFile output(options.output);
     documents::GlyphsWriter writer(file, [&](std::string_view text) { return output.Write(text); });
+    BeginWriting(options.output.empty(), positions.size());
     for (const std::size_t position : positions) {
         NowAtItem("shape " + std::to_string(file.shapes[position].number));
         if (!writer.Add(DrawGlyph(file, file.shapes[position], options))) {
@@ -124,6 +126,7 @@ ExitStatus WriteDocument(const ShxUtility::ShapesInFile& file, const std::vector
 ExitStatus WritePictures(const ShxUtility::ShapesInFile& file, const std::vector<std::size_t>& positions,
                          const GlyphsOptions& options) {
     Symbols symbols;
+    BeginStage("Drawing", positions.size());
     for (const std::size_t position : positions) {
         NowAtItem("shape " + std::to_string(file.shapes[position].number));
         symbols.push_back(SymbolOf(DrawGlyph(file, file.shapes[position], options)));

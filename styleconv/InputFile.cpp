@@ -5,6 +5,7 @@
 #include "StyleConversion/platform/Utf8.h"
 #include "styleconv/Messages.h"
 #include "styleconv/Paths.h"
+#include "styleconv/Progress.h"
 #include "styleconv/WorkLimits.h"
 
 #include <array>
@@ -34,6 +35,7 @@ InputFile::InputFile(std::string argument)
 
 bool InputFile::Open() {
     NowAtFile(name_);
+    BeginStage("Reading");
     return IsStandardInput() || OpenNamed();
 }
 

@@ -14,6 +14,7 @@
 #include "styleconv/LinetypeMessages.h"
 #include "styleconv/Messages.h"
 #include "styleconv/NumberOption.h"
+#include "styleconv/Progress.h"
 #include "styleconv/SymbolOutput.h"
 
 #include <memory>
@@ -103,6 +104,7 @@ public:
         }
         LineConverter::CLinVisitor visitor(options_.scale, &parser_.faultLog());
         AnnouncedLinetypes announced(visitor);
+        BeginStage("Converting", parser_.linetypes().size());
         const LineConverter::LinResult walked = parser_.Accept(announced);
         const std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> results(visitor.TakeResults());
         for (std::size_t i = 0; results && i < results->size(); ++i) {

@@ -1,6 +1,7 @@
 #include "styleconv/Messages.h"
 
 #include "StyleConversion/platform/Utf8.h"
+#include "styleconv/Progress.h"
 
 #include <cstdio>
 
@@ -11,6 +12,7 @@ void Say(std::string_view file, std::string_view what) {
     line += ": ";
     line += what;
     line += '\n';
+    ClearProgress();
     // Nowhere is left to say that standard error cannot be written.
     std::fwrite(line.data(), 1, line.size(), stderr);
 }

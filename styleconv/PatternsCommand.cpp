@@ -6,6 +6,7 @@
 #include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "styleconv/Messages.h"
+#include "styleconv/Progress.h"
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
 
@@ -77,6 +78,7 @@ std::unique_ptr<TylModel::SymbolDefinition> ConvertPattern(const InputFile& inpu
 
 // All that can be converted, in the order of the names. False when that is none.
 bool ConvertAll(const InputFile& input, LoadedPatterns& loaded, Symbols& symbols) {
+    BeginStage("Converting", loaded.file.patterns.size());
     for (const auto& [name, lines] : loaded.file.patterns) {
         if (auto symbol = ConvertPattern(input, loaded, name, "; left out")) {
             symbols.push_back(std::move(symbol));
@@ -92,6 +94,7 @@ bool ConvertAll(const InputFile& input, LoadedPatterns& loaded, Symbols& symbols
 bool ConvertNamed(const InputFile& input, LoadedPatterns& loaded, const std::vector<std::string>& names,
                   Symbols& symbols) {
     bool complete = true;
+    BeginStage("Converting", names.size());
     for (const std::string& name : names) {
         const std::string narrow = platform::WideToAnsi(platform::Utf8ToWide(name));
         if (!loaded.file.patterns.contains(narrow)) {

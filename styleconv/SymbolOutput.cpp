@@ -5,6 +5,7 @@
 #include "preview/SymbolSvg.h"
 #include "styleconv/Messages.h"
 #include "styleconv/OutputFile.h"
+#include "styleconv/Progress.h"
 #include "styleconv/WorkLimits.h"
 
 #include <algorithm>
@@ -58,6 +59,7 @@ ExitStatus WriteSymbols(const Symbols& symbols, const CommonOptions& options) {
 ExitStatus WriteSymbols(const std::vector<TylModel::SymbolDefinition*>& symbols,
                         const CommonOptions& options) {
     OutputFile output(options.output);
+    BeginWriting(options.output.empty(), symbols.size());
     const auto sink = [&](std::string_view text) { return output.Write(text); };
     return WriteForm(symbols, options.format, sink) && output.Commit() ? kDone : kInputFault;
 }

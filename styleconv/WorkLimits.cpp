@@ -4,6 +4,7 @@
 #include "styleconv/Messages.h"
 #include "styleconv/NumberOption.h"
 #include "styleconv/ProcessMemory.h"
+#include "styleconv/Progress.h"
 #include "styleconv/TemporaryFile.h"
 
 #include <algorithm>
@@ -83,6 +84,7 @@ void NowAtFile(std::string_view file) {
 }
 
 void NowAtItem(std::string_view item) {
+    StepStage();
     Work& work = CurrentWork();
     const std::lock_guard lock(work.mutex);
     work.item = item;

@@ -4,6 +4,7 @@
 #include "styleconv/LinetypesCommand.h"
 #include "styleconv/ListCommand.h"
 #include "styleconv/PatternsCommand.h"
+#include "styleconv/Progress.h"
 #include "styleconv/WorkLimits.h"
 
 #include <CLI/CLI.hpp>
@@ -16,7 +17,7 @@ namespace {
 
 using namespace styleconv;
 
-void AddCommands(CLI::App& app, Runner& runner, LimitOptions& limits) {
+void AddCommands(CLI::App& app, Runner& runner, LimitOptions& limits, bool& quiet) {
     AddLinetypesCommand(app, runner);
     AddPatternsCommand(app, runner);
     AddBlocksCommand(app, runner);
@@ -25,6 +26,7 @@ void AddCommands(CLI::App& app, Runner& runner, LimitOptions& limits) {
     for (CLI::App* const command : app.get_subcommands({})) {
         command->group("Commands");
         AddLimitOptions(*command, limits);
+        command->add_flag("--quiet", quiet, "Do not show how far the work has come");
     }
 }
 
@@ -48,14 +50,20 @@ ExitStatus Run(int argc, char** argv) {
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     Runner runner;
     LimitOptions limits;
-    AddCommands(app, runner, limits);
+    bool quiet = false;
+    AddCommands(app, runner, limits, quiet);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return Explain(app, error);
     }
+    if (!quiet) {
+        AllowProgress();
+    }
     const WorkLimits kept(limits);
-    return runner();
+    const ExitStatus status = runner();
+    ClearProgress();
+    return status;
 }
 
 } // namespace
@@ -72,8 +80,10 @@ int main(int argc, char** argv) {
     try {
         return Run(argc, argv);
     } catch (const std::bad_alloc&) {
+        ClearProgress();
         std::fputs("styleconv: there is not enough memory\n", stderr);
     } catch (const std::exception& error) {
+        ClearProgress();
         std::fprintf(stderr, "styleconv: %s\n", error.what());
     }
     return kInputFault;

@@ -1,0 +1,69 @@
+"""Runs the tool with standard error on a terminal, and not: progress_test.py STYLECONV"""
+import os
+import pty
+import subprocess
+import sys
+import tempfile
+import unittest
+
+COUNT = 300
+
+
+class Progress(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.patterns = os.path.join(folder.name, "many.pat")
+        self.result = os.path.join(folder.name, "result.html")
+        with open(self.patterns, "w") as file:
+            for number in range(COUNT):
+                file.write(f"*P{number}\n0, 0,0, 0,1\n")
+
+    def command(self, *options):
+        return [tool, "patterns", self.patterns, "--format", "html", "-o", self.result, *options]
+
+    def on_terminal(self, *options):
+        """What the tool writes to a terminal."""
+        master, slave = pty.openpty()
+        with subprocess.Popen(self.command(*options), stderr=slave) as process:
+            os.close(slave)
+            written = b""
+            try:
+                while piece := os.read(master, 4096):
+                    written += piece
+            except OSError:  # how the end of a terminal reads
+                pass
+            os.close(master)
+        self.assertEqual(process.returncode, 0)
+        return written.decode()
+
+    def test_a_terminal_sees_the_stages_with_their_counts(self):
+        written = self.on_terminal()
+        stages = [written.find(text) for text in ("Reading", f"Converting {COUNT} of {COUNT}", f"Writing {COUNT} of {COUNT}")]
+        self.assertNotIn(-1, stages, repr(written))
+        self.assertEqual(stages, sorted(stages))
+
+    def test_the_line_is_empty_in_the_end(self):
+        line, column = [" "] * 200, 0
+        for character in self.on_terminal():
+            if character == "\r":
+                column = 0
+            elif character == "\b":
+                column -= 1
+            else:
+                line[column] = character
+                column += 1
+        self.assertEqual("".join(line).strip(), "")
+        self.assertEqual(column, 0)
+
+    def test_quiet_writes_nothing(self):
+        self.assertEqual(self.on_terminal("--quiet"), "")
+
+    def test_what_is_no_terminal_sees_nothing(self):
+        finished = subprocess.run(self.command(), stderr=subprocess.PIPE, check=True)
+        self.assertEqual(finished.stderr, b"")
+
+
+if __name__ == "__main__":
+    tool = sys.argv[1]
+    unittest.main(argv=sys.argv[:1])
