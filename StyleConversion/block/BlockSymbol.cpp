@@ -1,9 +1,17 @@
 #include "StyleConversion/block/BlockSymbol.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 
 namespace block {
+namespace {
+
+// Characters up to which a path is copied: the copy is no longer than need be, and the storage serves the
+// next entity. Beyond, copying is what counts.
+constexpr std::size_t kLongPath = 65536;
+
+} // namespace
 
 BlockSymbol::BlockSymbol(TylModel::SimpleSymbolDefinition& symbol,
                          const std::vector<std::wstring>& layersToIgnore)
@@ -31,6 +39,16 @@ EntityPath& BlockSymbol::StartPath() {
     path_.path.clear();
     path_.shapes.clear();
     return path_;
+}
+
+std::unique_ptr<TylModel::Path> BlockSymbol::MakePath() {
+    auto graphic = std::make_unique<TylModel::Path>();
+    if (path_.path.size() > kLongPath) {
+        graphic->SetGeometry(std::move(path_.path));
+    } else {
+        graphic->SetGeometry(path_.path);
+    }
+    return graphic;
 }
 
 } // namespace block

@@ -51,6 +51,8 @@ public:
     EntityPath& StartPath();
     /// What was written since.
     EntityPath& CurrentPath() { return path_; }
+    /// A graphic of it: the path as it stands now, which is then no longer to be used.
+    std::unique_ptr<TylModel::Path> MakePath();
 
 private:
     TylModel::SimpleSymbolDefinition& symbol_;

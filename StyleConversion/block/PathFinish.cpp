@@ -18,8 +18,7 @@ void BlockConverter::FinishStroke(const OxDbBlockTableRecord& record, const OxDb
     if (path.empty()) {
         return;
     }
-    auto graphic = std::make_unique<TylModel::Path>();
-    graphic->SetGeometry(path);
+    auto graphic = symbol.MakePath();
     graphic->SetLineColor(color);
     graphic->SetLineWeight(lineWeight);
     graphic->SetLineWeightScalable(encoding::BooleanString(false));

@@ -1,16 +1,34 @@
 #include "StyleConversion/block/PolylineWalk.h"
 
+#include "StyleConversion/block/Limits.h"
+
 #include <cmath>
+#include <cstddef>
 
 BlockConverter::PolylineWalk::PolylineWalk(const BlockConverter& converter,
                                            const OxDbLinetypeTableRecord& linetype, double length,
-                                           block::EntityPath& geometry)
+                                           unsigned int segments, block::EntityPath& geometry)
     : converter_(converter), linetype_(linetype), geometry_(geometry) {
     const block::DashFit fit = block::FitDashes(linetype, length);
     lead_ = fit.lead;
     remaining_ = fit.lead;
     entriesLeft_ =
         static_cast<std::uint32_t>(fit.repetitions) * static_cast<std::uint32_t>(linetype.numDashes());
+    ReservePath(length, segments);
+}
+
+// Paths of very many dashes grow in one piece. What the dashes themselves add up to tells how many there will
+// be; the pattern length need not have to do with them.
+void BlockConverter::PolylineWalk::ReservePath(double length, unsigned int segments) {
+    double dashSum = 0.0;
+    for (int i = 0; i < linetype_.numDashes(); ++i) {
+        dashSum += std::fabs(linetype_.dashLengthAt(i));
+    }
+    const double pieces = length / dashSum * linetype_.numDashes() + segments;
+    const double characters = pieces * block::kUsualPieceLength;
+    if (characters > block::kUsualPieceLength && characters < block::kLongestReservation) {
+        geometry_.path.reserve(static_cast<std::size_t>(characters));
+    }
 }
 
 void BlockConverter::PolylineWalk::Add(const block::PolylineSegment& segment) {

@@ -16,13 +16,14 @@
 /// polyline then, the pattern runs on behind it. Without any whole repetition there is no lead-out.
 class BlockConverter::PolylineWalk {
 public:
-    /// `length` is the sum over the polyline's segments; the linetype has dashes.
+    /// `length` is the sum over the polyline's segments, `segments` their number; the linetype has dashes.
     PolylineWalk(const BlockConverter& converter, const OxDbLinetypeTableRecord& linetype, double length,
-                 block::EntityPath& geometry);
+                 unsigned int segments, block::EntityPath& geometry);
 
     void Add(const block::PolylineSegment& segment);
 
 private:
+    void ReservePath(double length, unsigned int segments);
     void Start(const OxGePoint2d& point);
     void EmitEntry(const block::PolylineSegment& segment, const block::Direction& direction, double angle);
     void DrawShape(const block::PolylineSegment& segment, double angle);

@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 namespace {
 
@@ -130,7 +131,12 @@ double TimeOfConversion(drawing::Database& database) {
     });
 }
 
-void Measure(const char* what, const Drawing& database) {
+template <class Make>
+void Measure(const char* what, const char* word, Make make) {
+    if (std::string_view(what).find(word) == std::string_view::npos) {
+        return;
+    }
+    const Drawing database = make();
     const std::vector<double> numbers = NumbersOf(*Convert(*database));
     const double conversion = TimeOfConversion(*database);
     const double standard = Fastest([&] { return TimeOfStandardFormatting(numbers); });
@@ -145,11 +151,13 @@ int main(int argc, char** argv) {
     const std::size_t entities = argc > 1 ? std::strtoull(argv[1], nullptr, 10) : 1000000;
     std::printf("%-44s %9s %11s %11s %6s %11s %6s\n", "", "numbers", "conversion", "std floor", "ratio",
                 "own floor", "ratio");
-    Measure("curves, a third dashed, 10 layers", CurvesOn(10, entities));
-    Measure("curves, a third dashed, 10,000 layers", CurvesOn(10000, entities));
-    Measure("curves, a tenth of them", CurvesOn(10, entities / 10));
-    Measure("one polyline of as many vertices, dashed", PolylineOf(entities));
-    Measure("splines of 10 fit points, a hundredth, dashed", SplinesOf(entities / 100, 10));
-    Measure("one hatch of a tenth as many lines", HatchOf(entities / 10));
+    const char* const word = argc > 2 ? argv[2] : "";
+    Measure("curves, a third dashed, 10 layers", word, [&] { return CurvesOn(10, entities); });
+    Measure("curves, a third dashed, 10,000 layers", word, [&] { return CurvesOn(10000, entities); });
+    Measure("curves, a tenth of them", word, [&] { return CurvesOn(10, entities / 10); });
+    Measure("one polyline of as many vertices, dashed", word, [&] { return PolylineOf(entities); });
+    Measure("splines of 10 fit points, a hundredth, dashed", word,
+            [&] { return SplinesOf(entities / 100, 10); });
+    Measure("one hatch of a tenth as many lines", word, [&] { return HatchOf(entities / 10); });
     return 0;
 }

@@ -37,8 +37,7 @@ void BlockConverter::CollectGeometryFromNonSolidHatch(const OxDbBlockTableRecord
     if (path.empty()) {
         return;
     }
-    auto graphic = std::make_unique<TylModel::Path>();
-    graphic->SetGeometry(path);
+    auto graphic = symbol.MakePath();
     graphic->SetLineColor(color);
     symbol.Adopt(std::move(graphic));
 }

@@ -21,8 +21,7 @@ void BlockConverter::CollectGeometryFromMPolygon(const OxDbBlockTableRecord& rec
     if (path.empty()) {
         return;
     }
-    auto graphic = std::make_unique<TylModel::Path>();
-    graphic->SetGeometry(path);
+    auto graphic = symbol.MakePath();
     graphic->SetFillColor(fillColor);
     graphic->SetLineColor(lineColor);
     graphic->SetLineWeight(lineWeight);

@@ -29,7 +29,7 @@ void BlockConverter::CollectGeometryFromPolyline(const OxDbBlockTableRecord& rec
     if (polyline.hasPlinegen() && block::HasDashes(linetype.Get())) {
         double length = 0.0;
         ForEachSegment(polyline, [&](const block::PolylineSegment& segment) { length += segment.length; });
-        PolylineWalk walk(*this, *linetype.Get(), length, geometry);
+        PolylineWalk walk(*this, *linetype.Get(), length, block::CountSegments(polyline), geometry);
         ForEachSegment(polyline, [&](const block::PolylineSegment& segment) { walk.Add(segment); });
     } else {
         ForEachSegment(polyline, [&](const block::PolylineSegment& segment) {

@@ -22,8 +22,7 @@ void BlockConverter::CollectGeometryFromSolidHatch(const OxDbBlockTableRecord& r
     if (path.empty()) {
         return;
     }
-    auto graphic = std::make_unique<TylModel::Path>();
-    graphic->SetGeometry(path);
+    auto graphic = symbol.MakePath();
     graphic->SetFillColor(color);
     symbol.Adopt(std::move(graphic));
 }

@@ -4,6 +4,7 @@
 #include "TylModel/RootObject.h"
 
 #include <string>
+#include <utility>
 
 namespace TylModel {
 
@@ -36,6 +37,8 @@ public:
 
     /// Path commands such as "M 0.0,0.0 L 10.0,0.0"; y points up.
     void SetGeometry(const std::wstring& geometry) { geometry_ = geometry; }
+    /// The same without a copy, for paths of many megabytes.
+    void SetGeometry(std::wstring&& geometry) { geometry_ = std::move(geometry); }
     const std::wstring& GetGeometry() const { return geometry_; }
     /// Eight hexadecimal digits, alpha first, or a parameter reference.
     void SetLineColor(const std::wstring& color) { lineColor_ = color; }
