@@ -100,7 +100,7 @@ class ColorNode : public Node {
 public:
     explicit ColorNode(const OxCmColor& fallback) : fallback_(fallback), value_(fallback) {}
     std::string Expected() const override {
-        return "a color (\"ByLayer\", \"ByBlock\", an index from 1 to 255 or \"#rrggbb\")";
+        return R"(a color ("ByLayer", "ByBlock", an index from 1 to 255 or "#rrggbb"))";
     }
     bool Number(ReadState& state, const NumberToken& number) override;
     bool String(ReadState& state, std::string& value) override;

@@ -9,7 +9,7 @@
 
 #include <memory>
 
-BlockConverter::BlockConverter(OxDbDatabase* database) : database_(database), scale_(1.0) {
+BlockConverter::BlockConverter(OxDbDatabase* database) : database_(database) {
     if (database_ != nullptr) {
         SetScale(database_->insunits());
     }

@@ -82,7 +82,7 @@ private:
     class PolylineWalk;
 
     OxDbDatabase* database_;
-    double scale_; // millimetres per drawing unit
+    double scale_ = 1.0; // millimetres per drawing unit
     std::vector<std::wstring> layersToIgnore_;
 
     // The frame: lists of blocks, and the way through the entities of one.
