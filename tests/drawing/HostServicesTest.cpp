@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <string>
 
 namespace {
 
@@ -37,7 +38,9 @@ protected:
     }
 
     const std::string notFound = "status " + std::to_string(Oxsys::eFileNotFound);
-    const fs::path root = fs::temp_directory_path() / "styleconversion host services test";
+    const fs::path root =
+        fs::temp_directory_path() / (std::string("styleconversion host services ") +
+                                     testing::UnitTest::GetInstance()->current_test_info()->name());
 };
 
 TEST_F(HostServices, DirectoriesAreSearchedInOrder) {
