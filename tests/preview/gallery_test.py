@@ -16,6 +16,8 @@ from selenium.webdriver.common.by import By
 from selenium.webdriver.common.keys import Keys
 from selenium.webdriver.support.ui import WebDriverWait
 
+import programs
+
 PATIENCE = 30  # seconds; what is waited for comes at once on an idle machine
 
 
@@ -26,6 +28,7 @@ def start_browser(profile):
         "--headless",
         "--no-sandbox",
         "--disable-gpu",
+        "--disable-quic",
         "--disable-background-networking",
         "--disable-component-update",
         "--disable-sync",
@@ -294,6 +297,7 @@ class Gallery(unittest.TestCase):
 
 if __name__ == "__main__":
     write_samples, chromium, chromedriver = sys.argv[1:4]
+    programs.require(chromium, chromedriver)
     with tempfile.TemporaryDirectory() as samples, tempfile.TemporaryDirectory() as browser_profile:
         subprocess.run([write_samples, samples], check=True)
         # What the browser keeps of its own goes where it is removed again.

@@ -7,6 +7,8 @@ import unittest
 
 from PIL import Image
 
+import programs
+
 MILLIMETRE = 96 / 25.4  # pixels
 PICTURE = (640, 440)  # of a single symbol, above its caption
 MIDDLE = (PICTURE[0] / 2, PICTURE[1] / 2)
@@ -192,6 +194,7 @@ class Pictures(unittest.TestCase):
 
 if __name__ == "__main__":
     write_samples, rsvg_convert = sys.argv[1:3]
+    programs.require(rsvg_convert)
     with tempfile.TemporaryDirectory() as samples:
         subprocess.run([write_samples, samples], check=True)
         unittest.main(argv=sys.argv[:1], verbosity=2)
