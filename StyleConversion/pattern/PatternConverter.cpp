@@ -2,6 +2,7 @@
 #include "StyleConversion/pattern/PatternConverter.h"
 
 #include "StyleConversion/pattern/AreaSymbol.h"
+#include "StyleConversion/pattern/PatternFile.h"
 #include "StyleConversion/platform/CodePage.h"
 
 #include <utility>

@@ -2,11 +2,15 @@
 #pragma once
 
 #include "StyleConversion/Export.h"
-#include "StyleConversion/pattern/PatternFile.h"
 #include "TylModel/SymbolDefinition.h"
 
+#include <map>
 #include <string>
 #include <vector>
+
+namespace pattern {
+struct PatternLine;
+}
 
 /// Converts the hatch patterns of one pattern file (.pat).
 ///
@@ -46,6 +50,7 @@ private:
     void LoadFile();
 
     std::wstring fileName_;
-    pattern::Descriptions descriptions_;
-    pattern::Patterns patterns_;
+    // By the bytes of the pattern's name.
+    std::map<std::string, std::string> descriptions_;
+    std::map<std::string, std::vector<pattern::PatternLine>> patterns_;
 };
