@@ -52,30 +52,30 @@ class BlockSymbol;
 /// The database is borrowed and must outlive the converter; it may be null, and every operation then fails
 /// softly. What an operation opens in it is closed when it returns. One thread at a time: shapes in linetypes
 /// are written through the shared buffer of the path commands.
-class STYLECONVERSION_API BlockConverter {
+class BlockConverter {
 public:
-    explicit BlockConverter(OxDbDatabase* database);
+    STYLECONVERSION_API explicit BlockConverter(OxDbDatabase* database);
     /// Copies the list of layers; the database is shared.
-    BlockConverter(const BlockConverter& other);
-    BlockConverter& operator=(const BlockConverter& other);
-    ~BlockConverter();
+    STYLECONVERSION_API BlockConverter(const BlockConverter& other);
+    STYLECONVERSION_API BlockConverter& operator=(const BlockConverter& other);
+    STYLECONVERSION_API ~BlockConverter();
 
     /// Replaces `names` by the names of the blocks that can be converted, in table order: those that are
     /// neither layouts nor anonymous. Returns 0, or 1 on failure; what was listed before it stays in `names`.
-    std::int32_t GetBlockNames(std::vector<std::wstring>& names);
+    STYLECONVERSION_API std::int32_t GetBlockNames(std::vector<std::wstring>& names);
     /// The same; returns the status of the database call that failed, or eNoDatabase without a database.
-    Oxsys::ErrorStatus GetBlockNamesEx(std::vector<std::wstring>& names);
+    STYLECONVERSION_API Oxsys::ErrorStatus GetBlockNamesEx(std::vector<std::wstring>& names);
 
     /// Entities on these layers are left out of every conversion from now on. Names are compared exactly, in
     /// the spelling that the entity has. Replaces the list of before.
-    void SetLayersToIgnore(const std::vector<std::wstring>& layers);
+    STYLECONVERSION_API void SetLayersToIgnore(const std::vector<std::wstring>& layers);
 
     /// Converts the block of that name (any block: layouts and anonymous ones too). The symbol, a
     /// SimpleSymbolDefinition, belongs to the caller. Null when there is no such block or it cannot be read.
     /// Entities that cannot be read or are of an unknown class are left out.
-    TylModel::SymbolDefinition* Convert(const std::wstring& blockName);
+    STYLECONVERSION_API TylModel::SymbolDefinition* Convert(const std::wstring& blockName);
     /// Converts a block that the caller has opened for reading, and keeps open.
-    TylModel::SymbolDefinition* Convert(OxDbBlockTableRecord* record);
+    STYLECONVERSION_API TylModel::SymbolDefinition* Convert(OxDbBlockTableRecord* record);
 
 private:
     class EdgeLoopWriter;

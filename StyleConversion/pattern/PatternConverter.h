@@ -25,26 +25,26 @@ struct PatternLine;
 /// all its lines run at 0 degrees or lie in upright tiles.
 ///
 /// No operation throws but std::bad_alloc. A converter is used by one thread at a time.
-class STYLECONVERSION_API PatternConverter {
+class PatternConverter {
 public:
     /// Keeps the name and touches no file.
-    explicit PatternConverter(const std::wstring& fileName);
+    STYLECONVERSION_API explicit PatternConverter(const std::wstring& fileName);
     /// Symbols handed out before live on.
-    ~PatternConverter();
+    STYLECONVERSION_API ~PatternConverter();
     PatternConverter(const PatternConverter&) = delete;
     PatternConverter& operator=(const PatternConverter&) = delete;
 
     /// Replaces `names` by the names of the file's patterns, in the order of their bytes in the file.
-    void GetPatternNames(std::vector<std::wstring>& names);
+    STYLECONVERSION_API void GetPatternNames(std::vector<std::wstring>& names);
 
     /// Converts the pattern of just this name. The caller owns the result. Null when the file has no such
     /// pattern, or when none of its families of lines can be repeated by a rectangular tile.
-    TylModel::SymbolDefinition* Convert(const std::wstring& name);
+    STYLECONVERSION_API TylModel::SymbolDefinition* Convert(const std::wstring& name);
 
     /// Replaces `symbols` by the symbols of all patterns in the order of GetPatternNames, without those that
     /// Convert would give null for. The pointers that it held are not deleted. The caller owns the results,
     /// those also that are there when std::bad_alloc is thrown.
-    void ConvertAll(std::vector<TylModel::SymbolDefinition*>& symbols);
+    STYLECONVERSION_API void ConvertAll(std::vector<TylModel::SymbolDefinition*>& symbols);
 
 private:
     void LoadFile();
