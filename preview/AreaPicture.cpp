@@ -16,9 +16,10 @@ constexpr double kSpacing = 12;
 constexpr double kUsualWidth = 300;
 // A tile's side as a multiple of that distance where a tile holds next to nothing.
 constexpr double kSparsest = 2.5;
-// Dashes shorter than this do not show their direction. They are enlarged, as long as the picture holds a
-// tile.
+// Dashes shorter than this do not show their direction. They are enlarged, as long as the picture is so many
+// tiles high.
 constexpr double kLegibleDash = 7;
+constexpr double kFewestTiles = 2;
 
 // How much one member draws: the length of its lines, and its dots, in one tile.
 struct Ink {
@@ -78,9 +79,9 @@ double ScaleFor(const ResolvedSymbol& symbol, Canvas& canvas) {
     const double wanted = kSpacing * std::sqrt(canvas.style.width / kUsualWidth);
     double scale = wanted / std::min(1 / texture.density, texture.smallestTile / kSparsest);
     const double legible = kLegibleDash * texture.lines / texture.length;
-    const double wholeTile = (canvas.style.height - 2 * kMargin) / texture.smallestTile;
+    const double largestTile = (canvas.style.height - 2 * kMargin) / kFewestTiles / texture.smallestTile;
     if (legible > scale) {
-        scale = std::max(scale, std::min(legible, wholeTile));
+        scale = std::max(scale, std::min(legible, largestTile));
     }
     const double someSteps = 5 * wanted / texture.size;
     if (!std::isfinite(scale) || scale <= 0.0) {

@@ -7,6 +7,8 @@
 #include "preview/Picture.h"
 #include "preview/SvgWriter.h"
 
+#include <algorithm>
+
 namespace preview {
 namespace {
 
@@ -73,6 +75,18 @@ std::string PictureSvg(const ResolvedSymbol& symbol, const Picture& picture) {
     return out;
 }
 
+// A long name may go on in the next line behind each underscore.
+std::string BreakableName(std::wstring_view name) {
+    std::string markup;
+    for (std::size_t at = 0; at < name.size();) {
+        const std::size_t end = std::min(name.find(L'_', at), name.size() - 1) + 1;
+        markup += Escaped(name.substr(at, end - at));
+        markup += end < name.size() ? "<wbr>" : "";
+        at = end;
+    }
+    return markup;
+}
+
 std::string NotesMarkup(const Picture& picture) {
     std::string markup;
     for (const std::string& note : picture.notes) {
@@ -104,8 +118,10 @@ bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol) {
         (added_ > 0 || WriteHead()) &&
         sink_(Filled(gallery_files::kCard,
                      {Field::Text("kind", KindOf(resolved.usage)), Field::Text("name", resolved.name),
+                      Field::Markup("breakableName", BreakableName(resolved.name)),
                       Field::Text("description", resolved.description),
                       Field::Text("detail", Describe(resolved)), Field::Markup("notes", NotesMarkup(picture)),
+                      Field::Markup("noParameters", resolved.parameters.empty() ? " hidden" : ""),
                       Field::Text("parameterCount", Counted(resolved.parameters.size(), "parameter")),
                       Field::Markup("data", data)}));
     ++added_;

@@ -14,7 +14,7 @@ namespace {
 constexpr double kPi = 3.14159265358979323846;
 
 // Pixels that one repetition is to take, and that all that stands beside the line may take.
-constexpr double kShortestRepeat = 48;
+constexpr double kShortestRepeat = 30;
 constexpr double kLongestRepeat = 200;
 constexpr double kRepeatPerPiece = 26;
 constexpr double kLegibleHeight = 12;

@@ -12,7 +12,7 @@ namespace {
 constexpr std::string_view kTimes = " \xc3\x97 ";
 
 std::string DescribePoint(const ResolvedSymbol& symbol) {
-    const Box box = TurnedBounds(symbol);
+    const Box box = TurnedBounds(symbol, &Member::bounds);
     const bool placed = symbol.members.front().hasUsage;
     const std::string kind = placed ? "Point symbol" : "Drawing";
     if (box.IsEmpty()) {
@@ -45,7 +45,8 @@ std::string DescribeArea(const ResolvedSymbol& symbol) {
 
 constexpr Color kWhitePaper{255, 255, 255, 255};
 // For light colours, and for light and dark ones together.
-constexpr Color kOtherPapers[] = {{255, 0x23, 0x27, 0x2e}, {255, 0x6b, 0x73, 0x7d}};
+constexpr Color kOtherPapers[] = {
+    {255, 0x23, 0x27, 0x2e}, {255, 0x6b, 0x73, 0x7d}, {255, 0x8c, 0x94, 0x9e}, {255, 0xb4, 0xba, 0xc2}};
 
 // The contrast of the colour that is seen worst.
 class WorstContrast {
@@ -79,8 +80,8 @@ double ContrastOn(const Color& paper, const ResolvedSymbol& symbol) {
     return contrast.worst;
 }
 
-// A thin line is seen from here on: cyan on white has 1.25, yellow 1.07.
-constexpr double kEnoughContrast = 1.2;
+// A thin line is seen from here on: amber on white has 1.6, cyan 1.25, yellow 1.07.
+constexpr double kEnoughContrast = 1.5;
 
 bool DrawsNothing(const ResolvedSymbol& symbol) {
     for (const Member& member : symbol.members) {
@@ -117,21 +118,21 @@ std::string Translation(Point pixels) {
     return text;
 }
 
-Box TurnedBounds(const ResolvedSymbol& symbol) {
-    Box box;
+Box TurnedBounds(const ResolvedSymbol& symbol, Box Member::*box) {
+    Box turned;
     for (const Member& member : symbol.members) {
         const double angle = member.angle.value * (std::numbers::pi / 180.0);
-        const Box& bounds = member.bounds;
+        const Box& bounds = member.*box;
         if (angle == 0.0 || bounds.IsEmpty()) {
-            box.Include(bounds);
+            turned.Include(bounds);
             continue;
         }
         for (const Point corner : {bounds.low, bounds.high, Point{bounds.low.x, bounds.high.y},
                                    Point{bounds.high.x, bounds.low.y}}) {
-            box.Include(Turned(corner, std::cos(angle), std::sin(angle)));
+            turned.Include(Turned(corner, std::cos(angle), std::sin(angle)));
         }
     }
-    return box;
+    return turned;
 }
 
 Picture DrawPicture(const ResolvedSymbol& symbol, const PictureStyle& style) {

@@ -30,7 +30,7 @@ bool FitsPicture(const Box& box, double scale);
 /// "translate(x y)"
 std::string Translation(Point pixels);
 
-/// The box around a symbol's members, each turned by its angle.
-Box TurnedBounds(const ResolvedSymbol& symbol);
+/// The box around the given boxes of a symbol's members, each turned by its angle.
+Box TurnedBounds(const ResolvedSymbol& symbol, Box Member::*box);
 
 } // namespace preview

@@ -26,12 +26,12 @@ double FittingScale(const Box& box, const PictureStyle& style) {
 void DrawPointPicture(Canvas& canvas, const ResolvedSymbol& symbol) {
     Box bounds;
     for (const Member& member : symbol.members) {
-        bounds.Include(member.bounds);
+        bounds.Include(member.frame);
     }
     if (bounds.IsEmpty()) {
         return;
     }
-    const double scale = FittingScale(TurnedBounds(symbol), canvas.style);
+    const double scale = FittingScale(TurnedBounds(symbol, &Member::frame), canvas.style);
     const Point middle = bounds.Middle();
     // A box wider than the largest double has no scale that fits.
     if (!(scale > 0.0) || !std::isfinite(middle.x * scale) || !std::isfinite(middle.y * scale)) {

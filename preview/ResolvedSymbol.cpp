@@ -162,7 +162,10 @@ void PartReader::VisitPath(TylModel::Path& path) {
     part.fill = reader_.ReadPaint(path.GetFillColor());
     part.weight = reader_.ReadAmount(path.GetLineWeight());
     part.scalable = reader_.ReadFlag(path.GetLineWeightScalable());
-    member_.bounds.Include(part.outline.Bounds());
+    member_.frame.Include(part.outline.Bounds());
+    if (part.line || part.fill) {
+        member_.bounds.Include(part.outline.Bounds());
+    }
     member_.parts.emplace_back(std::move(part));
 }
 
@@ -199,7 +202,9 @@ void PartReader::VisitText(TylModel::Text& text) {
     part.italic = reader_.ReadFlag(text.GetItalic());
     part.underlined = reader_.ReadFlag(text.GetUnderlined());
     part.overlined = reader_.ReadFlag(text.GetOverlined());
-    member_.bounds.Include(EstimatedBounds(part));
+    const Box bounds = EstimatedBounds(part);
+    member_.frame.Include(bounds);
+    member_.bounds.Include(bounds);
     member_.parts.emplace_back(std::move(part));
 }
 

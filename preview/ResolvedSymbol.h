@@ -58,7 +58,8 @@ enum class Usage { kPoint, kLine, kArea };
 /// What one simple definition draws and how it is placed.
 struct Member {
     std::vector<Part> parts;
-    Box bounds; // of all parts; the width of texts is an estimate
+    Box bounds; // of all that is seen; the width of texts is an estimate
+    Box frame;  // of all parts: a path without colours is not seen but takes its room
     Usage usage = Usage::kPoint;
     bool hasUsage = false;  // without one, the units of the geometry are not known
     Amount angle;           // degrees, counter-clockwise

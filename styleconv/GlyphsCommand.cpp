@@ -125,13 +125,23 @@ ExitStatus WriteDocument(const ShxUtility::ShapesInFile& file, const std::vector
 
 ExitStatus WritePictures(const ShxUtility::ShapesInFile& file, const std::vector<std::size_t>& positions,
                          const GlyphsOptions& options) {
-    Symbols symbols;
+    std::vector<std::unique_ptr<TylModel::SimpleSymbolDefinition>> symbols;
     BeginStage("Drawing", positions.size());
     for (const std::size_t position : positions) {
         NowAtItem("shape " + std::to_string(file.shapes[position].number));
         symbols.push_back(SymbolOf(DrawGlyph(file, file.shapes[position], options)));
     }
-    return WriteSymbols(symbols, options);
+    // Letters that are turned stand on no common line.
+    const bool isFont = file.kind != ShxUtility::kShapes;
+    if (isFont && options.rotation == 0.0) {
+        AlignGlyphs(symbols);
+    }
+    std::vector<TylModel::SymbolDefinition*> borrowed;
+    borrowed.reserve(symbols.size());
+    for (const auto& symbol : symbols) {
+        borrowed.push_back(symbol.get());
+    }
+    return WriteSymbols(borrowed, options);
 }
 
 ExitStatus Glyphs(const GlyphsOptions& options) {

@@ -55,8 +55,8 @@ function fit(svg) {
 
 // A theme's own paper, used where every line has enough contrast on it, and the others to choose from.
 const kPapers = {
-  light: { enough: 1.2, colors: ["#ffffff", "#23272e", "#6b737d"] },
-  dark: { enough: 1.6, colors: ["#1b1f24", "#e8eaed", "#6b737d"] },
+  light: { enough: 1.5, colors: ["#ffffff", "#23272e", "#6b737d", "#8c949e", "#b4bac2"] },
+  dark: { enough: 2.5, colors: ["#1b1f24", "#e8eaed", "#b4bac2", "#8c949e", "#6b737d"] },
 };
 
 function luminance(color) {
@@ -293,8 +293,14 @@ const closeup = {
     }
   },
 
+  // What is in the middle stays there.
   applyZoom() {
+    const view = this.picture;
+    const x = (view.scrollLeft + view.clientWidth / 2) / view.scrollWidth;
+    const y = (view.scrollTop + view.clientHeight / 2) / view.scrollHeight;
     this.svg.style.width = `${this.zoom.value}%`;
+    view.scrollLeft = x * view.scrollWidth - view.clientWidth / 2;
+    view.scrollTop = y * view.scrollHeight - view.clientHeight / 2;
   },
 
   closed() {

@@ -1,6 +1,8 @@
 // What pictures say in their markup. How they look is tested on rasterised ones.
 #include "preview/Picture.h"
 #include "preview/Gallery.h"
+#include "preview/SymbolSvg.h"
+#include "preview/TextMetrics.h"
 #include "tests/preview/SampleSymbols.h"
 
 #include <gtest/gtest.h>
@@ -90,6 +92,24 @@ TEST(Picture, ATextKeepsFontStyleAndAnchor) {
     }
 }
 
+TEST(Picture, TheHeightOfATextIsThatOfItsCapitals) {
+    const struct {
+        VerticalAnchor anchor;
+        double baseLine; // above the position, for capitals of 1
+    } rows[] = {
+        {VerticalAnchor::kBaseline, 0.0},
+        {VerticalAnchor::kTop, -1.0},
+        {VerticalAnchor::kMiddle, -0.5},
+        {VerticalAnchor::kBottom, kDescent / kCapitalHeight},
+    };
+    for (const auto& row : rows) {
+        TextPart text;
+        text.height = 1.0;
+        text.vertical = row.anchor;
+        EXPECT_DOUBLE_EQ(BaselineShift(text), row.baseLine);
+    }
+}
+
 TEST(Picture, EachMemberOfACompoundHasItsOwnRepeat) {
     std::vector<std::unique_ptr<TylModel::SimpleSymbolDefinition>> members;
     for (const wchar_t* repeat : {L"1", L"2"}) {
@@ -147,6 +167,46 @@ TEST(Picture, LightColoursGetDarkPaper) {
     EXPECT_EQ(PaperFor(Resolve(*PointSymbol(L"A", L"M 0,0 L 1,1"))), (Color{255, 255, 255, 255}));
 }
 
+TEST(Picture, EveryColourOfASymbolIsSeenOnItsPaper) {
+    const auto paperFor = [](const std::vector<std::wstring>& inks) {
+        auto symbol = NewSymbol(L"A");
+        for (const std::wstring& ink : inks) {
+            AddPath(*symbol, L"M 0,0 L 1,1", ink);
+        }
+        return Luminance(PaperFor(Resolve(*symbol)));
+    };
+    // Yellow and cyan are all but white.
+    EXPECT_LT(paperFor({L"ffffff00"}), 0.1);
+    EXPECT_LT(paperFor({L"ff00ffff"}), 0.1);
+    EXPECT_EQ(paperFor({L"ffffbf00"}), 1.0);
+    const double forThree = paperFor({L"ffffffff", L"ff808080", L"ff0000ff"});
+    for (const Color& ink : {Color{255, 255, 255, 255}, Color{255, 128, 128, 128}, Color{255, 0, 0, 255}}) {
+        EXPECT_GT(Contrast(forThree, Luminance(ink)), 1.9) << ColorText(ink);
+    }
+    const double forTwo = paperFor({L"ffffffff", L"ff0000ff"});
+    EXPECT_GT(Contrast(forTwo, 1.0), 2.5);
+    EXPECT_GT(Contrast(forTwo, Luminance({255, 0, 0, 255})), 2.5);
+}
+
+TEST(Picture, ASparseTileIsRepeatedNonetheless) {
+    auto symbol = NewSymbol(L"A");
+    AddPath(*symbol, L"M 1.0,1.0 h 0.05 M 3.0,2.0 h 0.05", L"%HATCHCOLOR%");
+    SetAreaUsage(*symbol, L"%HATCHANGLE%", L"4.0", L"3.0");
+    // At least two tiles each way.
+    EXPECT_GE(Count(Draw(*symbol).markup, "M"), 2U * 2U * 2U);
+}
+
+TEST(Picture, APathWithoutColoursTakesItsRoom) {
+    auto symbol = NewSymbol(L"A");
+    AddPath(*symbol, L"M 0,0 L 0,1 ");
+    SetPointUsage(*symbol);
+    AddPath(*symbol, L"M 0,0 L 0,10 ", L"");
+    // A tenth of 240 pixels less twice 20 is seen.
+    const std::string markup = Draw(*symbol).markup;
+    EXPECT_TRUE(Has(markup, "v-20\"")) << markup;
+    EXPECT_EQ(Describe(Resolve(*symbol)), "Point symbol, 0 \xc3\x97 1 mm");
+}
+
 TEST(Picture, HostileSymbolsGiveSmallPicturesThatSaySo) {
     for (const auto& symbol : HostileSymbols()) {
         const Picture picture = Draw(*symbol, true);
@@ -197,6 +257,29 @@ TEST(Gallery, NamesOfAFileCannotBecomeMarkup) {
     EXPECT_EQ(Count(page, "<script"), symbols.size() + 1);
     EXPECT_FALSE(Has(page, "<img"));
     EXPECT_FALSE(Has(page, "{{"));
+}
+
+std::string PageOf(TylModel::SymbolDefinition& symbol) {
+    std::string page;
+    GalleryWriter writer(1, [&](std::string_view piece) {
+        page += piece;
+        return true;
+    });
+    EXPECT_TRUE(writer.Add(symbol) && writer.Finish());
+    return page;
+}
+
+TEST(Gallery, ALongNameMayBreakBehindEachUnderscore) {
+    auto symbol = NewSymbol(L"A_<B>__C_");
+    EXPECT_TRUE(Has(PageOf(*symbol), ">A_<wbr>&lt;B&gt;_<wbr>_<wbr>C_</h2>"));
+    EXPECT_TRUE(Has(PageOf(*symbol), "aria-label=\"Enlarge A_&lt;B&gt;__C_\""));
+    symbol->SetName(L"");
+    EXPECT_TRUE(Has(PageOf(*symbol), "<h2 class=\"name\"></h2>"));
+}
+
+TEST(Gallery, HidesTheParametersOfASymbolWithoutAny) {
+    EXPECT_TRUE(Has(PageOf(*NewSymbol(L"A")), "<details class=\"parameters\" hidden>"));
+    EXPECT_TRUE(Has(PageOf(*DashSymbol(L"1")), "<details class=\"parameters\"><summary>2 parameters<"));
 }
 
 TEST(Gallery, StopsWhenItsTextCannotBeStored) {

@@ -206,6 +206,34 @@ SymbolPointer DashedCircle() {
     return PointSymbol(L"dashed-circle", geometry);
 }
 
+// Ticks across a line: red ones at each unit that turn with it, and blue ones at 0.5, 2.5, ... that stay
+// upright.
+SymbolPointer Ticks() {
+    const auto tick = [](const wchar_t* color, const wchar_t* repeat) {
+        auto member = NewSymbol(L"ticks");
+        AddPath(*member, L"M 0,-0.1 L 0,0.1 ", color).SetLineWeight(L"0.5");
+        SetLineUsage(*member, repeat);
+        return member;
+    };
+    Members members;
+    members.push_back(tick(L"ffff0000", L"1"));
+    members.push_back(tick(L"ff0000ff", L"2"));
+    TylModel::LineUsage& upright = *members.back()->GetLineUsage();
+    upright.SetAngle(L"0");
+    upright.SetAngleControl(L"'FromAngle'");
+    upright.SetStartOffset(L"0.5");
+    return Compound(L"ticks", std::move(members));
+}
+
+// Three rows of dashes in a tile of 4 by 3, one of them far above the tile.
+SymbolPointer Rows(const std::wstring& length) {
+    auto symbol = NewSymbol(L"rows-" + length);
+    AddPath(*symbol, L"M 0.0,0.0 h " + length + L" M 0.5,1.0 h " + length + L" M 1.0,8.0 h " + length,
+            L"%HATCHCOLOR%");
+    SetAreaUsage(*symbol, L"%HATCHANGLE%", L"4.0", L"3.0");
+    return symbol;
+}
+
 SymbolPointer SquareWithAHole() {
     auto symbol = NewSymbol(L"square-with-a-hole");
     AddPath(*symbol,
@@ -251,6 +279,7 @@ std::vector<SymbolPointer> MeasuredSymbols() {
     symbols.push_back(PointSymbol(L"half-circle-clockwise", L"M -50.0,0.0 A 50.0,50.0 0.0 0 1 50.0,0.0"));
     symbols.push_back(PointSymbol(L"half-circle-counterclockwise", L"M -50,0 A 50,50 0 0 0 50,0 "));
     symbols.push_back(PointSymbol(L"large-bulge", L"M 0.0,0.0 A 62.5,62.5 0.0 1 1 100.0,0.0"));
+    symbols.push_back(PointSymbol(L"large-bulge-counterclockwise", L"M 0,0 A 62.5,62.5 0 1 0 100,0 "));
     symbols.push_back(PointSymbol(L"tilted-ellipse", L"M 43.30127,25.0 A 50.0,10.0 30.0 1 1 -43.30127,-25.0 "
                                                      L"A 50.0,10.0 30.0 1 1 43.30127,25.0"));
     symbols.push_back(DashedCircle());
@@ -264,6 +293,11 @@ std::vector<SymbolPointer> MeasuredSymbols() {
     symbols.push_back(std::move(white));
     symbols.push_back(AreaSymbol(L"joined-lines", L"M 0.0,0.0 h 1.0", L"%HATCHANGLE%+45.0", L"1.0", L"1.0"));
     symbols.push_back(AreaSymbol(L"over-the-edge", L"M 3.0,0.5 h 2.0", L"%HATCHANGLE%", L"4.0", L"1.0"));
+    symbols.push_back(AreaSymbol(L"slanted", L"M 0.0,0.0 L 5.0,3.0", L"%HATCHANGLE%", L"1.0", L"1.0"));
+    for (const wchar_t* length : {L"0.5", L"3.5", L"4.0", L"9.5"}) {
+        symbols.push_back(Rows(length));
+    }
+    symbols.push_back(Ticks());
     return symbols;
 }
 

@@ -44,6 +44,21 @@ def start_browser(profile):
     return webdriver.Chrome(options=options, service=Service(chromedriver))
 
 
+# The contrast of an element's text with the nearest background that is not transparent.
+CONTRAST = """
+const parse = (text) => text.match(/[\\d.]+/g).map(Number);
+const light = (color) => [0.2126, 0.7152, 0.0722].reduce((sum, share, i) => {
+  const channel = color[i] / 255;
+  return sum + share * (channel <= 0.04045 ? channel / 12.92 : ((channel + 0.055) / 1.055) ** 2.4);
+}, 0.05);
+let behind = arguments[0];
+const background = () => parse(getComputedStyle(behind).backgroundColor);
+while (background()[3] === 0) behind = behind.parentElement;
+const pair = [light(parse(getComputedStyle(arguments[0]).color)), light(background())];
+return Math.max(...pair) / Math.min(...pair);
+"""
+
+
 def is_red(pixel):
     # A thin line between two rows of pixels is pale.
     return pixel[0] - max(pixel[1:]) > 60
@@ -242,6 +257,60 @@ class Gallery(unittest.TestCase):
         self.assertGreater(self.count(picture, is_dark), 100)
         self.assertGreater(self.count(picture, lambda pixel: min(pixel) > 150), picture.width * picture.height / 2)
 
+    def test_dark_lays_light_paper_under_dark_lines(self):
+        self.open("typical")
+        card = self.card("DASHDOT")
+        self.unfold(card)
+        self.find("#theme").click()
+        # Blue is nearly as dark as the paper of the dark theme; yellow would not be seen on light paper.
+        for color, light in (("#0000ff", True), ("#ffff00", False)):
+            self.pick(self.control(card, "LINECOLOR"), color)
+            paper = self.picture(card).getpixel((5, 5))
+            self.assertEqual(min(paper) > 150, light, (color, paper))
+
+    def test_dark_is_chosen_where_the_system_is_dark(self):
+        for scheme in ("dark", "light"):
+            browser.execute_cdp_cmd(
+                "Emulation.setEmulatedMedia", {"features": [{"name": "prefers-color-scheme", "value": scheme}]}
+            )
+            self.open("typical")
+            self.assertEqual(self.find("#theme").get_attribute("aria-pressed"), str(scheme == "dark").lower())
+        browser.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": []})
+
+    def test_texts_have_enough_contrast_in_both_themes(self):
+        self.open("typical")
+        for _ in range(2):
+            for selector in (".name", ".description", ".detail", "summary", "#count", ".tool > span", "#theme"):
+                ratio = browser.execute_script(CONTRAST, self.find(selector))
+                self.assertGreaterEqual(ratio, 4.5, selector)
+            self.find("#theme").click()
+
+    def test_the_keyboard_goes_through_all_controls_and_shows_where_it_is(self):
+        self.open("typical")
+        seen = []
+        for _ in range(9):
+            browser.switch_to.active_element.send_keys(Keys.TAB)
+            element = browser.switch_to.active_element
+            seen.append(element.get_attribute("id") or element.get_attribute("class") or element.tag_name)
+            self.assertEqual(element.value_of_css_property("outline-style"), "solid", seen[-1])
+            self.assertGreaterEqual(int(element.value_of_css_property("outline-width")[:-2]), 2, seen[-1])
+        self.assertEqual(
+            seen, ["skip", "search", "kind", "zoom", "theme", "picture", "summary", "picture", "summary"]
+        )
+
+    def test_zooming_the_close_up_keeps_the_middle(self):
+        self.open("typical")
+        self.card("TREE").find_element(By.CSS_SELECTOR, ".picture").send_keys(Keys.ENTER)
+        view = self.find("#closeup-picture")
+        middle = "const v = arguments[0]; return [(v.scrollLeft + v.clientWidth / 2) / v.scrollWidth," \
+            " (v.scrollTop + v.clientHeight / 2) / v.scrollHeight];"
+        self.find("#closeup-zoom").send_keys(Keys.END)
+        for place in browser.execute_script(middle, view):
+            self.assertAlmostEqual(place, 0.5, delta=0.02)
+        self.find("#closeup-zoom").send_keys(Keys.ARROW_LEFT)
+        for place in browser.execute_script(middle, view):
+            self.assertAlmostEqual(place, 0.5, delta=0.02)
+
     def test_the_keyboard_reaches_search_and_close_up(self):
         self.open("typical")
         self.find("body").send_keys("/")
@@ -266,6 +335,15 @@ class Gallery(unittest.TestCase):
         self.assertEqual(self.find("#search").accessible_name, "Search")
         self.assertEqual(self.find("#zoom").accessible_name, "Zoom")
         self.assertEqual(self.find("#count").aria_role, "status")
+        self.assertEqual(self.find("#symbols").aria_role, "list")
+        picture.send_keys(Keys.ENTER)
+        dialog = self.find("#closeup")
+        self.assertEqual(dialog.aria_role, "dialog")
+        self.assertEqual(dialog.accessible_name, "GAS")
+        self.assertEqual(self.control(dialog, "LINECOLOR").accessible_name, "Line Color LINECOLOR")
+        svg = self.find("#closeup-picture svg")
+        self.assertEqual(svg.find_element(By.TAG_NAME, "title").get_attribute("textContent"),
+                         "GAS, Line symbol, repeat 0.95")
 
     def test_hostile_names_stay_names(self):
         self.open("hostile")

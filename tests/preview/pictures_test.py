@@ -86,6 +86,11 @@ class Pictures(unittest.TestCase):
         self.assert_ink(raster, (50, 50), [(50, 100), (-12.5, 37.5), (112.5, 37.5)])
         self.assert_blank(raster, (50, 50), [(50, 0), (50, 37.5), (0, 90)])
 
+    def test_a_large_bulge_in_the_other_sense_reaches_as_low(self):
+        raster = Raster("large-bulge-counterclockwise")
+        self.assert_ink(raster, (50, -50), [(50, -100), (-12.5, -37.5), (112.5, -37.5)])
+        self.assert_blank(raster, (50, -50), [(50, 0), (50, -37.5), (0, -90)])
+
     def test_a_tilted_ellipse_leans_to_the_right(self):
         raster = Raster("tilted-ellipse")
         self.assert_ink(raster, (0, 0), [(43.3, 25), (-43.3, -25), (-5, 8.66), (5, -8.66)])
@@ -172,6 +177,79 @@ class Pictures(unittest.TestCase):
         self.assertLessEqual(max(lengths) - min(lengths), 1)
         # Dash and gap are both half of the repeat.
         self.assertAlmostEqual(sum(lengths) / len(lengths), sum(gaps) / len(gaps), delta=1.5)
+
+    def test_lines_that_cross_many_tiles_are_straight(self):
+        raster = Raster("slanted")
+        x, y = MIDDLE
+        along = [(x + step, y - 0.6 * step) for step in range(-220, 221)]
+        on_line = [raster.darkness(*place) for place in along]
+        self.assertGreater(min(on_line), 0.75 * max(on_line))
+        # The lines through all corners of tiles of one unit lie 1/5 apart upwards; the next one is found first.
+        above = next(up for up in range(6, 100) if raster.darkness(x, y - up, 0) > 90)
+        between = [raster.darkness(px, py - above / 2, 0) for px, py in along]
+        self.assertLess(max(between), 60)
+
+    def test_rows_of_dashes_of_any_length_fill_the_area(self):
+        for length in (0.5, 3.5, 4.0, 9.5):
+            raster = Raster(f"rows-{length}")
+            x, y = MIDDLE
+            grey = lambda pixel: max(pixel) < 165
+            inked = [row for row in range(23, 417) if raster.count((24, row, 616, row + 1), grey) > 20]
+            rows = [row for row, before in zip(inked, [0] + inked) if row - before > 1]
+            unit = (rows[-1] - rows[0]) / (len(rows) - 1)
+            self.assertGreater(unit, 6, length)
+            for number in range(-4, 5):
+                start = 0.5 * (number % 3)
+                for step in range(-int(1160 / unit), int(1160 / unit)):
+                    place = step * 0.25 + 0.125
+                    expected = (place - start) % 4 < length
+                    darkness = raster.darkness(x + place * unit, y - number * unit, 1 if expected else 0)
+                    self.assertEqual(darkness > 90, expected, (length, number, place, darkness))
+
+    def assert_ticks(self, raster, unit, spot_at):
+        """Red ticks at each unit across the line, blue ones at 0.5, 2.5, ... upright; 4 pixels from the line."""
+        red = lambda pixel: pixel[0] > 150 and pixel[1] < 130 and pixel[2] < 130
+        blue = lambda pixel: pixel[2] > 150 and pixel[0] < 130 and pixel[1] < 130
+        near = lambda x, y, test: raster.count((round(x) - 1, round(y) - 1, round(x) + 1, round(y) + 1), test) > 0
+        for number in range(3):
+            (x, y), (across_x, across_y) = spot_at(number * unit)
+            for side in (-4, 4):
+                self.assertTrue(near(x + side * across_x, y + side * across_y, red), (number, side))
+            (x, y), _ = spot_at((number + 0.5) * unit)
+            for side in (-4, 4):
+                self.assertEqual(near(x, y + side, blue), number % 2 == 0, (number, side))
+
+    def test_each_member_has_its_own_repeat_offset_and_angle_along_every_line(self):
+        from math import atan2, cos, hypot, sin
+
+        raster = Raster("ticks")
+        left, right, height = 24, 616, PICTURE[1]
+        row = int(height * 0.14)
+        red = lambda pixel: pixel[0] > 150 and pixel[1] < 130 and pixel[2] < 130
+        columns = [x for x in range(left + 4, right) if raster.count((x, row - 4, x + 1, row + 4), red) > 4]
+        ticks = [x for x, before in zip(columns, [0] + columns) if x - before > 1]
+        unit = (ticks[-1] - ticks[0]) / (len(ticks) - 1)
+        self.assertGreater(unit, 20)
+
+        def on_straight(along):
+            return (left + along, height * 0.14), (0, 1)
+
+        def on_zigzag(along):
+            dx, dy = (right - left) / 4, -0.23 * height
+            x, y = dx / hypot(dx, dy), dy / hypot(dx, dy)
+            return (left + along * x, height * 0.53 + along * y), (-y, x)
+
+        def on_arc(along):
+            half, rise = (right - left) / 2, height * 0.26
+            radius = (half * half + rise * rise) / (2 * rise)
+            middle_y = height * 0.91 - rise + radius
+            angle = atan2(height * 0.91 - middle_y, -half) + along / radius
+            x, y = cos(angle), sin(angle)
+            return ((left + right) / 2 + radius * x, middle_y + radius * y), (x, y)
+
+        for spot_at in (on_straight, on_zigzag, on_arc):
+            with self.subTest(spot_at.__name__):
+                self.assert_ticks(raster, unit, spot_at)
 
     def test_a_gas_lines_text_stands_in_its_gap(self):
         raster = Raster("GAS")

@@ -1,0 +1,160 @@
+// The pictures that every command writes with --format.
+#include "tests/support/ShapeFileBuilder.h"
+#include "tests/support/ShapeProgramBuilder.h"
+#include "tests/support/ToolRun.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+using test_support::ShapeFileBuilder;
+using test_support::ShapeProgramBuilder;
+
+// A font of a bar from the base line to 8 and of a bar of 2 below it.
+std::string TallAndLow() {
+    return ShapeFileBuilder::Shapes()
+        .FontInfo("FONT", {8, 2, 0, 0})
+        .Shape(65, "TALL", ShapeProgramBuilder().Vector(8, 4).End())
+        .Shape(66, "LOW", ShapeProgramBuilder().Vector(2, 12).End())
+        .Text();
+}
+
+std::string TwoShapes() {
+    return ShapeFileBuilder::Shapes()
+        .Shape(130, "TALL", ShapeProgramBuilder().Vector(8, 4).End())
+        .Shape(131, "LOW", ShapeProgramBuilder().Vector(2, 12).End())
+        .Text();
+}
+
+constexpr const char* kDrawing = R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,
+  "layers": [{"name": "0"}],
+  "blocks": [
+    {"name": "ROD", "entities": [{"type": "line", "start": [0, 0], "end": [5, 0]}]},
+    {"name": "RING", "entities": [{"type": "circle", "center": [0, 0], "radius": 2}]}]})";
+
+// A command line for each kind of file, the names of its two symbols, and what selects the first alone.
+struct Kind {
+    std::vector<std::string> arguments;
+    std::string names[2];
+    std::vector<std::string> first;
+};
+
+std::vector<Kind> Kinds(const ScratchFolder& folder) {
+    const std::string pattern =
+        folder.Write("a.pat", "*LEVEL,Lines\n0, 0,0, 0,.125\n*STEEP,More\n90, 0,0, 0,.125\n");
+    const std::string lines = folder.Write("a.lin", "*DASHED,Dashes\nA,1,-1\n*DOTTED,Dots\nA,0,-1\n");
+    const std::string drawing = folder.Write("a.json", kDrawing);
+    const std::string shapes = folder.Write("a.shx", TwoShapes());
+    return {{{"patterns", pattern}, {"LEVEL", "STEEP"}, {"--name", "LEVEL"}},
+            {{"linetypes", lines}, {"DASHED", "DOTTED"}, {"--name", "DASHED"}},
+            {{"blocks", drawing}, {"RING", "ROD"}, {"--name", "RING"}},
+            {{"glyphs", shapes}, {"130 TALL", "131 LOW"}, {"--number", "130"}}};
+}
+
+std::string WithFormat(const std::vector<std::string>& arguments, const std::string& format,
+                       const std::vector<std::string>& more = {}) {
+    std::vector<std::string> all = arguments;
+    all.insert(all.end(), {"--format", format});
+    all.insert(all.end(), more.begin(), more.end());
+    const ToolResult result = RunTool(all);
+    EXPECT_EQ(result.status, 0) << arguments[0] << ": " << result.errors;
+    EXPECT_EQ(result.errors, "") << arguments[0];
+    return result.output;
+}
+
+std::size_t Count(const std::string& text, const std::string& part) {
+    std::size_t count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+bool Has(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
+TEST(PictureFormats, SvgOfOneSymbolIsItsPicture) {
+    const ScratchFolder folder;
+    for (const Kind& kind : Kinds(folder)) {
+        const std::string svg = WithFormat(kind.arguments, "svg", kind.first);
+        EXPECT_TRUE(svg.starts_with("<?xml")) << svg.substr(0, 100);
+        EXPECT_EQ(Count(svg, "<svg"), 1U) << kind.arguments[0];
+        EXPECT_TRUE(Has(svg, "<title>" + kind.names[0] + "</title>")) << svg;
+        EXPECT_FALSE(Has(svg, kind.names[1])) << svg;
+        EXPECT_TRUE(svg.ends_with("</svg>\n")) << kind.arguments[0];
+    }
+}
+
+TEST(PictureFormats, SvgOfSeveralSymbolsIsASheetWithTheirNames) {
+    const ScratchFolder folder;
+    for (const Kind& kind : Kinds(folder)) {
+        const std::string svg = WithFormat(kind.arguments, "svg");
+        // The sheet and a picture for each symbol.
+        EXPECT_EQ(Count(svg, "<svg"), 3U) << kind.arguments[0];
+        EXPECT_TRUE(Has(svg, "<title>2 symbols</title>")) << svg;
+        for (const std::string& name : kind.names) {
+            EXPECT_TRUE(Has(svg, ">" + name + "</text>")) << name << " in " << svg;
+        }
+    }
+}
+
+TEST(PictureFormats, HtmlIsAGalleryThatNeedsNothingElse) {
+    const ScratchFolder folder;
+    for (const Kind& kind : Kinds(folder)) {
+        const std::string page = WithFormat(kind.arguments, "html");
+        EXPECT_TRUE(page.starts_with("<!DOCTYPE html>")) << page.substr(0, 100);
+        EXPECT_EQ(Count(page, "<li class=\"card\""), 2U) << kind.arguments[0];
+        for (const std::string& name : kind.names) {
+            EXPECT_TRUE(Has(page, "aria-label=\"Enlarge " + name + "\"")) << name;
+        }
+        // No address of anything but the name of the picture language itself.
+        EXPECT_EQ(Count(page, "http"), Count(page, "http://www.w3.org/2000/svg") + Count(page, "http-equiv"));
+        EXPECT_FALSE(Has(page, " src=")) << kind.arguments[0];
+        EXPECT_FALSE(Has(page, "<link")) << kind.arguments[0];
+    }
+}
+
+TEST(PictureFormats, AreWrittenWholeOrNotAtAll) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*LEVEL,Lines\n0, 0,0, 0,.125\n");
+    folder.Write("out", "old");
+    for (const std::string format : {"svg", "html"}) {
+        EXPECT_EQ(
+            RunTool({"patterns", file, "--name", "NONE", "--format", format, "-o", folder / "out"}).status,
+            1);
+        EXPECT_EQ(folder.Read("out"), "old");
+        EXPECT_EQ(RunTool({"patterns", file, "--format", format, "-o", folder / format}).status, 0);
+        EXPECT_EQ(folder.Read(format), WithFormat({"patterns", file}, format));
+    }
+    EXPECT_EQ(RunTool({"patterns", file, "--format", "png"}).status, 2);
+}
+
+// The pixels that the strokes of a picture "M0 0v-123" are high.
+double HeightOfFirstLine(const std::string& svg) {
+    const std::size_t at = svg.find('v', svg.find(" d=\"M"));
+    return std::abs(std::stod(svg.substr(at + 1)));
+}
+
+TEST(PictureFormats, LettersOfAFontAreShownAtOneScale) {
+    const ScratchFolder folder;
+    const std::string font = folder.Write("font.shx", TallAndLow());
+    const std::string shapes = folder.Write("shapes.shx", TwoShapes());
+    const auto ratio = [](const std::string& file) {
+        const std::string sheet = WithFormat({"glyphs", file}, "svg");
+        return HeightOfFirstLine(sheet) / HeightOfFirstLine(sheet.substr(sheet.rfind("<svg")));
+    };
+    EXPECT_NEAR(ratio(font), 4.0, 0.01);
+    // Shapes have nothing in common: each fills its picture.
+    EXPECT_NEAR(ratio(shapes), 1.0, 0.01);
+    // What holds the place is not seen, and is no part of the size.
+    const std::string low = WithFormat({"glyphs", font}, "svg");
+    EXPECT_TRUE(Has(low, "Drawing, 0 \xc3\x97 2<")) << low;
+    EXPECT_EQ(Count(low, "<path"), 2U) << low;
+}
+
+} // namespace
