@@ -65,6 +65,11 @@ TEST_F(DashArc, SweepJustBelowPiIsNotLarge) {
     EXPECT_EQ(Geometry(), L"M 5.0,0.0 A 5.0,5.0 0.0 0 0 -5.0,0.0");
 }
 
+TEST_F(DashArc, OfNoSweepIsNotLarge) {
+    block.Add<drawing::Arc>(Solid(), ArcOf(0, 0));
+    EXPECT_EQ(Geometry(), L"M 5.0,0.0 A 5.0,5.0 0.0 0 0 5.0,0.0");
+}
+
 TEST_F(DashArc, EndBelowTheStartRunsOnThroughAFullTurn) {
     // From 270 degrees to 45: 135 degrees. From 45 to 270: 225 degrees, large.
     block.Add<drawing::Arc>(Solid(), ArcOf(kPi * 1.5, kPi / 4));

@@ -214,6 +214,47 @@ TEST_F(EntityWalk, EntityOfADerivedClassGoesToTheCollectorOfItsBaseClass) {
     EXPECT_EQ(Geometries(), (Paths{PathOf(1), PathOf(2)}));
 }
 
+// An entity that is known for what it is only when it is asked for the Turn-th time: it is drawn only by a
+// converter that tries its class in that place.
+template <class Entity, int Turn>
+class KnownInTurn : public Entity {
+public:
+    using Entity::Entity;
+    const OxRxClass* isA() const override { return asked_++ == Turn ? Entity::isA() : OxDbEntity::desc(); }
+
+private:
+    mutable int asked_ = 0; // the opening is the first to ask
+};
+
+TEST_F(EntityWalk, ClassesAreTriedInAFixedOrder) {
+    using drawing::BulgeVertex;
+    const OxGePoint3d origin;
+    drawing::FitData fit;
+    fit.points = {{0, 0, 0}, {3, 1, 0}};
+    drawing::HatchData hatch;
+    hatch.lines = std::vector<drawing::HatchLine>{{{0, 0}, {1, 0}}};
+    const drawing::PolylineLoop triangle{{{{0, 0}}, {{1, 0}}, {{1, 1}}}, false};
+    block.Add<KnownInTurn<drawing::Point, 1>>(Solid(), origin);
+    block.Add<KnownInTurn<drawing::Line, 2>>(Solid(), origin, OxGePoint3d{1, 0, 0});
+    block.Add<KnownInTurn<drawing::Polyline, 3>>(Solid(), std::vector<BulgeVertex>{{{0, 0}}, {{1, 0}}}, false,
+                                                 false);
+    block.Add<KnownInTurn<drawing::Spline, 4>>(Solid(), fit);
+    block.Add<KnownInTurn<drawing::Arc, 5>>(Solid(), drawing::ArcData{});
+    block.Add<KnownInTurn<drawing::Circle, 6>>(Solid(), origin, 1.0);
+    block.Add<KnownInTurn<drawing::Ellipse, 7>>(Solid(), drawing::EllipseData{});
+    block.Add<KnownInTurn<drawing::Hatch, 8>>(Solid(), std::move(hatch));
+    block.Add<KnownInTurn<drawing::MPolygon, 9>>(Solid(), std::vector<drawing::PolylineLoop>{triangle},
+                                                 ByBlock());
+    block.Add<KnownInTurn<drawing::Text, 10>>(Solid(), drawing::TextData{});
+    block.Add<KnownInTurn<drawing::ParagraphText, 11>>(Solid(), drawing::ParagraphTextData{});
+    EXPECT_EQ(Convert()->GetGraphics().GetCount(), 11);
+}
+
+TEST_F(EntityWalk, EntityOfNoneOfTheClassesIsAskedForElevenAndLeftOut) {
+    block.Add<KnownInTurn<drawing::Point, 12>>(Solid(), OxGePoint3d{});
+    EXPECT_EQ(Convert()->GetGraphics().GetCount(), 0);
+}
+
 TEST_F(EntityWalk, ConvertsLayoutsAndAnonymousBlocksByName) {
     drawing::BlockData data;
     data.layout = true;
