@@ -54,6 +54,7 @@ class BlockSymbol;
 /// are written through the shared buffer of the path commands.
 class BlockConverter {
 public:
+    /// `database` may be null.
     STYLECONVERSION_API explicit BlockConverter(OxDbDatabase* database);
     /// Copies the list of layers; the database is shared.
     STYLECONVERSION_API BlockConverter(const BlockConverter& other);

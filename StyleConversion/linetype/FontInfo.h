@@ -10,6 +10,7 @@ namespace LineConverter {
 
 /// A text style. It uses the TrueType typeface where one is named, else the SHX font file.
 struct STYLECONVERSION_API FontInfo {
+    /// Made empty, or with the values of another.
     FontInfo();
     ~FontInfo();
     FontInfo(const FontInfo& other);
@@ -21,7 +22,9 @@ struct STYLECONVERSION_API FontInfo {
     std::wstring bigFontFileName;
     /// The TrueType typeface; empty for a style with an SHX font.
     std::wstring typeface;
+    /// Whether the typeface is drawn bold.
     bool bold = false;
+    /// Whether the typeface is drawn italic.
     bool italic = false;
     /// Whether this is not a style at all but an entry for a shape file.
     bool isShapeFile = false;

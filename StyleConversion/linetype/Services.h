@@ -11,6 +11,7 @@ namespace LineConverter {
 /// Finds and opens SHX files.
 class STYLECONVERSION_API IGetFile {
 public:
+    /// Holds nothing: copies are alike.
     IGetFile();
     IGetFile(const IGetFile& other);
     IGetFile& operator=(const IGetFile& other);
@@ -26,6 +27,7 @@ public:
 /// Describes text styles.
 class STYLECONVERSION_API IGetFontInfo {
 public:
+    /// Holds nothing: copies are alike.
     IGetFontInfo();
     IGetFontInfo(const IGetFontInfo& other);
     IGetFontInfo& operator=(const IGetFontInfo& other);

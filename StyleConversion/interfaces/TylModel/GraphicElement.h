@@ -15,6 +15,7 @@ class Text;
 class TYLMODEL_API IGraphicElementVisitor {
 public:
     virtual ~IGraphicElementVisitor();
+    /// The element is borrowed.
     virtual void VisitPath(Path& path) = 0;
     virtual void VisitText(Text& text) = 0;
 };

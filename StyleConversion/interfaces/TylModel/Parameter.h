@@ -23,16 +23,19 @@ public:
 
     ~Parameter() override;
 
+    /// What expressions name between two "%". Unique within a symbol.
     void SetIdentifier(const std::wstring& identifier) { identifier_ = identifier; }
     const std::wstring& GetIdentifier() const { return identifier_; }
     /// The label of the parameter's control; "&" stands before the letter of its keyboard shortcut.
     void SetDisplayName(const std::wstring& name) { displayName_ = name; }
     const std::wstring& GetDisplayName() const { return displayName_; }
+    /// What the parameter changes.
     void SetDescription(const std::wstring& description) { description_ = description; }
     const std::wstring& GetDescription() const { return description_; }
     /// The value, as an expression, where the user of the symbol gives none.
     void SetDefaultValue(const std::wstring& value) { defaultValue_ = value; }
     const std::wstring& GetDefaultValue() const { return defaultValue_; }
+    /// How the value is meant and edited.
     void SetDataType(DataType type) { dataType_ = type; }
     DataType GetDataType() const { return dataType_; }
 

@@ -19,6 +19,7 @@ class SimpleSymbolDefinition;
 class TYLMODEL_API ISymbolDefinitionVisitor {
 public:
     virtual ~ISymbolDefinitionVisitor();
+    /// `definition` is borrowed.
     virtual void VisitSimpleSymbolDefinition(SimpleSymbolDefinition& definition) = 0;
     virtual void VisitCompoundSymbolDefinition(CompoundSymbolDefinition& definition) = 0;
 };
@@ -30,8 +31,10 @@ public:
     /// Calls the visitor's operation for this definition's class, once.
     virtual void AcceptVisitor(ISymbolDefinitionVisitor& visitor) = 0;
 
+    /// The symbol's name, as plain text: that of the block, the linetype or the pattern.
     void SetName(const std::wstring& name) { name_ = name; }
     const std::wstring& GetName() const { return name_; }
+    /// What the symbol is, as plain text; may be empty.
     void SetDescription(const std::wstring& description) { description_ = description; }
     const std::wstring& GetDescription() const { return description_; }
 
@@ -46,8 +49,10 @@ public:
     ~SimpleSymbolDefinition() override;
     void AcceptVisitor(ISymbolDefinitionVisitor& visitor) override;
 
+    /// What is drawn, in drawing order. The elements stay the definition's.
     TylOwnerCollection<GraphicElement>& GetGraphics() { return graphics_; }
     const TylOwnerCollection<GraphicElement>& GetGraphics() const { return graphics_; }
+    /// What the expressions of the graphics and usages may refer to. The parameters stay the definition's.
     TylOwnerCollection<Parameter>& GetParameterDefinition() { return parameters_; }
     const TylOwnerCollection<Parameter>& GetParameterDefinition() const { return parameters_; }
 
@@ -88,6 +93,7 @@ public:
     ~CompoundSymbolDefinition() override;
     void AcceptVisitor(ISymbolDefinitionVisitor& visitor) override;
 
+    /// The entries, in drawing order. They stay the definition's.
     TylOwnerCollection<SimpleSymbol>& GetSymbols() { return symbols_; }
     const TylOwnerCollection<SimpleSymbol>& GetSymbols() const { return symbols_; }
 
