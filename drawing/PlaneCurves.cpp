@@ -108,7 +108,7 @@ void OxGeEllipArc2d::getSamplePoints(double fromParameter, double toParameter, d
     const double radius = std::max(majorRadius(), std::abs(minorRadius()));
     const double angle = toParameter - fromParameter;
     const double pieces = radius > 0.0 ? PieceCount(angle, radius, tolerance) : 1.0;
-    for (double piece = 0.0; piece < pieces; piece += 1.0) {
+    for (int piece = 0; piece < pieces; ++piece) {
         const double parameter = fromParameter + angle * (piece / pieces);
         AppendSample(pointAt(parameter), parameter, points, parameters);
     }

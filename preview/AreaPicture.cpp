@@ -1,98 +1,14 @@
 // An area symbol over a rectangle.
 
+#include "preview/AreaScale.h"
 #include "preview/Limits.h"
-#include "preview/PictureParts.h"
+
+#include "StyleConversion/encoding/IntegerConversion.h"
 
 #include <utility>
 
 namespace preview {
 namespace {
-
-constexpr double kMargin = 20; // pixels
-
-// The mean distance of neighbouring lines in a picture of kUsualWidth pixels; larger pictures show both more
-// of the pattern and the pattern larger.
-constexpr double kSpacing = 12;
-constexpr double kUsualWidth = 300;
-// A tile's side as a multiple of that distance where a tile holds next to nothing.
-constexpr double kSparsest = 2.5;
-// Dashes shorter than this do not show their direction. They are enlarged, as long as the picture is so many
-// tiles high.
-constexpr double kLegibleDash = 7;
-constexpr double kFewestTiles = 2;
-
-// How much one member draws: the length of its lines, and its dots, in one tile.
-struct Ink {
-    double length = 0.0;
-    double lines = 0.0;
-    double dots = 0.0;
-};
-
-Ink InkOf(const Member& member) {
-    Ink ink;
-    for (const Part& part : member.parts) {
-        const auto* const path = std::get_if<PathPart>(&part);
-        if (path == nullptr) {
-            ink.dots += 1;
-            continue;
-        }
-        const auto add = [&](Point from, Point to) {
-            const double length = Length(to - from);
-            ink.length += length;
-            ++(length == 0.0 ? ink.dots : ink.lines);
-        };
-        ForEachPiece(
-            path->outline, [&](Point from, Point to, bool) { add(from, to); },
-            [&](Point from, Point, Point, Point to, bool) { add(from, to); });
-    }
-    return ink;
-}
-
-// What decides how large a pattern is shown.
-struct Texture {
-    double density = 0.0; // lines per unit
-    double smallestTile = std::numeric_limits<double>::infinity();
-    double length = 0.0; // of the lines of one tile of each member
-    double lines = 0.0;
-    double size = 0.0; // of the largest drawing of a tile
-};
-
-Texture TextureOf(const ResolvedSymbol& symbol) {
-    Texture texture;
-    for (const Member& member : symbol.members) {
-        texture.size = std::max({texture.size, member.bounds.Width(), member.bounds.Height()});
-        if (member.repeatX && member.repeatY) {
-            const Ink ink = InkOf(member);
-            const double side = std::sqrt(*member.repeatX) * std::sqrt(*member.repeatY);
-            texture.density += ink.length / side / side + std::sqrt(ink.dots) / side;
-            texture.smallestTile = std::min(texture.smallestTile, side);
-            texture.length += ink.length;
-            texture.lines += ink.lines;
-        }
-    }
-    return texture;
-}
-
-// Pixels per unit at which lines stand well apart and yet enough of the pattern is seen.
-double ScaleFor(const ResolvedSymbol& symbol, Canvas& canvas) {
-    const Texture texture = TextureOf(symbol);
-    const double wanted = kSpacing * std::sqrt(canvas.style.width / kUsualWidth);
-    double scale = wanted / std::min(1 / texture.density, texture.smallestTile / kSparsest);
-    const double legible = kLegibleDash * texture.lines / texture.length;
-    const double largestTile = (canvas.style.height - 2 * kMargin) / kFewestTiles / texture.smallestTile;
-    if (legible > scale) {
-        scale = std::max(scale, std::min(legible, largestTile));
-    }
-    const double someSteps = 5 * wanted / texture.size;
-    if (!std::isfinite(scale) || scale <= 0.0) {
-        scale = someSteps;
-    }
-    if (texture.size > 0.0 && texture.size * scale < 1.0) {
-        canvas.Note(kRepeatTooLong);
-        scale = someSteps;
-    }
-    return std::isfinite(scale) && scale > 0.0 ? scale : 1.0;
-}
 
 // The copies of a tile along one of its axes that reach into the picture.
 struct Range {
@@ -157,8 +73,8 @@ bool Clip(Point& from, Point& to, double half) {
 class AreaPicture {
 public:
     AreaPicture(Canvas& canvas, double scale)
-        : canvas_(canvas), scale_(scale), width_(canvas.style.width - 2 * kMargin),
-          height_(canvas.style.height - 2 * kMargin), radius_(Length({width_, height_}) / 2) {}
+        : canvas_(canvas), scale_(scale), width_(canvas.style.width - 2 * kAreaMargin),
+          height_(canvas.style.height - 2 * kAreaMargin), radius_(Length({width_, height_}) / 2) {}
 
     void Draw(const ResolvedSymbol& symbol);
 
@@ -198,8 +114,11 @@ void AreaPicture::ForEachTile(const Member& member, const Box& bounds, std::size
         columns.Limit(std::max(side, std::floor(most / std::max(1.0, rows.count))));
         rows.Limit(std::max(1.0, std::floor(most / std::max(1.0, columns.count))));
     }
-    for (double row = 0; row < rows.count; ++row) {
-        for (double column = 0; column < columns.count; ++column) {
+    // Not more than kMostTiles by now.
+    const int rowCount = encoding::ToInt32(rows.count);
+    const int columnCount = encoding::ToInt32(columns.count);
+    for (int row = 0; row < rowCount; ++row) {
+        for (int column = 0; column < columnCount; ++column) {
             const Point at{(columns.first + column) * stepX.value_or(0.0),
                            (rows.first + row) * stepY.value_or(0.0)};
             if (!draw(at)) {
@@ -295,8 +214,8 @@ void AreaPicture::Draw(const Member& member) {
 
 void AreaPicture::Frame() {
     canvas_.svg.Open("rect")
-        .Set("x", kMargin)
-        .Set("y", kMargin)
+        .Set("x", kAreaMargin)
+        .Set("y", kAreaMargin)
         .Set("width", width_)
         .Set("height", height_)
         .Set("stroke", "#808080")
@@ -308,7 +227,7 @@ void AreaPicture::Frame() {
 void AreaPicture::Draw(const ResolvedSymbol& symbol) {
     const std::string id = canvas_.style.idPrefix + "-clip";
     canvas_.svg.Open("clipPath").Set("id", id).Open("rect");
-    canvas_.svg.Set("x", kMargin).Set("y", kMargin).Set("width", width_).Set("height", height_);
+    canvas_.svg.Set("x", kAreaMargin).Set("y", kAreaMargin).Set("width", width_).Set("height", height_);
     canvas_.svg.Close().Close();
     canvas_.svg.Open("g").Set("clip-path", "url(#" + id + ")").Open("g");
     canvas_.svg.Set("transform", Translation({canvas_.style.width / 2, canvas_.style.height / 2}));
@@ -322,7 +241,7 @@ void AreaPicture::Draw(const ResolvedSymbol& symbol) {
 } // namespace
 
 void DrawAreaPicture(Canvas& canvas, const ResolvedSymbol& symbol) {
-    AreaPicture(canvas, ScaleFor(symbol, canvas)).Draw(symbol);
+    AreaPicture(canvas, AreaScale(symbol, canvas)).Draw(symbol);
 }
 
 } // namespace preview

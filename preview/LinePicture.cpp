@@ -5,6 +5,8 @@
 #include "preview/PictureParts.h"
 #include "preview/SampleLine.h"
 
+#include "StyleConversion/encoding/IntegerConversion.h"
+
 #include <array>
 #include <utility>
 
@@ -117,7 +119,7 @@ public:
         const double last = std::floor((lineLength - low - offset_) / step_);
         const double count = std::max(0.0, last - first_ + 1);
         complete_ = count <= kMostRepetitions;
-        count_ = complete_ ? static_cast<int>(count) : kMostRepetitions;
+        count_ = complete_ ? encoding::ToInt32(count) : kMostRepetitions;
     }
 
     int Count() const { return count_; }

@@ -1,5 +1,7 @@
 #include "preview/Outline.h"
 
+#include "StyleConversion/encoding/IntegerConversion.h"
+
 #include <numbers>
 
 namespace preview {
@@ -32,11 +34,12 @@ void Outline::ArcTo(const ArcShape& shape, Point point) {
     bounds_.Include(arc->Bounds());
     onAxis_ = false;
     constexpr double kLongestPiece = std::numbers::pi / 3;
-    const double pieces = std::max(1.0, std::ceil(std::fabs(arc->sweep) / kLongestPiece - 1e-9));
+    const int pieces =
+        std::max(1, encoding::ToInt32(std::ceil(std::fabs(arc->sweep) / kLongestPiece - 1e-9)));
     const double step = arc->sweep / pieces;
     // The length of the handles that makes the curve's middle lie on the arc.
     const double handle = 4.0 / 3.0 * std::tan(step / 4);
-    for (double piece = 0; piece < pieces; ++piece) {
+    for (int piece = 0; piece < pieces; ++piece) {
         const double start = arc->start + piece * step;
         const double end = arc->start + (piece + 1) * step;
         steps_.push_back(Step::kCurve);

@@ -14,7 +14,7 @@ constexpr std::string_view kTimes = " \xc3\x97 ";
 std::string DescribePoint(const ResolvedSymbol& symbol) {
     const Box box = TurnedBounds(symbol, &Member::bounds);
     const bool placed = symbol.members.front().hasUsage;
-    const std::string kind = placed ? "Point symbol" : "Drawing";
+    std::string kind = placed ? "Point symbol" : "Drawing";
     if (box.IsEmpty()) {
         return kind;
     }

@@ -1,5 +1,7 @@
 #include "preview/SampleLine.h"
 
+#include "StyleConversion/encoding/IntegerConversion.h"
+
 #include <numbers>
 
 namespace preview {
@@ -50,11 +52,11 @@ void SampleLine::AppendStretch(PathData& data, const Placement& placement, const
         return;
     }
     constexpr double kLongestPiece = std::numbers::pi / 3;
-    const double pieces =
-        std::max(1.0, std::ceil(std::fabs((to - from) * stretch.curvature) / kLongestPiece));
+    const int pieces =
+        std::max(1, encoding::ToInt32(std::ceil(std::fabs((to - from) * stretch.curvature) / kLongestPiece)));
     const double step = (to - from) / pieces;
     const double handle = 4.0 / 3.0 * std::tan(step * stretch.curvature / 4) / stretch.curvature;
-    for (double piece = 0; piece < pieces; ++piece) {
+    for (int piece = 0; piece < pieces; ++piece) {
         const Spot start = stretch.At(from + piece * step);
         const Spot end = stretch.At(from + (piece + 1) * step);
         const auto along = [](const Spot& spot, double distance) {

@@ -1,5 +1,6 @@
 #include "preview/SymbolSvg.h"
 
+#include "preview/NumberTexts.h"
 #include "preview/Picture.h"
 #include "preview/SvgWriter.h"
 
@@ -122,7 +123,9 @@ void CardDrawing::Draw(std::string& out) {
 
 void OpenDocument(SvgWriter& svg, double width, double height, const std::wstring& title) {
     std::string viewBox = "0 0 ";
-    viewBox += std::to_string(static_cast<int>(width)) + " " + std::to_string(static_cast<int>(height));
+    AppendPixels(viewBox, width);
+    viewBox += ' ';
+    AppendPixels(viewBox, height);
     svg.Open("svg").Set("xmlns", "http://www.w3.org/2000/svg");
     svg.Set("width", width).Set("height", height).Set("viewBox", viewBox).Set("role", "img");
     svg.Open("title").Text(title).Close();

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds the tool and converts the example files. The results are in build/demo/.
+# Builds the tool and converts the example files, each to JSON and to a gallery. The results are in build/demo/.
+# A picture of one of the galleries goes to docs/gallery.png.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/packages.sh
@@ -13,18 +14,49 @@ tool=build/demo-tool/bin/styleconv
 
 results=build/demo
 mkdir -p "$results"
+
+# convert RESULT COMMAND ARGUMENT...
+convert() {
+  "$tool" "${@:2}" -o "$results/$1.json"
+  "$tool" "${@:2}" --format html -o "$results/$1.html"
+}
+
 for file in examples/patterns/*.pat; do
-  "$tool" patterns "$file" -o "$results/$(basename "$file" .pat).json"
+  convert "$(basename "$file" .pat)" patterns "$file"
 done
 for file in examples/linetypes/*.lin; do
-  "$tool" linetypes "$file" --drawing examples/linetypes/styles.json --shapes examples/shapes \
-    -o "$results/$(basename "$file" .lin)-linetypes.json"
+  convert "$(basename "$file" .lin)-linetypes" linetypes "$file" \
+    --drawing examples/linetypes/styles.json --shapes examples/shapes
 done
 for file in examples/shapes/*.shx; do
-  "$tool" glyphs "$file" -o "$results/$(basename "$file" .shx)-glyphs.json"
+  convert "$(basename "$file" .shx)-glyphs" glyphs "$file"
 done
 for file in examples/drawings/*.json; do
-  "$tool" blocks "$file" --shapes examples/shapes -o "$results/$(basename "$file" .json)-blocks.json"
+  convert "$(basename "$file" .json)-blocks" blocks "$file" --shapes examples/shapes
 done
-echo "The converted examples are in $results/:"
+echo "The converted examples are in $results/; open a .html file in a browser to see its symbols:"
 ls "$results"
+
+# photograph GALLERY PICTURE: false where the browser fails
+photograph() {
+  local profile picture options status=0
+  profile=$(mktemp -d)
+  picture=$(realpath "$2")
+  options=(--headless --disable-gpu --disable-quic --no-first-run --disable-background-networking
+    --disable-component-update --disable-sync --disable-dev-shm-usage --hide-scrollbars
+    --force-device-scale-factor=1 --window-size=1280,800 --user-data-dir="$profile/data"
+    --virtual-time-budget=3000 --screenshot="$profile/gallery.png")
+  # The browser's sandbox refuses to start for root.
+  [ "$(id -u)" -ne 0 ] || options+=(--no-sandbox)
+  HOME=$profile chromium "${options[@]}" "file://$(realpath "$1")" >/dev/null 2>&1 || status=1
+  [ -s "$profile/gallery.png" ] && mv "$profile/gallery.png" "$picture" || status=1
+  rm -rf "$profile"
+  return $status
+}
+
+if install_packages chromium fonts-dejavu-core && photograph "$results/complex-linetypes.html" docs/gallery.png; then
+  echo "A picture of a gallery is in docs/gallery.png."
+else
+  echo "The picture docs/gallery.png was left as it is: it takes the Debian package chromium, which is not here" \
+    "or does not run."
+fi
