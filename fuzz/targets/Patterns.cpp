@@ -1,5 +1,6 @@
 // A pattern file to symbols.
 #include "StyleConversion/pattern/PatternConverter.h"
+#include "StyleConversion/pattern/PatternFile.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "fuzz/Documents.h"
 #include "fuzz/Fuzzing.h"
