@@ -51,6 +51,12 @@ inline void AddShapesOption(CLI::App& command, std::vector<std::string>& folders
         ->take_all();
 }
 
+/// Adds --tolerant to a converting command.
+inline void AddTolerantOption(CLI::App& command, bool& tolerant) {
+    command.add_flag("--tolerant", tolerant,
+                     "Convert what is right and name what is wrong, instead of refusing the file");
+}
+
 /// Adds --code-page to a command that reads text files.
 inline void AddCodePageOption(CLI::App& command, std::string& codePage) {
     command

@@ -145,7 +145,8 @@ std::string ElementSentence(const LinFault& fault) {
     }
 }
 
-std::string FaultSentence(const LinFault& fault, const LinetypeSources& sources) {
+// As a strict conversion says it: with the place, and with the text of the line.
+std::string PlacedSentence(const LinFault& fault, const LinetypeSources& sources) {
     if (const char* const expected = ExpectedSyntax(fault.kind)) {
         return "syntax error in " + Place(fault) + ": " + expected + " at byte " +
                std::to_string(fault.column) + ": " + Shown(platform::AnsiToWide(fault.lineText));
@@ -155,6 +156,21 @@ std::string FaultSentence(const LinFault& fault, const LinetypeSources& sources)
 }
 
 } // namespace
+
+std::string FaultSentence(const LinFault& fault, const LinetypeSources& sources) {
+    if (fault.kind == LinFaultKind::kPatternMissing) {
+        return "a header without a pattern";
+    }
+    if (fault.kind == LinFaultKind::kPatternNotContinued) {
+        return "the pattern ends with a comma";
+    }
+    if (const char* const expected = ExpectedSyntax(fault.kind)) {
+        return std::string(expected) + " at byte " + std::to_string(fault.column) + ": " +
+               ShownLine(fault.lineText);
+    }
+    const std::string sentence = ElementSentence(fault);
+    return sentence.empty() ? SourceSentence(fault, sources) : sentence;
+}
 
 std::string FoldersSearched(const std::wstring& shapeFile, const LinetypeSources& sources) {
     const platform::PathParts parts = platform::SplitPath(shapeFile);
@@ -175,7 +191,7 @@ void SayLinetypeFaults(const std::string& file, const std::vector<LinFault>& fau
         Say(file, "there is not enough memory");
     }
     for (const LinFault& fault : faults) {
-        const std::string sentence = FaultSentence(fault, sources);
+        const std::string sentence = PlacedSentence(fault, sources);
         if (fault.line > 0) {
             SayAtLine(file, static_cast<std::size_t>(fault.line), sentence);
         } else {

@@ -15,6 +15,9 @@ struct LinetypeSources {
     std::vector<std::string> searchPath; // folders as given
 };
 
+/// What is wrong, without the linetype and element that it is in.
+std::string FaultSentence(const LineConverter::LinFault& fault, const LinetypeSources& sources);
+
 /// Says each fault on standard error, at its line of `file`.
 void SayLinetypeFaults(const std::string& file, const std::vector<LineConverter::LinFault>& faults,
                        const LinetypeSources& sources);

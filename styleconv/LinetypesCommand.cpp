@@ -1,17 +1,13 @@
 #include "styleconv/LinetypesCommand.h"
 
 #include "StyleConversion/linetype/CLinVisitor.h"
-#include "StyleConversion/linetype/CLineConverterDep.h"
 #include "StyleConversion/linetype/LinParser.h"
 #include "StyleConversion/platform/CodePage.h"
-#include "StyleConversion/platform/Files.h"
 #include "StyleConversion/platform/Utf8.h"
-#include "drawing/Database.h"
-#include "drawing/HostServices.h"
 #include "styleconv/AnnouncedLinetypes.h"
-#include "styleconv/BuiltInFont.h"
-#include "styleconv/DrawingFile.h"
+#include "styleconv/LinetypeFindings.h"
 #include "styleconv/LinetypeMessages.h"
+#include "styleconv/LinetypeServices.h"
 #include "styleconv/Messages.h"
 #include "styleconv/NumberOption.h"
 #include "styleconv/Progress.h"
@@ -24,128 +20,46 @@
 namespace styleconv {
 namespace {
 
-struct LinetypesOptions : CommonOptions {
+struct LinetypesOptions : CommonOptions, LinetypeSourceOptions {
     std::string file;
     std::vector<std::string> names;
     std::string codePage;
-    std::string drawing;
-    std::vector<std::string> shapeFolders;
     double scale = 1.0;
 };
 
-constexpr const wchar_t* kDefaultStyle = L"STANDARD";
-constexpr const wchar_t* kDefaultFont = L"txt.shx";
-
-// Shape files as the services find them; the built-in font in place of the default style's, when that is
-// nowhere.
-class ShapeFiles : public LineConverter::IGetFile {
-public:
-    ShapeFiles(LineConverter::IGetFile& services, bool builtInFontStandsIn)
-        : services_(services), builtInFontStandsIn_(builtInFontStandsIn) {}
-
-    std::FILE* GetFile(const wchar_t* name, const wchar_t* extension) override {
-        if (std::FILE* const stream = services_.GetFile(name, extension)) {
-            return stream;
-        }
-        if (!builtInFontStandsIn_ || platform::CompareIgnoringCase(name, kDefaultFont) != 0) {
-            return nullptr;
-        }
-        builtInFontUsed_ = true;
-        return OpenBuiltInFont();
+// False after saying why.
+bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Symbols& symbols,
+                bool& hasLinetypes) {
+    LinetypeServices services(input, options);
+    if (!services.ReadDrawing()) {
+        return false;
     }
-
-    bool BuiltInFontUsed() const { return builtInFontUsed_; }
-
-private:
-    LineConverter::IGetFile& services_;
-    bool builtInFontStandsIn_;
-    bool builtInFontUsed_ = false;
-};
-
-// The drawing, the folders and the services over them that one command uses.
-class Conversion {
-public:
-    Conversion(const InputFile& input, const LinetypesOptions& options)
-        : input_(input), options_(options), searchDirectory_(FolderOf(input)),
-          services_(WidePaths(options.shapeFolders)), dependencies_(&services_, searchDirectory_.c_str()),
-          shapeFiles_(dependencies_, options.drawing.empty()), parser_(&dependencies_, &shapeFiles_) {
-        sources_.linetypeFolder = platform::PathToBytes(searchDirectory_);
-        sources_.searchPath = options.shapeFolders;
-    }
-
-    // False after saying why.
-    bool ReadDrawing() {
-        sources_.styles = options_.drawing.empty() ? "in the empty drawing that is used without --drawing"
-                                                   : "in " + Shown(options_.drawing);
-        if (options_.drawing.empty()) {
-            auto drawing = std::make_unique<drawing::Database>();
-            drawing::TextStyleData style;
-            style.fileName = kDefaultFont;
-            drawing->AddTextStyle(kDefaultStyle, std::move(style));
-            drawing_ = std::move(drawing);
-        } else {
-            drawing_ = ReadDrawingFile(options_.drawing);
-        }
-        services_.setWorkingDatabase(drawing_.get());
-        return drawing_ != nullptr;
-    }
-
-    // False after saying why.
-    bool Convert(Symbols& symbols) {
-        const LineConverter::LinResult parsed = parser_.Parse(input_.Path());
-        if (shapeFiles_.BuiltInFontUsed()) {
-            Say(input_.Name(), "note: font file txt.shx not found in " +
-                                   FoldersSearched(kDefaultFont, sources_) +
-                                   "; the built-in font stands in for it");
-        }
-        if (parsed != LineConverter::kSuccess) {
-            SayLinetypeFaults(input_.Name(), parser_.faults(), sources_);
-            return false;
-        }
-        LineConverter::CLinVisitor visitor(options_.scale, &parser_.faultLog());
+    const LineConverter::LinPolicy policy =
+        options.tolerant ? LineConverter::kTolerantLinPolicy : LineConverter::LinPolicy();
+    LineConverter::LinParser parser(&services, &services, policy);
+    LineConverter::LinResult result = parser.Parse(input.Path());
+    services.SayWhatStoodIn();
+    if (result == LineConverter::kSuccess) {
+        LineConverter::CLinVisitor visitor(options.scale, &parser.faultLog(), policy);
         AnnouncedLinetypes announced(visitor);
-        BeginStage("Converting", parser_.linetypes().size());
-        const LineConverter::LinResult walked = parser_.Accept(announced);
+        BeginStage("Converting", parser.linetypes().size());
+        result = parser.Accept(announced);
         const std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> results(visitor.TakeResults());
         for (std::size_t i = 0; results && i < results->size(); ++i) {
             symbols.emplace_back((*results)[i]);
         }
-        if (walked != LineConverter::kSuccess || !results) {
-            SayLinetypeFaults(input_.Name(), parser_.faults(), sources_);
-            return false;
+        if (result == LineConverter::kSuccess && options.tolerant) {
+            hasLinetypes = !symbols.empty() || !parser.faults().empty();
+            SayFindings(ForgivenLinetypeFaults(input.Name(), parser.faults(), services.Sources()));
+            return true;
         }
-        return true;
-    }
-
-private:
-    // Nothing is beside standard input.
-    static std::wstring FolderOf(const InputFile& input) {
-        if (input.IsStandardInput()) {
-            return {};
+        if (result == LineConverter::kSuccess && results) {
+            return true;
         }
-        const platform::PathParts parts = platform::SplitPath(input.Path());
-        return parts.drive + parts.directory;
     }
-
-    static std::vector<std::wstring> WidePaths(const std::vector<std::string>& folders) {
-        std::vector<std::wstring> wide;
-        wide.reserve(folders.size());
-        for (const std::string& folder : folders) {
-            wide.push_back(platform::PathFromBytes(folder));
-        }
-        return wide;
-    }
-
-    const InputFile& input_;
-    const LinetypesOptions& options_;
-    std::wstring searchDirectory_;
-    std::unique_ptr<drawing::Database> drawing_;
-    drawing::HostServices services_;
-    LineConverter::CLineConverterDep dependencies_;
-    ShapeFiles shapeFiles_;
-    LineConverter::LinParser parser_;
-    LinetypeSources sources_;
-};
+    SayLinetypeFaults(input.Name(), parser.faults(), services.Sources());
+    return false;
+}
 
 void SayThereAreNoLinetypes(const InputFile& input) {
     constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
@@ -179,6 +93,9 @@ bool ChooseNamed(const InputFile& input, const std::vector<std::string>& names, 
 }
 
 ExitStatus Linetypes(const LinetypesOptions& options) {
+    if (!CheckLinetypeSourceOptions(options)) {
+        return kUsageFault;
+    }
     InputFile input(options.file);
     if (!input.Read() || !input.ProvidePath()) {
         return kInputFault;
@@ -186,13 +103,17 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
     if (!ChooseCodePage(input, options.codePage)) {
         return kUsageFault;
     }
-    Conversion conversion(input, options);
     Symbols symbols;
-    if (!conversion.ReadDrawing() || !conversion.Convert(symbols)) {
+    bool hasLinetypes = false;
+    if (!ConvertAll(input, options, symbols, hasLinetypes)) {
         return kInputFault;
     }
     if (symbols.empty()) {
-        SayThereAreNoLinetypes(input);
+        if (hasLinetypes) {
+            Say(input.Name(), "none of the file's linetypes can be converted");
+        } else {
+            SayThereAreNoLinetypes(input);
+        }
         return kInputFault;
     }
     if (options.names.empty()) {
@@ -210,11 +131,8 @@ void AddLinetypesCommand(CLI::App& app, Runner& runner) {
     command->add_option("FILE", options->file, "A linetype file, or - for standard input")->required();
     AddNameOption(*command, options->names, "Convert only the linetypes of this name; may be given again");
     AddNumberOption(*command, "--scale", options->scale, "Multiply all lengths by this (default: 1)");
-    command
-        ->add_option("--drawing", options->drawing,
-                     "Take text styles from this drawing document (default: one style STANDARD with txt.shx)")
-        ->type_name("DRAWING.json");
-    AddShapesOption(*command, options->shapeFolders);
+    AddLinetypeSourceOptions(*command, *options);
+    AddTolerantOption(*command, options->tolerant);
     AddCodePageOption(*command, options->codePage);
     AddCommonOptions(*command, *options);
     command->callback([options, &runner] { runner = [options] { return Linetypes(*options); }; });

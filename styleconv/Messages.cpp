@@ -1,9 +1,11 @@
 #include "styleconv/Messages.h"
 
+#include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "styleconv/Progress.h"
 
 #include <cstdio>
+#include <utility>
 
 namespace styleconv {
 
@@ -11,6 +13,10 @@ void Say(std::string_view file, std::string_view what) {
     std::string line = Shown(file);
     line += ": ";
     line += what;
+    SayLine(std::move(line));
+}
+
+void SayLine(std::string line) {
     line += '\n';
     ClearProgress();
     // Nowhere is left to say that standard error cannot be written.
@@ -38,6 +44,11 @@ std::string Shown(std::wstring_view name) {
 
 std::string Shown(std::string_view name) {
     return Shown(platform::Utf8ToWide(name));
+}
+
+std::string ShownLine(std::string_view text) {
+    constexpr std::size_t kLongest = 160;
+    return Shown(platform::AnsiToWide(text.substr(0, kLongest))) + (text.size() > kLongest ? "…" : "");
 }
 
 } // namespace styleconv

@@ -9,6 +9,9 @@ namespace styleconv {
 /// "file: what"
 void Say(std::string_view file, std::string_view what);
 
+/// One line as it stands.
+void SayLine(std::string line);
+
 /// "file: line 14: what"
 void SayAtLine(std::string_view file, std::size_t line, std::string_view what);
 
@@ -19,5 +22,8 @@ void SayAtByte(std::string_view file, std::size_t byte, std::string_view what);
 /// the cursor of the terminal.
 std::string Shown(std::string_view name);
 std::string Shown(std::wstring_view name);
+
+/// A text of the file's encoding as a message shows it: its first part where it is very long.
+std::string ShownLine(std::string_view text);
 
 } // namespace styleconv

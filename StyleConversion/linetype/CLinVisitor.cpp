@@ -37,9 +37,9 @@ std::wstring QuotedContent(const std::wstring& characters) {
 
 } // namespace
 
-CLinVisitor::CLinVisitor(double scale, LinFaultLog* faultLog)
+CLinVisitor::CLinVisitor(double scale, LinFaultLog* faultLog, const LinPolicy& policy)
     : results_(std::make_unique<std::vector<TylModel::SymbolDefinition*>>()), scale_(scale),
-      faultLog_(faultLog) {}
+      faultLog_(faultLog), policy_(policy) {}
 
 CLinVisitor::~CLinVisitor() {
     DeleteResults();
@@ -77,6 +77,7 @@ void CLinVisitor::BeginLinetype(const LinetypeRecord& record, const std::string&
     compound_ = std::make_unique<CompoundSymbolDefinition>();
     simple_ = std::make_unique<SimpleSymbolDefinition>();
     hasText_ = false;
+    linetypeFailed_ = false;
     if (record.name.empty()) {
         name_ = L"LINE_SYMBOL";
     } else if (AnsiToWide(record.name, name_) != kSuccess) {
@@ -88,6 +89,11 @@ void CLinVisitor::BeginLinetype(const LinetypeRecord& record, const std::string&
 }
 
 void CLinVisitor::EndLinetype() {
+    if (linetypeFailed_) {
+        compound_.reset();
+        simple_.reset();
+        return;
+    }
     AddLinePath(*simple_, dashPath_);
     AddLineColorParameter(*simple_);
     AddLineWeightParameter(*simple_);
@@ -195,7 +201,7 @@ void CLinVisitor::AddTrueTypeText(const std::string& text, const ElementTransfor
         Fail(LinFaultKind::kTextNotConvertible, {});
         return;
     }
-    const DecodedText decoded = DecodeControlCodes(wide);
+    const DecodedText decoded = DecodeControlCodes(wide, policy_.looseForm);
     element->SetContent(QuotedContent(decoded.characters));
     if (decoded.overlined) {
         element->SetOverlined(yes);
@@ -263,7 +269,7 @@ void CLinVisitor::AddShxText(const std::string& text, const ElementTransform& tr
     pen.rotation = transform.relativeRotation;
     pen.vertical = font.isVertical && information[kModesByte] == kBothOrientations;
     std::wstring path;
-    for (const wchar_t character : ToUtf16Units(DecodeControlCodes(wide).characters)) {
+    for (const wchar_t character : ToUtf16Units(DecodeControlCodes(wide, policy_.looseForm).characters)) {
         const ShxUtility::Shape* const glyph = FindGlyph(file, character);
         if (glyph == nullptr) {
             continue;
@@ -292,7 +298,7 @@ void CLinVisitor::AddDrawnMember(const std::wstring& path, const ElementTransfor
 }
 
 void CLinVisitor::Fail(LinFaultKind kind, const std::wstring& subject, std::int32_t shxResult) {
-    failed_ = true;
+    (policy_.faultsStayLocal ? linetypeFailed_ : failed_) = true;
     if (faultLog_ != nullptr) {
         // The walk itself has gone well: no result code.
         LinFault& fault = faultLog_->Add(kSuccess, kind);

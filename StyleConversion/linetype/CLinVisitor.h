@@ -2,6 +2,7 @@
 #pragma once
 
 #include "StyleConversion/linetype/LinFaults.h"
+#include "StyleConversion/linetype/LinPolicy.h"
 #include "StyleConversion/linetype/LinStyleVisitor.h"
 
 #include "TylModel/TylModel.h"
@@ -17,12 +18,13 @@ namespace LineConverter {
 /// fixed angle becomes a compound, each of those a member and the dashes the last one. A text in a TrueType
 /// font that turns with the line is part of the dashes' symbol.
 ///
-/// An element that cannot be drawn is left out and marks the whole run as failed. Operations may throw
-/// std::bad_alloc; nothing is lost then.
+/// An element that cannot be drawn is left out and marks the whole run as failed; where the policy keeps
+/// faults local, its linetype is left out and the run goes on. Operations may throw std::bad_alloc; nothing
+/// is lost then.
 class CLinVisitor final : public LinStyleVisitor {
 public:
     /// `scale` multiplies every length. `faultLog` is borrowed, may be null, and is told why a run failed.
-    explicit CLinVisitor(double scale, LinFaultLog* faultLog = nullptr);
+    explicit CLinVisitor(double scale, LinFaultLog* faultLog = nullptr, const LinPolicy& policy = {});
     ~CLinVisitor() override;
 
     void Begin() override;
@@ -62,9 +64,11 @@ private:
     double scale_;
     std::wstring name_;
     std::wstring description_;
-    bool failed_ = false;
+    bool failed_ = false;         // the run
+    bool linetypeFailed_ = false; // the linetype, where faults stay local
     bool hasText_ = false;
     LinFaultLog* faultLog_;
+    LinPolicy policy_;
 };
 
 } // namespace LineConverter

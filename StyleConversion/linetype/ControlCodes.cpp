@@ -4,6 +4,7 @@
 #include "StyleConversion/linetype/LinLimits.h"
 #include "StyleConversion/linetype/LinNames.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace LineConverter {
@@ -19,10 +20,29 @@ bool IsDigit(wchar_t c) {
     return c >= L'0' && c <= L'9';
 }
 
+constexpr std::wstring_view kUnicodeMark = L"\\U+";
+constexpr std::size_t kUnicodeCodeLength = kUnicodeMark.size() + kUnicodeCodeDigits;
+
+// The digit's value, or -1.
+int HexValue(wchar_t c) {
+    const wchar_t upper = UpperCase(c);
+    if (IsDigit(upper)) {
+        return static_cast<int>(upper - L'0');
+    }
+    return upper >= L'A' && upper <= L'F' ? static_cast<int>(upper - L'A') + 10 : -1;
+}
+
 class Decoder {
 public:
+    explicit Decoder(bool readUnicodeCodes) : readUnicodeCodes_(readUnicodeCodes) {}
+
     DecodedText Decode(std::wstring_view text) {
         for (std::size_t position = 0; position < text.size();) {
+            if (readUnicodeCodes_ && StartsWithUnicodeCode(text.substr(position))) {
+                UnicodeCode(text.substr(position));
+                position += kUnicodeCodeLength;
+                continue;
+            }
             if (text.substr(position, 2) != L"%%") {
                 Emit(text[position++]);
                 continue;
@@ -82,6 +102,15 @@ private:
         return digits;
     }
 
+    void UnicodeCode(std::wstring_view text) {
+        int code = 0;
+        for (const wchar_t digit : text.substr(kUnicodeMark.size(), kUnicodeCodeDigits)) {
+            code = code * 16 + HexValue(digit);
+        }
+        Emit(static_cast<wchar_t>(code));
+    }
+
+    bool readUnicodeCodes_;
     DecodedText decoded_;
     bool overline_ = false;
     bool underline_ = false;
@@ -89,8 +118,16 @@ private:
 
 } // namespace
 
-DecodedText DecodeControlCodes(std::wstring_view text) {
-    return Decoder().Decode(text);
+bool StartsWithUnicodeCode(std::wstring_view text) {
+    if (text.size() < kUnicodeCodeLength || !text.starts_with(kUnicodeMark)) {
+        return false;
+    }
+    const std::wstring_view digits = text.substr(kUnicodeMark.size(), kUnicodeCodeDigits);
+    return std::all_of(digits.begin(), digits.end(), [](wchar_t digit) { return HexValue(digit) >= 0; });
+}
+
+DecodedText DecodeControlCodes(std::wstring_view text, bool readUnicodeCodes) {
+    return Decoder(readUnicodeCodes).Decode(text);
 }
 
 } // namespace LineConverter

@@ -16,7 +16,12 @@ struct DecodedText {
 
 /// Carries out "%%C" (diameter sign), "%%D" (degree sign), "%%P" (plus-minus sign), "%%O" and "%%U" (overline
 /// and underline on and off), letters in either case, and "%%" with one to three decimal digits: the
-/// character of that code. "%%" before anything else is dropped; a single "%" stays.
-DecodedText DecodeControlCodes(std::wstring_view text);
+/// character of that code. "%%" before anything else is dropped; a single "%" stays. Where
+/// `readUnicodeCodes`,
+/// "\U+" and four hexadecimal digits are the character of that code, too.
+DecodedText DecodeControlCodes(std::wstring_view text, bool readUnicodeCodes = false);
+
+/// Whether the text starts with "\U+" and four hexadecimal digits.
+bool StartsWithUnicodeCode(std::wstring_view text);
 
 } // namespace LineConverter

@@ -53,17 +53,36 @@ enum class LinFaultKind : std::uint8_t {
     kFontWithoutInformation,
     kFontHeightZero,
     kCharacterNotDrawn,
+    // What only a policy that forgives comes upon; a strict reading fails there, or passes over it in
+    // silence.
+    kByteOrderMark,
+    kLineTooLong,
+    kHeaderWithoutName,
+    kHeaderIndented,
+    kPatternWithoutHeader,
+    kLineSkipped,
+    kAlignmentLowerCase,
+    kBlank,
+    kCommaBeforeBracket,
+    kStyleLeftOut,
+    kUprightRotation,
+    kSemicolonInText,
+    kCharacterCodeInText,
+    kTextBehindPattern,
 };
 
 struct LinFault {
     LinFaultKind kind = LinFaultKind::kFileNotOpened;
     LinResult result = kSuccess;
+    /// Whether the reading went on as if all were well.
+    bool forgiven = false;
     /// The line's number, from 1; 0 when the fault is not at a line.
     std::uint64_t line = 0;
     /// For syntax: the byte of the line, from 1, and the line's text.
     std::uint64_t column = 0;
     std::string lineText;
-    /// The linetype's name and the element's number, from 1; empty and 0 when the fault is in neither.
+    /// The linetype's name, cut where it is very long, and the element's number, from 1; empty and 0 when the
+    /// fault is in neither.
     std::string linetype;
     std::size_t element = 0;
     /// What the kind speaks of: a shape, a character, a text style or a file.
@@ -94,6 +113,17 @@ public:
 
     /// Adds a fault of that kind at the current place. The reference is good until the next one is added.
     LinFault& Add(LinResult result, LinFaultKind kind);
+
+    /// Adds something that was forgiven at a line.
+    LinFault& Forgive(LinFaultKind kind, std::uint64_t line);
+
+    /// Adds what happened to `fault` as well, at the current place.
+    void AddLike(const LinFault& fault);
+
+    /// The fault added last, which must be there, is forgiven.
+    void ForgiveLast() { faults_.back().forgiven = true; }
+    /// Takes it out.
+    LinFault TakeLast();
 
     const std::vector<LinFault>& faults() const { return faults_; }
 

@@ -18,7 +18,16 @@ constexpr std::size_t kPathPartBufferSize = 256;
 /// a directory, a name and two extensions with room to spare. A longer path is not tried.
 constexpr std::size_t kPathBufferSize = 1542;
 
+/// Bytes of a linetype's name that a fault keeps: the longest that a strict reading finds.
+constexpr std::size_t kLongestNameInFault = kLineBufferSize - 2;
+
+/// Bytes of a line's text that a fault keeps.
+constexpr std::size_t kLongestTextInFault = kLineBufferSize - 1;
+
 /// The most decimal digits that follow "%%" as one character code.
 constexpr std::size_t kCharacterCodeDigits = 3;
+
+/// The hexadecimal digits that follow "\U+" as one character code, where that is read at all.
+constexpr std::size_t kUnicodeCodeDigits = 4;
 
 } // namespace LineConverter

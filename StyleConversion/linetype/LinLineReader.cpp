@@ -3,18 +3,39 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string_view>
+#include <utility>
 
 namespace LineConverter {
 namespace {
 
-bool IsBlank(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
+constexpr auto IsBlank = LinLineReader::IsBlank;
 
 void CutComment(char* text) {
     if (char* const comment = std::strchr(text, ';')) {
         *comment = 0;
     }
+}
+
+// A ";" between quotes is not a comment; one behind a quote that nothing closes is. Whether there was one
+// between quotes.
+bool CutCommentBehindTexts(char* text) {
+    bool hasSemicolon = false;
+    while (char* const mark = std::strpbrk(text, "\";")) {
+        if (*mark == ';') {
+            *mark = 0;
+            break;
+        }
+        char* const end = std::strchr(mark + 1, '"');
+        if (end == nullptr) {
+            CutComment(mark);
+            break;
+        }
+        hasSemicolon =
+            hasSemicolon || std::memchr(mark, ';', static_cast<std::size_t>(end - mark)) != nullptr;
+        text = end + 1;
+    }
+    return hasSemicolon;
 }
 
 void RemoveTrailingBlanks(char* text) {
@@ -27,8 +48,23 @@ void RemoveTrailingBlanks(char* text) {
 
 } // namespace
 
-void LinLineReader::Start(std::FILE* stream) {
+const char* LinLineReader::PastBlanks(const char* text) {
+    while (IsBlank(*text)) {
+        ++text;
+    }
+    return text;
+}
+
+bool LinLineReader::LooksLikePattern(const char* text) {
+    return *text != 0 && std::strchr("ASas", *text) != nullptr && *PastBlanks(text + 1) == ',';
+}
+
+void LinLineReader::Start(std::FILE* stream, const LinPolicy& policy, LinFaultLog* log) {
     stream_ = stream;
+    policy_ = policy;
+    log_ = log;
+    byteOrderMark_ = false;
+    headerHeld_ = false;
     line_ = 0;
     pieceColumn_ = 0;
     pieceLength_ = 0;
@@ -37,30 +73,100 @@ void LinLineReader::Start(std::FILE* stream) {
     contentText_ = content_.data();
     position_ = nullptr;
     end_ = nullptr;
+    if (policy_.looseForm) {
+        SkipByteOrderMark();
+    }
+}
+
+void LinLineReader::SkipByteOrderMark() {
+    constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
+    if (Refill() &&
+        std::string_view(position_, static_cast<std::size_t>(end_ - position_)).starts_with(kByteOrderMark)) {
+        position_ += kByteOrderMark.size();
+        byteOrderMark_ = true;
+    }
 }
 
 const char* LinLineReader::ReadHeaderLine() {
-    while (ReadPiece(header_)) {
+    while (std::exchange(headerHeld_, false) || ReadPiece(header_)) {
         if (header_[0] != '*') {
-            continue;
-        }
-        char* const text = header_.data() + 1;
-        CutComment(text);
-        RemoveTrailingBlanks(text);
-        if (*text != 0 && *text != ',') {
+            NotePassedLine();
+        } else if (const char* const text = HeaderText()) {
             return text;
         }
     }
     return nullptr;
 }
 
+// Null when it has no name.
+const char* LinLineReader::HeaderText() {
+    NoteLongLine(header_, true);
+    char* const text = header_.data() + 1;
+    CutComment(text);
+    RemoveTrailingBlanks(text);
+    const bool hasName = *text != 0 && *text != ',';
+    if (policy_.looseForm && !hasName) {
+        log_->Forgive(LinFaultKind::kHeaderWithoutName, line_);
+    }
+    if (byteOrderMark_ && line_ == 1) {
+        log_->Forgive(LinFaultKind::kByteOrderMark, line_);
+    }
+    return hasName ? text : nullptr;
+}
+
+// A line that is no header, where one is looked for, is no loss unless it was meant to be read.
+void LinLineReader::NotePassedLine() {
+    NoteLongLine(header_, false);
+    if (!policy_.looseForm) {
+        return;
+    }
+    const char* const text = PastBlanks(header_.data());
+    if (*text == '*') {
+        log_->Forgive(LinFaultKind::kHeaderIndented, line_);
+    } else if (LooksLikePattern(text)) {
+        log_->Forgive(LinFaultKind::kPatternWithoutHeader, line_);
+    }
+}
+
+// Tells of a line that a strict reading takes apart: of one that is read, where there is something behind the
+// first piece; of one that is passed over, where a later piece would be a header.
+void LinLineReader::NoteLongLine(const Line& line, bool isRead) {
+    constexpr std::size_t kPiece = kLineBufferSize - 1;
+    if (!policy_.linesOfAnyLength || pieceLength_ <= kPiece) {
+        return;
+    }
+    bool differs = false;
+    if (isRead) {
+        differs = !std::all_of(line.data() + kPiece, line.data() + pieceLength_, IsBlank);
+    } else {
+        for (std::size_t at = kPiece; at < pieceLength_; at += kPiece) {
+            differs = differs || line[at] == '*';
+        }
+    }
+    if (differs) {
+        log_->Forgive(LinFaultKind::kLineTooLong, line_);
+    }
+}
+
 const char* LinLineReader::ReadContentLine() {
     while (ReadPiece(content_)) {
+        if (policy_.looseForm && content_[0] == '*') {
+            header_.swap(content_);
+            content_[0] = 0;
+            contentText_ = content_.data();
+            headerHeld_ = true;
+            return nullptr;
+        }
+        NoteLongLine(content_, true);
         char* text = content_.data();
         while (IsBlank(*text)) {
             ++text;
         }
-        CutComment(text);
+        if (!policy_.looseForm) {
+            CutComment(text);
+        } else if (CutCommentBehindTexts(text)) {
+            log_->Forgive(LinFaultKind::kSemicolonInText, line_);
+        }
         if (*text != 0) {
             RemoveTrailingBlanks(text);
             contentText_ = text;
@@ -77,7 +183,7 @@ std::uint64_t LinLineReader::ColumnOf(const char* at) const {
 bool LinLineReader::ReadPiece(Line& line) {
     std::size_t length = 0;
     bool ended = false;
-    while (!ended && length < line.size() - 1 && (position_ != end_ || Refill())) {
+    while (!ended && (length < line.size() - 1 || MakeRoom(line)) && (position_ != end_ || Refill())) {
         const std::size_t available =
             std::min(static_cast<std::size_t>(end_ - position_), line.size() - 1 - length);
         const void* const lineEnd = std::memchr(position_, '\n', available);
@@ -98,6 +204,14 @@ bool LinLineReader::ReadPiece(Line& line) {
     pieceLength_ = length;
     lineEnded_ = ended;
     return true;
+}
+
+// False when the piece is to end where the room does.
+bool LinLineReader::MakeRoom(Line& line) const {
+    if (policy_.linesOfAnyLength) {
+        line.resize(line.size() * 2);
+    }
+    return policy_.linesOfAnyLength;
 }
 
 bool LinLineReader::Refill() {

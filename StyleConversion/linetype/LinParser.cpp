@@ -10,8 +10,8 @@
 
 namespace LineConverter {
 
-LinParser::LinParser(IGetFontInfo* fontInfoProvider, IGetFile* fileProvider)
-    : fileProvider_(fileProvider), fontInfoProvider_(fontInfoProvider) {}
+LinParser::LinParser(IGetFontInfo* fontInfoProvider, IGetFile* fileProvider, const LinPolicy& policy)
+    : fileProvider_(fileProvider), fontInfoProvider_(fontInfoProvider), policy_(policy) {}
 
 LinParser::~LinParser() {
     Clear();
@@ -29,6 +29,11 @@ void LinParser::Clear() {
     styleReferences_.clear();
     shapeFileReferences_.clear();
     elementLines_.clear();
+    lines_.clear();
+    missingStyles_.clear();
+    missingFiles_.clear();
+    forgivenLine_ = 0;
+    forgivenKinds_ = 0;
     faultLog_.Clear();
 }
 
@@ -43,7 +48,7 @@ LinResult LinParser::Read(const std::wstring& path) {
         if (stream_ == nullptr) {
             return Fault(kCannotOpen, LinFaultKind::kFileNotOpened);
         }
-        reader_.Start(stream_);
+        reader_.Start(stream_, policy_, &faultLog_);
         if (const LinResult result = ReadLinetypes(); result != kSuccess) {
             return result;
         }
@@ -58,11 +63,22 @@ LinResult LinParser::Read(const std::wstring& path) {
 
 LinResult LinParser::ReadLinetypes() {
     while (const char* const header = reader_.ReadHeaderLine()) {
-        if (const LinResult result = ReadLinetype(header); result != kSuccess) {
+        const LinResult result = ReadLinetype(header);
+        if (EndsReading(result)) {
             return result;
         }
+        if (result != kSuccess) {
+            DropLastLinetype();
+        }
+        faultLog_.EnterPlace({});
     }
     return kSuccess;
+}
+
+void LinParser::DropLastLinetype() {
+    elementLines_.resize(lines_.back().firstElement);
+    lines_.pop_back();
+    linetypes_.pop_back();
 }
 
 LinResult LinParser::ReadLinetype(const char* header) {
@@ -73,19 +89,19 @@ LinResult LinParser::ReadLinetype(const char* header) {
     } else {
         record.name = header;
     }
+    lines_.push_back({reader_.LineNumber(), elementLines_.size()});
     faultLog_.EnterPlace({reader_.LineNumber(), &record, 0});
     return ReadPattern(record);
 }
 
 LinResult LinParser::ReadPattern(LinetypeRecord& record) {
-    const char* cursor = reader_.ReadContentLine();
+    const char* cursor = ReadPatternLine();
     if (cursor == nullptr) {
         return Fault(kSyntaxError, LinFaultKind::kPatternMissing);
     }
-    if ((cursor[0] != 'A' && cursor[0] != 'S') || cursor[1] != ',') {
-        return SyntaxError(LinFaultKind::kAlignmentMissing, cursor);
+    if (const LinResult result = ReadAlignment(cursor); result != kSuccess) {
+        return result;
     }
-    cursor += 2;
     record.elements.reserve(1 +
                             static_cast<std::size_t>(std::count(cursor, cursor + std::strlen(cursor), ',')));
     do {
@@ -102,12 +118,55 @@ LinResult LinParser::ReadPattern(LinetypeRecord& record) {
         if (const LinResult result = ReadElement(cursor, element); result != kSuccess) {
             return result;
         }
-        // Whatever stands behind an element, other than a comma, ends the pattern and is not looked at.
-    } while (*cursor++ == ',');
+    } while (MoreElementsFollow(cursor));
     return kSuccess;
 }
 
+// The first line of a pattern; where the form is loose, lines of another kind may stand before it.
+const char* LinParser::ReadPatternLine() {
+    const char* line = reader_.ReadContentLine();
+    while (policy_.looseForm && line != nullptr && !LinLineReader::LooksLikePattern(line)) {
+        Forgive(LinFaultKind::kLineSkipped, line);
+        line = reader_.ReadContentLine();
+    }
+    return line;
+}
+
+LinResult LinParser::ReadAlignment(const char*& cursor) {
+    const char* const letter = cursor;
+    const bool isLowerCase = policy_.looseForm && (*letter == 'a' || *letter == 's');
+    if (*letter != 'A' && *letter != 'S' && !isLowerCase) {
+        return SyntaxError(LinFaultKind::kAlignmentMissing, letter);
+    }
+    ++cursor;
+    SkipBlanks(cursor);
+    if (*cursor != ',') {
+        return SyntaxError(LinFaultKind::kAlignmentMissing, letter);
+    }
+    ++cursor;
+    if (isLowerCase) {
+        Forgive(LinFaultKind::kAlignmentLowerCase, letter);
+    }
+    return kSuccess;
+}
+
+// Whatever stands behind an element, other than a comma, ends the pattern and is not looked at.
+bool LinParser::MoreElementsFollow(const char*& cursor) {
+    if (policy_.looseForm && *cursor != 0 && *cursor != ',') {
+        const char* next = LinLineReader::PastBlanks(cursor);
+        if (*next != ',') {
+            Forgive(LinFaultKind::kTextBehindPattern, next);
+            return false;
+        }
+        SkipBlanks(cursor);
+    }
+    return *cursor++ == ',';
+}
+
 LinResult LinParser::ReadElement(const char*& cursor, LinElement& element) {
+    if (*LinLineReader::PastBlanks(cursor) == '[') {
+        SkipBlanks(cursor);
+    }
     if (*cursor == '[') {
         return ReadComplexElement(cursor, element);
     }
@@ -123,20 +182,18 @@ LinResult LinParser::ReadElement(const char*& cursor, LinElement& element) {
 
 LinResult LinParser::ReadComplexElement(const char*& cursor, LinElement& element) {
     ++cursor;
+    SkipBlanks(cursor);
     if (*cursor == '"') {
         ++cursor;
         if (const LinResult result = ParseTextElement(cursor, element); result != kSuccess) {
             return result;
         }
         element.kind = kText;
-        styleReferences_.try_emplace(element.styleName, CurrentReference());
     } else {
         if (const LinResult result = ParseShapeElement(cursor, element); result != kSuccess) {
             return result;
         }
         element.kind = kShape;
-        shapeFileReferences_.try_emplace(element.shapeFile, ShapeFileReference{0, CurrentReference()})
-            .first->second.acceptedKinds |= ShxUtility::kShapes;
     }
     if (*cursor != ']') {
         // Behind a "]" already, a text went without a style.
@@ -147,19 +204,55 @@ LinResult LinParser::ReadComplexElement(const char*& cursor, LinElement& element
     return kSuccess;
 }
 
-LinParser::Reference LinParser::CurrentReference() const {
-    return {reader_.LineNumber(), linetypes_.size() - 1, linetypes_.back().elements.size()};
+LinPlace LinParser::PlaceOf(const Reference& reference) const {
+    return {ElementLine(reference.linetype, reference.element), &linetypes_[reference.linetype],
+            reference.element + 1};
 }
 
-LinPlace LinParser::PlaceOf(const Reference& reference) const {
-    return {reference.line, &linetypes_[reference.linetype], reference.element};
+void LinParser::SkipBlanks(const char*& cursor) {
+    const char* const end = LinLineReader::PastBlanks(cursor);
+    if (policy_.looseForm && end != cursor) {
+        Forgive(LinFaultKind::kBlank, cursor);
+        cursor = end;
+    }
+}
+
+// The text of a name.
+std::string_view LinParser::WithoutBlanks(const char* start, const char* end) {
+    const char* const whole = start;
+    const char* const wholeEnd = end;
+    if (policy_.looseForm) {
+        start = std::min(LinLineReader::PastBlanks(start), end);
+        while (end != start && LinLineReader::IsBlank(end[-1])) {
+            --end;
+        }
+        if (start != whole || end != wholeEnd) {
+            Forgive(LinFaultKind::kBlank, start != whole ? whole : end);
+        }
+    }
+    return {start, static_cast<std::size_t>(end - start)};
+}
+
+void LinParser::Forgive(LinFaultKind kind, const char* cursor) {
+    if (reader_.LineNumber() != forgivenLine_) {
+        forgivenLine_ = reader_.LineNumber();
+        forgivenKinds_ = 0;
+    }
+    static_assert(static_cast<unsigned>(LinFaultKind::kTextBehindPattern) < 64);
+    const std::uint64_t bit = std::uint64_t{1} << static_cast<unsigned>(kind);
+    if ((forgivenKinds_ & bit) == 0) {
+        forgivenKinds_ |= bit;
+        LinFault& fault = faultLog_.Forgive(kind, reader_.LineNumber());
+        fault.column = reader_.ColumnOf(cursor);
+        fault.lineText = std::string_view(cursor).substr(0, kLongestTextInFault);
+    }
 }
 
 LinResult LinParser::SyntaxError(LinFaultKind kind, const char* cursor) {
     LinFault& fault = faultLog_.Add(kSyntaxError, kind);
     fault.line = reader_.LineNumber();
     fault.column = reader_.ColumnOf(cursor);
-    fault.lineText = reader_.ContentText();
+    fault.lineText = std::string_view(reader_.ContentText()).substr(0, kLongestTextInFault);
     return kSyntaxError;
 }
 

@@ -6,13 +6,14 @@ namespace LineConverter {
 LinResult LinParser::Accept(LinStyleVisitor& visitor) {
     LinResult result = kSuccess;
     visitor.Begin();
-    std::size_t elementIndex = 0;
-    for (const LinetypeRecord& record : linetypes_) {
-        faultLog_.EnterPlace({0, &record, 0});
+    for (std::size_t linetype = 0; linetype < linetypes_.size(); ++linetype) {
+        const LinetypeRecord& record = linetypes_[linetype];
+        faultLog_.EnterPlace({policy_.faultsStayLocal ? HeaderLine(linetype) : 0, &record, 0});
         visitor.BeginLinetype(record, record.description, static_cast<int>(record.elements.size()));
         std::size_t number = 0;
         for (const LinElement& element : record.elements) {
-            faultLog_.EnterPlace({elementLines_[elementIndex++], &record, ++number});
+            faultLog_.EnterPlace({ElementLine(linetype, number), &record, number + 1});
+            ++number;
             if (!WalkElement(element, visitor)) {
                 result = kShapeFileNotLoaded;
             }

@@ -16,7 +16,7 @@ namespace linetypetest {
 /// TICK).
 class ParserFixture : public testing::Test {
 protected:
-    ParserFixture() {
+    explicit ParserFixture(const LineConverter::LinPolicy& policy = {}) : parser(&styles, &files, policy) {
         styles.AddTrueType(L"ST", L"Arial");
         styles.AddShx(L"STANDARD", L"txt.shx");
         files.files[L"TXT.SHX"] =
@@ -54,7 +54,7 @@ protected:
     TestFolder folder;
     FakeStyles styles;
     FakeFiles files;
-    LineConverter::LinParser parser{&styles, &files};
+    LineConverter::LinParser parser;
 };
 
 } // namespace linetypetest

@@ -1,0 +1,159 @@
+// styleconv linetypes --tolerant and --font: what is converted, and what is said about the rest.
+#include "tests/support/ShapeFileBuilder.h"
+#include "tests/support/ToolRun.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+using test_support::ShapeFileBuilder;
+
+using Texts = std::vector<std::string>;
+
+class TolerantLinetypes : public testing::Test {
+protected:
+    ToolResult Run(const std::string& text, Texts more = {"--tolerant"}) {
+        Texts arguments = {"linetypes", folder.Write("lines.lin", text)};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return RunTool(arguments);
+    }
+
+    // What is said, without the name of the file.
+    std::string Said(const ToolResult& result) const {
+        std::string said = result.errors;
+        const std::string name = folder / "lines.lin";
+        for (std::size_t at = said.find(name); at != std::string::npos; at = said.find(name, at)) {
+            said.erase(at, name.size());
+        }
+        return said;
+    }
+
+    // The names of the symbols, each followed by ";". Parts of a compound are named as it is.
+    static std::string Names(const ToolResult& result) {
+        std::string names;
+        const std::string key = "\"name\": \"";
+        for (std::size_t at = result.output.find(key); at != std::string::npos;
+             at = result.output.find(key, at)) {
+            at += key.size();
+            const std::string name = result.output.substr(at, result.output.find('"', at) - at) + ";";
+            names += names.ends_with(name) ? "" : name;
+        }
+        return names;
+    }
+
+    std::string Font() const {
+        return ShapeFileBuilder::Shapes().FontInfo("FONT", {4, 1, 0}).Shape(65, "A", {0x10, 0}).Text();
+    }
+
+    ScratchFolder folder;
+};
+
+TEST_F(TolerantLinetypes, RightLinetypesAreConvertedAndWrongOnesNamed) {
+    const ToolResult result = Run("*GOOD\nA,1\n*BAD\nA,1,,2\n*ALSO\nA,2\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(Names(result), "GOOD;ALSO;");
+    EXPECT_EQ(
+        Said(result),
+        ":4: warning: expected the length of a dash, or \"[\" at byte 5: A,1,,2; left out (linetype BAD)\n");
+    EXPECT_EQ(Run("*GOOD\nA,1\n*BAD\nA,1,,2\n", {}).status, 1) << "strict is the default";
+}
+
+TEST_F(TolerantLinetypes, UprightRotationIsToldOnceAFile) {
+    folder.Write("txt.shx", Font());
+    const ToolResult result = Run("*X\nA,1,[\"A\",STANDARD,U=0]\n*Y\nA,1,[\"A\",STANDARD,U=90]\n");
+    EXPECT_EQ(Names(result), "X;Y;");
+    EXPECT_EQ(Said(result),
+              ":2: warning: U= is not a known placement key; read as R= throughout the file (linetype X)\n");
+}
+
+TEST_F(TolerantLinetypes, CharacterCodesInTextsBecomeCharacters) {
+    const ToolResult result = Run("*X\nA,1,[\"20\\U+00B0\",STANDARD]\n", {"--tolerant", "--font", "Arial"});
+    EXPECT_NE(result.output.find("\"content\": \"'20\xC2\xB0'\""), std::string::npos) << result.output;
+    EXPECT_EQ(Said(result),
+              ":2: warning: \\U+ and a number is not a character in the texts of linetypes; read as "
+              "one (linetype X)\n");
+    EXPECT_NE(Run("*X\nA,1,[\"20\\U+00B0\",STANDARD]\n", {"--font", "Arial"}).output.find("20\\\\U+00B0"),
+              std::string::npos);
+}
+
+TEST_F(TolerantLinetypes, MissingStyleAndShapeFileAreToldWithWhereTheyWereLookedFor) {
+    const ToolResult result = Run("*X\nA,1,[\"A\",roads]\n*Y\nA,[M,none.shx]\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(Names(result), "X;");
+    EXPECT_EQ(
+        Said(result),
+        ": note: font file txt.shx not found in ., " + folder / "" +
+            "; the built-in font stands in for it\n"
+            ":2: warning: text style ROADS not found in the empty drawing that is used without --drawing; "
+            "STANDARD stands in for it (linetype X)\n"
+            ":4: warning: shape file NONE.SHX not found in ., " +
+            folder / "" + "; left out (linetype Y)\n");
+}
+
+TEST_F(TolerantLinetypes, NothingConvertedIsAFault) {
+    const ToolResult result = Run("*X\nA,x\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "");
+    EXPECT_NE(Said(result).find(": none of the file's linetypes can be converted\n"), std::string::npos);
+    EXPECT_EQ(Said(Run("nothing\n")), ": the file has no linetypes: no line begins with \"*\" and a name\n");
+}
+
+TEST_F(TolerantLinetypes, LinetypeAskedForThatIsLeftOutIsAFault) {
+    const ToolResult result = Run("*X\nA,x\n*Y\nA,1\n", {"--tolerant", "--name", "X"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(Said(result).find(": the file has no linetype named X\n"), std::string::npos);
+}
+
+TEST_F(TolerantLinetypes, BuiltInFontStandsInOverADrawing) {
+    const auto drawing = [&](const std::string& styles) {
+        return folder.Write("drawing.json",
+                            R"({"format": "styleconversion/drawing", "version": 1, "textStyles": [)" +
+                                styles + "]}");
+    };
+    const std::string text = "*X\nA,1,[\"I\",STANDARD,S=21]\n";
+    const ToolResult without = Run(text, {});
+    const ToolResult over =
+        Run(text, {"--tolerant", "--drawing", drawing(R"({"name": "STANDARD", "fileName": "txt.shx"})")});
+    EXPECT_EQ(over.output, without.output);
+    EXPECT_EQ(Said(over), Said(without));
+    const ToolResult noStandard = Run(text, {"--tolerant", "--drawing", drawing("")});
+    EXPECT_EQ(noStandard.output, without.output);
+    EXPECT_EQ(Said(noStandard), ": note: text style STANDARD not found in " + folder / "drawing.json" +
+                                    "; read as one with txt.shx\n" + Said(without));
+}
+
+using LinetypesFont = TolerantLinetypes;
+
+TEST_F(LinetypesFont, IsOfTheDefaultStyle) {
+    std::filesystem::create_directory(folder / "Fonts");
+    const std::string path = folder.Write("Fonts/My Font.shx", Font());
+    const std::string text = "*X\nA,1,[\"A\",STANDARD,S=2]\n";
+    // 2 / 4 units high.
+    const ToolResult byPath = Run(text, {"--font", path});
+    EXPECT_EQ(byPath.errors, "");
+    EXPECT_NE(byPath.output.find("\"M 1,0 l 0.5,0 \""), std::string::npos);
+    EXPECT_EQ(Run(text, {"--font", "My Font.SHX", "--shapes", folder / "Fonts"}).output, byPath.output);
+    const ToolResult typeface = Run(text, {"--font", "Times New Roman"});
+    EXPECT_NE(typeface.output.find("\"fontName\": \"Times New Roman\""), std::string::npos);
+}
+
+TEST_F(LinetypesFont, ThatIsNotFoundIsAFault) {
+    const ToolResult result = Run("*X\nA,1,[\"A\",STANDARD]\n", {"--font", "none.shx"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(Said(result),
+              ": line 2: font file NONE.SHX of text style STANDARD not found in ., " + folder / "" + "\n");
+}
+
+TEST_F(LinetypesFont, GoesWithoutADrawingOnly) {
+    const ToolResult result = Run("*X\nA,1\n", {"--font", "Arial", "--drawing", "any.json"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors,
+              "--font: goes without --drawing only: with it, text styles have the fonts that the "
+              "drawing gives them\n");
+}
+
+} // namespace
