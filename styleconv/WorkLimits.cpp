@@ -1,6 +1,7 @@
 #include "styleconv/WorkLimits.h"
 
 #include "styleconv/Command.h"
+#include "styleconv/Interruption.h"
 #include "styleconv/Messages.h"
 #include "styleconv/NumberOption.h"
 #include "styleconv/ProcessMemory.h"
@@ -15,7 +16,8 @@
 namespace styleconv {
 namespace {
 
-// How often time and memory are looked at; within it a process can take some hundred MiB more than it may.
+// How often time, memory and signals are looked at; within it a process can take some hundred MiB more than
+// it may.
 constexpr std::chrono::milliseconds kInterval(20);
 
 // A century: more seconds than that would leave the clock's range.
@@ -67,6 +69,14 @@ void EndProcess(const std::string& what) {
     std::_Exit(kInputFault);
 }
 
+// Ends the process as a signal asks, and leaves nothing behind.
+void EndInterrupted(int signal) {
+    FilesMutex().lock();
+    ClearProgress();
+    TemporaryFile::RemoveAll();
+    EndByInterruption(signal);
+}
+
 } // namespace
 
 void AddLimitOptions(CLI::App& command, LimitOptions& options) {
@@ -112,6 +122,9 @@ void WorkLimits::Lift() {
 void WorkLimits::Watch() {
     std::unique_lock lock(mutex_);
     while (!ended_.wait_for(lock, kInterval, [this] { return end_; })) {
+        if (const int signal = Interruption(); signal != 0) {
+            EndInterrupted(signal);
+        }
         if (std::chrono::steady_clock::now() >= deadline_) {
             EndProcess("not done within the time limit of " + options_.timeText +
                        " seconds; --time-limit gives it more");

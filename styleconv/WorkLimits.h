@@ -28,8 +28,8 @@ void NowAtFile(std::string_view file);
 void NowAtItem(std::string_view item);
 
 /// While an object of this class lives, the process ends with status 1 and a message soon after it has taken
-/// more time or more memory than it may. Temporary files are removed; a result that is in place stays. One at
-/// a time.
+/// more time or more memory than it may, and as a signal asks soon after NoteInterruptions noted one.
+/// Temporary files are removed; a result that is in place stays. One at a time.
 class WorkLimits {
 public:
     explicit WorkLimits(const LimitOptions& options);

@@ -1,6 +1,7 @@
 // The command line of styleconv: which commands there are, and what a wrong command line gets.
 #include "styleconv/BlocksCommand.h"
 #include "styleconv/GlyphsCommand.h"
+#include "styleconv/Interruption.h"
 #include "styleconv/LinetypesCommand.h"
 #include "styleconv/ListCommand.h"
 #include "styleconv/PatternsCommand.h"
@@ -60,6 +61,7 @@ ExitStatus Run(int argc, char** argv) {
     if (!quiet) {
         AllowProgress();
     }
+    NoteInterruptions();
     const WorkLimits kept(limits);
     const ExitStatus status = runner();
     ClearProgress();

@@ -4,6 +4,7 @@
 #include "tests/support/ToolRun.h"
 
 #include <chrono>
+#include <csignal>
 #include <gtest/gtest.h>
 
 namespace {
@@ -125,6 +126,22 @@ TEST(Limits, AHatchOfABillionLinesDoesNotEvenNeedThem) {
 }
 
 #if !defined(_WIN32)
+TEST(Interruptions, LeaveTheOldFileAndNoOther) {
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        const ScratchFolder folder;
+        const std::string file = folder.Write("fan.shx", FanOfNothing());
+        folder.Write("out.json", "old");
+        // The first shape opens the temporary file, and the second keeps the tool at work.
+        const int ended = support::SignalThatEndsTool(folder, 3,
+                                                      {"glyphs", file, "--number", "1", "--number", "40",
+                                                       "--time-limit", "60", "-o", folder / "out.json"},
+                                                      signal);
+        EXPECT_EQ(ended, signal);
+        EXPECT_EQ(folder.Read("out.json"), "old");
+        EXPECT_EQ(folder.Names(), (std::vector<std::string>{"fan.shx", "out.json"}));
+    }
+}
+
 TEST(Limits, LeaveNoCopyOfStandardInput) {
     const ScratchFolder folder;
     const ToolResult result = support::RunToolWithTemporariesIn(

@@ -8,7 +8,9 @@
 #include <random>
 
 #if !defined(_WIN32)
+#include <csignal>
 #include <sys/wait.h>
+#include <unistd.h>
 #endif
 
 namespace support {
@@ -137,5 +139,32 @@ std::vector<std::string> ScratchFolder::Names() const {
     std::sort(names.begin(), names.end());
     return names;
 }
+
+#if !defined(_WIN32)
+int SignalThatEndsTool(const ScratchFolder& folder, std::size_t entries,
+                       const std::vector<std::string>& arguments, int signal) {
+    std::vector<char*> words{const_cast<char*>(STYLECONV_PATH)};
+    for (const std::string& argument : arguments) {
+        words.push_back(const_cast<char*>(argument.c_str()));
+    }
+    words.push_back(nullptr);
+    const pid_t process = fork();
+    if (process == 0) {
+        std::signal(SIGINT, SIG_DFL);
+        execv(words[0], words.data());
+        _exit(127);
+    }
+    int status = 0;
+    pid_t ended = 0;
+    while (folder.Names().size() < entries && (ended = waitpid(process, &status, WNOHANG)) == 0) {
+        usleep(1000);
+    }
+    if (ended == 0) {
+        kill(process, signal);
+        waitpid(process, &status, 0);
+    }
+    return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+}
+#endif
 
 } // namespace support

@@ -53,4 +53,11 @@ private:
     std::filesystem::path path_;
 };
 
+#if !defined(_WIN32)
+/// Starts the tool, waits until `folder` holds `entries` entries, sends it the signal, and gives the number
+/// of the signal that ended it; 0 when it ended by itself.
+int SignalThatEndsTool(const ScratchFolder& folder, std::size_t entries,
+                       const std::vector<std::string>& arguments, int signal);
+#endif
+
 } // namespace support
