@@ -10,7 +10,11 @@ namespace styleconv {
 enum class Severity : std::uint8_t {
     kError,   // a strict conversion fails or loses something
     kWarning, // it does not, but the result will surprise
+    kNote,    // all is as it should be
 };
+
+/// "error", "warning" or "note".
+const char* SeverityName(Severity severity);
 
 struct Finding {
     std::string file;       // as messages call it

@@ -5,7 +5,9 @@
 #include "StyleConversion/pattern/PatternLimits.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Utf8.h"
+#include "styleconv/Finding.h"
 #include "styleconv/Messages.h"
+#include "styleconv/PatternFindings.h"
 #include "styleconv/Progress.h"
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
@@ -20,6 +22,8 @@ struct PatternsOptions : CommonOptions {
     std::string file;
     std::vector<std::string> names;
     std::string codePage;
+    std::string units;
+    bool tolerant = false;
 };
 
 struct LoadedPatterns {
@@ -40,8 +44,8 @@ void SayThereAreNoPatterns(const InputFile& input) {
 }
 
 // False, after saying why, when the file has no patterns or its reading ended early.
-bool Load(const InputFile& input, LoadedPatterns& loaded) {
-    pattern::ParsePatternFile(input.Bytes(), loaded.file, &loaded.reading);
+bool Load(const InputFile& input, LoadedPatterns& loaded, const pattern::PatternPolicy& policy = {}) {
+    pattern::ParsePatternFile(input.Bytes(), loaded.file, &loaded.reading, policy);
     if (loaded.reading.end == pattern::PatternReading::End::kLineTooLong) {
         SayAtLine(input.Name(), loaded.reading.endLine,
                   "the line has more than " + std::to_string(pattern::kLongestLine) +
@@ -109,6 +113,15 @@ bool ConvertNamed(const InputFile& input, LoadedPatterns& loaded, const std::vec
     return complete;
 }
 
+pattern::PatternPolicy PolicyOf(const PatternsOptions& options) {
+    pattern::PatternPolicy policy =
+        options.tolerant ? pattern::kTolerantPatternPolicy : pattern::PatternPolicy();
+    if (!options.units.empty()) {
+        policy.wantedUnit = options.units == "mm" ? pattern::Unit::kMillimetre : pattern::Unit::kInch;
+    }
+    return policy;
+}
+
 ExitStatus Patterns(const PatternsOptions& options) {
     InputFile input(options.file);
     if (!input.Read()) {
@@ -118,8 +131,11 @@ ExitStatus Patterns(const PatternsOptions& options) {
         return kUsageFault;
     }
     LoadedPatterns loaded;
-    if (!Load(input, loaded)) {
+    if (!Load(input, loaded, PolicyOf(options))) {
         return kInputFault;
+    }
+    if (options.tolerant) {
+        SayFindings(ForgivenPatternSlips(input.Name(), loaded.file, loaded.reading));
     }
     Symbols symbols;
     const bool converted = options.names.empty() ? ConvertAll(input, loaded, symbols)
@@ -134,6 +150,11 @@ void AddPatternsCommand(CLI::App& app, Runner& runner) {
     CLI::App* const command = app.add_subcommand("patterns", "Convert the hatch patterns of a .pat file");
     command->add_option("FILE", options->file, "A pattern file, or - for standard input")->required();
     AddNameOption(*command, options->names, "Convert only this pattern; may be given again");
+    AddTolerantOption(*command, options->tolerant);
+    command
+        ->add_option("--units", options->units,
+                     "Scale to this unit, mm or inch, a file that says ;%UNITS= otherwise")
+        ->check(CLI::IsMember({"mm", "inch"}));
     AddCodePageOption(*command, options->codePage);
     AddCommonOptions(*command, *options);
     command->callback([options, &runner] { runner = [options] { return Patterns(*options); }; });

@@ -25,6 +25,7 @@ LineCursor::Step LineCursor::Next(std::size_t longest, std::string_view& line) {
             line.remove_suffix(1);
         }
     }
+    length_ = line.size();
     if (line.size() > longest) {
         return Step::kTooLong;
     }

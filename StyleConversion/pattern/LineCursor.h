@@ -22,9 +22,13 @@ public:
     /// The number of the line that Next looked at last, from 1.
     std::size_t GetLineNumber() const { return number_; }
 
+    /// How long that line is without its end, text behind a NUL included.
+    std::size_t GetLineLength() const { return length_; }
+
 private:
     std::string_view rest_;
     std::size_t number_ = 0;
+    std::size_t length_ = 0;
 };
 
 } // namespace pattern

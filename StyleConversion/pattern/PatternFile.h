@@ -2,6 +2,8 @@
 #pragma once
 
 #include "StyleConversion/pattern/PatternLine.h"
+#include "StyleConversion/pattern/PatternPolicy.h"
+#include "StyleConversion/pattern/PatternSlip.h"
 
 #include <cstddef>
 #include <map>
@@ -31,11 +33,15 @@ struct PatternReading {
     std::map<std::string, std::vector<std::size_t>> headerLines; // keyed by name: each of its headers
     std::map<std::string, std::vector<std::size_t>> familyLines; // keyed by name: each family, in file order
     std::vector<std::size_t> linesBeforeHeaders;                 // family lines that belong to no pattern
+    std::vector<PatternSlip> slips;                              // under a policy that forgives
+    Unit unit = Unit::kNone;                                     // of the last "%UNITS=" of a remark
+    std::size_t unitLine = 0;                                    // its line
 };
 
 /// Reads the text of a pattern file into `file`, emptied first. The reading ends without a word at a line
 /// that is too long; what was read before it stays. `reading`, where it is not null, is filled as well.
-void ParsePatternFile(std::string_view bytes, PatternFile& file, PatternReading* reading = nullptr);
+void ParsePatternFile(std::string_view bytes, PatternFile& file, PatternReading* reading = nullptr,
+                      const PatternPolicy& policy = {});
 
 /// The same from a file on disk. One that cannot be opened has no patterns; one that cannot be read to its
 /// end has those read before.

@@ -9,6 +9,8 @@ namespace pattern {
 /// always used a buffer of 128 characters that also holds the terminator.
 inline constexpr std::size_t kLongestLine = 127;
 
+inline constexpr double kMillimetresPerInch = 25.4;
+
 /// How many multiples are tried, along each axis, for a rectangle whose corners lie on the family's lattice.
 inline constexpr int kLatticeSearch = 511;
 

@@ -1,43 +1,15 @@
-// Text of a family line -> numbers -> the family.
+// Numbers of a family line -> the family.
 #include "StyleConversion/pattern/PatternLine.h"
 
-#include "StyleConversion/encoding/NumberReader.h"
+#include "StyleConversion/pattern/FamilyNumbers.h"
 #include "StyleConversion/pattern/RepeatTile.h"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
 #include <utility>
 
 namespace pattern {
 namespace {
-
-// The numbers of a family line in their order: the first five have a meaning each.
-struct FamilyNumbers {
-    std::array<double, 5> leading{};
-    std::vector<double> dashes;
-};
-
-FamilyNumbers ReadNumbers(std::string_view line) {
-    FamilyNumbers numbers;
-    const auto count = static_cast<std::size_t>(std::count(line.begin(), line.end(), ',')) + 1;
-    if (count > numbers.leading.size()) {
-        numbers.dashes.reserve(count - numbers.leading.size());
-    }
-    for (std::size_t i = 0; i < count; ++i) {
-        // No number reaches over a comma, so the rest of the line can be offered whole.
-        const encoding::NumberReading reading = encoding::ReadNumber(line);
-        if (i < numbers.leading.size()) {
-            numbers.leading[i] = reading.value;
-        } else {
-            numbers.dashes.push_back(reading.value);
-        }
-        line.remove_prefix(std::min(line.size(), line.find(',', reading.used)));
-        line.remove_prefix(line.empty() ? 0 : 1);
-    }
-    return numbers;
-}
 
 bool IsGap(double dash) {
     return dash < 0;
@@ -78,6 +50,8 @@ void FindTile(PatternLine& line) {
     }
 }
 
+} // namespace
+
 PatternLine MakePatternLine(FamilyNumbers&& numbers) {
     PatternLine line;
     line.angle = numbers.leading[0];
@@ -101,8 +75,6 @@ PatternLine MakePatternLine(FamilyNumbers&& numbers) {
     FindTile(line);
     return line;
 }
-
-} // namespace
 
 PatternLine ParsePatternLine(std::string_view line) {
     return MakePatternLine(ReadNumbers(line));

@@ -33,4 +33,8 @@ struct PatternLine {
 /// continuous line. The tile is found as well.
 PatternLine ParsePatternLine(std::string_view line);
 
+/// The family of these numbers.
+struct FamilyNumbers;
+PatternLine MakePatternLine(FamilyNumbers&& numbers);
+
 } // namespace pattern

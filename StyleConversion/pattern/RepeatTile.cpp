@@ -147,4 +147,19 @@ bool FindStackedTile(PatternLine& line) {
     return true;
 }
 
+double PhaseError(const PatternLine& line) {
+    if (line.rotatedTile || line.offset == 0 || line.rowCount < 1) {
+        return 0.0;
+    }
+    // As the search went, so that its last digits are these.
+    double phase = 0.0;
+    for (int n = 1; n < line.rowCount; ++n) {
+        phase += line.offset;
+        if (phase >= line.dashTotal) {
+            phase -= line.dashTotal;
+        }
+    }
+    return std::fabs(phase + line.offset - line.dashTotal);
+}
+
 } // namespace pattern

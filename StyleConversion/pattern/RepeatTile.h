@@ -15,4 +15,8 @@ bool FindRotatedTile(PatternLine& line);
 /// result is false.
 bool FindStackedTile(PatternLine& line);
 
+/// How well the tile of a family closes: by how much, in drawing units, the dash cycle behind the last
+/// stacked line is out of phase; 0 for tiles of other kinds.
+double PhaseError(const PatternLine& line);
+
 } // namespace pattern

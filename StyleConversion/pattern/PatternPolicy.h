@@ -1,0 +1,24 @@
+// How far a pattern file may stray from its form and still be read.
+#pragma once
+
+#include <cstdint>
+
+namespace pattern {
+
+enum class Unit : std::uint8_t { kNone, kMillimetre, kInch };
+
+/// By default nothing is forgiven. Whatever else is, is told to the reading: one that forgives and has
+/// nothing to tell gives what a strict one gives.
+struct PatternPolicy {
+    /// A long line does not end the reading.
+    bool linesOfAnyLength = false;
+    /// Forms that people write and whose meaning is plain: blanks before a header or a remark, lines of
+    /// blanks, remarks behind numbers and names, a dash list that an empty number ends, a byte-order mark.
+    bool looseForm = false;
+    /// Lengths behind a remark "%UNITS=" of another unit are scaled to this one; not under kNone.
+    Unit wantedUnit = Unit::kNone;
+};
+
+inline constexpr PatternPolicy kTolerantPatternPolicy{true, true, Unit::kNone};
+
+} // namespace pattern

@@ -1,0 +1,66 @@
+// styleconv patterns --tolerant and --units: what is converted, and what is said about the rest.
+#include "tests/support/ToolRun.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+
+class TolerantPatternsCommand : public testing::Test {
+protected:
+    ToolResult Run(const std::string& text, std::vector<std::string> more = {"--tolerant"}) {
+        more.insert(more.begin(), {"patterns", folder.Write("walls.pat", text)});
+        return RunTool(more);
+    }
+
+    std::string Said(const ToolResult& result) const {
+        std::string said = result.errors;
+        const std::string name = folder / "walls.pat";
+        for (std::size_t at = said.find(name); at != std::string::npos; at = said.find(name, at)) {
+            said.erase(at, name.size());
+        }
+        return said;
+    }
+
+    ScratchFolder folder;
+};
+
+TEST_F(TolerantPatternsCommand, LongLinesAreRead) {
+    const std::string text = "*X\n;" + std::string(127, '-') + "\n0,0,0,0,1\n";
+    EXPECT_EQ(Run(text, {}).status, 1);
+    const ToolResult result = Run(text);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(Said(result), ":2: warning: the line has more than 127 characters; read whole (pattern X)\n");
+    EXPECT_EQ(result.output, Run("*X\n0,0,0,0,1\n", {}).output);
+}
+
+TEST_F(TolerantPatternsCommand, ListOfDashesEndsAtAnEmptyNumber) {
+    const ToolResult result = Run("*X\n0,0,0,0,1,1,-1,,2\n");
+    EXPECT_EQ(result.output, Run("*X\n0,0,0,0,1,1,-1\n", {}).output);
+    EXPECT_EQ(Said(result),
+              ":2: warning: nothing stands where a number should; among the dashes it ends them, "
+              "before them it reads as 0 (pattern X)\n");
+}
+
+TEST_F(TolerantPatternsCommand, FamiliesThatAreLeftOutAreNamed) {
+    // A shift that comes back into phase after none of 64 lines, and no rectangle at 0 degrees.
+    const std::string text = "*X\n0,0,0,0,1\n0,0,0,0.001,1,1,-1\n";
+    EXPECT_EQ(Said(Run(text)), ":3: warning: the family has no repeat tile; left out (pattern X)\n");
+    EXPECT_EQ(Said(Run(text, {})), "");
+    EXPECT_EQ(Run(text).output, Run(text, {}).output);
+}
+
+TEST_F(TolerantPatternsCommand, UnitsScaleAFileOfAnotherUnit) {
+    const std::string text = ";%UNITS=INCH\n*X\n0,0,0,0,1\n";
+    EXPECT_NE(Run(text, {"--units", "mm"}).output.find("\"repeatY\": \"25.4\""), std::string::npos);
+    EXPECT_EQ(Run(text, {"--units", "inch"}).output, Run(text, {}).output);
+    EXPECT_EQ(Run("*X\n0,0,0,0,1\n", {"--units", "mm"}).output, Run("*X\n0,0,0,0,1\n", {}).output);
+    EXPECT_EQ(Said(Run(text, {"--tolerant", "--units", "mm"})),
+              ":1: warning: the file is in another unit; lengths from here on are scaled\n");
+    EXPECT_EQ(Run(text, {"--units", "feet"}).status, 2);
+}
+
+} // namespace
