@@ -1,15 +1,14 @@
 #include "documents/GlyphsDocument.h"
 
-#include "StyleConversion/platform/Utf8.h"
-#include "documents/ItemText.h"
+#include "documents/JsonText.h"
 
 #include <cmath>
-#include <nlohmann/json.hpp>
 
 namespace documents {
 namespace {
 
-using Json = nlohmann::ordered_json;
+// Where a glyph stands: an item of a list that is a member of the document.
+constexpr std::size_t kGlyphLevel = 2;
 
 const char* KindName(ShxUtility::ShapeFileKind kind) {
     switch (kind) {
@@ -26,23 +25,44 @@ const char* KindName(ShxUtility::ShapeFileKind kind) {
 }
 
 // Whole numbers without a decimal point, as far as doubles tell all whole numbers apart.
-Json NumberJson(double value) {
+void WriteNumber(JsonText& json, double value) {
     constexpr double kWholeLimit = 9007199254740992.0;
     const bool whole = std::fabs(value) < kWholeLimit && std::trunc(value) == value;
     if (whole && !(value == 0.0 && std::signbit(value))) {
-        return static_cast<std::int64_t>(value);
+        json.Integer(static_cast<std::int64_t>(value));
+    } else {
+        json.Number(value);
     }
-    return std::isfinite(value) ? Json(value) : Json(nullptr);
 }
 
-Json GlyphJson(const Glyph& glyph) {
-    Json json = {{"number", glyph.number}, {"name", platform::WideToValidUtf8(glyph.name)}};
+void WriteGlyph(JsonText& json, const Glyph& glyph) {
+    json.BeginObject();
+    json.Key("number");
+    json.Integer(glyph.number);
+    json.Key("name");
+    json.Text(glyph.name);
     if (glyph.result == ShxUtility::kSuccess) {
-        json["geometry"] = platform::WideToValidUtf8(glyph.path);
-        json["end"] = Json::array({NumberJson(glyph.endX), NumberJson(glyph.endY)});
+        json.Key("geometry");
+        json.Text(glyph.path);
+        json.Key("end");
+        json.BeginList();
+        WriteNumber(json, glyph.endX);
+        WriteNumber(json, glyph.endY);
+        json.EndList();
     }
-    json["result"] = static_cast<std::int32_t>(glyph.result);
-    return json;
+    json.Key("result");
+    json.Integer(static_cast<std::int32_t>(glyph.result));
+    json.EndObject();
+}
+
+// On one line.
+std::string ListOfBytes(const std::vector<std::uint8_t>& bytes) {
+    std::string list = "[";
+    for (const std::uint8_t byte : bytes) {
+        list += list.size() > 1 ? "," : "";
+        list += std::to_string(byte);
+    }
+    return list += ']';
 }
 
 } // namespace
@@ -56,15 +76,18 @@ std::string GlyphsWriter::Head() const {
     head += "\",\n  \"isVersion10\": ";
     head += file_.isVersion10 ? "true" : "false";
     head += ",\n  \"fontInfo\": ";
-    head += Json(file_.fontInfo).dump();
+    head += ListOfBytes(file_.fontInfo);
     head += ",\n  \"glyphs\": [";
     return head;
 }
 
 bool GlyphsWriter::Add(const Glyph& glyph) {
-    const std::string separator = started_ ? "," : Head();
+    text_ = started_ ? "," : Head();
     started_ = true;
-    return sink_(separator) && sink_(ItemText(GlyphJson(glyph)));
+    text_ += "\n    ";
+    JsonText json(text_, kGlyphLevel);
+    WriteGlyph(json, glyph);
+    return sink_(text_);
 }
 
 bool GlyphsWriter::Finish() {

@@ -42,6 +42,7 @@ private:
 
     const ShxUtility::ShapesInFile& file_;
     TextSink sink_;
+    std::string text_; // of the last glyph, kept for its room
     bool started_ = false;
 };
 

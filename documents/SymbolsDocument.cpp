@@ -1,117 +1,148 @@
 #include "documents/SymbolsDocument.h"
 
-#include "StyleConversion/platform/Utf8.h"
-#include "documents/ItemText.h"
+#include "documents/JsonText.h"
 
-#include <nlohmann/json.hpp>
 #include <string>
 
 namespace documents {
 namespace {
 
-using Json = nlohmann::ordered_json;
+// Where a symbol stands: an item of a list that is a member of the document.
+constexpr std::size_t kSymbolLevel = 2;
 
-void Put(Json& object, const char* key, const std::wstring& value) {
+void Put(JsonText& json, std::string_view key, const std::wstring& value) {
     if (!value.empty()) {
-        object[key] = platform::WideToValidUtf8(value);
+        json.Key(key);
+        json.Text(value);
     }
 }
 
 class GraphicJson : public TylModel::IGraphicElementVisitor {
 public:
+    explicit GraphicJson(JsonText& json) : json_(json) {}
+
     void VisitPath(TylModel::Path& path) override {
-        json = {{"type", "Path"}};
-        Put(json, "geometry", path.GetGeometry());
-        Put(json, "lineColor", path.GetLineColor());
-        Put(json, "fillColor", path.GetFillColor());
-        Put(json, "lineWeight", path.GetLineWeight());
-        Put(json, "lineWeightScalable", path.GetLineWeightScalable());
+        Begin("Path");
+        Put(json_, "geometry", path.GetGeometry());
+        Put(json_, "lineColor", path.GetLineColor());
+        Put(json_, "fillColor", path.GetFillColor());
+        Put(json_, "lineWeight", path.GetLineWeight());
+        Put(json_, "lineWeightScalable", path.GetLineWeightScalable());
+        json_.EndObject();
     }
 
     void VisitText(TylModel::Text& text) override {
-        json = {{"type", "Text"}};
-        Put(json, "content", text.GetContent());
-        Put(json, "fontName", text.GetFontName());
-        Put(json, "height", text.GetHeight());
-        Put(json, "angle", text.GetAngle());
-        Put(json, "positionX", text.GetPositionX());
-        Put(json, "positionY", text.GetPositionY());
-        Put(json, "horizontalAlignment", text.GetHorizontalAlignment());
-        Put(json, "verticalAlignment", text.GetVerticalAlignment());
-        Put(json, "textColor", text.GetTextColor());
-        Put(json, "bold", text.GetBold());
-        Put(json, "italic", text.GetItalic());
-        Put(json, "underlined", text.GetUnderlined());
-        Put(json, "overlined", text.GetOverlined());
+        Begin("Text");
+        Put(json_, "content", text.GetContent());
+        Put(json_, "fontName", text.GetFontName());
+        Put(json_, "height", text.GetHeight());
+        Put(json_, "angle", text.GetAngle());
+        Put(json_, "positionX", text.GetPositionX());
+        Put(json_, "positionY", text.GetPositionY());
+        Put(json_, "horizontalAlignment", text.GetHorizontalAlignment());
+        Put(json_, "verticalAlignment", text.GetVerticalAlignment());
+        Put(json_, "textColor", text.GetTextColor());
+        Put(json_, "bold", text.GetBold());
+        Put(json_, "italic", text.GetItalic());
+        Put(json_, "underlined", text.GetUnderlined());
+        Put(json_, "overlined", text.GetOverlined());
+        json_.EndObject();
     }
 
-    Json json;
+private:
+    void Begin(std::string_view type) {
+        json_.BeginObject();
+        json_.Key("type");
+        json_.PlainText(type);
+    }
+
+    JsonText& json_;
 };
 
-Json ParameterJson(const TylModel::Parameter& parameter) {
-    Json json = Json::object();
+void WriteParameter(JsonText& json, const TylModel::Parameter& parameter) {
+    json.BeginObject();
     Put(json, "identifier", parameter.GetIdentifier());
     Put(json, "displayName", parameter.GetDisplayName());
     Put(json, "description", parameter.GetDescription());
     Put(json, "defaultValue", parameter.GetDefaultValue());
-    json["dataType"] = static_cast<int>(parameter.GetDataType());
-    return json;
+    json.Key("dataType");
+    json.Integer(static_cast<int>(parameter.GetDataType()));
+    json.EndObject();
 }
 
-void PutUsages(Json& json, const TylModel::SimpleSymbolDefinition& definition) {
+void BeginUsage(JsonText& json, std::string_view key) {
+    json.Key(key);
+    json.BeginObject();
+}
+
+void WriteUsages(JsonText& json, const TylModel::SimpleSymbolDefinition& definition) {
     if (const TylModel::PointUsage* const usage = definition.GetPointUsage()) {
-        Json& object = json["pointUsage"] = Json::object();
-        Put(object, "angle", usage->GetAngle());
+        BeginUsage(json, "pointUsage");
+        Put(json, "angle", usage->GetAngle());
+        json.EndObject();
     }
     if (const TylModel::LineUsage* const usage = definition.GetLineUsage()) {
-        Json& object = json["lineUsage"] = Json::object();
-        Put(object, "angle", usage->GetAngle());
-        Put(object, "angleControl", usage->GetAngleControl());
-        Put(object, "repeat", usage->GetRepeat());
-        Put(object, "startOffset", usage->GetStartOffset());
+        BeginUsage(json, "lineUsage");
+        Put(json, "angle", usage->GetAngle());
+        Put(json, "angleControl", usage->GetAngleControl());
+        Put(json, "repeat", usage->GetRepeat());
+        Put(json, "startOffset", usage->GetStartOffset());
+        json.EndObject();
     }
     if (const TylModel::AreaUsage* const usage = definition.GetAreaUsage()) {
-        Json& object = json["areaUsage"] = Json::object();
-        Put(object, "angle", usage->GetAngle());
-        Put(object, "repeatX", usage->GetRepeatX());
-        Put(object, "repeatY", usage->GetRepeatY());
+        BeginUsage(json, "areaUsage");
+        Put(json, "angle", usage->GetAngle());
+        Put(json, "repeatX", usage->GetRepeatX());
+        Put(json, "repeatY", usage->GetRepeatY());
+        json.EndObject();
     }
 }
 
 class SymbolJson : public TylModel::ISymbolDefinitionVisitor {
 public:
+    explicit SymbolJson(JsonText& json) : json_(json) {}
+
     void VisitSimpleSymbolDefinition(TylModel::SimpleSymbolDefinition& definition) override {
-        Start("SimpleSymbolDefinition", definition);
-        Json& graphics = json["graphics"] = Json::array();
+        Begin("SimpleSymbolDefinition", definition);
+        json_.Key("graphics");
+        json_.BeginList();
+        GraphicJson graphic(json_);
         for (int i = 0; i < definition.GetGraphics().GetCount(); ++i) {
-            GraphicJson graphic;
             definition.GetGraphics().GetAt(i)->AcceptVisitor(graphic);
-            graphics.push_back(std::move(graphic.json));
         }
-        Json& parameters = json["parameters"] = Json::array();
+        json_.EndList();
+        json_.Key("parameters");
+        json_.BeginList();
         for (int i = 0; i < definition.GetParameterDefinition().GetCount(); ++i) {
-            parameters.push_back(ParameterJson(*definition.GetParameterDefinition().GetAt(i)));
+            WriteParameter(json_, *definition.GetParameterDefinition().GetAt(i));
         }
-        PutUsages(json, definition);
+        json_.EndList();
+        WriteUsages(json_, definition);
+        json_.EndObject();
     }
 
     void VisitCompoundSymbolDefinition(TylModel::CompoundSymbolDefinition& definition) override {
-        Start("CompoundSymbolDefinition", definition);
-        Json& symbols = json["symbols"] = Json::array();
+        Begin("CompoundSymbolDefinition", definition);
+        json_.Key("symbols");
+        json_.BeginList();
         for (int i = 0; i < definition.GetSymbols().GetCount(); ++i) {
-            SymbolJson member;
-            definition.GetSymbols().GetAt(i)->GetSymbolDefinition()->AcceptVisitor(member);
-            symbols.push_back(std::move(member.json));
+            definition.GetSymbols().GetAt(i)->GetSymbolDefinition()->AcceptVisitor(*this);
         }
+        json_.EndList();
+        json_.EndObject();
     }
-
-    Json json;
 
 private:
-    void Start(const char* type, const TylModel::SymbolDefinition& definition) {
-        json = {{"type", type}, {"name", platform::WideToValidUtf8(definition.GetName())}};
-        Put(json, "description", definition.GetDescription());
+    void Begin(std::string_view type, const TylModel::SymbolDefinition& definition) {
+        json_.BeginObject();
+        json_.Key("type");
+        json_.PlainText(type);
+        json_.Key("name");
+        json_.Text(definition.GetName());
+        Put(json_, "description", definition.GetDescription());
     }
+
+    JsonText& json_;
 };
 
 constexpr std::string_view kHead = "{\n"
@@ -122,11 +153,13 @@ constexpr std::string_view kHead = "{\n"
 } // namespace
 
 bool SymbolsWriter::Add(TylModel::SymbolDefinition& symbol) {
-    SymbolJson visitor;
-    symbol.AcceptVisitor(visitor);
-    const bool first = !started_;
+    text_ = started_ ? "," : kHead;
     started_ = true;
-    return (first ? sink_(kHead) : sink_(",")) && sink_(ItemText(visitor.json));
+    text_ += "\n    ";
+    JsonText json(text_, kSymbolLevel);
+    SymbolJson visitor(json);
+    symbol.AcceptVisitor(visitor);
+    return sink_(text_);
 }
 
 bool SymbolsWriter::Finish() {

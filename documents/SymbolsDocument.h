@@ -4,6 +4,7 @@
 #include "TylModel/TylModel.h"
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 namespace documents {
@@ -23,6 +24,7 @@ public:
 
 private:
     TextSink sink_;
+    std::string text_; // of the last symbol, kept for its room
     bool started_ = false;
 };
 

@@ -101,9 +101,7 @@ std::uint32_t NextCodePoint(std::wstring_view wide, std::size_t& position) {
     return unit;
 }
 
-std::string Encode(std::wstring_view wide, bool keepBytes) {
-    std::string bytes;
-    bytes.reserve(wide.size());
+void Encode(std::string& bytes, std::wstring_view wide, bool keepBytes) {
     for (std::size_t position = 0; position < wide.size();) {
         const std::uint32_t codePoint = NextCodePoint(wide, position);
         if (keepBytes && codePoint >= kEscapedByte + 0x80 && codePoint <= kEscapedByte + 0xff) {
@@ -114,6 +112,12 @@ std::string Encode(std::wstring_view wide, bool keepBytes) {
             AppendUtf8(bytes, codePoint);
         }
     }
+}
+
+std::string Encoded(std::wstring_view wide, bool keepBytes) {
+    std::string bytes;
+    bytes.reserve(wide.size());
+    Encode(bytes, wide, keepBytes);
     return bytes;
 }
 
@@ -147,11 +151,15 @@ std::wstring Utf8ToWide(std::string_view bytes) {
 }
 
 std::string WideToUtf8Bytes(std::wstring_view wide) {
-    return Encode(wide, true);
+    return Encoded(wide, true);
 }
 
 std::string WideToValidUtf8(std::wstring_view wide) {
-    return Encode(wide, false);
+    return Encoded(wide, false);
+}
+
+void AppendValidUtf8(std::string& bytes, std::wstring_view wide) {
+    Encode(bytes, wide, false);
 }
 
 } // namespace platform

@@ -19,4 +19,7 @@ std::string WideToUtf8Bytes(std::wstring_view wide);
 /// Encodes as valid UTF-8 whatever the text: a lone surrogate and what is no character become U+FFFD.
 std::string WideToValidUtf8(std::wstring_view wide);
 
+/// Appends what WideToValidUtf8 returns.
+void AppendValidUtf8(std::string& bytes, std::wstring_view wide);
+
 } // namespace platform

@@ -74,6 +74,17 @@ TEST_F(Circle, DashOfHalfTheCircleOrMoreIsLarge) {
               L"M 6.0,2.0 A 5.0,5.0 0.0 1 0 " + OnCircle(1, 2, 5, 252) + L" M " + OnCircle(1, 2, 5, 360));
 }
 
+TEST_F(Circle, DashOfExactlyHalfTheCircleIsLarge) {
+    // One pattern of 6 is stretched by 2 pi / 6 without any rounding that would show: its dash of 3 is pi
+    // long.
+    EXPECT_EQ(Path({3, -3}, 1), L"M 2.0,2.0 A 1.0,1.0 0.0 1 0 0.0,2.0 M 2.0,2.0");
+}
+
+TEST_F(Circle, DashOfLessThanHalfTheCircleIsNotLarge) {
+    EXPECT_EQ(Path({2.9, -3.1}, 1),
+              L"M 2.0,2.0 A 1.0,1.0 0.0 0 0 " + OnCircle(1, 2, 1, 174) + L" M " + OnCircle(1, 2, 1, 360));
+}
+
 TEST_F(Circle, DotIsALineToTheSamePoint) {
     const double radius = 5;
     const double pattern = radius * kPi;

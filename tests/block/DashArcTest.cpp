@@ -108,10 +108,11 @@ TEST_F(DashArc, PatternThatBeginsWithADotKeepsTheLength) {
 }
 
 TEST_F(DashArc, LargeFlagIsDecidedForEachPiece) {
-    // 350 = 1 x 300 + 50: the lead is 25 (the first dash is a gap), and the dash of 200 degrees is large,
-    // though the whole arc is larger still and the leads are not.
-    EXPECT_EQ(Path({-Length(100), Length(200)}, 350),
-              L"M " + On(0) + kArc + On(25) + kLargeArc + On(225) + kArc + On(250));
+    // 350 = 1 x 330 + 20: the lead is 10 (the first dash is a gap), and the dash of 200 degrees is large,
+    // though the whole arc is larger still and the other pieces are not.
+    EXPECT_EQ(Path({-Length(100), Length(200), -Length(10), Length(20)}, 350),
+              L"M " + On(0) + kArc + On(10) + kLargeArc + On(210) + L" M " + On(220) + kArc + On(240) + kArc +
+                  On(250));
 }
 
 TEST_F(DashArc, LinetypeThatCannotBeOpenedIsSolid) {

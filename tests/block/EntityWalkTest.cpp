@@ -250,6 +250,37 @@ TEST_F(EntityWalk, ClassesAreTriedInAFixedOrder) {
     EXPECT_EQ(Convert()->GetGraphics().GetCount(), 11);
 }
 
+TEST_F(EntityWalk, EveryEntityStartsAPathOfItsOwn) {
+    const OxGePoint3d origin;
+    const drawing::PolylineLoop triangle{{{{0, 0}}, {{1, 0}}, {{1, 1}}}, false};
+    drawing::FitData fit;
+    fit.points = {{0, 0, 0}, {3, 1, 0}};
+    for (int i = 0; i < 2; ++i) {
+        block.Add<drawing::Point>(Solid(), origin);
+        block.Add<drawing::Line>(Solid(), origin, OxGePoint3d{1, 0, 0});
+        block.Add<drawing::Polyline>(Solid(), std::vector<drawing::BulgeVertex>{{{0, 0}}, {{1, 0}}}, false,
+                                     false);
+        block.Add<drawing::Spline>(Solid(), fit);
+        block.Add<drawing::Arc>(Solid(), drawing::ArcData{});
+        block.Add<drawing::Circle>(Solid(), origin, 1.0);
+        block.Add<drawing::Ellipse>(Solid(), drawing::EllipseData{});
+        drawing::HatchData lines;
+        lines.lines = std::vector<drawing::HatchLine>{{{0, 0}, {1, 0}}};
+        block.Add<drawing::Hatch>(Solid(), std::move(lines));
+        drawing::HatchData solid;
+        solid.solid = true;
+        solid.loops.emplace_back();
+        solid.loops.back().polyline = triangle;
+        block.Add<drawing::Hatch>(Solid(), std::move(solid));
+        block.Add<drawing::MPolygon>(Solid(), std::vector<drawing::PolylineLoop>{triangle}, ByBlock());
+    }
+    const Paths paths = Geometries();
+    ASSERT_EQ(paths.size(), 20U);
+    for (std::size_t i = 0; i < 10; ++i) {
+        EXPECT_EQ(paths[i], paths[i + 10]);
+    }
+}
+
 TEST_F(EntityWalk, EntityOfNoneOfTheClassesIsAskedForElevenAndLeftOut) {
     block.Add<KnownInTurn<drawing::Point, 12>>(Solid(), OxGePoint3d{});
     EXPECT_EQ(Convert()->GetGraphics().GetCount(), 0);

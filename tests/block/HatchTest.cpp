@@ -158,6 +158,17 @@ TEST_F(SolidHatch, ClosedCircleThatBeginsWhereTheLastEdgeEndedHasNoMove) {
               L" M 8.0,0.0 A 1.0,1.0 0.0 1 1 10.0,0.0 A 1.0,1.0 0.0 1 1 8.0,0.0");
 }
 
+TEST_F(SolidHatch, ClosedEdgeEndsWhereItBegan) {
+    EXPECT_EQ(Path(LoopOf(Arc({0, 0}, 1, 0, 2 * kPi), Segment({-1, 0}, {5, 5}))),
+              L"M -1.0,0.0 A 1.0,1.0 0.0 1 1 1.0,0.0 A 1.0,1.0 0.0 1 1 -1.0,0.0 L 5.0,5.0");
+}
+
+TEST_F(SolidHatch, EdgesJoinBehindArcsAsBehindSegments) {
+    EXPECT_EQ(Path(LoopOf(Arc({0, 0}, 2, kPi, 1.5 * kPi), Segment({0, -2}, {3, 1}),
+                          Ellipse({3, 2}, {2, 0}, 0.5, 1.5 * kPi, 2 * kPi), Segment({5, 2}, {7, 7}))),
+              L"M -2.0,0.0 A 2.0,2.0 0.0 0 0 -0.0,-2.0 L 3.0,1.0 A 2.0,1.0 0.0 0 0 5.0,2.0 L 7.0,7.0");
+}
+
 TEST_F(SolidHatch, EllipseEdgesAreWrittenAsIfTheirMajorAxisLayHorizontal) {
     // The major axis is upright: from (1, 6) to (-1, 2) in drawing axes, counter-clockwise.
     EXPECT_EQ(Path(LoopOf(Ellipse({1, 2}, {0, 4}, 0.5, 0, kPi / 2))),
@@ -192,6 +203,12 @@ TEST_F(SolidHatch, LoopThatCannotBeReadIsSkipped) {
     // Loop 0 is asked for its edges, then for its vertices.
     database.Failures().Fail(Operation::kGetEdgeLoopAt, 1, Oxsys::eInvalidInput);
     EXPECT_EQ(Path(TriangleOfEdges(0), TriangleOfEdges(10)), L"M 10.0,0.0 L 13.0,4.0 L 16.0,0.0 h -6.0");
+}
+
+TEST_F(SolidHatch, LoopIsAskedForItsEdgesFirstAndForItsVerticesOnlyWithoutThem) {
+    Path(TriangleOfEdges(0));
+    EXPECT_EQ(database.Failures().Calls(Operation::kGetEdgeLoopAt), 1U);
+    EXPECT_EQ(database.Failures().Calls(Operation::kGetPolylineLoopAt), 0U);
 }
 
 TEST_F(SolidHatch, PathHasAFillAndNothingElse) {

@@ -48,6 +48,19 @@ TEST_F(PointAndEllipse, RotationIsInDegreesAndNotScaled) {
               L"M 0.0,40.0 A 40.0,20.0 90.0 1 1 0.0,-40.0 A 40.0,20.0 90.0 1 1 0.0,40.0");
 }
 
+TEST_F(PointAndEllipse, RotationLiesWithinHalfATurnEitherWay) {
+    struct Case {
+        OxGeVector3d major;
+        std::wstring rotation;
+    };
+    const Case cases[] = {{{4, 0, 0}, L"0.0"},    {{3, 3, 0}, L"45.0"},     {{-3, 3, 0}, L"135.0"},
+                          {{-4, 0, 0}, L"180.0"}, {{-3, -3, 0}, L"-135.0"}, {{0, -4, 0}, L"-90.0"}};
+    for (const Case& row : cases) {
+        const std::wstring path = EllipsePath({{}, row.major, 0.5, 0, 1});
+        EXPECT_NE(path.find(L" " + row.rotation + L" 0 0 "), std::wstring::npos) << path;
+    }
+}
+
 TEST_F(PointAndEllipse, LinetypeIsNeverApplied) {
     database.AddLinetype(L"DASHED", Dashes({1, -1}));
     EXPECT_EQ(EllipsePath({{0, 0, 0}, {4, 0, 0}, 0.5, 0, kPi / 2}), L"M 4.0,0.0 A 4.0,2.0 0.0 0 0 0.0,2.0");

@@ -163,6 +163,14 @@ TEST_F(PolylineWalk, LargeFlagBehindACutIsJudgedFromTheWholeEntry) {
               L"M 0.0,0.0 A 0.5,0.5 0.0 1 0 1.0,0.0 L 1.0,2.2854 M 1.0,3.2854 L 1.0,4.0");
 }
 
+TEST_F(PolylineWalk, LargeFlagBehindACutIsNotJudgedFromWhatIsDrawn) {
+    // A quarter circle of radius 1 is 1.57 long, and a line of 6 follows: 7.57 = 1 x 7 + 0.57. The lead
+    // of 3.29 is longer than half the circle.
+    const double quarter = 0.41421356237309503; // the bulge of a right angle
+    EXPECT_EQ(Path({6, -1}, {{{0, 0}, quarter}, {{1, 1}}, {{1, 7}}}),
+              L"M 0.0,0.0 A 1.0,1.0 0.0 1 0 1.0,1.0 L 1.0,4.2854 M 1.0,5.2854 L 1.0,7.0");
+}
+
 TEST_F(PolylineWalk, ClockwiseArcsAreWalkedWithTheAngleFalling) {
     // The half circle over (1, 0) from (0, 0), radius 1, with (2, -1): 3.14 = 1 x 3 + 0.14, the lead is 1.07.
     const double lead = (2 + 0.14159265358979312) / 2;

@@ -1,7 +1,10 @@
 // Splines, which are walked as polylines through points along them.
 #include "StyleConversion/block/SplineSampling.h"
+
+#include "OxDb/OxGeNurbCurve2d.h"
 #include "tests/block/BlockTest.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace blocktest {
@@ -167,6 +170,164 @@ TEST_F(SplineEntities, DashesRunOnOverTheSamples) {
     EXPECT_NE(path.find(L" L 2.5,0.0 M "), std::wstring::npos);
     EXPECT_NE(path.find(L" M 3.5,0.0 L "), std::wstring::npos);
     EXPECT_EQ(path.find(L"M 0.0,0.0", 1), std::wstring::npos);
+}
+
+TEST_F(SplineEntities, PatternLongerThanTheSplineIsDrawnToItsMiddleOnly) {
+    // Lead-in to the middle, then a gap over all the samples that follow.
+    database.AddLinetype(L"LONG", Dashes({10, -10}));
+    Add(Cubic({{0, 0, 0}, {1, 2, 0}, {2, 2, 0}, {3, 0, 0}}), Dashed(L"LONG"));
+    const std::wstring path = Geometry();
+    const std::size_t gap = path.find(L" M ");
+    ASSERT_NE(gap, std::wstring::npos);
+    EXPECT_NE(path.find(L" L "), std::wstring::npos);
+    EXPECT_EQ(path.find(L" L ", gap), std::wstring::npos);
+    EXPECT_EQ(path.substr(path.size() - 10), L" M 3.0,0.0");
+}
+
+OxGeNurbCurve2d CurveOf(const drawing::NurbsData& data) {
+    OxGePoint2dArray points;
+    for (const OxGePoint3d& point : data.controlPoints) {
+        points.append({point.x, point.y});
+    }
+    OxGeDoubleArray knots;
+    for (const double knot : data.knots) {
+        knots.append(knot);
+    }
+    return {data.degree, OxGeKnotVector(knots, 1e-9), points, false};
+}
+
+OxGePoint2dArray SamplesOf(const OxGeNurbCurve2d& curve, double tolerance) {
+    OxGeInterval interval(1e-12);
+    curve.getInterval(interval);
+    OxGePoint2dArray points;
+    OxGeDoubleArray parameters;
+    curve.getSamplePoints(interval.lowerBound(), interval.upperBound(), tolerance, points, parameters);
+    return points;
+}
+
+double FirstTolerance(const OxGeNurbCurve2d& curve) {
+    OxGePoint2d minimum;
+    OxGePoint2d maximum;
+    curve.boundBlock().getMinMaxPoints(minimum, maximum);
+    return 0.001 * std::max(maximum.x - minimum.x, maximum.y - minimum.y);
+}
+
+void ExpectEqualPoints(const OxGePoint2dArray& found, const OxGePoint2dArray& expected) {
+    ASSERT_EQ(found.length(), expected.length());
+    for (int i = 0; i < found.length(); ++i) {
+        EXPECT_EQ(found[i].x, expected[i].x) << i;
+        EXPECT_EQ(found[i].y, expected[i].y) << i;
+    }
+}
+
+TEST_F(SplineEntities, ToleranceIsAThousandthOfTheLargerSide) {
+    // Bows as high as 3/4 of the control points: 8 wide and 0.75 high, and the same upright.
+    const drawing::NurbsData wide = Cubic({{0, 0, 0}, {1, 1, 0}, {7, 1, 0}, {8, 0, 0}});
+    const drawing::NurbsData tall = Cubic({{0, 0, 0}, {1, 1, 0}, {1, 7, 0}, {0, 8, 0}});
+    for (const drawing::NurbsData* const data : {&wide, &tall}) {
+        const OxGeNurbCurve2d curve = CurveOf(*data);
+        const OxGePoint2dArray expected = SamplesOf(curve, 0.001 * 8.0);
+        ASSERT_GE(expected.length(), 4);
+        ASSERT_GT(SamplesOf(curve, 0.001 * 0.75).length(), expected.length());
+        ExpectEqualPoints(block::SampleSpline(Add(*data)), expected);
+    }
+}
+
+TEST_F(SplineEntities, ToleranceIsHalvedWhileThereAreFewerSamplesThanControlPoints) {
+    for (const double height : {0.01, 1e-3, 1e-4, 1e-5}) {
+        const drawing::NurbsData data = Cubic({{0, 0, 0}, {1, height, 0}, {2, height, 0}, {3, 0, 0}});
+        const OxGeNurbCurve2d curve = CurveOf(data);
+        double tolerance = 0.001 * 3.0;
+        ASSERT_LT(SamplesOf(curve, tolerance).length(), 4);
+        while (SamplesOf(curve, tolerance).length() < 4) {
+            tolerance *= 0.5;
+        }
+        ASSERT_GT(tolerance, 1e-6);
+        ExpectEqualPoints(block::SampleSpline(Add(data)), SamplesOf(curve, tolerance));
+    }
+}
+
+TEST_F(SplineEntities, ToleranceIsHalvedWhileThereAreFewerSamplesThanFitPoints) {
+    OxGePoint2dArray points;
+    for (const OxGePoint2d& point : {OxGePoint2d{0, 0}, {1, 0.01}, {2, 0.01}, {3, 0}}) {
+        points.append(point);
+    }
+    const OxGeNurbCurve2d curve(points);
+    double tolerance = FirstTolerance(curve);
+    ASSERT_LT(SamplesOf(curve, tolerance).length(), 4);
+    while (SamplesOf(curve, tolerance).length() < 4) {
+        tolerance *= 0.5;
+    }
+    ASSERT_EQ(SamplesOf(curve, tolerance).length(), 4) << "or one point more would not show";
+    ExpectEqualPoints(block::SampleSpline(Add(Through({{0, 0, 0}, {1, 0.01, 5}, {2, 0.01, 0}, {3, 0, 0}}))),
+                      SamplesOf(curve, tolerance));
+}
+
+TEST_F(SplineEntities, ToleranceIsHalvedNoFurtherThanAMillionth) {
+    // A bow so flat that two samples do until the tolerance is a tenth of that.
+    const double height = 4e-7;
+    const drawing::NurbsData data = Cubic({{0, 0, 0}, {1, height, 0}, {2, height, 0}, {3, 0, 0}});
+    ASSERT_GE(SamplesOf(CurveOf(data), 1e-8).length(), 4);
+    EXPECT_EQ(block::SampleSpline(Add(data)).length(), 2);
+}
+
+// Goes round a circle again and again, `perTurn` control points each time. On a radius of 1000 tolerances, a
+// chord takes 0.126 of an angle, so that a turn has about 50 samples.
+drawing::NurbsData Coil(int count, double perTurn, double radius) {
+    drawing::NurbsData data;
+    data.knots = {0, 0, 0};
+    for (int i = 0; i < count; ++i) {
+        const double angle = 2 * 3.141592653589793 * i / perTurn;
+        data.controlPoints.push_back({radius * std::cos(angle), radius * std::sin(angle), 0});
+        if (i < count - 2) {
+            data.knots.push_back(i);
+        }
+    }
+    data.knots.insert(data.knots.end(), 3, count - 3);
+    return data;
+}
+
+TEST_F(SplineEntities, ToleranceIsDoubledWhileThereAreAThousandAndOneSamplesOrMore) {
+    const drawing::NurbsData data = Coil(200, 6, 50);
+    const OxGeNurbCurve2d curve = CurveOf(data);
+    const double tolerance = FirstTolerance(curve);
+    ASSERT_GE(SamplesOf(curve, tolerance).length(), 1001);
+    ASSERT_GE(SamplesOf(curve, 2 * tolerance).length(), 1001);
+    ASSERT_LT(SamplesOf(curve, 4 * tolerance).length(), 1001);
+    ASSERT_LT(4 * tolerance, 1.0);
+    ExpectEqualPoints(block::SampleSpline(Add(data)), SamplesOf(curve, 4 * tolerance));
+}
+
+TEST_F(SplineEntities, ToleranceOfOneAndMoreIsNotDoubled) {
+    for (const double radius : {700.0, 300.0}) {
+        const drawing::NurbsData data = Coil(250, 6, radius);
+        const OxGeNurbCurve2d curve = CurveOf(data);
+        double tolerance = FirstTolerance(curve);
+        // 1.3, or 0.56 and then 1.1.
+        tolerance *= radius < 500 ? 2 : 1;
+        ASSERT_GE(tolerance, 1.0);
+        ASSERT_GE(SamplesOf(curve, tolerance).length(), 1001);
+        ExpectEqualPoints(block::SampleSpline(Add(data)), SamplesOf(curve, tolerance));
+    }
+}
+
+TEST_F(SplineEntities, AThousandSamplesAreNotYetTooMany) {
+    bool met[2] = {};
+    for (double perTurn = 7.4; perTurn < 9.0 && !(met[0] && met[1]); perTurn += 0.005) {
+        const drawing::NurbsData data = Coil(150, perTurn, 50);
+        const OxGeNurbCurve2d curve = CurveOf(data);
+        const double tolerance = FirstTolerance(curve);
+        const OxGePoint2dArray samples = SamplesOf(curve, tolerance);
+        if (samples.length() == 1000) {
+            met[0] = true;
+            ExpectEqualPoints(block::SampleSpline(Add(data)), samples);
+        } else if (samples.length() == 1001) {
+            met[1] = true;
+            ExpectEqualPoints(block::SampleSpline(Add(data)), SamplesOf(curve, 2 * tolerance));
+        }
+    }
+    EXPECT_TRUE(met[0]);
+    EXPECT_TRUE(met[1]);
 }
 
 TEST_F(SplineEntities, ClosedSplineReturnsToItsStart) {

@@ -1,0 +1,133 @@
+#include "documents/JsonText.h"
+
+#include "StyleConversion/platform/Utf8.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+namespace documents {
+namespace {
+
+constexpr std::size_t kBlanksPerLevel = 2;
+
+// What stands in a text as it is: ASCII without control characters, quotes and backslashes. DEL is none of
+// JSON's control characters.
+bool IsPlain(wchar_t c) {
+    return c >= L' ' && c <= L'\x7f' && c != L'"' && c != L'\\';
+}
+
+bool IsAscii(wchar_t c) {
+    return c >= 0 && c <= L'\x7f';
+}
+
+// Narrows in pieces, since a string that is made longer in one step is filled with zeros first.
+void AppendPlain(std::string& text, const wchar_t* first, const wchar_t* last) {
+    char piece[256];
+    while (first != last) {
+        const auto length = std::min<std::size_t>(static_cast<std::size_t>(last - first), sizeof piece);
+        std::transform(first, first + length, piece, [](wchar_t c) { return static_cast<char>(c); });
+        text.append(piece, length);
+        first += length;
+    }
+}
+
+void AppendEscaped(std::string& text, char c) {
+    constexpr char kDigits[] = "0123456789abcdef";
+    constexpr std::string_view kShort = "\"\\\b\f\n\r\t";
+    constexpr std::string_view kLetters = "\"\\bfnrt";
+    text += '\\';
+    if (const std::size_t place = kShort.find(c); place != std::string_view::npos) {
+        text += kLetters[place];
+        return;
+    }
+    text += "u00";
+    text += kDigits[(static_cast<unsigned char>(c) >> 4U) & 0xfU];
+    text += kDigits[static_cast<unsigned char>(c) & 0xfU];
+}
+
+} // namespace
+
+void JsonText::Key(std::string_view key) {
+    BeginLine();
+    isItem_ = false;
+    text_ += '"';
+    text_ += key;
+    text_ += "\": ";
+}
+
+void JsonText::Text(std::wstring_view value) {
+    BeginValue();
+    text_ += '"';
+    const wchar_t* const end = value.data() + value.size();
+    for (const wchar_t* c = value.data(); c != end;) {
+        if (IsPlain(*c)) {
+            const wchar_t* const stop = std::find_if_not(c, end, IsPlain);
+            AppendPlain(text_, c, stop);
+            c = stop;
+        } else if (IsAscii(*c)) {
+            AppendEscaped(text_, static_cast<char>(*c));
+            ++c;
+        } else {
+            // No pair of surrogates is torn: neither half is ASCII.
+            const wchar_t* const stop = std::find_if(c, end, IsAscii);
+            platform::AppendValidUtf8(text_, std::wstring_view(c, static_cast<std::size_t>(stop - c)));
+            c = stop;
+        }
+    }
+    text_ += '"';
+}
+
+void JsonText::PlainText(std::string_view value) {
+    BeginValue();
+    text_ += '"';
+    text_ += value;
+    text_ += '"';
+}
+
+void JsonText::Integer(std::int64_t value) {
+    BeginValue();
+    text_ += std::to_string(value);
+}
+
+void JsonText::Number(double value) {
+    BeginValue();
+    text_ += nlohmann::json(value).dump();
+}
+
+void JsonText::Begin(char bracket) {
+    BeginValue();
+    text_ += bracket;
+    ++level_;
+    isEmpty_ = true;
+    isItem_ = bracket == '[';
+}
+
+void JsonText::End(char bracket) {
+    --level_;
+    if (!isEmpty_) {
+        text_ += '\n';
+        text_.append(level_ * kBlanksPerLevel, ' ');
+    }
+    text_ += bracket;
+    isEmpty_ = false;
+    // Behind a value inside a list come items, behind one inside an object a key comes, which says otherwise.
+    isItem_ = true;
+}
+
+void JsonText::BeginValue() {
+    if (isItem_) {
+        BeginLine();
+    }
+    isItem_ = true;
+}
+
+void JsonText::BeginLine() {
+    if (!isEmpty_) {
+        text_ += ',';
+    }
+    isEmpty_ = false;
+    text_ += '\n';
+    text_.append(level_ * kBlanksPerLevel, ' ');
+}
+
+} // namespace documents
