@@ -70,8 +70,8 @@ bool LoopNode::Finish(ReadState& state) {
     loop.edges = std::move(edges_);
     edges_.clear();
     if (Has(vertices_) == Has(edgesNode_)) {
-        return state.Refuse(Has(vertices_) ? "expected either \"vertices\" or \"edges\", found both"
-                                           : "expected \"vertices\" or \"edges\", found neither");
+        return state.Refuse(Has(vertices_) ? R"(expected either "vertices" or "edges", found both)"
+                                           : R"(expected "vertices" or "edges", found neither)");
     }
     if (Has(vertices_)) {
         loop.polyline = drawing::PolylineLoop{std::move(vertices_.Values()), vertices_.HasBulges()};

@@ -51,7 +51,7 @@ bool SplineObjectNode::TakeFitData(ReadState& state, drawing::SplineData& data) 
 
 bool SplineObjectNode::TakeNurbsData(ReadState& state, drawing::SplineData& data) {
     if (!Has(controlPoints_)) {
-        return state.Refuse("expected \"fitPoints\" or \"controlPoints\", found neither");
+        return state.Refuse(R"(expected "fitPoints" or "controlPoints", found neither)");
     }
     for (const Node* const node : {static_cast<const Node*>(&degree_), static_cast<const Node*>(&knots_)}) {
         if (!Has(*node)) {

@@ -93,6 +93,7 @@ Oxsys::ErrorStatus Hatch::evaluateHatch(bool /*underestimateLines*/) {
     }
     if (!data_.lines) {
         status = EvaluatePattern(data_.loops, *data_.pattern, evaluated_);
+        SharedCore().hatchesTooDense += status == Oxsys::eTooManyHatchLines ? 1 : 0;
     }
     isEvaluated_ = status == Oxsys::eOk;
     return status;

@@ -39,6 +39,7 @@ namespace drawing {
 struct Core {
     FailurePlan failures;
     ObjectCounts counts;
+    std::uint64_t hatchesTooDense = 0; // evaluations that were given up for too many lines
     NamePool names;
     OxDbStub unknown{*this, nullptr};
 

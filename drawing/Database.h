@@ -44,6 +44,8 @@ public:
 
     FailurePlan& Failures() { return core_->failures; }
     const ObjectCounts& Counts() const { return core_->counts; }
+    /// How often evaluating a hatch was given up because it has too many lines.
+    std::uint64_t HatchesTooDense() const { return core_->hatchesTooDense; }
     /// True when each object was closed exactly as often as it was opened.
     bool IsEverythingClosed() const { return Counts().OpenNow() == 0 && Counts().wronglyClosed == 0; }
     /// How many times the object is open now.

@@ -6,6 +6,7 @@
 #include "drawing/geometry/Interpolation.h"
 #include "drawing/geometry/Sampling.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -28,6 +29,7 @@ OxGeNurbCurveData* MakeFromControlPoints(int degree, const OxGeKnotVector& knots
                                          const OxGePoint2dArray& controlPoints,
                                          const OxGeDoubleArray& weights, bool isPeriodic) {
     std::vector<double> knotList;
+    knotList.reserve(static_cast<std::size_t>(std::max(0, knots.length())));
     for (int index = 0; index < knots.length(); ++index) {
         knotList.push_back(knots[index]);
     }

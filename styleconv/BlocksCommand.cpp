@@ -10,6 +10,7 @@
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
 
+#include <cstdint>
 #include <memory>
 
 namespace styleconv {
@@ -46,13 +47,17 @@ bool ConvertibleBlocks(const InputFile& input, BlockConverter& converter, std::v
 }
 
 // False, after saying which, when one of the blocks is not there.
-bool Convert(const InputFile& input, BlockConverter& converter, const std::vector<std::wstring>& names,
-             Symbols& symbols) {
+bool Convert(const InputFile& input, const drawing::Database& drawing, BlockConverter& converter,
+             const std::vector<std::wstring>& names, Symbols& symbols) {
     BeginStage("Converting", names.size());
     for (const std::wstring& name : names) {
         NowAtItem("block " + Shown(name));
+        const std::uint64_t tooDense = drawing.HatchesTooDense();
         std::unique_ptr<TylModel::SymbolDefinition> symbol(converter.Convert(name));
-        if (symbol) {
+        if (drawing.HatchesTooDense() > tooDense) {
+            // The converter leaves such a hatch out; a block without its hatch is not what was asked for.
+            Say(input.Name(), "block " + Shown(name) + ": a hatch has more than the limit of 1000000 lines");
+        } else if (symbol) {
             symbols.push_back(std::move(symbol));
         } else {
             Say(input.Name(), "the drawing has no block named " + Shown(name));
@@ -79,7 +84,7 @@ ExitStatus Blocks(const BlocksOptions& options) {
     std::vector<std::wstring> names = Wide(options.names);
     Symbols symbols;
     const bool converted = (!names.empty() || ConvertibleBlocks(input, converter, names)) &&
-                           Convert(input, converter, names, symbols);
+                           Convert(input, *drawing, converter, names, symbols);
     oxdbSetHostApplicationServices(nullptr);
     return converted ? WriteSymbols(symbols, options) : kInputFault;
 }
