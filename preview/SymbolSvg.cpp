@@ -179,7 +179,8 @@ bool SheetWriter::Add(TylModel::SymbolDefinition& symbol) {
     style.idPrefix = "s" + std::to_string(added_);
     std::string out = added_ == 0 ? Head() : std::string();
     const double x = static_cast<double>(added_ % columns_) * (kSheetCard.width + kGap) + kGap;
-    const double y = static_cast<double>(added_ / columns_) * (kSheetCard.Height() + kGap) + kGap;
+    const std::size_t row = added_ / columns_;
+    const double y = static_cast<double>(row) * (kSheetCard.Height() + kGap) + kGap;
     SvgWriter svg(out);
     // An svg element of its own cuts off what reaches over the card.
     svg.Text("\n").Open("svg").Set("x", x).Set("y", y);
