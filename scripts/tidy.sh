@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# Runs clang-tidy over the given sources, or over the library's.
+# Runs clang-tidy over the given sources, or over all but the tool, the tests and what stands beside them.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 cmake --preset tidy >/dev/null
 
-if [ $# -gt 0 ]; then
-  printf '%s\n' "$@"
-else
-  git ls-files 'StyleConversion/*.cpp' | grep -v '/windows/'
-fi | xargs -P "$(nproc)" -n 1 clang-tidy --quiet -p build/tidy 2>/dev/null
+if [ $# -eq 0 ]; then
+  mapfile -t sources < <(git ls-files '*.cpp' | grep -E '^(StyleConversion|drawing|documents|preview)/' |
+    grep -v '/windows/')
+  set -- "${sources[@]}"
+fi
+exec python3 scripts/tidy.py build/tidy "$@"
