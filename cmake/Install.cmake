@@ -58,10 +58,17 @@ if(STYLECONVERSION_TOOL)
   file(RELATIVE_PATH libraries_from_tool "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
   set_target_properties(styleconv PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_tool}")
   install(TARGETS styleconv RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+endif()
+if(STYLECONVERSION_TOOL AND UNIX)
   install(FILES "${PROJECT_SOURCE_DIR}/docs/styleconv.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
   set(completions "${PROJECT_SOURCE_DIR}/styleconv/completions")
   install(FILES "${completions}/styleconv.bash" RENAME styleconv
     DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
   install(FILES "${completions}/_styleconv" DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions")
   install(FILES "${completions}/styleconv.fish" DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
+endif()
+
+# The compiler's runtime goes along where the system does not have it.
+if(MINGW)
+  install(FILES ${runtime_libraries} DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endif()

@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 template <class NativePath>
 NativePath ToNative(const std::wstring& path) {
     if constexpr (std::is_same_v<NativePath, std::wstring>) {
-        return path;
+        return platform::OpenablePath(path);
     } else {
         return platform::PathToBytes(path);
     }

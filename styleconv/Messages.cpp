@@ -4,6 +4,7 @@
 #include "StyleConversion/platform/Utf8.h"
 #include "styleconv/Progress.h"
 
+#include <cstdint>
 #include <cstdio>
 #include <utility>
 
@@ -34,7 +35,8 @@ void SayAtByte(std::string_view file, std::size_t byte, std::string_view what) {
 std::string Shown(std::wstring_view name) {
     std::wstring shown(name);
     for (wchar_t& c : shown) {
-        const bool control = (c >= 0 && c < L' ') || (c >= 0x7f && c < 0xa0);
+        const auto code = static_cast<std::uint32_t>(c);
+        const bool control = code < 0x20 || (code >= 0x7f && code < 0xa0);
         if (control) {
             c = L'?';
         }

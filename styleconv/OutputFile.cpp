@@ -50,6 +50,7 @@ bool OutputFile::Open() {
     if (error) {
         target_ = NativePath(path_);
     }
+    target_ = OpenablePath(target_);
     const fs::file_status status = fs::status(target_, error);
     if (fs::is_directory(status)) {
         errno = EISDIR;

@@ -6,9 +6,17 @@ namespace styleconv {
 
 std::filesystem::path NativePath(const std::string& argument) {
 #if defined(_WIN32)
-    return std::filesystem::path(platform::PathFromBytes(argument));
+    return std::filesystem::path(platform::OpenablePath(platform::PathFromBytes(argument)));
 #else
     return std::filesystem::path(argument);
+#endif
+}
+
+std::filesystem::path OpenablePath(const std::filesystem::path& path) {
+#if defined(_WIN32)
+    return std::filesystem::path(platform::OpenablePath(path.wstring()));
+#else
+    return path;
 #endif
 }
 

@@ -9,7 +9,10 @@
 #include <vector>
 
 #if defined(_WIN32)
+#include <fcntl.h>
 #include <io.h>
+#include <share.h>
+#include <sys/stat.h>
 #endif
 
 namespace styleconv {
@@ -23,7 +26,12 @@ std::FILE* OpenNew(const fs::path& path) {
         return nullptr;
     }
 #if defined(_WIN32)
-    return _wfopen(path.c_str(), L"wb");
+    int descriptor = -1;
+    if (_wsopen_s(&descriptor, path.c_str(), _O_WRONLY | _O_BINARY | _O_CREAT | _O_EXCL, _SH_DENYNO,
+                  _S_IREAD | _S_IWRITE) != 0) {
+        return nullptr;
+    }
+    return _fdopen(descriptor, "wb");
 #else
     return std::fopen(path.c_str(), "wbx");
 #endif

@@ -1,4 +1,5 @@
 // The command line of styleconv: which commands there are, and what a wrong command line gets.
+#include "StyleConversion/platform/Files.h"
 #include "styleconv/BlocksCommand.h"
 #include "styleconv/GlyphsCommand.h"
 #include "styleconv/Interruption.h"
@@ -13,6 +14,14 @@
 #include <cstdio>
 #include <exception>
 #include <new>
+#include <string>
+#include <vector>
+
+#if defined(_WIN32)
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+#endif
 
 namespace {
 
@@ -68,17 +77,18 @@ ExitStatus Run(int argc, char** argv) {
     return status;
 }
 
-} // namespace
+#if defined(_WIN32)
+// The same bytes go in and come out as on every other system, and the console shows them as UTF-8.
+void UseStreamsAsBytes() {
+    for (std::FILE* const stream : {stdin, stdout, stderr}) {
+        static_cast<void>(_setmode(_fileno(stream), _O_BINARY));
+    }
+    SetConsoleOutputCP(CP_UTF8);
+}
+#endif
 
-int main(int argc, char** argv) {
-#if defined(SIGPIPE)
-    // A reader that went away shows as a failed write, which has a message of its own.
-    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
-#endif
-#if defined(SIGXFSZ)
-    // As does a file that may not grow any more.
-    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
-#endif
+// What the process does, whatever its system calls main.
+ExitStatus RunSafely(int argc, char** argv) {
     try {
         return Run(argc, argv);
     } catch (const std::bad_alloc&) {
@@ -90,3 +100,43 @@ int main(int argc, char** argv) {
     }
     return kInputFault;
 }
+
+} // namespace
+
+#if defined(_WIN32)
+
+// Arguments are wide there, and inside the tool UTF-8 as everywhere.
+int wmain(int argc, wchar_t** argv) {
+    try {
+        UseStreamsAsBytes();
+        std::vector<std::string> arguments;
+        for (int i = 0; i < argc; ++i) {
+            arguments.push_back(platform::PathToBytes(argv[i]));
+        }
+        std::vector<char*> pointers;
+        for (std::string& argument : arguments) {
+            pointers.push_back(argument.data());
+        }
+        pointers.push_back(nullptr);
+        return RunSafely(argc, pointers.data());
+    } catch (const std::bad_alloc&) {
+        std::fputs("styleconv: there is not enough memory\n", stderr);
+        return kInputFault;
+    }
+}
+
+#else
+
+int main(int argc, char** argv) {
+#if defined(SIGPIPE)
+    // A reader that went away shows as a failed write, which has a message of its own.
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+#endif
+#if defined(SIGXFSZ)
+    // As does a file that may not grow any more.
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+#endif
+    return RunSafely(argc, argv);
+}
+
+#endif

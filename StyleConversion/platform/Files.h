@@ -16,6 +16,9 @@ std::FILE* OpenForReading(const wchar_t* path);
 /// For names that were upper-cased on their way here.
 std::FILE* OpenForReadingIgnoringCase(const wchar_t* path);
 
+/// The path in the form in which the system's own functions open it whatever its length.
+std::wstring OpenablePath(const std::wstring& path);
+
 /// The four parts of a path; put together again they are the path.
 struct PathParts {
     std::wstring drive;     // "C:" on systems with drive letters, empty on others

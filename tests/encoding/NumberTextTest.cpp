@@ -4,6 +4,7 @@
 #include "StyleConversion/encoding/TrimmedNumber.h"
 
 #include <clocale>
+#include <cmath>
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <limits>
@@ -18,6 +19,10 @@ std::string Narrow(const std::wstring& wide) {
 }
 
 std::string Printf(const char* format, double value) {
+    // Not every C library shows the sign of what is no number; it is shown here.
+    if (std::isnan(value)) {
+        return std::signbit(value) ? "-nan" : "nan";
+    }
     char buffer[512];
     const int length = std::snprintf(buffer, sizeof buffer, format, value);
     return {buffer, static_cast<std::size_t>(length)};

@@ -12,6 +12,10 @@
 namespace {
 
 std::string Number(double value) {
+    // Not every C library shows the sign of what is no number; it is shown here.
+    if (std::isnan(value)) {
+        return std::signbit(value) ? "-nan" : "nan";
+    }
     char buffer[400];
     const int length = std::snprintf(buffer, sizeof buffer, "%.5f", value);
     std::string text(buffer, static_cast<std::size_t>(length));

@@ -170,6 +170,7 @@ TEST_F(Converter, WidensNamesThroughTheCodePage) {
     // An umlaut in UTF-8, in a page of one byte a character, and a byte that is no UTF-8.
     const TemporaryFile utf8("*H\xc3\xb6lzer,\n0,0,0,0,1\n");
     const TemporaryFile latin("*H\xf6lzer,\n0,0,0,0,1\n");
+    ASSERT_TRUE(platform::SetAnsiCodePage("UTF-8"));
     PatternConverter utf8Converter(utf8.GetName());
     EXPECT_EQ(Names(utf8Converter), std::vector<std::wstring>{L"H\u00f6lzer"});
     EXPECT_NE(ConvertOne(utf8Converter, L"H\u00f6lzer"), "null");

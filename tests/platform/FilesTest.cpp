@@ -79,9 +79,16 @@ TEST_F(Files, LongPathsAreOpened) {
     for (int i = 0; i < 6; ++i) {
         deep /= std::string(60, static_cast<char>('a' + i));
     }
-    fs::create_directories(deep);
-    std::ofstream(deep / "x.pat") << "deep";
+    ASSERT_GT(deep.native().size(), 360U);
+    const fs::path openable = fs::path(OpenablePath(Wide(deep / "x.pat")));
+    fs::create_directories(openable.parent_path());
+    std::ofstream(openable) << "deep";
     EXPECT_EQ(TextOf(OpenForReading(Wide(deep / "x.pat").c_str())), "deep");
+    EXPECT_EQ(OpenIgnoringCase(Wide(deep.lexically_relative(folder_) / "X.PAT")), "deep");
+    // From below, each by a path that can be opened.
+    for (fs::path path = deep / "x.pat"; path != folder_; path = path.parent_path()) {
+        EXPECT_TRUE(fs::remove(fs::path(OpenablePath(Wide(path)))));
+    }
 }
 
 #if !defined(_WIN32)
@@ -111,6 +118,7 @@ TEST_F(Files, NamesOfAnyBytesCanBeOpened) {
 
 struct Split {
     const wchar_t* path;
+    const wchar_t* drive;
     const wchar_t* directory;
     const wchar_t* fileName;
     const wchar_t* extension;
@@ -118,23 +126,40 @@ struct Split {
 
 TEST(SplitPath, CutsBehindTheLastSeparatorAndBeforeTheLastPoint) {
     const Split rows[] = {
-        {L"/a/b/c.lin", L"/a/b/", L"c", L".lin"},
-        {L"c.lin", L"", L"c", L".lin"},
-        {L"a/b", L"a/", L"b", L""},
-        {L"a.b/c", L"a.b/", L"c", L""},
-        {L"x.y.z", L"", L"x.y", L".z"},
-        {L"a\\b.shx", L"a\\", L"b", L".shx"},
-        {L"dir/", L"dir/", L"", L""},
-        {L".hidden", L"", L"", L".hidden"},
-        {L"", L"", L"", L""},
+        {L"/a/b/c.lin", L"", L"/a/b/", L"c", L".lin"},
+        {L"c.lin", L"", L"", L"c", L".lin"},
+        {L"a/b", L"", L"a/", L"b", L""},
+        {L"a.b/c", L"", L"a.b/", L"c", L""},
+        {L"x.y.z", L"", L"", L"x.y", L".z"},
+        {L"a\\b.shx", L"", L"a\\", L"b", L".shx"},
+        {L"dir/", L"", L"dir/", L"", L""},
+        {L".hidden", L"", L"", L"", L".hidden"},
+        {L"", L"", L"", L"", L""},
+#if defined(_WIN32)
+        {L"C:\\data\\c.lin", L"C:", L"\\data\\", L"c", L".lin"},
+        {L"d:c.lin", L"d:", L"", L"c", L".lin"},
+        {L"\\\\server\\share\\c.lin", L"", L"\\\\server\\share\\", L"c", L".lin"},
+#else
+        {L"C:\\data\\c.lin", L"", L"C:\\data\\", L"c", L".lin"},
+        {L"d:c.lin", L"", L"", L"d:c", L".lin"},
+#endif
     };
     for (const Split& row : rows) {
         const PathParts parts = platform::SplitPath(row.path);
+        EXPECT_EQ(parts.drive, row.drive) << row.path;
         EXPECT_EQ(parts.directory, row.directory) << row.path;
         EXPECT_EQ(parts.fileName, row.fileName) << row.path;
         EXPECT_EQ(parts.extension, row.extension) << row.path;
-        EXPECT_EQ(parts.drive, L"") << row.path;
     }
+}
+
+TEST(SplitPath, PartsOfAnyLengthAreWhole) {
+    const std::wstring directory(5000, L'd');
+    const std::wstring name(3000, L'n');
+    const PathParts parts = platform::SplitPath(directory + L"/" + name + L"." + name);
+    EXPECT_EQ(parts.directory, directory + L"/");
+    EXPECT_EQ(parts.fileName, name);
+    EXPECT_EQ(parts.extension, L"." + name);
 }
 
 TEST(CompareIgnoringCase, LettersAToZCountAsOne) {

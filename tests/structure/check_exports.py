@@ -22,7 +22,8 @@ def exported():
     else:
         names = [line.split()[-1] for line in output(READER, "-D", "--defined-only", LIBRARY).splitlines()]
     demangled = output(FILTER, text="\n".join(names)).splitlines()
-    return {name.replace(WSTRING, "std::wstring") for name in demangled}
+    # The name of a type goes with its information, and is exported on some systems only.
+    return {name.replace(WSTRING, "std::wstring") for name in demangled if not name.startswith("typeinfo name for ")}
 
 
 with open(LIST, encoding="utf-8") as file:

@@ -5,8 +5,10 @@
 
 namespace {
 
-using support::RunTool;
+#if !defined(_WIN32)
 using support::RunToolRedirected;
+#endif
+using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
 

@@ -7,7 +7,9 @@
 namespace {
 
 using support::RunTool;
+#if !defined(_WIN32)
 using support::RunToolRedirected;
+#endif
 using support::ScratchFolder;
 using support::ToolResult;
 

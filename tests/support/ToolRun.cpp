@@ -7,7 +7,11 @@
 #include <iterator>
 #include <random>
 
-#if !defined(_WIN32)
+#if defined(_WIN32)
+#include "StyleConversion/platform/Utf8.h"
+
+#include <windows.h>
+#else
 #include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -18,29 +22,87 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Quoted(const std::string& word) {
-#if defined(_WIN32)
-    return "\"" + word + "\"";
-#else
-    std::string quoted = "'";
-    for (const char c : word) {
-        quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    }
-    return quoted + "'";
-#endif
-}
-
 std::string BytesOf(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-int ExitStatus(int result) {
 #if defined(_WIN32)
+
+// One word as the system's own parser of command lines takes it back: a quote, and the backslashes before
+// one, stand behind a backslash each.
+std::wstring Quoted(const std::wstring& word) {
+    std::wstring quoted = L"\"";
+    std::size_t backslashes = 0;
+    for (const wchar_t c : word) {
+        if (c == L'"') {
+            quoted.append(backslashes + 1, L'\\');
+        }
+        backslashes = c == L'\\' ? backslashes + 1 : 0;
+        quoted += c;
+    }
+    return quoted.append(backslashes, L'\\') + L'"';
+}
+
+class Handle {
+public:
+    // A file that a child process can inherit.
+    Handle(const fs::path& path, DWORD access, DWORD creation) {
+        SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+        handle_ = CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited, creation,
+                              FILE_ATTRIBUTE_NORMAL, nullptr);
+    }
+    ~Handle() { CloseHandle(handle_); }
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+    HANDLE Get() const { return handle_; }
+
+private:
+    HANDLE handle_;
+};
+
+ToolResult Run(const std::vector<std::string>& arguments, const std::string& input) {
+    const ScratchFolder scratch;
+    const fs::path in = scratch.Write("in", input);
+    std::wstring command = Quoted(fs::path(STYLECONV_PATH).wstring());
+    for (const std::string& argument : arguments) {
+        command += L" " + Quoted(platform::Utf8ToWide(argument));
+    }
+    ToolResult result;
+    {
+        const Handle standardInput(in, GENERIC_READ, OPEN_EXISTING);
+        const Handle standardOutput(scratch / "out", GENERIC_WRITE, CREATE_ALWAYS);
+        const Handle standardError(scratch / "err", GENERIC_WRITE, CREATE_ALWAYS);
+        STARTUPINFOW startup{};
+        startup.cb = sizeof startup;
+        startup.dwFlags = STARTF_USESTDHANDLES;
+        startup.hStdInput = standardInput.Get();
+        startup.hStdOutput = standardOutput.Get();
+        startup.hStdError = standardError.Get();
+        PROCESS_INFORMATION process{};
+        if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
+                           &process) != FALSE) {
+            WaitForSingleObject(process.hProcess, INFINITE);
+            DWORD status = 0;
+            GetExitCodeProcess(process.hProcess, &status);
+            result.status = static_cast<int>(status);
+            CloseHandle(process.hProcess);
+            CloseHandle(process.hThread);
+        }
+    }
+    result.output = BytesOf(scratch / "out");
+    result.errors = BytesOf(scratch / "err");
     return result;
+}
+
 #else
-    return WIFEXITED(result) ? WEXITSTATUS(result) : -1;
-#endif
+
+std::string Quoted(const std::string& word) {
+    std::string quoted = "'";
+    for (const char c : word) {
+        quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    }
+    return quoted + "'";
 }
 
 std::string CommandLine(const std::vector<std::string>& arguments) {
@@ -53,34 +115,33 @@ std::string CommandLine(const std::vector<std::string>& arguments) {
 
 // `prefix` stands before the command for the shell to read.
 ToolResult Run(const std::vector<std::string>& arguments, const std::string& input,
-               const std::string& redirection, const std::string& prefix = "") {
+               const std::string& redirection = "", const std::string& prefix = "") {
     const ScratchFolder scratch;
     const std::string in = scratch.Write("in", input);
     std::string command = prefix + CommandLine(arguments);
     command += " < " + Quoted(in) + " 2> " + Quoted(scratch / "err") + " ";
     command += redirection.empty() ? "> " + Quoted(scratch / "out") : redirection;
-#if defined(_WIN32)
-    // cmd takes the outer pair of quotes away.
-    command = "\"" + command + "\"";
-#endif
     ToolResult result;
-    result.status = ExitStatus(std::system(command.c_str()));
+    const int status = std::system(command.c_str());
+    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     result.output = BytesOf(scratch / "out");
     result.errors = BytesOf(scratch / "err");
     return result;
 }
 
+#endif
+
 } // namespace
 
 ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input) {
-    return Run(arguments, input, "");
+    return Run(arguments, input);
 }
 
+#if !defined(_WIN32)
 ToolResult RunToolRedirected(const std::vector<std::string>& arguments, const std::string& redirection) {
     return Run(arguments, "", redirection);
 }
 
-#if !defined(_WIN32)
 ToolResult RunToolWithFileSizeLimit(std::size_t bytes, const std::vector<std::string>& arguments) {
     return Run(arguments, "", "", "prlimit --fsize=" + std::to_string(bytes) + " ");
 }

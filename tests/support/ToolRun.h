@@ -17,10 +17,10 @@ struct ToolResult {
 /// Runs styleconv with the arguments. `input` is its standard input.
 ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input = "");
 
+#if !defined(_WIN32)
 /// The same with its standard output sent where the shell's words `redirection` say ("> /dev/full").
 ToolResult RunToolRedirected(const std::vector<std::string>& arguments, const std::string& redirection);
 
-#if !defined(_WIN32)
 /// The same, unable to write a file longer than `bytes`; its own standard output and error are files too.
 ToolResult RunToolWithFileSizeLimit(std::size_t bytes, const std::vector<std::string>& arguments);
 

@@ -62,6 +62,10 @@ std::string FindIgnoringCase(const std::string& directory, std::wstring_view nam
 
 } // namespace
 
+std::wstring OpenablePath(const std::wstring& path) {
+    return path;
+}
+
 std::FILE* OpenForReading(const wchar_t* path) {
     return OpenBytes(PathToBytes(path));
 }

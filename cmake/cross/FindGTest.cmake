@@ -1,0 +1,11 @@
+# GoogleTest from Debian's sources, built for the system that the tests run on.
+if(NOT TARGET GTest::gtest_main)
+  set(BUILD_GMOCK OFF)
+  set(INSTALL_GTEST OFF)
+  add_subdirectory(/usr/src/googletest "${PROJECT_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
+  if(NOT TARGET GTest::gtest_main)
+    add_library(GTest::gtest ALIAS gtest)
+    add_library(GTest::gtest_main ALIAS gtest_main)
+  endif()
+endif()
+set(GTest_FOUND TRUE)

@@ -1,0 +1,26 @@
+#!/bin/sh
+# Runs a Windows program headless under wine: run-under-wine.sh PREFIX PROGRAM [ARGUMENT...]
+#
+# PREFIX is wine's folder, made on first use. Its server stays for a while, so that the next program starts fast.
+set -eu
+WINEPREFIX=$1
+shift
+export WINEPREFIX
+# Quiet, without a display, and without offers to install a browser or another runtime.
+export WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe=' DISPLAY=
+# Names of files and arguments are UTF-8, whatever the caller's language.
+export LC_ALL=C.UTF-8
+# One at a time makes the prefix; the others wait for it.
+if [ ! -e "$WINEPREFIX/made" ]; then
+    mkdir -p "$WINEPREFIX"
+    (
+        flock 9
+        if [ ! -e "$WINEPREFIX/made" ]; then
+            wineboot --init >/dev/null 2>&1 9>&-
+            wineserver --wait 9>&-
+            touch "$WINEPREFIX/made"
+        fi
+    ) 9>"$WINEPREFIX/lock"
+fi
+wineserver --persistent=60 2>/dev/null || true
+exec wine "$@"
