@@ -45,7 +45,9 @@ photograph() {
   options=(--headless --disable-gpu --disable-quic --no-first-run --disable-background-networking
     --disable-component-update --disable-sync --disable-dev-shm-usage --hide-scrollbars
     --force-device-scale-factor=1 --window-size=1280,800 --user-data-dir="$profile/data"
-    --virtual-time-budget=3000 --screenshot="$profile/gallery.png")
+    --virtual-time-budget=3000 --screenshot="$profile/gallery.png"
+    # The same bytes every time.
+    --run-all-compositor-stages-before-draw --num-raster-threads=1 --disable-partial-raster)
   # The browser's sandbox refuses to start for root.
   [ "$(id -u)" -ne 0 ] || options+=(--no-sandbox)
   HOME=$profile chromium "${options[@]}" "file://$(realpath "$1")" >/dev/null 2>&1 || status=1
