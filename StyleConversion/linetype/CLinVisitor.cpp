@@ -74,7 +74,7 @@ void CLinVisitor::BeginLinetype(const LinetypeRecord& record, const std::string&
                                 int /*elementCount*/) {
     dashPath_.clear();
     position_ = 0.0;
-    compound_ = std::make_unique<CompoundSymbolDefinition>();
+    compound_.reset();
     simple_ = std::make_unique<SimpleSymbolDefinition>();
     hasText_ = false;
     linetypeFailed_ = false;
@@ -108,15 +108,14 @@ void CLinVisitor::EndLinetype() {
     if (results_->size() == results_->capacity()) {
         results_->reserve(results_->size() * 2 + 1);
     }
-    auto& members = compound_->GetSymbols();
-    if (members.GetCount() == 0) {
-        compound_.reset();
+    if (compound_ == nullptr) {
         if (!description_.empty()) {
             simple_->SetDescription(description_);
         }
         results_->push_back(simple_.release());
         return;
     }
+    auto& members = compound_->GetSymbols();
     for (std::int32_t i = members.GetCount() - 1; i >= 0; --i) {
         members.GetAt(i)->GetSymbolDefinition()->GetLineUsage()->SetRepeat(repeat);
     }
@@ -128,6 +127,13 @@ void CLinVisitor::EndLinetype() {
         compound_->SetDescription(description_);
     }
     results_->push_back(compound_.release());
+}
+
+CompoundSymbolDefinition& CLinVisitor::Compound() {
+    if (compound_ == nullptr) {
+        compound_ = std::make_unique<CompoundSymbolDefinition>();
+    }
+    return *compound_;
 }
 
 void CLinVisitor::Dot() {
@@ -217,7 +223,7 @@ void CLinVisitor::AddTrueTypeText(const std::string& text, const ElementTransfor
     const double x = ElementX(transform);
     element->SetPositionY(NumberText(ElementY(transform)));
     if (HasFixedAngle(transform)) {
-        SimpleSymbolDefinition& definition = AddMember(*compound_, name_);
+        SimpleSymbolDefinition& definition = AddMember(Compound(), name_);
         FixAngle(AddLineUsage(definition), transform.absoluteRotation, x);
         definition.GetGraphics().Adopt(element.release());
         AddTextColorParameter(definition);
@@ -287,7 +293,7 @@ void CLinVisitor::AddDrawnMember(const std::wstring& path, const ElementTransfor
     if (path.empty()) {
         return;
     }
-    SimpleSymbolDefinition& definition = AddMember(*compound_, name_);
+    SimpleSymbolDefinition& definition = AddMember(Compound(), name_);
     AddLineColorParameter(definition);
     AddLineWeightParameter(definition);
     AddLinePath(definition, path);

@@ -46,6 +46,8 @@ public:
 
 private:
     void DeleteResults();
+    // The compound symbol of the linetype: made for its first member, since most linetypes have none.
+    TylModel::CompoundSymbolDefinition& Compound();
     void AddTrueTypeText(const std::string& text, const ElementTransform& transform, const FontInfo& font);
     void AddShxText(const std::string& text, const ElementTransform& transform, const FontInfo& font,
                     const ShapeFileMap& shapeFiles);
