@@ -22,5 +22,6 @@ if [ ! -e "$WINEPREFIX/made" ]; then
         fi
     ) 9>"$WINEPREFIX/lock"
 fi
-wineserver --persistent=60 2>/dev/null || true
+# Started here and not by the program, whose output would stay open as long as the server stays.
+wineserver --persistent=60 </dev/null >/dev/null 2>&1 || true
 exec wine "$@"

@@ -3,6 +3,7 @@
 #include "StyleConversion/platform/Utf8.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <nlohmann/json.hpp>
 
 namespace documents {
@@ -17,7 +18,7 @@ bool IsPlain(wchar_t c) {
 }
 
 bool IsAscii(wchar_t c) {
-    return c >= 0 && c <= L'\x7f';
+    return static_cast<std::uint32_t>(c) <= 0x7f;
 }
 
 // Narrows in pieces, since a string that is made longer in one step is filled with zeros first.

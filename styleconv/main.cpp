@@ -57,6 +57,8 @@ ExitStatus Run(int argc, char** argv) {
                  "styleconv");
     app.set_version_flag("--version", "styleconv " STYLECONVERSION_VERSION);
     app.require_subcommand(1);
+    // A path may begin with a slash, on every system.
+    app.allow_windows_style_options(false);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     Runner runner;
     LimitOptions limits;
