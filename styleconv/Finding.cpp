@@ -6,24 +6,12 @@
 
 namespace styleconv {
 
-const char* SeverityName(Severity severity) {
-    switch (severity) {
-    case Severity::kError:
-        return "error";
-    case Severity::kWarning:
-        return "warning";
-    case Severity::kNote:
-        break;
-    }
-    return "note";
-}
-
 std::string FindingText(const Finding& finding) {
     std::string text = Shown(finding.file);
     if (finding.line > 0) {
         text += ":" + std::to_string(finding.line);
     }
-    text += ": " + std::string(SeverityName(finding.severity)) + ": ";
+    text += ": " + std::string(documents::SeverityName(finding.severity)) + ": ";
     text += finding.message;
     if (!finding.item.empty()) {
         text += " (" + finding.item + ")";

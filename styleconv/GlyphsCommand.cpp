@@ -6,6 +6,7 @@
 #include "StyleConversion/shx/ShapeFileFault.h"
 #include "StyleConversion/shx/ShxUtility.h"
 #include "documents/GlyphsDocument.h"
+#include "styleconv/CheckedShapes.h"
 #include "styleconv/GlyphSymbols.h"
 #include "styleconv/Messages.h"
 #include "styleconv/NumberOption.h"
@@ -33,6 +34,7 @@ struct GlyphsOptions : CommonOptions {
     double x = 0.0;
     double y = 0.0;
     bool vertical = false;
+    bool tolerant = false;
 };
 
 struct CloseFile {
@@ -40,17 +42,20 @@ struct CloseFile {
 };
 
 // False, after saying why, where the file is refused or has no shapes.
-bool LoadShapes(const InputFile& input, ShxUtility::ShapesInFile& file) {
+bool LoadShapes(const InputFile& input, ShxUtility::ShapesInFile& file, bool tolerant = false) {
     const std::unique_ptr<std::FILE, CloseFile> stream(platform::OpenForReading(input.Path().c_str()));
     if (!stream) {
         Say(input.Name(), std::string("cannot be opened: ") + std::strerror(errno));
         return false;
     }
     ShxUtility::ShapeFileFaultReport report;
-    if (LoadShapeFile(stream.get(), file, ShxUtility::kAllKinds, report) != ShxUtility::kSuccess) {
+    const ShxUtility::ShapeFilePolicy policy =
+        tolerant ? ShxUtility::kTolerantShapeFilePolicy : ShxUtility::ShapeFilePolicy();
+    if (LoadShapeFile(stream.get(), file, ShxUtility::kAllKinds, report, policy) != ShxUtility::kSuccess) {
         SayAtByte(input.Name(), static_cast<std::size_t>(report.offset), Sentence(report));
         return false;
     }
+    SayFindings(ForgivenOfShapeFile(input.Name(), report));
     if (file.numberIndex.empty()) {
         Say(input.Name(), "the file has no shapes");
         return false;
@@ -109,6 +114,25 @@ documents::Glyph DrawGlyph(const ShxUtility::ShapesInFile& file, const ShxUtilit
     return glyph;
 }
 
+// Takes the shapes that cannot be drawn out of those to draw, and names them. False when none is left.
+bool KeepDrawn(const InputFile& input, const ShxUtility::ShapesInFile& file, const GlyphsOptions& options,
+               std::vector<std::size_t>& positions) {
+    std::erase_if(positions, [&](std::size_t position) {
+        const documents::Glyph glyph = DrawGlyph(file, file.shapes[position], options);
+        if (glyph.result == ShxUtility::kSuccess) {
+            return false;
+        }
+        SayFindings({{input.Name(), 0, Severity::kWarning,
+                      std::string("it cannot be drawn: ") + DrawingFault(glyph.result) + "; left out",
+                      ShownShape(file.shapes[position])}});
+        return true;
+    });
+    if (positions.empty()) {
+        Say(input.Name(), "none of the shapes can be drawn");
+    }
+    return !positions.empty();
+}
+
 ExitStatus WriteDocument(const ShxUtility::ShapesInFile& file, const std::vector<std::size_t>& positions,
                          const GlyphsOptions& options) {
     OutputFile output(options.output);
@@ -154,7 +178,11 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     }
     ShxUtility::ShapesInFile file;
     std::vector<std::size_t> positions;
-    if (!LoadShapes(input, file) || !ChooseShapes(input, file, options.numbers, positions)) {
+    if (!LoadShapes(input, file, options.tolerant) ||
+        !ChooseShapes(input, file, options.numbers, positions)) {
+        return kInputFault;
+    }
+    if (options.tolerant && !KeepDrawn(input, file, options, positions)) {
         return kInputFault;
     }
     return options.format == "json" ? WriteDocument(file, positions, options)
@@ -177,6 +205,7 @@ void AddGlyphsCommand(CLI::App& app, Runner& runner) {
     AddPointOption(*command, "--at", options->x, options->y,
                    "Where every shape begins, in path units (default: 0,0)");
     command->add_flag("--vertical", options->vertical, "Draw as in vertical text");
+    AddTolerantOption(*command, options->tolerant);
     AddCodePageOption(*command, options->codePage);
     AddCommonOptions(*command, *options);
     command->callback([options, &runner] { runner = [options] { return Glyphs(*options); }; });

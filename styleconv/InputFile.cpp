@@ -91,6 +91,10 @@ bool InputFile::ProvidePath() {
     return true;
 }
 
+bool StartsWithByteOrderMark(std::string_view bytes) {
+    return bytes.starts_with("\xef\xbb\xbf");
+}
+
 bool ChooseCodePage(const InputFile& input, const std::string& requested) {
     if (requested.empty()) {
         return platform::SetAnsiCodePage(platform::IsUtf8(input.Bytes()) ? "UTF-8" : "WINDOWS-1252");

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace styleconv {
 
@@ -48,6 +49,9 @@ private:
     std::unique_ptr<std::FILE, CloseFile> file_;
     TemporaryFile temporary_;
 };
+
+/// Whether the bytes begin with the mark that some editors put before UTF-8.
+bool StartsWithByteOrderMark(std::string_view bytes);
 
 /// Sets the code page that narrow text of `input` is converted through: `requested`, or when that is empty
 /// UTF-8 for a file that is UTF-8 throughout and WINDOWS-1252 for any other. False, with a message, when

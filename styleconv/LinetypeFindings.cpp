@@ -1,5 +1,6 @@
 #include "styleconv/LinetypeFindings.h"
 
+#include "StyleConversion/encoding/NumberReader.h"
 #include "StyleConversion/linetype/LinLimits.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "styleconv/Messages.h"
@@ -53,6 +54,11 @@ Words SlipWords(const LinFault& fault) {
         return {"the pattern ends at byte " + std::to_string(fault.column) +
                     ", for no comma is there; not read: " + ShownLine(fault.lineText),
                 ""};
+    case LinFaultKind::kShapeFileOfOtherMaker:
+        return {"shape file " + Shown(fault.subject) + " has the signature of another maker",
+                "; read all the same"};
+    case LinFaultKind::kShapeFileWithoutTrailer:
+        return {"shape file " + Shown(fault.subject) + " lacks \"EOF\" at its end", "; read all the same"};
     default:
         return {};
     }
@@ -69,7 +75,8 @@ Words FaultWords(const LinFault& fault, const LinetypeSources& sources) {
 
 // A remark behind a pattern is no loss; more of the pattern is.
 bool LooksLikeElements(std::string_view text) {
-    return text.find(',') != std::string_view::npos || text.find_first_of("+-.0123456789[\"") == 0;
+    return text.find(',') != std::string_view::npos || text.starts_with('[') ||
+           encoding::ReadNumber(text).used != 0;
 }
 
 Severity SeverityOf(const LinFault& fault) {

@@ -50,25 +50,6 @@ const char* ExpectedSyntax(LinFaultKind kind) {
     }
 }
 
-const char* DrawingFault(std::int32_t shxResult) {
-    switch (shxResult) {
-    case ShxUtility::kMalformed:
-        return "its program is malformed or cut short";
-    case ShxUtility::kOutOfMemory:
-        return "there is not enough memory";
-    case ShxUtility::kPositionStackFull:
-        return "it saves more than three positions";
-    case ShxUtility::kPositionStackEmpty:
-        return "it goes back to a position that it has not saved";
-    case ShxUtility::kRecursiveSubshape:
-        return "it draws itself as a subshape";
-    case ShxUtility::kSubshapeNotFound:
-        return "the file lacks a subshape of it";
-    default:
-        return "its program cannot be carried out";
-    }
-}
-
 // "linetype GAS, element 3"
 std::string Place(const LinFault& fault) {
     return "linetype " + Shown(platform::AnsiToWide(fault.linetype)) +

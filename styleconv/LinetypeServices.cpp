@@ -137,9 +137,14 @@ void LinetypeServices::SayWhatStoodIn() const {
             "note: text style STANDARD not found " + sources_.styles + "; read as one with txt.shx");
     }
     if (builtInFontUsed_) {
-        Say(input_.Name(), "note: font file txt.shx not found in " + FoldersSearched(kDefaultFont, sources_) +
-                               "; the built-in font stands in for it");
+        Say(input_.Name(), "note: " + BuiltInFontText());
     }
+}
+
+std::string LinetypeServices::BuiltInFontText() const {
+    return builtInFontUsed_ ? "font file txt.shx not found in " + FoldersSearched(kDefaultFont, sources_) +
+                                  "; the built-in font stands in for it"
+                            : "";
 }
 
 } // namespace styleconv

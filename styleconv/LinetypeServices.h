@@ -42,6 +42,9 @@ public:
     /// Says what stood in for what was not there.
     void SayWhatStoodIn() const;
 
+    /// "font file txt.shx not found in …; the built-in font stands in for it"; empty where it does not.
+    std::string BuiltInFontText() const;
+
     const LinetypeSources& Sources() const { return sources_; }
 
 private:

@@ -14,7 +14,6 @@
 #include "styleconv/SymbolOutput.h"
 
 #include <memory>
-#include <string_view>
 #include <utility>
 
 namespace styleconv {
@@ -62,13 +61,10 @@ bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Symbols
 }
 
 void SayThereAreNoLinetypes(const InputFile& input) {
-    constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
-    if (input.Bytes().starts_with(kByteOrderMark)) {
-        SayAtLine(input.Name(), 1,
-                  "the file has no linetypes: a UTF-8 byte-order mark stands before its first character and "
-                  "hides a header there; save the file without it");
+    if (StartsWithByteOrderMark(input.Bytes())) {
+        SayAtLine(input.Name(), 1, NoLinetypesText(input));
     } else {
-        Say(input.Name(), "the file has no linetypes: no line begins with \"*\" and a name");
+        Say(input.Name(), NoLinetypesText(input));
     }
 }
 
@@ -136,6 +132,14 @@ void AddLinetypesCommand(CLI::App& app, Runner& runner) {
     AddCodePageOption(*command, options->codePage);
     AddCommonOptions(*command, *options);
     command->callback([options, &runner] { runner = [options] { return Linetypes(*options); }; });
+}
+
+std::string NoLinetypesText(const InputFile& input) {
+    return StartsWithByteOrderMark(input.Bytes())
+               ? "the file has no linetypes: a UTF-8 byte-order mark stands before its first character and "
+                 "hides a "
+                 "header there; save the file without it"
+               : "the file has no linetypes: no line begins with \"*\" and a name";
 }
 
 bool ListLinetypes(const InputFile& input, std::vector<std::string>& names) {

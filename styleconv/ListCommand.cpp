@@ -1,48 +1,33 @@
 #include "styleconv/ListCommand.h"
 
 #include "styleconv/BlocksCommand.h"
+#include "styleconv/FileKind.h"
 #include "styleconv/GlyphsCommand.h"
 #include "styleconv/InputFile.h"
 #include "styleconv/LinetypesCommand.h"
 #include "styleconv/Messages.h"
 #include "styleconv/OutputFile.h"
-#include "styleconv/Paths.h"
 #include "styleconv/PatternsCommand.h"
 
 #include <memory>
-#include <string_view>
 
 namespace styleconv {
 namespace {
 
 using Lister = bool (*)(const InputFile& input, std::vector<std::string>& names);
 
-struct Kind {
-    std::string_view extension; // lower case
-    Lister lister;
-};
-
-constexpr Kind kKinds[] = {
-    {".lin", ListLinetypes},
-    {".pat", ListPatterns},
-    {".shx", ListShapes},
-    {".json", ListBlocks},
-};
-
-std::string LowerExtension(const std::string& path) {
-    std::string extension = NativePath(path).extension().string();
-    for (char& c : extension) {
-        c = static_cast<char>(c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c);
-    }
-    return extension;
-}
-
 Lister FindLister(const std::string& path) {
-    const std::string extension = LowerExtension(path);
-    for (const Kind& kind : kKinds) {
-        if (kind.extension == extension) {
-            return kind.lister;
-        }
+    switch (FileKindOf(path)) {
+    case FileKind::kLinetypes:
+        return ListLinetypes;
+    case FileKind::kPatterns:
+        return ListPatterns;
+    case FileKind::kShapes:
+        return ListShapes;
+    case FileKind::kDrawing:
+        return ListBlocks;
+    case FileKind::kUnknown:
+        break;
     }
     return nullptr;
 }
@@ -65,7 +50,7 @@ ExitStatus List(const ListOptions& options) {
         return kInputFault;
     }
     if (lister == nullptr) {
-        Say(input.Name(), "is of no known kind: its name should end in .lin, .pat, .shx or .json");
+        Say(input.Name(), kUnknownKind);
         return kInputFault;
     }
     if (!ChooseCodePage(input, options.codePage)) {

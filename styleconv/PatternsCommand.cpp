@@ -14,6 +14,7 @@
 
 #include <memory>
 #include <string_view>
+#include <utility>
 
 namespace styleconv {
 namespace {
@@ -31,15 +32,18 @@ struct LoadedPatterns {
     pattern::PatternReading reading;
 };
 
+std::string NoPatternsText(const InputFile& input) {
+    return StartsWithByteOrderMark(input.Bytes()) ? "the file has no patterns: a UTF-8 byte-order mark "
+                                                    "stands before its first character and hides a "
+                                                    "header there; save the file without it"
+                                                  : "the file has no patterns: no line begins with \"*\"";
+}
+
 void SayThereAreNoPatterns(const InputFile& input) {
-    constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
-    if (input.Bytes().starts_with(kByteOrderMark)) {
-        SayAtLine(
-            input.Name(), 1,
-            "the file has no patterns: a UTF-8 byte-order mark stands before its first character and hides "
-            "a header there; save the file without it");
+    if (StartsWithByteOrderMark(input.Bytes())) {
+        SayAtLine(input.Name(), 1, NoPatternsText(input));
     } else {
-        Say(input.Name(), "the file has no patterns: no line begins with \"*\"");
+        Say(input.Name(), NoPatternsText(input));
     }
 }
 
@@ -158,6 +162,17 @@ void AddPatternsCommand(CLI::App& app, Runner& runner) {
     AddCodePageOption(*command, options->codePage);
     AddCommonOptions(*command, *options);
     command->callback([options, &runner] { runner = [options] { return Patterns(*options); }; });
+}
+
+void CheckPatterns(const InputFile& input, std::vector<Finding>& findings) {
+    LoadedPatterns loaded;
+    pattern::ParsePatternFile(input.Bytes(), loaded.file, &loaded.reading, pattern::kTolerantPatternPolicy);
+    for (Finding& finding : CheckedPatterns(input.Name(), loaded.file, loaded.reading)) {
+        findings.push_back(std::move(finding));
+    }
+    if (loaded.file.patterns.empty()) {
+        findings.push_back({input.Name(), 0, Severity::kError, NoPatternsText(input), ""});
+    }
 }
 
 bool ListPatterns(const InputFile& input, std::vector<std::string>& names) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "styleconv/Command.h"
+#include "styleconv/Finding.h"
 #include "styleconv/InputFile.h"
 
 #include <string>
@@ -11,6 +12,9 @@ namespace styleconv {
 
 /// Adds the command to the command line.
 void AddPatternsCommand(CLI::App& app, Runner& runner);
+
+/// Appends what is wrong with a pattern file that was read, or will surprise.
+void CheckPatterns(const InputFile& input, std::vector<Finding>& findings);
 
 /// The names of the patterns of a file that was read, in the order in which they are converted, as UTF-8.
 /// False, after saying why, when the file has none or cannot be read whole.

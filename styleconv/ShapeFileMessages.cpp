@@ -1,6 +1,7 @@
 #include "styleconv/ShapeFileMessages.h"
 
 #include "StyleConversion/shx/Limits.h"
+#include "StyleConversion/shx/ShxResult.h"
 
 namespace styleconv {
 namespace {
@@ -90,6 +91,25 @@ std::string Sentence(const ShxUtility::ShapeFileFaultReport& report) {
         return "the file met its end before it was read";
     default:
         return EntrySentence(report.fault, report.shapeNumber);
+    }
+}
+
+const char* DrawingFault(std::int32_t shxResult) {
+    switch (shxResult) {
+    case ShxUtility::kMalformed:
+        return "its program is malformed or cut short";
+    case ShxUtility::kOutOfMemory:
+        return "there is not enough memory";
+    case ShxUtility::kPositionStackFull:
+        return "it saves more than three positions";
+    case ShxUtility::kPositionStackEmpty:
+        return "it goes back to a position that it has not saved";
+    case ShxUtility::kRecursiveSubshape:
+        return "it draws itself as a subshape";
+    case ShxUtility::kSubshapeNotFound:
+        return "the file lacks a subshape of it";
+    default:
+        return "its program cannot be carried out";
     }
 }
 

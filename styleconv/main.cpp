@@ -1,6 +1,7 @@
 // The command line of styleconv: which commands there are, and what a wrong command line gets.
 #include "StyleConversion/platform/Files.h"
 #include "styleconv/BlocksCommand.h"
+#include "styleconv/CheckCommand.h"
 #include "styleconv/GlyphsCommand.h"
 #include "styleconv/Interruption.h"
 #include "styleconv/LinetypesCommand.h"
@@ -33,6 +34,7 @@ void AddCommands(CLI::App& app, Runner& runner, LimitOptions& limits, bool& quie
     AddBlocksCommand(app, runner);
     AddGlyphsCommand(app, runner);
     AddListCommand(app, runner);
+    AddCheckCommand(app, runner);
     for (CLI::App* const command : app.get_subcommands({})) {
         command->group("Commands");
         AddLimitOptions(*command, limits);

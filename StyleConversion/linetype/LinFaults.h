@@ -69,6 +69,8 @@ enum class LinFaultKind : std::uint8_t {
     kSemicolonInText,
     kCharacterCodeInText,
     kTextBehindPattern,
+    kShapeFileOfOtherMaker,
+    kShapeFileWithoutTrailer,
 };
 
 struct LinFault {

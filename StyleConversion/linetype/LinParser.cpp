@@ -238,7 +238,7 @@ void LinParser::Forgive(LinFaultKind kind, const char* cursor) {
         forgivenLine_ = reader_.LineNumber();
         forgivenKinds_ = 0;
     }
-    static_assert(static_cast<unsigned>(LinFaultKind::kTextBehindPattern) < 64);
+    static_assert(static_cast<unsigned>(LinFaultKind::kShapeFileWithoutTrailer) < 64);
     const std::uint64_t bit = std::uint64_t{1} << static_cast<unsigned>(kind);
     if ((forgivenKinds_ & bit) == 0) {
         forgivenKinds_ |= bit;

@@ -1,6 +1,8 @@
 // How far a linetype file may stray from its form and still be read.
 #pragma once
 
+#include "StyleConversion/shx/ShapeFilePolicy.h"
+
 namespace LineConverter {
 
 /// By default nothing is forgiven, and the first fault ends a reading. Whatever else is forgiven is told to
@@ -16,8 +18,10 @@ struct LinPolicy {
     bool looseForm = false;
     /// A text style that nobody knows is replaced by STANDARD.
     bool unknownStylesAreStandard = false;
+    /// Of the shape files that linetypes name.
+    ShxUtility::ShapeFilePolicy shapeFiles;
 };
 
-inline constexpr LinPolicy kTolerantLinPolicy{true, true, true, true};
+inline constexpr LinPolicy kTolerantLinPolicy{true, true, true, true, ShxUtility::kTolerantShapeFilePolicy};
 
 } // namespace LineConverter

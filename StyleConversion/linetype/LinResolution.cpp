@@ -109,7 +109,7 @@ LinResult LinParser::LoadOneShapeFile(const std::wstring& name, std::uint32_t ac
     }
     ShxUtility::ShapeFileFaultReport report;
     const ShxUtility::ShxResult loaded =
-        ShxUtility::LoadShapeFile(stream.get(), shapeFiles_[name], acceptedKinds, report);
+        ShxUtility::LoadShapeFile(stream.get(), shapeFiles_[name], acceptedKinds, report, policy_.shapeFiles);
     if (loaded != ShxUtility::kSuccess) {
         shapeFiles_.erase(name);
         LinFault& fault = faultLog_.Add(kShapeFileNotLoaded, LinFaultKind::kShapeFileNotLoaded);
@@ -117,6 +117,14 @@ LinResult LinParser::LoadOneShapeFile(const std::wstring& name, std::uint32_t ac
         fault.shxResult = loaded;
         fault.shapeFileFault = report;
         return kShapeFileNotLoaded;
+    }
+    if (report.otherMaker) {
+        Fault(kSuccess, LinFaultKind::kShapeFileOfOtherMaker, name);
+        faultLog_.ForgiveLast();
+    }
+    if (report.trailerMissing) {
+        Fault(kSuccess, LinFaultKind::kShapeFileWithoutTrailer, name);
+        faultLog_.ForgiveLast();
     }
     return kSuccess;
 }

@@ -57,6 +57,12 @@ Unit UnitOf(std::string_view remark) {
     return names("%UNITS=IN") ? Unit::kInch : Unit::kNone;
 }
 
+// An empty number behind a dash, say, is one more dot that the dash takes in.
+bool GiveTheSame(const FamilyNumbers& first, const FamilyNumbers& second) {
+    return first.leading == second.leading &&
+           MakePatternLine(FamilyNumbers(first)).dashes == MakePatternLine(FamilyNumbers(second)).dashes;
+}
+
 constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
 
 // Takes the lines of a file one after another.
@@ -141,7 +147,7 @@ private:
         if (policy_.looseForm) {
             std::vector<PatternSlip> slips;
             numbers = ReadNumbersLoosely(line, slips);
-            const bool changes = !slips.empty() && numbers != ReadNumbers(line);
+            const bool changes = !slips.empty() && !GiveTheSame(numbers, ReadNumbers(line));
             for (PatternSlip& slip : slips) {
                 AddSlip(slip.kind, number, changes, std::move(slip.text));
             }

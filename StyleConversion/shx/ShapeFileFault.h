@@ -1,6 +1,7 @@
 // Where and why a shape file was refused: for whoever tells a person. The library itself never reads it.
 #pragma once
 
+#include "StyleConversion/shx/ShapeFilePolicy.h"
 #include "StyleConversion/shx/ShapesInFile.h"
 #include "StyleConversion/shx/ShxResult.h"
 
@@ -54,10 +55,15 @@ struct ShapeFileFaultReport {
     std::uint64_t offset = 0;
     /// The entry that was being read; 0 where there is none, and for the font information.
     std::uint16_t shapeNumber = 0;
+    /// What the policy forgave.
+    bool otherMaker = false;
+    bool trailerMissing = false;
+    /// How many bytes were read.
+    std::uint64_t end = 0;
 };
 
 /// LoadShapeFile, which also says where it stopped. `report` is reset first.
 ShxResult LoadShapeFile(std::FILE* stream, ShapesInFile& out, std::uint32_t acceptedKinds,
-                        ShapeFileFaultReport& report);
+                        ShapeFileFaultReport& report, const ShapeFilePolicy& policy = {});
 
 } // namespace ShxUtility

@@ -28,7 +28,13 @@ void ReserveShapes(ShapesInFile& out, std::size_t count) {
 
 ShxResult ReadTrailer(ShapeReading& reading) {
     const std::uint64_t start = reading.stream.Offset();
-    char trailer[kTrailerSize];
+    char trailer[kTrailerSize] = {};
+    if (reading.policy.trailerMayBeMissing) {
+        const bool isThere = reading.stream.Read(trailer, kTrailerSize) == kTrailerSize &&
+                             std::memcmp(trailer, "EOF", kTrailerSize) == 0;
+        reading.report.trailerMissing = !isThere;
+        return kSuccess;
+    }
     if (reading.stream.Read(trailer, kTrailerSize) != kTrailerSize) {
         return reading.FailHere(ShapeFileFault::TrailerCutShort);
     }
@@ -98,7 +104,8 @@ ShxResult ReadFile(ShapeReading& reading, ShapesInFile& out, std::uint32_t accep
     out.nameIndex.clear();
     reading.nameHint = out.nameIndex.end();
     result = out.kind == kShapes ? ReadShapesBody(reading, out) : ReadUnifontBody(reading, out);
-    if (result == kSuccess && reading.stream.EndOfFileIndicator()) {
+    reading.report.end = reading.stream.Offset();
+    if (result == kSuccess && !reading.report.trailerMissing && reading.stream.EndOfFileIndicator()) {
         return reading.FailHere(ShapeFileFault::EndOfFileIndicator);
     }
     return result;
@@ -107,8 +114,8 @@ ShxResult ReadFile(ShapeReading& reading, ShapesInFile& out, std::uint32_t accep
 } // namespace
 
 ShxResult LoadShapeFile(std::FILE* stream, ShapesInFile& out, std::uint32_t acceptedKinds,
-                        ShapeFileFaultReport& report) {
-    ShapeReading reading(stream, out, report);
+                        ShapeFileFaultReport& report, const ShapeFilePolicy& policy) {
+    ShapeReading reading(stream, out, report, policy);
     if (stream == nullptr) {
         return reading.FailHere(ShapeFileFault::NoStream);
     }

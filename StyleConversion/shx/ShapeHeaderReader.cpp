@@ -11,6 +11,7 @@ namespace ShxUtility {
 namespace {
 
 constexpr std::string_view kMagic = "Vorlanx-86 ";
+constexpr std::string_view kMagicEnd = "-86 ";
 constexpr int kVersionEnd = 0x1a;
 
 ShxResult ReadMagic(ShapeReading& reading) {
@@ -19,7 +20,11 @@ ShxResult ReadMagic(ShapeReading& reading) {
         return reading.FailHere(ShapeFileFault::MagicCutShort);
     }
     if (std::memcmp(magic, kMagic.data(), kMagic.size()) != 0) {
-        return reading.Fail(ShapeFileFault::MagicWrong, 0);
+        const std::string_view found(magic, kMagic.size());
+        if (!reading.policy.anyMaker || !found.ends_with(kMagicEnd)) {
+            return reading.Fail(ShapeFileFault::MagicWrong, 0);
+        }
+        reading.report.otherMaker = true;
     }
     return kSuccess;
 }

@@ -38,8 +38,9 @@ inline std::uint16_t LittleEndian(const std::uint8_t* bytes) {
 }
 
 struct ShapeReading {
-    ShapeReading(std::FILE* file, ShapesInFile& out, ShapeFileFaultReport& faultReport)
-        : stream(file), report(faultReport), nameHint(out.nameIndex.end()) {
+    ShapeReading(std::FILE* file, ShapesInFile& out, ShapeFileFaultReport& faultReport,
+                 const ShapeFilePolicy& readingPolicy = {})
+        : stream(file), report(faultReport), policy(readingPolicy), nameHint(out.nameIndex.end()) {
         report = ShapeFileFaultReport{};
     }
 
@@ -55,6 +56,7 @@ struct ShapeReading {
 
     ShapeStream stream;
     ShapeFileFaultReport& report;
+    ShapeFilePolicy policy;
     /// Where the next name is looked for first: behind the last one, as names often come in order.
     std::map<std::string, std::size_t>::iterator nameHint;
 };

@@ -5,7 +5,7 @@ import subprocess
 import sys
 import unittest
 
-COMMANDS = ("linetypes", "patterns", "blocks", "glyphs", "list")
+COMMANDS = ("linetypes", "patterns", "blocks", "glyphs", "list", "check")
 FIRST_SCREEN = 40  # lines
 
 

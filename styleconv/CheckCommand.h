@@ -1,0 +1,11 @@
+// styleconv check: what is wrong with files, or will surprise.
+#pragma once
+
+#include "styleconv/Command.h"
+
+namespace styleconv {
+
+/// Adds the command to the command line.
+void AddCheckCommand(CLI::App& app, Runner& runner);
+
+} // namespace styleconv

@@ -1,0 +1,183 @@
+#include "styleconv/CheckedShapes.h"
+
+#include "StyleConversion/linetype/LinNames.h"
+#include "StyleConversion/platform/CodePage.h"
+#include "StyleConversion/platform/Files.h"
+#include "StyleConversion/shx/ShxUtility.h"
+#include "styleconv/Messages.h"
+#include "styleconv/ShapeFileMessages.h"
+#include "styleconv/WorkLimits.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <utility>
+
+namespace styleconv {
+namespace {
+
+struct CloseFile {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+bool HasLowerCase(const std::string& name) {
+    return std::any_of(name.begin(), name.end(), [](char c) { return LineConverter::UpperCase(c) != c; });
+}
+
+ShxUtility::ShxResult ResultOfDrawing(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape) {
+    ShxUtility::ShapeInstructions instructions;
+    const ShxUtility::ShxResult decoded = ShxUtility::DecodeShape(
+        instructions, shape.data.data(), static_cast<std::uint16_t>(shape.data.size()), file.kind);
+    if (decoded != ShxUtility::kSuccess) {
+        return decoded;
+    }
+    std::wstring path;
+    double x = 0.0;
+    double y = 0.0;
+    double scale = 1.0;
+    ShxUtility::PositionStack positions;
+    std::vector<std::uint16_t> activeSubshapes;
+    bool penDown = true;
+    return ShxUtility::DrawShape(path, x, y, scale, positions, activeSubshapes, penDown, instructions, file,
+                                 0.0, false);
+}
+
+class ShapeCheck {
+public:
+    ShapeCheck(const InputFile& input, std::vector<Finding>& findings) : input_(input), findings_(findings) {}
+
+    void Add(Severity severity, std::string message, std::string item = {}) {
+        findings_.push_back({input_.Name(), 0, severity, std::move(message), std::move(item)});
+    }
+
+    void CheckLoading(const ShxUtility::ShapeFileFaultReport& report) {
+        if (report.otherMaker) {
+            Add(Severity::kError,
+                "byte 0: the signature is another maker's: expected the words \"Vorlanx-86 \"");
+        }
+        if (report.trailerMissing) {
+            Add(Severity::kError,
+                "byte " + std::to_string(report.end) + ": expected \"EOF\" behind the last shape");
+        } else if (report.end < input_.Bytes().size()) {
+            Add(Severity::kWarning, "byte " + std::to_string(report.end) + ": " +
+                                        std::to_string(input_.Bytes().size() - report.end) +
+                                        " bytes behind the end are not read");
+        }
+    }
+
+    void CheckAll(const ShxUtility::ShapesInFile& file) {
+        for (const ShxUtility::Shape& shape : file.shapes) {
+            if (shape.number != 0) {
+                CheckShape(file, shape);
+            }
+        }
+        const bool hasShapes = !file.numberIndex.empty();
+        if (!hasShapes) {
+            Add(Severity::kError, "the file has no shapes");
+        } else if (file.kind == ShxUtility::kUnifont && file.fontInfo.empty()) {
+            Add(Severity::kError, "the font has no information (shape 0), so no text can be written in it");
+        } else if (file.kind == ShxUtility::kShapes && LooksLikeFont(file)) {
+            Add(Severity::kWarning,
+                "the shapes have the numbers of letters, but without font information (shape 0) "
+                "the file is a library of shapes and no text can be written in it");
+        }
+    }
+
+private:
+    static bool LooksLikeFont(const ShxUtility::ShapesInFile& file) {
+        return file.numberIndex.contains('A') && file.numberIndex.contains('a') &&
+               file.numberIndex.contains('0');
+    }
+
+    void CheckShape(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape) {
+        const std::string item = ShownShape(shape);
+        NowAtItem(item);
+        const ShxUtility::ShxResult result = ResultOfDrawing(file, shape);
+        if (result != ShxUtility::kSuccess) {
+            const std::string code = std::to_string(static_cast<std::int32_t>(result));
+            Add(Severity::kError,
+                Where(shape) + "it cannot be drawn: " + DrawingFault(result) + " (result " + code + ")",
+                item);
+        }
+        if (shape.name.empty()) {
+            return;
+        }
+        const auto [first, isNew] = numbers_.try_emplace(shape.name, shape.number);
+        // In a font, names are remarks.
+        if (file.kind != ShxUtility::kShapes) {
+            return;
+        }
+        if (!isNew) {
+            Add(Severity::kWarning,
+                Where(shape) + "shape " + std::to_string(first->second) +
+                    " has the same name, and a linetype finds that one",
+                item);
+        }
+        if (HasLowerCase(shape.name)) {
+            Add(Severity::kWarning, Where(shape) + "no linetype can find a name with lower-case letters",
+                item);
+        }
+    }
+
+    // Where the shape's name and program stand: "byte 412: ".
+    std::string Where(const ShxUtility::Shape& shape) {
+        std::string entry = shape.name;
+        entry.push_back('\0');
+        entry.append(reinterpret_cast<const char*>(shape.data.data()), shape.data.size());
+        const std::size_t at = input_.Bytes().find(entry, searched_);
+        if (at == std::string::npos) {
+            return {};
+        }
+        searched_ = at; // entries are in file order
+        return "byte " + std::to_string(at) + ": ";
+    }
+
+    const InputFile& input_;
+    std::vector<Finding>& findings_;
+    std::map<std::string, std::uint16_t> numbers_; // of names
+    std::size_t searched_ = 0;
+};
+
+} // namespace
+
+std::string ShownShape(const ShxUtility::Shape& shape) {
+    return "shape " + std::to_string(shape.number) +
+           (shape.name.empty() ? "" : " " + Shown(platform::AnsiToWide(shape.name)));
+}
+
+void CheckShapes(const InputFile& input, std::vector<Finding>& findings) {
+    ShapeCheck check(input, findings);
+    const std::unique_ptr<std::FILE, CloseFile> stream(platform::OpenForReading(input.Path().c_str()));
+    if (!stream) {
+        check.Add(Severity::kError, std::string("cannot be opened: ") + std::strerror(errno));
+        return;
+    }
+    ShxUtility::ShapesInFile file;
+    ShxUtility::ShapeFileFaultReport report;
+    if (LoadShapeFile(stream.get(), file, ShxUtility::kAllKinds, report,
+                      ShxUtility::kTolerantShapeFilePolicy) != ShxUtility::kSuccess) {
+        check.Add(Severity::kError, "byte " + std::to_string(report.offset) + ": " + Sentence(report));
+        return;
+    }
+    check.CheckLoading(report);
+    check.CheckAll(file);
+}
+
+std::vector<Finding> ForgivenOfShapeFile(const std::string& file,
+                                         const ShxUtility::ShapeFileFaultReport& report) {
+    std::vector<Finding> findings;
+    if (report.otherMaker) {
+        findings.push_back({file, 0, Severity::kWarning,
+                            "the signature is another maker's; the file is read all the same", ""});
+    }
+    if (report.trailerMissing) {
+        findings.push_back({file, 0, Severity::kWarning,
+                            "\"EOF\" is missing at the end; the file is read all the same", ""});
+    }
+    return findings;
+}
+
+} // namespace styleconv

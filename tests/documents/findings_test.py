@@ -1,0 +1,66 @@
+"""Checks the examples: the findings documents follow their schema, and have no findings but those that the examples
+show on purpose: findings_test.py STYLECONV ROOT"""
+import json
+import os
+import subprocess
+import sys
+import unittest
+
+import jsonschema
+
+ROOT = sys.argv.pop(2)
+TOOL = sys.argv.pop(1)
+EXAMPLES = os.path.join(ROOT, "examples")
+
+# Examples that show what cannot be drawn, or takes its colour from an insert that this drawing lacks: file, and what
+# its findings are of.
+ON_PURPOSE = {
+    ("simple.lin", "linetype MARGIN"),
+    ("marsh.pat", "pattern MARSH"),
+    ("survey-symbols.json", "block ORCHARD"),
+    ("boundaries.json", "block FOOTPATH_RUNNING"),
+    ("boundaries.json", "block FOOTPATH_BY_SEGMENT"),
+    ("land-cover.json", "block COURTYARD_BUILDING"),
+}
+
+
+def check(*arguments):
+    run = subprocess.run([TOOL, "check", "--format", "json", *arguments], capture_output=True, text=True)
+    assert run.stderr == "", run.stderr
+    document = json.loads(run.stdout)
+    with open(os.path.join(ROOT, "docs", "schemas", "findings.schema.json"), encoding="utf-8") as schema:
+        jsonschema.validate(document, json.load(schema))
+    assert run.returncode == (1 if document["errors"] else 0)
+    return document
+
+
+class Examples(unittest.TestCase):
+    def of_folder(self, folder, end, *options):
+        files = [os.path.join(EXAMPLES, folder, name) for name in os.listdir(os.path.join(EXAMPLES, folder))
+                 if name.endswith(end)]
+        document = check(*files, *options)
+        found = {(os.path.basename(f["file"]), f.get("item", "")) for f in document["findings"]
+                 if f["severity"] != "note"}
+        self.assertLessEqual(found, ON_PURPOSE)
+        return document
+
+    def test_linetypes(self):
+        self.of_folder("linetypes", ".lin", "--drawing", os.path.join(EXAMPLES, "linetypes", "styles.json"),
+                       "--shapes", os.path.join(EXAMPLES, "shapes"))
+
+    def test_patterns(self):
+        self.of_folder("patterns", ".pat")
+
+    def test_every_family_is_told_of_with_notes(self):
+        document = self.of_folder("patterns", ".pat", "--notes")
+        self.assertTrue(any(finding["severity"] == "note" for finding in document["findings"]))
+
+    def test_shapes(self):
+        self.of_folder("shapes", ".shx")
+
+    def test_drawings(self):
+        self.of_folder("drawings", ".json", "--shapes", os.path.join(EXAMPLES, "shapes"))
+
+
+if __name__ == "__main__":
+    unittest.main()

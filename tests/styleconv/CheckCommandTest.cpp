@@ -1,0 +1,235 @@
+// styleconv check: what it finds in files, in which words, and with which status.
+#include "tests/support/ShapeFileBuilder.h"
+#include "tests/support/ToolRun.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+using test_support::ShapeFileBuilder;
+
+using Texts = std::vector<std::string>;
+
+class Check : public testing::Test {
+protected:
+    // What is found in a file, without its name; the last line is the summary.
+    std::string Found(const std::string& name, const std::string& text, Texts more = {}) {
+        more.insert(more.begin(), {"check", folder.Write(name, text)});
+        const ToolResult result = RunTool(more);
+        EXPECT_EQ(result.errors, "");
+        EXPECT_EQ(result.status, result.output.find("\n0 errors") == std::string::npos &&
+                                         result.output.rfind("0 errors", 0) != 0
+                                     ? 1
+                                     : 0);
+        std::string found = result.output;
+        const std::string path = folder / name;
+        for (std::size_t at = found.find(path); at != std::string::npos; at = found.find(path, at)) {
+            found.erase(at, path.size());
+        }
+        return found;
+    }
+
+    std::string Lines(const std::string& text, const Texts& more = {}) {
+        return Found("lines.lin", text, more);
+    }
+    std::string Walls(const std::string& text, const Texts& more = {}) {
+        return Found("walls.pat", text, more);
+    }
+
+    ScratchFolder folder;
+};
+
+TEST_F(Check, FileWithoutFaultsIsClean) {
+    EXPECT_EQ(Lines("*DASHED,d\nA,.5,-.25\n"), "0 errors, 0 warnings in 1 file\n");
+    EXPECT_EQ(Walls("*BRICK\n0,0,0,0,1\n"), "0 errors, 0 warnings in 1 file\n");
+}
+
+TEST_F(Check, FindingsAreInTheFormThatEditorsParse) {
+    EXPECT_EQ(Lines("*GAS\nA,1,[\"I\",STANDARD,U=0]\n", {"--font", "Arial"}),
+              ":2: error: U= is not a known placement key (linetype GAS)\n"
+              "1 error, 0 warnings in 1 file\n");
+}
+
+TEST_F(Check, EveryFaultOfEveryLinetypeIsFound) {
+    folder.Write("marks.shx", ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Text());
+    EXPECT_EQ(Lines("*A\na,1 ,[NONE,marks.shx]\n*B\nA,x\n*C\nA,1,[M,none.shx]\n*D\n"),
+              ":2: error: the alignment letter must be in upper case (linetype A)\n"
+              ":2: error: a blank that may not stand there at byte 4 (linetype A)\n"
+              ":2: error: shape file MARKS.SHX has no shape NONE (linetype A)\n"
+              ":4: error: expected the length of a dash, or \"[\" at byte 3: A,x (linetype B)\n"
+              ":6: error: shape file NONE.SHX not found in ., " +
+                  folder / "" +
+                  " (linetype C)\n"
+                  ":7: error: a header without a pattern (linetype D)\n"
+                  "6 errors, 0 warnings in 1 file\n");
+}
+
+TEST_F(Check, NamesAndPatternsThatSurpriseAreWarnings) {
+    EXPECT_EQ(
+        Lines("*A\nA,1\n*A\nA,1\n*a\nA,-1,1\n*GAPS\nA,-1,-1\n*NONE\nA,0\n*END ,x\nA,1 -- end\n"),
+        ":3: warning: the name is used in line 1 already (linetype A)\n"
+        ":5: warning: the name differs only in case from the one in line 1 (linetype a)\n"
+        ":6: warning: the pattern begins with a gap: a line begins and ends with a dash elsewhere (linetype "
+        "a)\n"
+        ":8: warning: the pattern has gaps only and draws nothing (linetype GAPS)\n"
+        ":10: warning: the pattern has no length, so nothing can be repeated (linetype NONE)\n"
+        ":11: warning: the blank before or behind the name is part of it (linetype END )\n"
+        ":12: warning: the pattern ends at byte 5, for no comma is there; not read: -- end (linetype END )\n"
+        "0 errors, 7 warnings in 1 file\n");
+}
+
+TEST_F(Check, TextsAndShapesWiderThanTheirGapAreWarningsWithBothFigures) {
+    // A stroke of one unit along the line.
+    folder.Write("marks.shx", ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Text());
+    EXPECT_EQ(
+        Lines("*WIDE\nA,1,-.5,[MARK,marks.shx,x=-.5],-.25\n*FITS\nA,1,-.5,[MARK,marks.shx,x=-.5],-.5\n"
+              "*ABOVE\nA,1,-.5,[MARK,marks.shx,x=-.5,y=1],-.1\n*ON\nA,1,[MARK,marks.shx,x=-.8],-.1\n"
+              "*TURNED\nA,1,-.1,[MARK,marks.shx,R=90],-.1\n*ROUND\nA,-.25,1,-.5,[MARK,marks.shx,x=-.5]\n"),
+        ":2: warning: shape MARK is 1 wide, the gap it stands in 0.75 (linetype WIDE)\n"
+        ":12: warning: the pattern begins with a gap: a line begins and ends with a dash elsewhere (linetype "
+        "ROUND)\n"
+        ":12: warning: shape MARK is 1 wide, the gap it stands in 0.75 (linetype ROUND)\n"
+        "0 errors, 3 warnings in 1 file\n");
+}
+
+TEST_F(Check, CharactersThatAFontLacksAreErrors) {
+    folder.Write("txt.shx",
+                 ShapeFileBuilder::Shapes().FontInfo("FONT", {4, 1, 0}).Shape(65, "A", {0x10, 0}).Text());
+    EXPECT_EQ(Lines("*X\nA,1,[\"ABAC\",STANDARD],-9\n"),
+              ":2: error: font TXT.SHX lacks characters of the text: BC (linetype X)\n"
+              "1 error, 0 warnings in 1 file\n");
+}
+
+TEST_F(Check, NotesAreShownWhereTheyAreAskedFor) {
+    folder.Write(
+        "marks.shx",
+        ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Shape(131, "TICK", {0x10, 0}).Text());
+    const std::string text = "*X\nA,1,-1,[MARK,marks.shx]\n";
+    EXPECT_EQ(Lines(text), "0 errors, 0 warnings in 1 file\n");
+    EXPECT_EQ(Lines(text, {"--notes"}), ": note: no linetype uses these shapes of MARKS.SHX: TICK\n"
+                                        "0 errors, 0 warnings in 1 file\n");
+}
+
+TEST_F(Check, TilesOfFamiliesAreTold) {
+    // No shift; 3 × 0.3334 is 0.0002 more than the cycle, 0.06 % of the shift; 64 × 0.001 is no cycle.
+    const std::string text = "*X\n0,0,0,0,1\n0,0,0,0.3334,1,0.5,-0.5\n0,0,0,0.001,1,1,-1\n*Y\n";
+    const std::string found =
+        ":3: warning: the tile nearly closes: after 3 stacked lines the dashes are out of phase "
+        "by 0.0002 drawing units, 0.1 % of the shift (pattern X)\n"
+        ":4: error: the family has no repeat tile and is left out: its dashes come back into "
+        "phase after none of 64 lines, and no upright rectangle repeats it (pattern X)\n"
+        ":5: error: the pattern has no families and becomes nothing (pattern Y)\n"
+        "2 errors, 1 warning in 1 file\n";
+    EXPECT_EQ(Walls(text), found);
+    EXPECT_EQ(Walls(text, {"--notes"}), ":2: note: the family has an exact tile (pattern X)\n" + found);
+}
+
+TEST_F(Check, SlipsOfPatternFilesAreFound) {
+    EXPECT_EQ(Walls(";%UNITS=MM\n*X\n0,0,0,0,x\n0,0,0,0,1,1,-1,\n0,0,0,0,1;remark\n"),
+              ":1: warning: the file says that its lengths are in millimetres, which a conversion does not "
+              "look at; "
+              "--units inch scales them\n"
+              ":3: error: \"x\" is no number and reads as 0 (pattern X)\n"
+              ":4: error: nothing stands where a number should, and reads as 0 (pattern X)\n"
+              ":5: warning: \";\" begins a remark only at the start of a line (pattern X)\n"
+              "2 errors, 2 warnings in 1 file\n");
+}
+
+TEST_F(Check, ShapesThatCannotBeDrawnOrFoundAreTold) {
+    const std::string found = Found("marks.shx", ShapeFileBuilder::Shapes()
+                                                         .Shape(130, "MARK", {0x10, 0})
+                                                         .Shape(131, "mark", {0x10, 0})
+                                                         .Shape(132, "MARK", {0x10, 0})
+                                                         .Shape(133, "LOOP", {7, 133, 0})
+                                                         .Text() +
+                                                     "more");
+    EXPECT_NE(found.find("no linetype can find a name with lower-case letters (shape 131 mark)\n"),
+              std::string::npos)
+        << found;
+    EXPECT_NE(found.find("shape 130 has the same name, and a linetype finds that one (shape 132 MARK)\n"),
+              std::string::npos)
+        << found;
+    EXPECT_NE(found.find("it cannot be drawn: it draws itself as a subshape (result "), std::string::npos)
+        << found;
+    EXPECT_NE(found.find("4 bytes behind the end are not read\n"), std::string::npos) << found;
+    EXPECT_NE(found.find("1 error, 3 warnings in 1 file\n"), std::string::npos) << found;
+}
+
+TEST_F(Check, SignatureAndTrailerOfAShapeFileAreTold) {
+    std::string shapes = ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Text();
+    shapes.replace(0, 7, "Someone");
+    shapes.resize(shapes.size() - 3);
+    EXPECT_EQ(Found("marks.shx", shapes),
+              ": error: byte 0: the signature is another maker's: expected the words \"Vorlanx-86 \"\n"
+              ": error: byte " +
+                  std::to_string(shapes.size()) + ": expected \"EOF\" behind the last shape\n" +
+                  "2 errors, 0 warnings in 1 file\n");
+    const ToolResult glyphs = RunTool({"glyphs", folder / "marks.shx", "--tolerant"});
+    EXPECT_EQ(glyphs.status, 0);
+    EXPECT_NE(glyphs.output.find("\"MARK\""), std::string::npos);
+    EXPECT_EQ(RunTool({"glyphs", folder / "marks.shx"}).status, 1);
+    EXPECT_NE(RunTool({"linetypes", folder.Write("x.lin", "*X\nA,1,[MARK,marks.shx]\n"), "--tolerant"})
+                  .errors.find("shape file MARKS.SHX has the signature of another maker; read all the same"),
+              std::string::npos);
+}
+
+TEST_F(Check, EntitiesThatWillNotBeDrawnAreCountedByBlock) {
+    const std::string found = Found("drawing.json", R"({"format": "styleconversion/drawing", "version": 1,
+        "linetypes": [{"name": "GAS", "dashes": [{"length": 1, "shapeStyle": "MARKS", "shapeNumber": 130}]}],
+        "textStyles": [{"name": "MARKS", "fileName": "marks.shx"}],
+        "blocks": [
+            {"name": "GOOD", "entities": [{"type": "line", "start": [0, 0], "end": [1, 0]}]},
+            {"name": "BAD", "entities": [
+                {"type": "other", "class": "Ray"}, {"type": "other", "class": "Ray"},
+                {"type": "line", "start": [0, 0], "end": [1, 0], "linetype": "NONE"},
+                {"type": "line", "start": [0, 0], "end": [1, 0], "linetype": "GAS"},
+                {"type": "hatch", "loops": []},
+                {"type": "line", "start": [0, 0], "end": [1, 0], "color": "ByBlock"}]}]})");
+    EXPECT_EQ(
+        found,
+        ": error: 1 entity (hatch) cannot be worked out: no pattern, or too many lines (block BAD)\n"
+        ": error: 1 entity of a linetype that the drawing lacks (block BAD)\n"
+        ": error: 1 entity of linetype GAS, whose shape file marks.shx is not found beside the drawing, "
+        "nor in a --shapes folder (block BAD)\n"
+        ": warning: 2 entities of the class Ray will not be drawn (block BAD)\n"
+        ": warning: it has colours by block, but nothing inserts it: there is no colour to take (block "
+        "BAD)\n"
+        "3 errors, 2 warnings in 1 file\n");
+}
+
+TEST_F(Check, FilesAreSortedAndFaultsOfOneDoNotHideTheOthers) {
+    const std::string b = folder.Write("b.lin", "*X\nA,x\n");
+    const std::string a = folder.Write("a.pat", "*X\n");
+    const std::string other = folder.Write("c.txt", "");
+    const ToolResult result = RunTool({"check", other, b, folder / "none.lin", a});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output,
+              a + ":1: error: the pattern has no families and becomes nothing (pattern X)\n" + b +
+                  ":2: error: expected the length of a dash, or \"[\" at byte 3: A,x (linetype X)\n" + other +
+                  ": error: is of no known kind: its name should end in .lin, .pat, .shx or "
+                  ".json\n" +
+                  folder / "none.lin" + ": error: cannot be read\n4 errors, 0 warnings in 4 files\n");
+}
+
+TEST_F(Check, JsonIsTheFindingsDocument) {
+    const ToolResult result = RunTool({"check", folder.Write("x.lin", "*X\nA,x\n"), "--format", "json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output,
+              "{\n  \"format\": \"styleconversion/findings\",\n  \"version\": 1,\n  \"errors\": 1,\n"
+              "  \"warnings\": 0,\n  \"findings\": [\n    {\n      \"file\": \"" +
+                  folder / "x.lin" +
+                  "\",\n      \"line\": 2,\n      \"severity\": \"error\",\n      \"message\": "
+                  "\"expected the length of a dash, or \\\"[\\\" at byte 3: A,x\",\n      \"item\": "
+                  "\"linetype X\"\n    }\n  ]\n}\n");
+}
+
+TEST_F(Check, WrongCommandLineIsTold) {
+    EXPECT_EQ(RunTool({"check"}).status, 2);
+    EXPECT_EQ(RunTool({"check", "-"}).status, 2);
+    EXPECT_EQ(RunTool({"check", "x.lin", "--format", "svg"}).status, 2);
+}
+
+} // namespace
