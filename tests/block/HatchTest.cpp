@@ -259,6 +259,14 @@ TEST_F(PatternHatch, LineThatCannotBeReadIsSkipped) {
     EXPECT_EQ(Geometry(), L"M 0.0,1.0 L 5.0,1.0 M 0.0,2.0 L 5.0,2.0");
 }
 
+TEST_F(PatternHatch, WithoutALineThatCanBeReadAddsItsColourParameterOnly) {
+    Add(std::vector<drawing::HatchLine>{{{0, 0}, {5, 0}}});
+    database.Failures().Fail(Operation::kGetHatchLineDataAt, 1, Oxsys::eInvalidIndex);
+    const Symbol symbol = Convert();
+    EXPECT_EQ(symbol->GetGraphics().GetCount(), 0);
+    EXPECT_EQ(Identifiers(symbol), (Texts{L"COLORBYLAYER0", L"ROTATION"}));
+}
+
 TEST_F(PatternHatch, ThatCannotBeEvaluatedOrHasNoLinesAddsNothingAtAll) {
     Add(std::nullopt);
     Add(std::vector<drawing::HatchLine>{});
