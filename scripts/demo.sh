@@ -44,7 +44,7 @@ photograph() {
   picture=$(realpath "$2")
   options=(--headless --disable-gpu --disable-quic --no-first-run --disable-background-networking
     --disable-component-update --disable-sync --disable-dev-shm-usage --hide-scrollbars
-    --force-device-scale-factor=1 --window-size=1280,800 --user-data-dir="$profile/data"
+    --force-device-scale-factor=1 --window-size=1280,860 --user-data-dir="$profile/data"
     --virtual-time-budget=3000 --screenshot="$profile/gallery.png"
     # The same bytes every time.
     --run-all-compositor-stages-before-draw --num-raster-threads=1 --disable-partial-raster)
