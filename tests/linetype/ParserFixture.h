@@ -5,6 +5,7 @@
 #include "RecordingVisitor.h"
 #include "ShapeBytes.h"
 #include "StyleConversion/linetype/LinParser.h"
+#include "StyleConversion/platform/CodePage.h"
 #include "TestFile.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +18,8 @@ namespace linetypetest {
 class ParserFixture : public testing::Test {
 protected:
     explicit ParserFixture(const LineConverter::LinPolicy& policy = {}) : parser(&styles, &files, policy) {
+        // The files here are UTF-8, and some systems have another page of their own.
+        platform::SetAnsiCodePage("UTF-8");
         styles.AddTrueType(L"ST", L"Arial");
         styles.AddShx(L"STANDARD", L"txt.shx");
         files.files[L"TXT.SHX"] =
