@@ -22,6 +22,12 @@ if [ ! -e "$WINEPREFIX/made" ]; then
         fi
     ) 9>"$WINEPREFIX/lock"
 fi
-# Started here and not by the program, whose output would stay open as long as the server stays.
-wineserver --persistent=60 </dev/null >/dev/null 2>&1 || true
+# The server and its services are started here and not by the program, whose output would stay open as long as they
+# stay. The server says by its status whether one ran before; only one caller starts it, the others wait for it.
+(
+    flock 9
+    if wineserver --persistent=60 </dev/null >/dev/null 2>&1 9>&-; then
+        wine cmd /c exit </dev/null >/dev/null 2>&1 9>&- || true
+    fi
+) 9>"$WINEPREFIX/lock"
 exec wine "$@"
