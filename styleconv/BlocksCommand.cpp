@@ -10,6 +10,7 @@
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
 
+#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <memory>
 

@@ -10,6 +10,7 @@
 #include "styleconv/OutputFile.h"
 #include "styleconv/PatternsCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 

@@ -16,6 +16,7 @@
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
 
+#include <CLI/CLI.hpp>
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>

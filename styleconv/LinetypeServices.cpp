@@ -6,6 +6,7 @@
 #include "styleconv/DrawingFile.h"
 #include "styleconv/Messages.h"
 
+#include <CLI/CLI.hpp>
 #include <string_view>
 #include <utility>
 

@@ -8,10 +8,13 @@
 #include "styleconv/InputFile.h"
 #include "styleconv/LinetypeMessages.h"
 
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
 #include <vector>
+
+namespace CLI {
+class App;
+}
 
 namespace styleconv {
 

@@ -13,6 +13,7 @@
 #include "styleconv/Progress.h"
 #include "styleconv/SymbolOutput.h"
 
+#include <CLI/CLI.hpp>
 #include <memory>
 #include <utility>
 

@@ -9,6 +9,7 @@
 #include "styleconv/OutputFile.h"
 #include "styleconv/PatternsCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <memory>
 
 namespace styleconv {

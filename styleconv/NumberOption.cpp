@@ -2,6 +2,7 @@
 
 #include "StyleConversion/encoding/NumberReader.h"
 
+#include <CLI/CLI.hpp>
 #include <cmath>
 
 namespace styleconv {

@@ -1,9 +1,13 @@
 // Options whose values are numbers.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <string>
 #include <string_view>
+
+namespace CLI {
+class App;
+class Option;
+} // namespace CLI
 
 namespace styleconv {
 

@@ -12,6 +12,7 @@
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
 
+#include <CLI/CLI.hpp>
 #include <memory>
 #include <string_view>
 #include <utility>

@@ -8,6 +8,7 @@
 #include "styleconv/Progress.h"
 #include "styleconv/TemporaryFile.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>

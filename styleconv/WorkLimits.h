@@ -1,13 +1,16 @@
 // Limits of time and memory: files may ask for work without end.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <string>
 #include <string_view>
 #include <thread>
+
+namespace CLI {
+class App;
+}
 
 namespace styleconv {
 
