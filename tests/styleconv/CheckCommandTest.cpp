@@ -215,12 +215,17 @@ TEST_F(Check, FilesAreSortedAndFaultsOfOneDoNotHideTheOthers) {
 }
 
 TEST_F(Check, JsonIsTheFindingsDocument) {
-    const ToolResult result = RunTool({"check", folder.Write("x.lin", "*X\nA,x\n"), "--format", "json"});
+    const std::string file = folder.Write("x.lin", "*X\nA,x\n");
+    std::string fileAsJson;
+    for (const char character : file) {
+        fileAsJson += character == '\\' ? "\\\\" : std::string(1, character); // separators on Windows
+    }
+    const ToolResult result = RunTool({"check", file, "--format", "json"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output,
               "{\n  \"format\": \"styleconversion/findings\",\n  \"version\": 1,\n  \"errors\": 1,\n"
               "  \"warnings\": 0,\n  \"findings\": [\n    {\n      \"file\": \"" +
-                  folder / "x.lin" +
+                  fileAsJson +
                   "\",\n      \"line\": 2,\n      \"severity\": \"error\",\n      \"message\": "
                   "\"expected the length of a dash, or \\\"[\\\" at byte 3: A,x\",\n      \"item\": "
                   "\"linetype X\"\n    }\n  ]\n}\n");
