@@ -56,9 +56,11 @@ bool Convert(const InputFile& input, const drawing::Database& drawing, BlockConv
         const std::uint64_t tooDense = drawing.HatchesTooDense();
         std::unique_ptr<TylModel::SymbolDefinition> symbol(converter.Convert(name));
         if (drawing.HatchesTooDense() > tooDense) {
-            // The converter leaves such a hatch out; a block without its hatch is not what was asked for.
-            Say(input.Name(), "block " + Shown(name) + ": a hatch has more than the limit of 1000000 lines");
-        } else if (symbol) {
+            // The rest of the block, and the other blocks, are worth having.
+            Say(input.Name(), "warning: block " + Shown(name) +
+                                  ": a hatch has more than the limit of 1000000 lines and is left out");
+        }
+        if (symbol) {
             symbols.push_back(std::move(symbol));
         } else {
             Say(input.Name(), "the drawing has no block named " + Shown(name));
