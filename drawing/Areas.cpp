@@ -92,7 +92,7 @@ Oxsys::ErrorStatus Hatch::evaluateHatch(bool /*underestimateLines*/) {
         return Oxsys::eNotApplicable;
     }
     if (!data_.lines) {
-        status = EvaluatePattern(data_.loops, *data_.pattern, evaluated_);
+        status = EvaluatePattern(data_.loops, *data_.pattern, SharedCore().maximumHatchLines, evaluated_);
         SharedCore().hatchesTooDense += status == Oxsys::eTooManyHatchLines ? 1 : 0;
     }
     isEvaluated_ = status == Oxsys::eOk;

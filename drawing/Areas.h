@@ -56,7 +56,8 @@ public:
                                  OxArray<int>& edgeTypes) const override;
     Oxsys::ErrorStatus getLoopAt(int index, int& loopType, OxGePoint2dArray& vertices,
                                  OxGeDoubleArray& bulges) const override;
-    /// Succeeds when the hatch has lines of its own or a pattern that gives at most 1,000,000 lines.
+    /// Succeeds when the hatch has lines of its own, or a pattern that gives no more lines than the database
+    /// allows.
     Oxsys::ErrorStatus evaluateHatch(bool underestimateLines) override;
     int numHatchLines() const override;
     Oxsys::ErrorStatus getHatchLineDataAt(int index, OxGePoint2d& start, OxGePoint2d& end) const override;

@@ -5,7 +5,9 @@
 #include "drawing/FailurePlan.h"
 #include "drawing/NamePool.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <limits>
 
 namespace drawing {
 
@@ -39,6 +41,7 @@ namespace drawing {
 struct Core {
     FailurePlan failures;
     ObjectCounts counts;
+    std::size_t maximumHatchLines = std::numeric_limits<std::int32_t>::max(); // numHatchLines counts no more
     std::uint64_t hatchesTooDense = 0; // evaluations that were given up for too many lines
     NamePool names;
     OxDbStub unknown{*this, nullptr};

@@ -5,6 +5,7 @@
 #include "drawing/Blocks.h"
 #include "drawing/Records.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -44,6 +45,9 @@ public:
 
     FailurePlan& Failures() { return core_->failures; }
     const ObjectCounts& Counts() const { return core_->counts; }
+    /// How many lines the pattern of one hatch may give: evaluating one with more fails. Without a limit set
+    /// here it is the most that an `int` counts.
+    void LimitHatchLines(std::int32_t most) { core_->maximumHatchLines = static_cast<std::size_t>(most); }
     /// How often evaluating a hatch was given up because it has too many lines.
     std::uint64_t HatchesTooDense() const { return core_->hatchesTooDense; }
     /// True when each object was closed exactly as often as it was opened.

@@ -74,7 +74,8 @@ Oxsys::ErrorStatus ToErrorStatus(geometry::Status status) {
 } // namespace
 
 Oxsys::ErrorStatus EvaluatePattern(const std::vector<HatchLoop>& loops,
-                                   const std::vector<HatchFamily>& pattern, std::vector<HatchLine>& lines) {
+                                   const std::vector<HatchFamily>& pattern, std::size_t most,
+                                   std::vector<HatchLine>& lines) {
     std::vector<geometry::HatchLoop> boundary;
     boundary.reserve(loops.size());
     for (const HatchLoop& loop : loops) {
@@ -87,7 +88,7 @@ Oxsys::ErrorStatus EvaluatePattern(const std::vector<HatchLoop>& loops,
             {family.angle, ToPoint(family.base), {family.offset.x, family.offset.y}, family.dashes});
     }
     std::vector<geometry::HatchLine> found;
-    const geometry::Status status = geometry::EvaluateHatch(boundary, families, found);
+    const geometry::Status status = geometry::EvaluateHatch(boundary, families, most, found);
     lines.clear();
     lines.reserve(found.size());
     for (const geometry::HatchLine& line : found) {

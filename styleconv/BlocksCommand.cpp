@@ -56,9 +56,9 @@ bool Convert(const InputFile& input, const drawing::Database& drawing, BlockConv
         const std::uint64_t tooDense = drawing.HatchesTooDense();
         std::unique_ptr<TylModel::SymbolDefinition> symbol(converter.Convert(name));
         if (drawing.HatchesTooDense() > tooDense) {
-            // The rest of the block, and the other blocks, are worth having.
-            Say(input.Name(), "warning: block " + Shown(name) +
-                                  ": a hatch has more than the limit of 1000000 lines and is left out");
+            Say(input.Name(),
+                "block " + Shown(name) + ": a hatch has more lines than the limit of 2147483647");
+            return false;
         }
         if (symbol) {
             symbols.push_back(std::move(symbol));

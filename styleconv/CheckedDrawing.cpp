@@ -43,6 +43,7 @@ public:
         : input_(input), services_(Directories(input, shapeFolders)), findings_(findings) {}
 
     void Check(drawing::Database& drawing) {
+        drawing.LimitHatchLines(kMostHatchLines);
         block::Opened<OxDbBlockTable> table;
         if (!table.Accept(drawing.getSymbolTable(table.Receive(), OxDb::kForRead))) {
             return;
@@ -177,6 +178,8 @@ private:
     }
 
     static constexpr std::size_t kPathLength = 1024;
+    // No map shows that many in one hatch, and a check is to be quick.
+    static constexpr std::int32_t kMostHatchLines = 1000000;
 
     const InputFile& input_;
     drawing::HostServices services_;

@@ -60,7 +60,7 @@ HatchFamily Family(double spacing) {
 void Run(benchmark::State& state, const std::vector<HatchLoop>& loops, const HatchFamily& family) {
     std::vector<HatchLine> lines;
     for (auto _ : state) {
-        if (EvaluateHatch(loops, {family}, lines) != geometry::Status::kOk) {
+        if (EvaluateHatch(loops, {family}, 1000000, lines) != geometry::Status::kOk) {
             state.SkipWithError("refused");
             break;
         }

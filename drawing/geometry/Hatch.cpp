@@ -33,9 +33,10 @@ struct Crossing {
 class FamilyHatcher {
 public:
     FamilyHatcher(const HatchFrame& frame, const std::vector<double>& dashes, double magnitude,
-                  std::vector<HatchLine>& lines)
+                  std::size_t most, std::vector<HatchLine>& lines)
         : frame_(frame), isDashed_(!dashes.empty()), cycle_(MakeDashCycle(dashes)), magnitude_(magnitude),
-          rounding_(RoundingAt(magnitude + std::fabs(Dot(frame.normal, frame.base)))), lines_(lines) {}
+          rounding_(RoundingAt(magnitude + std::fabs(Dot(frame.normal, frame.base)))), most_(most),
+          lines_(lines) {}
 
     Status Run(const std::vector<HatchLoop>& loops);
 
@@ -57,6 +58,7 @@ private:
     double magnitude_; ///< of the boundary's coordinates
     double rounding_;  ///< coordinates and distances smaller than this are noise
     Point reference_;  ///< where distances along lines count from
+    std::size_t most_; ///< lines that the hatch may have
     std::vector<HatchLine>& lines_;
     MonotoneBoundary boundary_;
     std::vector<SweptEdge> swept_;
@@ -84,7 +86,7 @@ Status FamilyHatcher::SortEdges() {
             swept_.push_back({static_cast<std::int64_t>(first), static_cast<std::int64_t>(end) - 1, index});
         }
     }
-    if (total > static_cast<double>(kMaximumHatchCrossings)) {
+    if (total > static_cast<double>(most_) * kHatchCrossingsPerLine) {
         return Status::kTooManyLines;
     }
     if (isFar) {
@@ -185,8 +187,7 @@ Status FamilyHatcher::DrawBetween(const Crossing& start, const Crossing& end, Po
     const double to = end.distance + shift;
     const double rounding = RoundingAt(magnitude_ + std::fabs(origin.x) + std::fabs(origin.y));
     stretches_.clear();
-    const DashResult result =
-        LayDashes(cycle_, from, to, rounding, kMaximumHatchLines - lines_.size(), stretches_);
+    const DashResult result = LayDashes(cycle_, from, to, rounding, most_ - lines_.size(), stretches_);
     if (result != DashResult::kOk) {
         return result == DashResult::kTooMany ? Status::kTooManyLines : Status::kOutOfRange;
     }
@@ -209,7 +210,7 @@ Point FamilyHatcher::WithoutNoise(Point point, double noise) {
 }
 
 Status FamilyHatcher::AddLine(Point start, Point end) {
-    if (lines_.size() == kMaximumHatchLines) {
+    if (lines_.size() == most_) {
         return Status::kTooManyLines;
     }
     lines_.push_back({start, end});
@@ -236,7 +237,7 @@ HatchLoop LoopFromVertices(const std::vector<BulgeVertex>& vertices) {
 }
 
 Status EvaluateHatch(const std::vector<HatchLoop>& loops, const std::vector<HatchFamily>& families,
-                     std::vector<HatchLine>& lines) {
+                     std::size_t most, std::vector<HatchLine>& lines) {
     lines.clear();
     double magnitude = 0.0;
     Status status = CheckHatchNumbers(loops, families, magnitude);
@@ -244,7 +245,7 @@ Status EvaluateHatch(const std::vector<HatchLoop>& loops, const std::vector<Hatc
         HatchFrame frame;
         status = MakeHatchFrame(families[index], frame);
         if (status == Status::kOk) {
-            status = FamilyHatcher(frame, families[index].dashes, magnitude, lines).Run(loops);
+            status = FamilyHatcher(frame, families[index].dashes, magnitude, most, lines).Run(loops);
         }
     }
     if (status != Status::kOk) {

@@ -93,10 +93,10 @@ struct HatchLine {
 /// beside the hatch's other coordinates is 0.
 ///
 /// Refused, with `lines` empty: numbers that are not finite or too large (kNotFinite, kOutOfRange), an offset
-/// that is zero or parallel to its lines (kParallelOffset), more than kMaximumHatchLines lines, also where
-/// that comes from a tiny spacing or pattern, or from dots without gaps (kTooManyLines). That is found
-/// without making the lines.
+/// that is zero or parallel to its lines (kParallelOffset), more than `most` lines, also where that comes
+/// from a tiny spacing or pattern, or from dots without gaps (kTooManyLines). The latter are found without
+/// making the lines.
 Status EvaluateHatch(const std::vector<HatchLoop>& loops, const std::vector<HatchFamily>& families,
-                     std::vector<HatchLine>& lines);
+                     std::size_t most, std::vector<HatchLine>& lines);
 
 } // namespace geometry

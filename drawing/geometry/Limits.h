@@ -26,12 +26,10 @@ inline constexpr double kSameKnot = 1e-9;
 inline constexpr std::size_t kSamplesPerCurve = 65536;
 inline constexpr std::size_t kSamplesPerPiece = 64;
 
-/// Lines of one evaluated hatch.
-inline constexpr std::size_t kMaximumHatchLines = 1000000;
-
-/// Crossings of one family's lines with boundary edges that are looked at before a hatch is given up. Two
-/// make a line, so only loops on top of each other, or very sparse dots, reach it below the limit of lines.
-inline constexpr std::size_t kMaximumHatchCrossings = 8000000;
+/// Crossings of one family's lines with boundary edges that are looked at before a hatch is given up, for
+/// each line that it may have. Two make a line, so only loops on top of each other, or very sparse dots,
+/// reach it below the limit of lines.
+inline constexpr double kHatchCrossingsPerLine = 8.0;
 
 /// Largest distance from a family's base point, in spacings or pattern lengths: beyond it doubles no longer
 /// tell where between two lines, or in which part of the pattern, a point lies.

@@ -117,6 +117,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                 "a file to be refused as its text is");
         return 0;
     }
+    database->LimitHatchLines(100000);
     const fuzzing::Symbols symbols = ConvertAll(*database);
     Require(database->IsEverythingClosed(), "all that was opened to be closed");
     const std::string document = fuzzing::TextOf(symbols);

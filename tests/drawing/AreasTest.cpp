@@ -89,13 +89,25 @@ TEST_F(Hatches, BulgesBoundTheArea) {
     ExpectLine(lines[0], {-std::sqrt(0.75), -0.5}, {std::sqrt(0.75), -0.5});
 }
 
-TEST_F(Hatches, TooManyLinesFailToEvaluate) {
+TEST_F(Hatches, MoreLinesThanTheDatabaseAllowsFailToEvaluate) {
     drawing::HatchData data;
     data.loops.push_back(Square(2.0));
-    data.pattern = {{0.0, {0.0, 0.0}, {0.0, 1e-6}, {}}};
+    data.pattern = {{0.0, {0.0, 0.25}, {0.0, 0.5}, {}}}; // lines at 0.25, 0.75, 1.25 and 1.75
     drawing::Hatch& hatch = Add(std::move(data));
+    database.LimitHatchLines(4);
+    EXPECT_EQ(hatch.evaluateHatch(true), Oxsys::eOk);
+    EXPECT_EQ(database.HatchesTooDense(), 0U);
+    database.LimitHatchLines(3);
     EXPECT_EQ(hatch.evaluateHatch(true), Oxsys::eTooManyHatchLines);
     EXPECT_EQ(hatch.numHatchLines(), 0);
+    EXPECT_EQ(database.HatchesTooDense(), 1U);
+}
+
+TEST_F(Hatches, MoreLinesThanAnIntCountsFailToEvaluateAtOnce) {
+    drawing::HatchData data;
+    data.loops.push_back(Square(2.0));
+    data.pattern = {{0.0, {0.0, 0.0}, {0.0, 1e-12}, {}}};
+    EXPECT_EQ(Add(std::move(data)).evaluateHatch(true), Oxsys::eTooManyHatchLines);
 }
 
 TEST_F(Hatches, APatternThatMakesNoLinesFailsToEvaluate) {

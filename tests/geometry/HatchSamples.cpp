@@ -31,7 +31,7 @@ HatchLoop Rectangle(double left, double bottom, double right, double top) {
 
 std::vector<HatchLine> Lines(const std::vector<HatchLoop>& loops, const std::vector<HatchFamily>& families) {
     std::vector<HatchLine> lines;
-    EXPECT_EQ(geometry::EvaluateHatch(loops, families, lines), geometry::Status::kOk);
+    EXPECT_EQ(geometry::EvaluateHatch(loops, families, 1000000, lines), geometry::Status::kOk);
     return lines;
 }
 

@@ -36,22 +36,27 @@ std::string FanOfNothing() {
 }
 
 // A kilometre, drawn in a pattern of that length.
-std::string LongLine(const std::string& patternLength) {
+std::string LongLine(const std::string& patternLength, const std::string& length = "1000") {
     return R"({"format": "styleconversion/drawing", "version": 1,
       "layers": [{"name": "0"}],
       "linetypes": [{"name": "D", "patternLength": )" +
            patternLength + R"(, "dashes": [{"length": 5e-10}, {"length": -5e-10}]}],
       "blocks": [{"name": "FINE", "entities": [{"type": "point", "position": [1, 2]}]},
-                 {"name": "ROAD", "entities": [{"type": "line", "start": [0, 0], "end": [1000, 0],
+                 {"name": "ROAD", "entities": [{"type": "line", "start": [0, 0], "end": [)" +
+           length + R"(, 0],
                                                 "linetype": "D"}]}]})";
 }
 
-// A square kilometre of hatch lines a micrometre apart.
-constexpr const char* kEndlessHatch = R"({"format": "styleconversion/drawing", "version": 1,
-  "layers": [{"name": "0"}],
-  "blocks": [{"name": "FIELD", "entities": [
-    {"type": "hatch", "loops": [{"vertices": [[0, 0], [1000, 0], [1000, 1000], [0, 1000]]}],
-     "pattern": [{"angle": 0, "base": [0, 0], "offset": [0, 1e-6], "dashes": []}]}]}]})";
+// A square kilometre of hatch lines that far apart.
+std::string DenseHatch(const std::string& spacing) {
+    return R"({"format": "styleconversion/drawing", "version": 1,
+      "layers": [{"name": "0"}],
+      "blocks": [{"name": "FINE", "entities": [{"type": "point", "position": [1, 2]}]},
+                 {"name": "FIELD", "entities": [
+        {"type": "hatch", "loops": [{"vertices": [[0, 0], [1000, 0], [1000, 1000], [0, 1000]]}],
+         "pattern": [{"angle": 0, "base": [0, 0], "offset": [0, )" +
+           spacing + R"(], "dashes": []}]}]}]})";
+}
 
 double SecondsSince(std::chrono::steady_clock::time_point start) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
@@ -88,27 +93,35 @@ TEST(Limits, MemoryEndsShapesThatFanOutWithoutEnd) {
     EXPECT_EQ(folder.Names(), (std::vector<std::string>{"fan.shx", "out.json"}));
 }
 
-TEST(Limits, EndDashesOfAMicrometreOnAKilometre) {
+// Each limit ends the conversion of the drawing soon, and leaves what was there.
+void ExpectGivenUp(const std::string& drawing, const std::string& block) {
     const ScratchFolder folder;
-    const std::string file = folder.Write("road.json", LongLine("1e-6"));
+    const std::string file = folder.Write("field.json", drawing);
     folder.Write("out.json", "old");
     const auto start = std::chrono::steady_clock::now();
     const ToolResult result = RunTool({"blocks", file, "--time-limit", "0.5", "-o", folder / "out.json"});
     EXPECT_LT(SecondsSince(start), 1.5);
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, file +
-                                 ": block ROAD: not done within the time limit of 0.5 seconds; --time-limit "
-                                 "gives it more\n");
+    EXPECT_EQ(result.errors, file + ": block " + block +
+                                 ": not done within the time limit of 0.5 seconds; --time-limit gives it "
+                                 "more\n");
     EXPECT_EQ(folder.Read("out.json"), "old");
-    EXPECT_EQ(folder.Names(), (std::vector<std::string>{"out.json", "road.json"}));
+    EXPECT_EQ(folder.Names(), (std::vector<std::string>{"field.json", "out.json"}));
 
     const ToolResult memory = RunTool({"blocks", file, "--memory-limit", "300"});
     EXPECT_EQ(memory.status, 1);
-    EXPECT_EQ(memory.errors, file + ": block ROAD: needs more memory than the limit of 300 MiB; "
-                                    "--memory-limit gives it more\n");
+    EXPECT_EQ(memory.errors, file + ": block " + block +
+                                 ": needs more memory than the limit of 300 MiB; --memory-limit gives it "
+                                 "more\n");
 }
 
-TEST(Limits, APatternOfANanometreOnAKilometreRepeatsTooOftenToBeCounted) {
+TEST(Limits, EndABillionDashesOnALine) {
+    ExpectGivenUp(LongLine("1e-6"), "ROAD");
+    // A kilometre in a drawing of kilometres.
+    ExpectGivenUp(LongLine("1e-9", "1"), "ROAD");
+}
+
+TEST(Limits, APatternOfANanometreOnAKilometreInMetresRepeatsTooOftenToBeCounted) {
     const ScratchFolder folder;
     const std::string file = folder.Write("road.json", LongLine("1e-9"));
     const ToolResult result = RunTool({"blocks", file, "--time-limit", "20", "--memory-limit", "500"});
@@ -118,18 +131,27 @@ TEST(Limits, APatternOfANanometreOnAKilometreRepeatsTooOftenToBeCounted) {
     EXPECT_LT(result.output.size(), 10000U);
 }
 
-TEST(Limits, AHatchOfABillionLinesIsLeftOutAtOnceAndNamed) {
+TEST(Limits, EndAHatchOfABillionLines) {
+    ExpectGivenUp(DenseHatch("1e-6"), "FIELD");
+}
+
+TEST(Limits, AHatchOfMoreLinesThanCanBeCountedIsAFaultAtOnce) {
     const ScratchFolder folder;
-    const std::string file = folder.Write("field.json", kEndlessHatch);
+    const std::string file = folder.Write("field.json", DenseHatch("1e-8"));
     const auto start = std::chrono::steady_clock::now();
     const ToolResult result = RunTool({"blocks", file, "--time-limit", "20", "--memory-limit", "500"});
     EXPECT_LT(SecondsSince(start), 10.0);
-    // The drawing refuses to evaluate such a hatch, and the block is converted without it.
-    EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(
-        result.errors,
-        file + ": warning: block FIELD: a hatch has more than the limit of 1000000 lines and is left out\n");
-    EXPECT_NE(result.output.find("\"graphics\": []"), std::string::npos) << result.output;
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, file + ": block FIELD: a hatch has more lines than the limit of 2147483647\n");
+    EXPECT_EQ(result.output, "");
+}
+
+TEST(Limits, AHatchOfTwoMillionLinesIsWithinThem) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("field.json", DenseHatch("5e-4"));
+    const ToolResult result = RunTool({"blocks", file, "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(result.errors, "");
 }
 
 #if !defined(_WIN32)
