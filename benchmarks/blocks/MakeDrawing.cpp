@@ -11,7 +11,7 @@ constexpr std::size_t kLayers = 100;
 void WriteTables() {
     std::printf("{\"format\": \"styleconversion/drawing\", \"version\": 1, \"insunits\": 4,\n\"layers\": [");
     for (std::size_t i = 0; i < kLayers; ++i) {
-        std::printf("%s{\"name\": \"LAYER-%zu\", \"color\": %zu}", i > 0 ? ", " : "", i, i + 1);
+        std::printf(R"(%s{"name": "LAYER-%zu", "color": %zu})", i > 0 ? ", " : "", i, i + 1);
     }
     std::printf("],\n\"linetypes\": [{\"name\": \"DASHED\", \"dashes\": [");
     for (std::size_t i = 0; i < kDashLengths.size(); ++i) {
@@ -23,16 +23,16 @@ void WriteTables() {
 void WriteCurve(const GeneratedCurve& curve) {
     const char* const linetype = curve.dashed ? "DASHED" : "Continuous";
     constexpr const char* kTypes[] = {"line", "arc", "circle"};
-    std::printf("{\"type\": \"%s\", \"layer\": \"LAYER-%zu\", \"linetype\": \"%s\", ", kTypes[curve.kind],
-                curve.layer, linetype);
+    std::printf(R"({"type": "%s", "layer": "LAYER-%zu", "linetype": "%s", )", kTypes[curve.kind], curve.layer,
+                linetype);
     if (curve.kind == GeneratedCurve::kLine) {
-        std::printf("\"start\": [%.17g, %.17g], \"end\": [%.17g, %.17g]}", curve.start.x, curve.start.y,
+        std::printf(R"("start": [%.17g, %.17g], "end": [%.17g, %.17g]})", curve.start.x, curve.start.y,
                     curve.end.x, curve.end.y);
         return;
     }
-    std::printf("\"center\": [%.17g, %.17g], \"radius\": %.17g", curve.start.x, curve.start.y, curve.radius);
+    std::printf(R"("center": [%.17g, %.17g], "radius": %.17g)", curve.start.x, curve.start.y, curve.radius);
     if (curve.kind == GeneratedCurve::kArc) {
-        std::printf(", \"startAngle\": %.17g, \"endAngle\": %.17g", curve.startAngle, curve.endAngle);
+        std::printf(R"(, "startAngle": %.17g, "endAngle": %.17g)", curve.startAngle, curve.endAngle);
     }
     std::printf("}");
 }
