@@ -18,7 +18,14 @@ bool BlockNode::BeginObject(ReadState& state) {
     // The name may come behind the entities.
     block_.record = state.Target().MakeBlock();
     block_.ids.clear();
+    if (state.Slips() != nullptr) {
+        state.Slips()->BeginBlock();
+    }
     return ObjectNode::BeginObject(state);
+}
+
+void BlockNode::Abandon(ReadState& state) const {
+    state.Slips()->EndBlock(Item());
 }
 
 bool BlockNode::Finish(ReadState& state) {
@@ -27,20 +34,26 @@ bool BlockNode::Finish(ReadState& state) {
     }
     const drawing::BlockData data = {layout_.Value(), anonymous_.Value(),
                                      static_cast<OxDb::UnitsValue>(units_.Value())};
-    return state.Target().AddBlock(name_.Value(), data, std::move(block_.record)) != nullptr ||
-           RefuseName(state, "block", name_.Value());
+    if (state.Target().AddBlock(name_.Value(), data, std::move(block_.record)) == nullptr) {
+        return RefuseName(state, "block", name_.Value());
+    }
+    if (state.Slips() != nullptr) {
+        state.Slips()->EndBlock(Item());
+    }
+    return true;
 }
 
 bool BlockNode::SetDrawOrder(ReadState& state) {
     std::vector<OxDbObjectId> order;
-    order.reserve(drawOrder_.Values().size());
-    for (const std::string& id : drawOrder_.Values()) {
-        const auto entity = block_.ids.find(id);
-        if (entity == block_.ids.end()) {
-            return state.Refuse("expected the id of an entity of the block, found " + Shown(id),
-                                ".drawOrder[" + std::to_string(order.size()) + "]");
+    const std::vector<std::string>& ids = drawOrder_.Values();
+    order.reserve(ids.size());
+    for (std::size_t i = 0; i < ids.size(); ++i) {
+        if (const auto entity = block_.ids.find(ids[i]); entity != block_.ids.end()) {
+            order.push_back(entity->second);
+        } else if (!state.RefuseSpare("expected the id of an entity of the block, found " + Shown(ids[i]),
+                                      ".drawOrder[" + std::to_string(i) + "]", "the id is skipped")) {
+            return false;
         }
-        order.push_back(entity->second);
     }
     block_.record->SetDrawOrder(std::move(order));
     return true;
@@ -54,6 +67,10 @@ DrawingNode::DrawingNode() {
     Bind("linetypes", linetypes_);
     Bind("textStyles", textStyles_);
     Bind("blocks", blocks_);
+}
+
+bool DrawingNode::EndCut(ReadState& state) {
+    return Has(format_) && Has(version_) && Finish(state);
 }
 
 bool DrawingNode::Finish(ReadState& state) {

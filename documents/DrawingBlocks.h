@@ -10,6 +10,9 @@ class BlockNode : public ObjectNode {
 public:
     BlockNode();
     bool BeginObject(ReadState& state) override;
+    std::string_view Part() const override { return "block"; }
+    std::string Item() const override { return ItemText("block", name_.Value()); }
+    void Abandon(ReadState& state) const override;
 
 protected:
     bool Finish(ReadState& state) override;
@@ -29,6 +32,8 @@ private:
 class DrawingNode : public ObjectNode {
 public:
     DrawingNode();
+    /// Ends a document that was cut short; false when it is not known to be a drawing.
+    bool EndCut(ReadState& state);
 
 protected:
     bool Finish(ReadState& state) override;

@@ -108,8 +108,9 @@ template <class T, class... Args>
 bool EntityNode::Add(ReadState& state, Args&&... args) {
     const T& added = block_.record->Add<T>(Properties(), std::forward<Args>(args)...);
     if (Has(id_) && !block_.ids.emplace(id_.Value(), added.objectId()).second) {
-        return state.Refuse(
-            "expected an id that no other entity of the block has, found " + Shown(id_.Value()), PathOf(id_));
+        return state.RefuseSpare("expected an id that no other entity of the block has, found " +
+                                     Shown(id_.Value()),
+                                 PathOf(id_), "the id is skipped");
     }
     return true;
 }

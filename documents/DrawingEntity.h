@@ -20,6 +20,7 @@ struct BlockInReading {
 class EntityNode : public SplineObjectNode {
 public:
     explicit EntityNode(BlockInReading& block);
+    std::string_view Part() const override { return "entity"; }
 
 protected:
     bool FinishType(ReadState& state, std::size_t type) override;

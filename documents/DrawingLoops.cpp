@@ -65,6 +65,11 @@ LoopNode::LoopNode(std::vector<drawing::HatchLoop>& loops) : loops_(loops) {
     Bind("edges", edgesNode_);
 }
 
+void LoopNode::Reset() {
+    edges_.clear(); // of a loop that was left out before its end
+    ObjectNode::Reset();
+}
+
 bool LoopNode::Finish(ReadState& state) {
     drawing::HatchLoop loop;
     loop.edges = std::move(edges_);

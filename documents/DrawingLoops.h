@@ -52,6 +52,7 @@ private:
 class LoopNode : public ObjectNode {
 public:
     explicit LoopNode(std::vector<drawing::HatchLoop>& loops);
+    void Reset() override;
 
 protected:
     bool Finish(ReadState& state) override;

@@ -44,6 +44,100 @@ bool ReadState::Refuse(std::string what, std::string_view below) {
     return false;
 }
 
+void ReadState::RefuseUnknownKey() {
+    Refuse("unknown key");
+    keyIsUnknown_ = true;
+}
+
+bool ReadState::RefuseSpare(std::string what, std::string_view below, std::string_view consequence) {
+    Refuse(std::move(what), below);
+    if (slips_ != nullptr) {
+        slips_->Add(fault_, consequence, {});
+    }
+    return slips_ != nullptr;
+}
+
+void ReadState::LeaveOut(const Node& part) {
+    slips_->Add(fault_, "the " + std::string(part.Part()) + " is left out", part.Item());
+    part.Abandon(*this);
+}
+
+bool ReadState::LeaveOutAround(std::size_t opened) {
+    for (std::size_t inner = depth_; inner > 0; --inner) {
+        const Node& part = *frames_[inner - 1].node;
+        if (!part.Part().empty()) {
+            skippedLevels_ = depth_ - inner + 1 + opened;
+            depth_ = inner - 1;
+            LeaveOut(part);
+            return true;
+        }
+    }
+    return false;
+}
+
+bool ReadState::ForgiveValue(const Node* node, bool isStart) {
+    if (slips_ == nullptr || node == nullptr) {
+        return false;
+    }
+    const std::size_t opened = isStart ? 1 : 0;
+    if (!node->Part().empty()) {
+        // It has not begun, so its name is that of the one before it.
+        slips_->Add(fault_, "the " + std::string(node->Part()) + " is left out", {});
+        skippedLevels_ = opened;
+        return true;
+    }
+    if (LeaveOutAround(opened)) {
+        return true;
+    }
+    if (depth_ == 0 || node->IsNeeded()) {
+        return false;
+    }
+    slips_->Add(fault_, "the value is skipped", {});
+    skippedLevels_ = opened;
+    return true;
+}
+
+bool ReadState::ForgiveEnd(const Node& node) {
+    if (slips_ == nullptr) {
+        return false;
+    }
+    if (!node.Part().empty()) {
+        LeaveOut(node);
+        return true;
+    }
+    return LeaveOutAround(0);
+}
+
+bool ReadState::ForgiveKey() {
+    if (slips_ == nullptr) {
+        return false;
+    }
+    // Of a key that is given twice, nobody can say which one counts; of a list of the document, the first.
+    if (!keyIsUnknown_ && LeaveOutAround(0)) {
+        return true;
+    }
+    slips_->Add(fault_, "the key is skipped", {});
+    skipsNext_ = true;
+    return true;
+}
+
+bool ReadState::ForgiveCut() {
+    if (slips_ == nullptr) {
+        return false;
+    }
+    bool isInBlock = false;
+    for (std::size_t level = 0; level < depth_; ++level) {
+        isInBlock = isInBlock || frames_[level].node->Part() == "block";
+    }
+    slips_->Add(fault_,
+                isInBlock ? "the block and all that follows are left out" : "all that follows is left out",
+                {});
+    for (std::size_t level = 0; level < depth_; ++level) {
+        frames_[level].node->Abandon(*this);
+    }
+    return true;
+}
+
 void ReadState::Enter(Node& node, bool isArray) {
     if (depth_ == frames_.size()) {
         frames_.emplace_back();
@@ -63,6 +157,7 @@ bool ReadState::GoToKey(const std::string& key) {
     Frame& frame = frames_[depth_ - 1];
     frame.hasPlace = true;
     frame.key = key;
+    keyIsUnknown_ = false;
     frame.value = frame.node->Key(*this, key);
     return frame.value != nullptr;
 }
@@ -103,7 +198,7 @@ bool Node::String(ReadState& state, std::string& /*value*/) {
 }
 
 Node* Node::Key(ReadState& state, std::string_view /*key*/) {
-    state.Refuse("unknown key");
+    state.RefuseUnknownKey();
     return nullptr;
 }
 

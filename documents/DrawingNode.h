@@ -2,6 +2,7 @@
 #pragma once
 
 #include "documents/DrawingFault.h"
+#include "documents/DrawingSlips.h"
 
 #include <cstdint>
 #include <string>
@@ -29,16 +30,40 @@ std::string Shown(const NumberToken& number);
 /// A text as it stands in a message: in quotes, shortened, control characters as "?".
 std::string Shown(std::string_view text);
 
-/// Where reading has got to, and what it refused.
+/// Where reading has got to, and what it refused or left out.
 class ReadState {
 public:
-    explicit ReadState(drawing::Database& database) : database_(database) {}
+    /// `slips` is null for a reading that forgives nothing.
+    ReadState(drawing::Database& database, DrawingSlips* slips) : database_(database), slips_(slips) {}
 
     drawing::Database& Target() { return database_; }
 
     /// Keeps the fault, at the place that reading has got to, or `below` it ("[3].name"). Always false.
     bool Refuse(std::string what, std::string_view below = {});
     const DrawingFault& Fault() const { return fault_; }
+
+    DrawingSlips* Slips() { return slips_; }
+    /// Refuses what can be missed by itself. A reading that forgives goes on, and the result is true.
+    bool RefuseSpare(std::string what, std::string_view below, std::string_view consequence);
+    /// The key met last is none of its object's.
+    void RefuseUnknownKey();
+
+    /// After a value was refused, whose node may be null, or an object or array that is complete: leaves out
+    /// the smallest part that can be missed. False when there is none, or nothing is forgiven.
+    bool ForgiveValue(const Node* node, bool isStart);
+    bool ForgiveEnd(const Node& node);
+    /// The same after a key.
+    bool ForgiveKey();
+    /// The text is no JSON from here on, and nothing more is read.
+    bool ForgiveCut();
+    /// What comes next belongs to a part that is left out.
+    bool IsSkipping() const { return skipsNext_ || skippedLevels_ > 0; }
+    void SkipScalar() { skipsNext_ = false; }
+    void SkipStart() {
+        skipsNext_ = false;
+        ++skippedLevels_;
+    }
+    void SkipEnd() { --skippedLevels_; }
 
     void Enter(Node& node, bool isArray);
     /// Leaves the innermost object or array and gives its node.
@@ -61,10 +86,17 @@ private:
     };
 
     std::string Path() const;
+    void LeaveOut(const Node& part);
+    // Leaves out the innermost part around this place, where `opened` more objects and arrays have begun.
+    bool LeaveOutAround(std::size_t opened);
 
     drawing::Database& database_;
+    DrawingSlips* slips_;
     DrawingFault fault_;
-    std::vector<Frame> frames_; // kept for reuse above depth_
+    bool keyIsUnknown_ = false;
+    bool skipsNext_ = false;        // the next value
+    std::size_t skippedLevels_ = 0; // objects and arrays that have to end before reading goes on
+    std::vector<Frame> frames_;     // kept for reuse above depth_
     std::size_t depth_ = 0;
 };
 
@@ -76,6 +108,15 @@ public:
     Node() = default;
     Node(const Node&) = delete;
     Node& operator=(const Node&) = delete;
+
+    /// What a message calls an object that can be left out by itself: "entity". Empty for all else.
+    virtual std::string_view Part() const { return {}; }
+    /// The same with its name, "linetype GAS", where it has one that is known already.
+    virtual std::string Item() const { return {}; }
+    /// It is left out, though it has begun.
+    virtual void Abandon(ReadState& /*state*/) const {}
+    /// Whether nothing can be made of a document without this value.
+    virtual bool IsNeeded() const { return false; }
 
     /// What belongs here: "a number".
     virtual std::string Expected() const = 0;

@@ -36,7 +36,7 @@ Node* ObjectNode::Key(ReadState& state, std::string_view key) {
     };
     const auto place = std::lower_bound(byName_.begin(), byName_.end(), key, before);
     if (place == byName_.end() || bindings_[*place].name != key) {
-        state.Refuse("unknown key");
+        state.RefuseUnknownKey();
         return nullptr;
     }
     const std::uint64_t bit = std::uint64_t{1} << *place;

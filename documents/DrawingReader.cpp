@@ -66,17 +66,17 @@ private:
 /// Receives the JSON parser's events.
 class EventReceiver : public nlohmann::json_sax<nlohmann::json> {
 public:
-    explicit EventReceiver(drawing::Database& database) : state_(database) {}
+    EventReceiver(drawing::Database& database, DrawingSlips* slips) : state_(database, slips) {}
 
     const DrawingFault& Fault() const { return state_.Fault(); }
+    /// After the parser gave up: whether what was read before is a drawing that may be kept.
+    bool KeepsWhatWasRead() { return isCut_ && document_.EndCut(state_); }
 
     bool null() override {
-        Node* const node = Next();
-        return node != nullptr && node->Null(state_);
+        return Scalar([&](Node& node) { return node.Null(state_); });
     }
     bool boolean(bool value) override {
-        Node* const node = Next();
-        return node != nullptr && node->Boolean(state_, value);
+        return Scalar([&](Node& node) { return node.Boolean(state_, value); });
     }
     bool number_integer(number_integer_t value) override {
         return Number({static_cast<double>(value), true, value, {}});
@@ -92,59 +92,88 @@ public:
         return Number({value, false, 0, text});
     }
     bool string(string_t& value) override {
-        Node* const node = Next();
-        return node != nullptr && node->String(state_, value);
+        return Scalar([&](Node& node) { return node.String(state_, value); });
     }
     bool binary(binary_t& /*value*/) override { return false; } // JSON text has none
     bool start_object(std::size_t /*elements*/) override {
-        Node* const node = Next();
-        if (node == nullptr || !node->BeginObject(state_)) {
-            return false;
-        }
-        state_.Enter(*node, false);
-        return true;
+        return Start(false, [&](Node& node) { return node.BeginObject(state_); });
     }
-    bool key(string_t& value) override { return state_.GoToKey(value); }
-    bool end_object() override { return state_.Leave().End(state_); }
+    bool key(string_t& value) override {
+        return state_.IsSkipping() || state_.GoToKey(value) || state_.ForgiveKey();
+    }
+    bool end_object() override { return End(); }
     bool start_array(std::size_t /*elements*/) override {
-        Node* const node = Next();
-        if (node == nullptr || !node->BeginArray(state_)) {
-            return false;
-        }
-        state_.Enter(*node, true);
-        return true;
+        return Start(true, [&](Node& node) { return node.BeginArray(state_); });
     }
-    bool end_array() override { return state_.Leave().End(state_); }
+    bool end_array() override { return End(); }
 
     bool parse_error(std::size_t /*position*/, const std::string& lastToken,
                      const nlohmann::json::exception& error) override {
         if (error.id == kNumberOutOfRange) {
-            Next(); // the place is the number's own
-            return state_.Refuse("expected a number that is finite, found " + lastToken);
+            if (!state_.IsSkipping()) {
+                Next(); // the place is the number's own
+            }
+            state_.Refuse("expected a number that is finite, found " + lastToken);
+        } else {
+            // "[json.exception.parse_error.101] parse error at line 1, column 5: ..."
+            const std::string text = error.what();
+            const std::size_t place = text.find("line ");
+            state_.Refuse("expected JSON, found an error at " +
+                          (place == std::string::npos ? text : text.substr(place)));
         }
-        // "[json.exception.parse_error.101] parse error at line 1, column 5: ..."
-        const std::string text = error.what();
-        const std::size_t place = text.find("line ");
-        return state_.Refuse("expected JSON, found an error at " +
-                             (place == std::string::npos ? text : text.substr(place)));
+        isCut_ = state_.ForgiveCut();
+        return false;
     }
 
 private:
     Node* Next() { return state_.IsAtTop() ? &document_ : state_.NextInside(); }
-    bool Number(const NumberToken& number) {
+
+    // `take` hands the value to its node.
+    template <class Take>
+    bool Scalar(Take take) {
+        if (state_.IsSkipping()) {
+            state_.SkipScalar();
+            return true;
+        }
         Node* const node = Next();
-        return node != nullptr && node->Number(state_, number);
+        return (node != nullptr && take(*node)) || state_.ForgiveValue(node, false);
+    }
+    bool Number(const NumberToken& number) {
+        return Scalar([&](Node& node) { return node.Number(state_, number); });
+    }
+    template <class Begin>
+    bool Start(bool isArray, Begin begin) {
+        if (state_.IsSkipping()) {
+            state_.SkipStart();
+            return true;
+        }
+        Node* const node = Next();
+        if (node == nullptr || !begin(*node)) {
+            return state_.ForgiveValue(node, true);
+        }
+        state_.Enter(*node, isArray);
+        return true;
+    }
+    bool End() {
+        if (state_.IsSkipping()) {
+            state_.SkipEnd();
+            return true;
+        }
+        Node& node = state_.Leave();
+        return node.End(state_) || state_.ForgiveEnd(node);
     }
 
     ReadState state_;
     DrawingNode document_;
+    bool isCut_ = false;
 };
 
 template <class Iterator>
-std::unique_ptr<drawing::Database> Read(Iterator begin, Iterator end, DrawingFault& fault) {
+std::unique_ptr<drawing::Database> Read(Iterator begin, Iterator end, DrawingFault& fault,
+                                        DrawingSlips* slips) {
     auto database = std::make_unique<drawing::Database>();
-    EventReceiver receiver(*database);
-    if (!nlohmann::json::sax_parse(begin, end, &receiver)) {
+    EventReceiver receiver(*database, slips);
+    if (!nlohmann::json::sax_parse(begin, end, &receiver) && !receiver.KeepsWhatWasRead()) {
         fault = receiver.Fault();
         return nullptr;
     }
@@ -153,9 +182,9 @@ std::unique_ptr<drawing::Database> Read(Iterator begin, Iterator end, DrawingFau
 
 } // namespace
 
-std::unique_ptr<drawing::Database> ReadDrawing(std::FILE* file, DrawingFault& fault) {
+std::unique_ptr<drawing::Database> ReadDrawing(std::FILE* file, DrawingFault& fault, DrawingSlips* slips) {
     FileBytes bytes(file);
-    std::unique_ptr<drawing::Database> database = Read(FileIterator(bytes), FileIterator(), fault);
+    std::unique_ptr<drawing::Database> database = Read(FileIterator(bytes), FileIterator(), fault, slips);
     if (std::ferror(file) != 0) {
         fault = {{}, "cannot be read to its end"};
         return nullptr;
@@ -163,8 +192,9 @@ std::unique_ptr<drawing::Database> ReadDrawing(std::FILE* file, DrawingFault& fa
     return database;
 }
 
-std::unique_ptr<drawing::Database> ReadDrawing(std::string_view text, DrawingFault& fault) {
-    return Read(text.begin(), text.end(), fault);
+std::unique_ptr<drawing::Database> ReadDrawing(std::string_view text, DrawingFault& fault,
+                                               DrawingSlips* slips) {
+    return Read(text.begin(), text.end(), fault, slips);
 }
 
 } // namespace documents

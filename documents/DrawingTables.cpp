@@ -12,6 +12,10 @@ bool RefuseName(ReadState& state, std::string_view kind, const std::wstring& nam
                         ".name");
 }
 
+std::string ItemText(std::string_view kind, const std::wstring& name) {
+    return name.empty() ? std::string() : std::string(kind) + ' ' + platform::WideToValidUtf8(name);
+}
+
 LayerNode::LayerNode() {
     Bind("name", name_, kRequired);
     Bind("color", color_);

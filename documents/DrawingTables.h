@@ -12,9 +12,14 @@ namespace documents {
 /// Refuses a record because its table has the name already. `kind`: "layer".
 bool RefuseName(ReadState& state, std::string_view kind, const std::wstring& name);
 
+/// "layer ROADS"; empty for a record without a name.
+std::string ItemText(std::string_view kind, const std::wstring& name);
+
 class LayerNode : public ObjectNode {
 public:
     LayerNode();
+    std::string_view Part() const override { return "layer"; }
+    std::string Item() const override { return ItemText("layer", name_.Value()); }
 
 protected:
     bool Finish(ReadState& state) override;
@@ -48,6 +53,8 @@ class LinetypeNode : public ObjectNode {
 public:
     LinetypeNode();
     void Reset() override;
+    std::string_view Part() const override { return "linetype"; }
+    std::string Item() const override { return ItemText("linetype", name_.Value()); }
 
 protected:
     bool Finish(ReadState& state) override;
@@ -62,6 +69,8 @@ private:
 class TextStyleNode : public ObjectNode {
 public:
     TextStyleNode();
+    std::string_view Part() const override { return "text style"; }
+    std::string Item() const override { return ItemText("text style", name_.Value()); }
 
 protected:
     bool Finish(ReadState& state) override;

@@ -39,16 +39,18 @@ bool TypedObjectNode::Finish(ReadState& state) {
         return state.Refuse("expected the type of " + std::string(kind_) + ", found " + Shown(type_.Value()),
                             ".type");
     }
-    if (const std::uint64_t foreign = Given() & ~type->allowed; foreign != 0) {
-        return RefuseKey(state, *Bindings()[static_cast<std::size_t>(std::countr_zero(foreign))].node);
+    for (std::uint64_t foreign = Given() & ~type->allowed; foreign != 0; foreign &= foreign - 1) {
+        if (!RefuseKey(state, *Bindings()[static_cast<std::size_t>(std::countr_zero(foreign))].node)) {
+            return false;
+        }
     }
     return RefuseMissingKeys(state, type->required) &&
            FinishType(state, static_cast<std::size_t>(type - types_.begin()));
 }
 
 bool TypedObjectNode::RefuseKey(ReadState& state, const Node& node) const {
-    return state.Refuse(std::string(kind_) + " of type " + Shown(type_.Value()) + " has no such key",
-                        PathOf(node));
+    return state.RefuseSpare(std::string(kind_) + " of type " + Shown(type_.Value()) + " has no such key",
+                             PathOf(node), "the key is skipped");
 }
 
 bool TypedObjectNode::RefuseKeyBeside(ReadState& state, const Node& node, std::string_view other) const {

@@ -26,7 +26,7 @@ protected:
     /// The object's keys are those of its type. `type` counts from 0 in the order of AddType.
     virtual bool FinishType(ReadState& state, std::size_t type) = 0;
 
-    /// Refuses the object because its type does not take a key of it.
+    /// Refuses a key because the object's type does not take it; true where it is skipped.
     bool RefuseKey(ReadState& state, const Node& node) const;
     /// Refuses the object because it has the key of `node` beside the key `other`.
     bool RefuseKeyBeside(ReadState& state, const Node& node, std::string_view other) const;

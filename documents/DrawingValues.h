@@ -36,6 +36,7 @@ public:
     std::string Expected() const override;
     bool Number(ReadState& state, const NumberToken& number) override;
     void Reset() override { value_ = fallback_; }
+    bool IsNeeded() const override { return lowest_ == highest_; }
     std::int32_t Value() const { return value_; }
 
 private:
@@ -90,6 +91,7 @@ public:
     explicit FixedTextNode(std::string_view text) : text_(text) {}
     std::string Expected() const override { return Shown(text_); }
     bool String(ReadState& state, std::string& value) override;
+    bool IsNeeded() const override { return true; }
 
 private:
     std::string_view text_;
