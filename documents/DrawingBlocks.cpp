@@ -24,7 +24,8 @@ bool BlockNode::BeginObject(ReadState& state) {
     return ObjectNode::BeginObject(state);
 }
 
-void BlockNode::Abandon(ReadState& state) const {
+void BlockNode::Abandon(ReadState& state) {
+    state.Target().Discard(std::move(block_.record));
     state.Slips()->EndBlock(Item());
 }
 

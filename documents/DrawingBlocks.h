@@ -12,7 +12,7 @@ public:
     bool BeginObject(ReadState& state) override;
     std::string_view Part() const override { return "block"; }
     std::string Item() const override { return ItemText("block", name_.Value()); }
-    void Abandon(ReadState& state) const override;
+    void Abandon(ReadState& state) override;
 
 protected:
     bool Finish(ReadState& state) override;

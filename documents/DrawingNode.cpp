@@ -57,14 +57,14 @@ bool ReadState::RefuseSpare(std::string what, std::string_view below, std::strin
     return slips_ != nullptr;
 }
 
-void ReadState::LeaveOut(const Node& part) {
+void ReadState::LeaveOut(Node& part) {
     slips_->Add(fault_, "the " + std::string(part.Part()) + " is left out", part.Item());
     part.Abandon(*this);
 }
 
 bool ReadState::LeaveOutAround(std::size_t opened) {
     for (std::size_t inner = depth_; inner > 0; --inner) {
-        const Node& part = *frames_[inner - 1].node;
+        Node& part = *frames_[inner - 1].node;
         if (!part.Part().empty()) {
             skippedLevels_ = depth_ - inner + 1 + opened;
             depth_ = inner - 1;
@@ -97,7 +97,7 @@ bool ReadState::ForgiveValue(const Node* node, bool isStart) {
     return true;
 }
 
-bool ReadState::ForgiveEnd(const Node& node) {
+bool ReadState::ForgiveEnd(Node& node) {
     if (slips_ == nullptr) {
         return false;
     }

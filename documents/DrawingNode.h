@@ -51,7 +51,7 @@ public:
     /// After a value was refused, whose node may be null, or an object or array that is complete: leaves out
     /// the smallest part that can be missed. False when there is none, or nothing is forgiven.
     bool ForgiveValue(const Node* node, bool isStart);
-    bool ForgiveEnd(const Node& node);
+    bool ForgiveEnd(Node& node);
     /// The same after a key.
     bool ForgiveKey();
     /// The text is no JSON from here on, and nothing more is read.
@@ -86,7 +86,7 @@ private:
     };
 
     std::string Path() const;
-    void LeaveOut(const Node& part);
+    void LeaveOut(Node& part);
     // Leaves out the innermost part around this place, where `opened` more objects and arrays have begun.
     bool LeaveOutAround(std::size_t opened);
 
@@ -114,7 +114,7 @@ public:
     /// The same with its name, "linetype GAS", where it has one that is known already.
     virtual std::string Item() const { return {}; }
     /// It is left out, though it has begun.
-    virtual void Abandon(ReadState& /*state*/) const {}
+    virtual void Abandon(ReadState& /*state*/) {}
     /// Whether nothing can be made of a document without this value.
     virtual bool IsNeeded() const { return false; }
 

@@ -21,6 +21,14 @@ void WriteFinding(JsonText& json, const Finding& finding) {
         json.Key("line");
         json.Integer(static_cast<std::int64_t>(finding.line));
     }
+    if (finding.byte) {
+        json.Key("byte");
+        json.Integer(static_cast<std::int64_t>(*finding.byte));
+    }
+    if (finding.shape) {
+        json.Key("shape");
+        json.Integer(*finding.shape);
+    }
     WriteText(json, "severity", SeverityName(finding.severity));
     WriteText(json, "message", finding.message);
     if (!finding.item.empty()) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,9 @@ struct Finding {
     std::uint64_t line = 0; // from 1; 0 where the file has no lines or the finding is of none of them
     Severity severity = Severity::kError;
     std::string message;
-    std::string item; // "linetype GAS"; empty where it is of none
+    std::string item;                                  // "linetype GAS"; empty where it is of none
+    std::optional<std::uint64_t> byte = std::nullopt;  // from 0, in a file without lines
+    std::optional<std::uint16_t> shape = std::nullopt; // the number of a shape or glyph
 };
 
 std::size_t CountOf(const std::vector<Finding>& findings, Severity severity);

@@ -56,8 +56,8 @@ Oxsys::ErrorStatus CloseObject(OxDbStub& stub) {
     return status;
 }
 
-OxDbObjectId IdOrUnknown(Core& core, OxDbStub* stub) {
-    return OxDbObjectId(stub != nullptr ? stub : &core.unknown);
+OxDbObjectId IdOrMissing(Core& core, OxDbStub* stub, NameIndex name) {
+    return OxDbObjectId(stub != nullptr ? stub : &core.missing.try_emplace(name, core, name).first->second);
 }
 
 wchar_t* AllocateText(const std::wstring& text) {

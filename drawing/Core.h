@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <unordered_map>
 
 namespace drawing {
 
@@ -45,6 +46,12 @@ struct Core {
     std::uint64_t hatchesTooDense = 0; // evaluations that were given up for too many lines
     NamePool names;
     OxDbStub unknown{*this, nullptr};
+    // For ids of what the drawing refers to by a name that no table has.
+    struct Missing : OxDbStub {
+        Missing(Core& owner, NameIndex itsName) : OxDbStub(owner, nullptr), name(itsName) {}
+        NameIndex name;
+    };
+    std::unordered_map<NameIndex, Missing> missing;
 
     Core() = default;
     Core(const Core&) = delete;
@@ -78,8 +85,9 @@ Oxsys::ErrorStatus OpenNamed(Core& core, Operation operation, const wchar_t* nam
 /// Ends one opening.
 OXDB_API Oxsys::ErrorStatus CloseObject(OxDbStub& stub);
 
-/// The id of what `stub` stands for; when that is null, of something that cannot be opened.
-OXDB_API OxDbObjectId IdOrUnknown(Core& core, OxDbStub* stub);
+/// The id of what `stub` stands for; when that is null, of something that cannot be opened, but whose name is
+/// known.
+OXDB_API OxDbObjectId IdOrMissing(Core& core, OxDbStub* stub, NameIndex name);
 
 /// A copy of `text` that is released with delete[].
 OXDB_API wchar_t* AllocateText(const std::wstring& text);

@@ -1,8 +1,11 @@
 // The drawing database in memory.
 #include "drawing/Database.h"
 
+#include "drawing/SimpleEntities.h"
+
 #include <algorithm>
 #include <array>
+#include <unordered_set>
 
 namespace drawing {
 namespace {
@@ -103,12 +106,37 @@ BlockRecord* Database::AddBlock(const std::wstring& name, const BlockData& data,
                                 std::unique_ptr<BlockRecord> block) {
     NamedThings& things = core_->names.Things(core_->names.Intern(name));
     if (things.block != nullptr) {
+        Discard(std::move(block));
         return nullptr;
     }
     block->Set(name, data);
     BlockRecord& record = tables_->blockTable.Adopt(std::move(block));
     things.block = &record.Stub();
     return &record;
+}
+
+void Database::Discard(std::unique_ptr<BlockRecord> block) {
+    std::unordered_set<OxDbStub*> inserts;
+    std::unordered_set<NameIndex> inserted;
+    for (std::size_t i = 0; block != nullptr && i < block->EntityCount(); ++i) {
+        OxDbStub* const stub = block->EntityId(i).stub();
+        if (stub->object->isKindOf(OxDbBlockReference::desc())) {
+            inserts.insert(stub);
+            inserted.insert(static_cast<const BlockReference*>(stub->object)->BlockName());
+        }
+    }
+    for (const NameIndex name : inserted) {
+        std::erase_if(core_->names.Things(name).references,
+                      [&](OxDbStub* reference) { return inserts.contains(reference); });
+    }
+}
+
+const std::wstring* Database::MissingName(OxDbObjectId id) const {
+    const OxDbStub* const stub = id.stub();
+    if (stub == nullptr || stub->object != nullptr || stub == &core_->unknown) {
+        return nullptr;
+    }
+    return &core_->names.Text(static_cast<const Core::Missing*>(stub)->name);
 }
 
 Oxsys::ErrorStatus Database::getSymbolTable(OxDbBlockTable*& table, OxDb::OpenMode /*mode*/) {

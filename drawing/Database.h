@@ -37,6 +37,12 @@ public:
     std::unique_ptr<BlockRecord> MakeBlock();
     BlockRecord* AddBlock(const std::wstring& name, const BlockData& data,
                           std::unique_ptr<BlockRecord> block);
+    /// Deletes a block that was made and not added, with its entities: its inserts are no references any
+    /// more.
+    void Discard(std::unique_ptr<BlockRecord> block);
+
+    /// The name by which the drawing refers to something that it does not have; null for any other id.
+    const std::wstring* MissingName(OxDbObjectId id) const;
 
     /// Marks the object as erased: it is then opened only where erased objects may be.
     static void Erase(OxDbObjectId id) { id.stub()->erased = true; }
@@ -48,6 +54,7 @@ public:
     /// How many lines the pattern of one hatch may give: evaluating one with more fails. Without a limit set
     /// here it is the most that an `int` counts.
     void LimitHatchLines(std::int32_t most) { core_->maximumHatchLines = static_cast<std::size_t>(most); }
+    std::size_t MostHatchLines() const { return core_->maximumHatchLines; }
     /// How often evaluating a hatch was given up because it has too many lines.
     std::uint64_t HatchesTooDense() const { return core_->hatchesTooDense; }
     /// True when each object was closed exactly as often as it was opened.

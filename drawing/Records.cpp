@@ -40,8 +40,9 @@ OxDbObjectId LinetypeRecord::shapeStyleAt(int index) const {
     if (dash.shapeStyle.empty()) {
         return {};
     }
-    const NamedThings* const named = SharedCore().names.Find(dash.shapeStyle);
-    return IdOrUnknown(SharedCore(), named != nullptr ? named->textStyle : nullptr);
+    NamePool& names = SharedCore().names;
+    const NameIndex name = names.Intern(dash.shapeStyle);
+    return IdOrMissing(SharedCore(), names.Things(name).textStyle, name);
 }
 
 int LinetypeRecord::shapeNumberAt(int index) const {

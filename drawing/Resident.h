@@ -64,7 +64,7 @@ public:
     OxDb::LineWeight lineWeight() const override { return lineWeight_; }
     OxDbObjectId linetypeId() const override {
         Core& core = this->SharedCore();
-        return IdOrUnknown(core, core.names.Things(linetype_).linetype);
+        return IdOrMissing(core, core.names.Things(linetype_).linetype, linetype_);
     }
 
     // Drawings are open for reading.

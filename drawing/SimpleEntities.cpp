@@ -78,7 +78,7 @@ BlockReference::BlockReference(Core& core, const EntityProperties& properties, c
 }
 
 OxDbObjectId BlockReference::blockTableRecord() const {
-    return IdOrUnknown(SharedCore(), SharedCore().names.Things(block_).block);
+    return IdOrMissing(SharedCore(), SharedCore().names.Things(block_).block, block_);
 }
 
 OtherEntity::OtherEntity(Core& core, const EntityProperties& properties, std::wstring className)

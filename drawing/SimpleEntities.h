@@ -114,6 +114,7 @@ class OXDB_API BlockReference : public ResidentEntity<OxDbBlockReference> {
 public:
     BlockReference(Core& core, const EntityProperties& properties, const std::wstring& blockName);
     OxDbObjectId blockTableRecord() const override;
+    NameIndex BlockName() const { return block_; }
 
 private:
     NameIndex block_;

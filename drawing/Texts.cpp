@@ -5,7 +5,7 @@ namespace drawing {
 
 OxDbObjectId TextStyleId(Core& core, NameIndex name) {
     return core.names.Text(name).empty() ? OxDbObjectId()
-                                         : IdOrUnknown(core, core.names.Things(name).textStyle);
+                                         : IdOrMissing(core, core.names.Things(name).textStyle, name);
 }
 
 AttributeDefinition::AttributeDefinition(Core& core, const EntityProperties& properties, TextData data,

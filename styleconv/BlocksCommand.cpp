@@ -1,9 +1,13 @@
 #include "styleconv/BlocksCommand.h"
 
+#include "OxDb/OxDb.h"
 #include "StyleConversion/block/BlockConverter.h"
+#include "StyleConversion/block/Opened.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "drawing/Database.h"
+#include "styleconv/CheckedBlock.h"
 #include "styleconv/DrawingFile.h"
+#include "styleconv/Finding.h"
 #include "styleconv/Messages.h"
 #include "styleconv/Progress.h"
 #include "styleconv/ShapeSearch.h"
@@ -13,6 +17,7 @@
 #include <CLI/CLI.hpp>
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 namespace styleconv {
 namespace {
@@ -22,16 +27,8 @@ struct BlocksOptions : CommonOptions {
     std::vector<std::string> names;
     std::vector<std::string> layersToIgnore;
     std::vector<std::string> shapeFolders;
+    bool tolerant = false;
 };
-
-std::vector<std::wstring> Wide(const std::vector<std::string>& texts) {
-    std::vector<std::wstring> wide;
-    wide.reserve(texts.size());
-    for (const std::string& text : texts) {
-        wide.push_back(platform::Utf8ToWide(text));
-    }
-    return wide;
-}
 
 // False, after saying so, when there are none.
 bool ConvertibleBlocks(const InputFile& input, BlockConverter& converter, std::vector<std::wstring>& names) {
@@ -40,56 +37,106 @@ bool ConvertibleBlocks(const InputFile& input, BlockConverter& converter, std::v
         return false;
     }
     if (names.empty()) {
-        Say(input.Name(), "the drawing has no block to convert: layouts and anonymous blocks are converted "
-                          "only by --name");
+        Say(input.Name(), kNoBlocks);
         return false;
     }
     return true;
 }
 
-// False, after saying which, when one of the blocks is not there.
-bool Convert(const InputFile& input, const drawing::Database& drawing, BlockConverter& converter,
-             const std::vector<std::wstring>& names, Symbols& symbols) {
-    BeginStage("Converting", names.size());
-    for (const std::wstring& name : names) {
-        NowAtItem("block " + Shown(name));
-        const std::uint64_t tooDense = drawing.HatchesTooDense();
-        std::unique_ptr<TylModel::SymbolDefinition> symbol(converter.Convert(name));
-        if (drawing.HatchesTooDense() > tooDense) {
-            Say(input.Name(),
+class Conversion {
+public:
+    Conversion(const InputFile& input, drawing::Database& drawing, const BlocksOptions& options)
+        : input_(input), drawing_(drawing), isTolerant_(options.tolerant),
+          layersToIgnore_(WideTexts(options.layersToIgnore)), converter_(&drawing),
+          search_(input.Name(), input.Path(), options.shapeFolders,
+                  options.tolerant ? ShapeSearchManner::kForgiving : ShapeSearchManner::kSayNotes),
+          check_(input.Name(), drawing, search_, layersToIgnore_) {
+        converter_.SetLayersToIgnore(layersToIgnore_);
+        if (isTolerant_) {
+            drawing.LimitHatchLines(kMostHatchLines);
+        }
+        search_.setWorkingDatabase(&drawing);
+        oxdbSetHostApplicationServices(&search_);
+    }
+    ~Conversion() { oxdbSetHostApplicationServices(nullptr); }
+    Conversion(const Conversion&) = delete;
+    Conversion& operator=(const Conversion&) = delete;
+
+    // Those of the names, or all that can be converted. False, after saying why, when one is not there; a
+    // tolerant conversion needs but one.
+    bool Convert(std::vector<std::wstring> names, Symbols& symbols) {
+        if (names.empty() && !ConvertibleBlocks(input_, converter_, names)) {
+            return false;
+        }
+        BeginStage("Converting", names.size());
+        for (const std::wstring& name : names) {
+            NowAtItem("block " + Shown(name));
+            if (!ConvertOne(name, symbols)) {
+                return false;
+            }
+        }
+        return isTolerant_ ? !symbols.empty() : symbols.size() == names.size();
+    }
+
+private:
+    // False, after saying why, where nothing is to be converted any more.
+    bool ConvertOne(const std::wstring& name, Symbols& symbols) {
+        const std::uint64_t tooDense = drawing_.HatchesTooDense();
+        std::unique_ptr<TylModel::SymbolDefinition> symbol(converter_.Convert(name));
+        if (!isTolerant_ && drawing_.HatchesTooDense() > tooDense) {
+            Say(input_.Name(),
                 "block " + Shown(name) + ": a hatch has more lines than the limit of 2147483647");
             return false;
         }
-        if (symbol) {
-            symbols.push_back(std::move(symbol));
-        } else {
-            Say(input.Name(), "the drawing has no block named " + Shown(name));
+        if (symbol == nullptr) {
+            const std::string severity = isTolerant_ ? "warning: " : "";
+            Say(input_.Name(), severity + "the drawing has no block named " + Shown(name));
+            return true;
+        }
+        symbols.push_back(std::move(symbol));
+        if (isTolerant_) {
+            SayLosses(name);
+        }
+        return true;
+    }
+
+    void SayLosses(const std::wstring& name) {
+        block::Opened<OxDbBlockTable> table;
+        block::Opened<OxDbBlockTableRecord> record;
+        if (table.Accept(drawing_.getSymbolTable(table.Receive(), OxDb::kForRead)) &&
+            record.Accept(table->getAt(name.c_str(), record.Receive(), OxDb::kForRead, false))) {
+            std::vector<Finding> losses;
+            check_.AddLosses(*record, losses);
+            SayFindings(losses);
         }
     }
-    return symbols.size() == names.size();
-}
+
+    // With more, the limit of memory would end the conversion, and all that is right were lost with the
+    // hatch.
+    static constexpr std::int32_t kMostHatchLines = 10000000;
+
+    const InputFile& input_;
+    drawing::Database& drawing_;
+    bool isTolerant_;
+    std::vector<std::wstring> layersToIgnore_;
+    BlockConverter converter_;
+    ShapeSearch search_;
+    BlockCheck check_;
+};
 
 ExitStatus Blocks(const BlocksOptions& options) {
     InputFile input(options.file);
     if (!input.Open()) {
         return kInputFault;
     }
-    const std::unique_ptr<drawing::Database> drawing = ReadDrawing(input);
+    const std::unique_ptr<drawing::Database> drawing = ReadDrawing(input, options.tolerant);
     if (!drawing) {
         return kInputFault;
     }
-    ShapeSearch services(input.Name(), input.Path(), options.shapeFolders);
-    services.setWorkingDatabase(drawing.get());
-    oxdbSetHostApplicationServices(&services);
-
-    BlockConverter converter(drawing.get());
-    converter.SetLayersToIgnore(Wide(options.layersToIgnore));
-    std::vector<std::wstring> names = Wide(options.names);
     Symbols symbols;
-    const bool converted = (!names.empty() || ConvertibleBlocks(input, converter, names)) &&
-                           Convert(input, *drawing, converter, names, symbols);
-    oxdbSetHostApplicationServices(nullptr);
-    return converted ? WriteSymbols(symbols, options) : kInputFault;
+    Conversion conversion(input, *drawing, options);
+    return conversion.Convert(WideTexts(options.names), symbols) ? WriteSymbols(symbols, options)
+                                                                 : kInputFault;
 }
 
 } // namespace
@@ -99,19 +146,15 @@ void AddBlocksCommand(CLI::App& app, Runner& runner) {
     CLI::App* const command = app.add_subcommand("blocks", "Convert the blocks of a drawing document");
     command->add_option("FILE", options->file, "A drawing document, or - for standard input")->required();
     AddNameOption(*command, options->names, "Convert only this block; may be given again");
-    command
-        ->add_option("--ignore-layer", options->layersToIgnore,
-                     "Leave out what is on this layer, spelled as its entities spell it; may be given again")
-        ->type_name("LAYER")
-        ->expected(1)
-        ->take_all();
+    AddIgnoreLayerOption(*command, options->layersToIgnore);
     AddShapesOption(*command, options->shapeFolders);
+    AddTolerantOption(*command, options->tolerant);
     AddCommonOptions(*command, *options);
     command->callback([options, &runner] { runner = [options] { return Blocks(*options); }; });
 }
 
 bool ListBlocks(const InputFile& input, std::vector<std::string>& names) {
-    const std::unique_ptr<drawing::Database> drawing = ReadDrawing(input);
+    const std::unique_ptr<drawing::Database> drawing = ReadDrawing(input, false);
     if (!drawing) {
         return false;
     }

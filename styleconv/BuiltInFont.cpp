@@ -4,6 +4,10 @@
 
 namespace styleconv {
 
+std::string_view BuiltInFontBytes() {
+    return {reinterpret_cast<const char*>(kBuiltInFont), sizeof kBuiltInFont};
+}
+
 std::FILE* OpenBuiltInFont() {
     // The reader of fonts reads streams, and C has none over memory.
     std::FILE* const stream = std::tmpfile();

@@ -22,6 +22,7 @@ struct CheckOptions : LinetypeSourceOptions {
     std::string output;
     std::string format = "text";
     std::string codePage;
+    std::vector<std::string> layersToIgnore;
     bool notes = false;
 };
 
@@ -51,7 +52,7 @@ ExitStatus CheckOne(const CheckOptions& options, const std::string& path, std::v
         CheckShapes(input, findings);
         return kDone;
     case FileKind::kDrawing:
-        CheckDrawing(input, options.shapeFolders, findings);
+        CheckDrawing(input, {options.shapeFolders, WideTexts(options.layersToIgnore)}, findings);
         return kDone;
     case FileKind::kUnknown:
         break;
@@ -109,6 +110,7 @@ void AddCheckCommand(CLI::App& app, Runner& runner) {
         app.add_subcommand("check", "Say what is wrong with files, or will surprise, one finding a line");
     command->add_option("FILE", options->files, ".lin, .pat, .shx and drawing .json files")->required();
     AddLinetypeSourceOptions(*command, *options);
+    AddIgnoreLayerOption(*command, options->layersToIgnore);
     command->add_flag(
         "--notes", options->notes,
         "Also say what is as it should be: families with an exact tile, shapes that nothing uses");

@@ -9,9 +9,12 @@
 
 namespace styleconv {
 
-/// Appends the findings of a drawing document that was read. What the document is refused for is said on
-/// standard error.
-void CheckDrawing(const InputFile& input, const std::vector<std::string>& shapeFolders,
-                  std::vector<Finding>& findings);
+struct DrawingCheckOptions {
+    std::vector<std::string> shapeFolders;
+    std::vector<std::wstring> layersToIgnore;
+};
+
+/// Appends the findings of a drawing document that is open: what it would be refused for, then by block.
+void CheckDrawing(const InputFile& input, const DrawingCheckOptions& options, std::vector<Finding>& findings);
 
 } // namespace styleconv

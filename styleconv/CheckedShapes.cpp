@@ -14,6 +14,7 @@
 #include <cstring>
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace styleconv {
@@ -27,44 +28,24 @@ bool HasLowerCase(const std::string& name) {
     return std::any_of(name.begin(), name.end(), [](char c) { return LineConverter::UpperCase(c) != c; });
 }
 
-ShxUtility::ShxResult ResultOfDrawing(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape) {
-    ShxUtility::ShapeInstructions instructions;
-    const ShxUtility::ShxResult decoded = ShxUtility::DecodeShape(
-        instructions, shape.data.data(), static_cast<std::uint16_t>(shape.data.size()), file.kind);
-    if (decoded != ShxUtility::kSuccess) {
-        return decoded;
-    }
-    std::wstring path;
-    double x = 0.0;
-    double y = 0.0;
-    double scale = 1.0;
-    ShxUtility::PositionStack positions;
-    std::vector<std::uint16_t> activeSubshapes;
-    bool penDown = true;
-    return ShxUtility::DrawShape(path, x, y, scale, positions, activeSubshapes, penDown, instructions, file,
-                                 0.0, false);
-}
-
 class ShapeCheck {
 public:
     ShapeCheck(const InputFile& input, std::vector<Finding>& findings) : input_(input), findings_(findings) {}
 
-    void Add(Severity severity, std::string message, std::string item = {}) {
-        findings_.push_back({input_.Name(), 0, severity, std::move(message), std::move(item)});
+    void Add(Severity severity, std::string message, std::optional<std::uint64_t> byte = std::nullopt) {
+        findings_.push_back({input_.Name(), 0, severity, std::move(message), "", byte, std::nullopt});
     }
 
     void CheckLoading(const ShxUtility::ShapeFileFaultReport& report) {
         if (report.otherMaker) {
-            Add(Severity::kError,
-                "byte 0: the signature is another maker's: expected the words \"Vorlanx-86 \"");
+            Add(Severity::kError, "the signature is another maker's: expected the words \"Vorlanx-86 \"", 0);
         }
         if (report.trailerMissing) {
-            Add(Severity::kError,
-                "byte " + std::to_string(report.end) + ": expected \"EOF\" behind the last shape");
+            Add(Severity::kError, "expected \"EOF\" behind the last shape", report.trailer);
         } else if (report.end < input_.Bytes().size()) {
-            Add(Severity::kWarning, "byte " + std::to_string(report.end) + ": " +
-                                        std::to_string(input_.Bytes().size() - report.end) +
-                                        " bytes behind the end are not read");
+            Add(Severity::kWarning,
+                std::to_string(input_.Bytes().size() - report.end) + " bytes behind the end are not read",
+                report.end);
         }
     }
 
@@ -95,44 +76,41 @@ private:
     void CheckShape(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape) {
         const std::string item = ShownShape(shape);
         NowAtItem(item);
+        const std::optional<std::uint64_t> byte = PlaceOf(shape);
+        const auto add = [&](Severity severity, std::string message) {
+            findings_.push_back({input_.Name(), 0, severity, std::move(message), item, byte, shape.number});
+        };
         const ShxUtility::ShxResult result = ResultOfDrawing(file, shape);
         if (result != ShxUtility::kSuccess) {
             const std::string code = std::to_string(static_cast<std::int32_t>(result));
-            Add(Severity::kError,
-                Where(shape) + "it cannot be drawn: " + DrawingFault(result) + " (result " + code + ")",
-                item);
+            add(Severity::kError,
+                std::string("it cannot be drawn: ") + DrawingFault(result) + " (result " + code + ")");
         }
-        if (shape.name.empty()) {
+        // In a font, names are remarks.
+        if (shape.name.empty() || file.kind != ShxUtility::kShapes) {
             return;
         }
         const auto [first, isNew] = numbers_.try_emplace(shape.name, shape.number);
-        // In a font, names are remarks.
-        if (file.kind != ShxUtility::kShapes) {
-            return;
-        }
         if (!isNew) {
-            Add(Severity::kWarning,
-                Where(shape) + "shape " + std::to_string(first->second) +
-                    " has the same name, and a linetype finds that one",
-                item);
+            add(Severity::kWarning, "shape " + std::to_string(first->second) +
+                                        " has the same name, and a linetype finds that one");
         }
         if (HasLowerCase(shape.name)) {
-            Add(Severity::kWarning, Where(shape) + "no linetype can find a name with lower-case letters",
-                item);
+            add(Severity::kWarning, "no linetype can find a name with lower-case letters");
         }
     }
 
-    // Where the shape's name and program stand: "byte 412: ".
-    std::string Where(const ShxUtility::Shape& shape) {
+    // Where the shape's name and program stand.
+    std::optional<std::uint64_t> PlaceOf(const ShxUtility::Shape& shape) {
         std::string entry = shape.name;
         entry.push_back('\0');
         entry.append(reinterpret_cast<const char*>(shape.data.data()), shape.data.size());
         const std::size_t at = input_.Bytes().find(entry, searched_);
         if (at == std::string::npos) {
-            return {};
+            return std::nullopt;
         }
         searched_ = at; // entries are in file order
-        return "byte " + std::to_string(at) + ": ";
+        return at;
     }
 
     const InputFile& input_;
@@ -142,6 +120,24 @@ private:
 };
 
 } // namespace
+
+ShxUtility::ShxResult ResultOfDrawing(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape) {
+    ShxUtility::ShapeInstructions instructions;
+    const ShxUtility::ShxResult decoded = ShxUtility::DecodeShape(
+        instructions, shape.data.data(), static_cast<std::uint16_t>(shape.data.size()), file.kind);
+    if (decoded != ShxUtility::kSuccess) {
+        return decoded;
+    }
+    std::wstring path;
+    double x = 0.0;
+    double y = 0.0;
+    double scale = 1.0;
+    ShxUtility::PositionStack positions;
+    std::vector<std::uint16_t> activeSubshapes;
+    bool penDown = true;
+    return ShxUtility::DrawShape(path, x, y, scale, positions, activeSubshapes, penDown, instructions, file,
+                                 0.0, false);
+}
 
 std::string ShownShape(const ShxUtility::Shape& shape) {
     return "shape " + std::to_string(shape.number) +
@@ -159,7 +155,7 @@ void CheckShapes(const InputFile& input, std::vector<Finding>& findings) {
     ShxUtility::ShapeFileFaultReport report;
     if (LoadShapeFile(stream.get(), file, ShxUtility::kAllKinds, report,
                       ShxUtility::kTolerantShapeFilePolicy) != ShxUtility::kSuccess) {
-        check.Add(Severity::kError, "byte " + std::to_string(report.offset) + ": " + Sentence(report));
+        check.Add(Severity::kError, Sentence(report), report.offset);
         return;
     }
     check.CheckLoading(report);

@@ -1,5 +1,7 @@
 #include "styleconv/Command.h"
 
+#include "StyleConversion/platform/Utf8.h"
+
 #include <CLI/CLI.hpp>
 
 namespace styleconv {
@@ -25,6 +27,24 @@ void AddShapesOption(CLI::App& command, std::vector<std::string>& folders) {
         ->type_name("DIR")
         ->expected(1)
         ->take_all();
+}
+
+void AddIgnoreLayerOption(CLI::App& command, std::vector<std::string>& layers) {
+    command
+        .add_option("--ignore-layer", layers,
+                    "Leave out what is on this layer, spelled as its entities spell it; may be given again")
+        ->type_name("LAYER")
+        ->expected(1)
+        ->take_all();
+}
+
+std::vector<std::wstring> WideTexts(const std::vector<std::string>& arguments) {
+    std::vector<std::wstring> wide;
+    wide.reserve(arguments.size());
+    for (const std::string& argument : arguments) {
+        wide.push_back(platform::Utf8ToWide(argument));
+    }
+    return wide;
 }
 
 void AddTolerantOption(CLI::App& command, bool& tolerant) {

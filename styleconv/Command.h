@@ -39,8 +39,14 @@ void AddNameOption(CLI::App& command, std::vector<std::string>& names, const std
 /// Adds --shapes, which may be given any number of times, to a command that looks for shape files.
 void AddShapesOption(CLI::App& command, std::vector<std::string>& folders);
 
+/// Adds --ignore-layer, which may be given any number of times.
+void AddIgnoreLayerOption(CLI::App& command, std::vector<std::string>& layers);
+
 /// Adds --tolerant to a converting command.
 void AddTolerantOption(CLI::App& command, bool& tolerant);
+
+/// Arguments of the command line as wide texts.
+std::vector<std::wstring> WideTexts(const std::vector<std::string>& arguments);
 
 /// Adds --code-page to a command that reads text files.
 void AddCodePageOption(CLI::App& command, std::string& codePage);

@@ -12,6 +12,9 @@ std::string FindingText(const Finding& finding) {
         text += ":" + std::to_string(finding.line);
     }
     text += ": " + std::string(documents::SeverityName(finding.severity)) + ": ";
+    if (finding.byte) {
+        text += "byte " + std::to_string(*finding.byte) + ": ";
+    }
     text += finding.message;
     if (!finding.item.empty()) {
         text += " (" + finding.item + ")";

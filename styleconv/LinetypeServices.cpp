@@ -79,7 +79,7 @@ bool LinetypeServices::ReadDrawing() {
     if (options_.drawing.empty()) {
         MakeDefaultDrawing();
     } else {
-        drawing_ = ReadDrawingFile(options_.drawing);
+        drawing_ = ReadDrawingFile(options_.drawing, options_.tolerant);
     }
     host_.setWorkingDatabase(drawing_.get());
     return drawing_ != nullptr;

@@ -2,10 +2,14 @@
 
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/shx/ShapeFileFault.h"
+#include "styleconv/BuiltInFont.h"
+#include "styleconv/CheckedShapes.h"
 #include "styleconv/Messages.h"
+#include "styleconv/Paths.h"
 #include "styleconv/ShapeFileMessages.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -42,18 +46,28 @@ std::string Places(bool hasPath, const std::vector<std::string>& folders) {
     return places.empty() ? "anywhere (give a folder with --shapes)" : places;
 }
 
-// What is wrong with the file, or an empty text.
-std::string Fault(const std::wstring& path) {
-    const std::unique_ptr<std::FILE, CloseFile> file(platform::OpenForReading(path.c_str()));
-    if (!file) {
-        return std::string("cannot be opened: ") + std::strerror(errno);
+std::string BytesOf(std::FILE* file) {
+    std::string bytes;
+    std::array<char, 1 << 16> block{};
+    std::size_t count = 0;
+    std::rewind(file);
+    while ((count = std::fread(block.data(), 1, block.size(), file)) > 0) {
+        bytes.append(block.data(), count);
     }
-    ShxUtility::ShapesInFile shapes;
-    ShxUtility::ShapeFileFaultReport report;
-    if (LoadShapeFile(file.get(), shapes, ShxUtility::kAllKinds, report) == ShxUtility::kSuccess) {
-        return {};
-    }
-    return "byte " + std::to_string(report.offset) + ": " + Sentence(report);
+    return bytes;
+}
+
+// The same shapes in a file that needs no forgiveness.
+std::string Mended(const std::string& bytes, const ShxUtility::ShapeFileFaultReport& report) {
+    constexpr std::string_view kSignature = "Vorlanx-86 ";
+    std::string mended(kSignature);
+    mended += std::string_view(bytes).substr(0, report.trailer).substr(kSignature.size());
+    return mended + "EOF";
+}
+
+bool IsDefaultFont(const wchar_t* fileName) {
+    return platform::CompareIgnoringCase(fileName, L"txt.shx") == 0 ||
+           platform::CompareIgnoringCase(fileName, L"txt") == 0;
 }
 
 constexpr const char* kConsequence = "; its shapes and letters are left out";
@@ -61,9 +75,9 @@ constexpr const char* kConsequence = "; its shapes and letters are left out";
 } // namespace
 
 ShapeSearch::ShapeSearch(std::string drawingName, const std::wstring& drawingPath,
-                         const std::vector<std::string>& folders)
+                         const std::vector<std::string>& folders, ShapeSearchManner manner)
     : HostServices(SearchFolders(drawingPath, folders)), drawingName_(std::move(drawingName)),
-      places_(Places(!drawingPath.empty(), folders)) {}
+      places_(Places(!drawingPath.empty(), folders)), manner_(manner) {}
 
 ShapeSearch::~ShapeSearch() = default;
 
@@ -77,7 +91,7 @@ Oxsys::ErrorStatus ShapeSearch::findFile(wchar_t* path, int pathLength, const wc
     if (known == found_.end()) {
         known = found_.emplace(fileName, Search(fileName, pathLength, database, hint)).first;
     }
-    const std::wstring& found = known->second;
+    const std::wstring& found = known->second.path;
     if (found.empty() || found.size() >= static_cast<std::size_t>(pathLength)) {
         return Oxsys::eFileNotFound;
     }
@@ -85,25 +99,83 @@ Oxsys::ErrorStatus ShapeSearch::findFile(wchar_t* path, int pathLength, const wc
     return Oxsys::eOk;
 }
 
-std::wstring ShapeSearch::Search(const wchar_t* fileName, int pathLength, OxDbDatabase* database,
-                                 FindFileHint hint) {
+std::string ShapeSearch::WhyNot(const std::wstring& fileName) const {
+    const auto known = found_.find(fileName);
+    return known == found_.end() ? std::string() : known->second.whyNot;
+}
+
+ShapeSearch::Result ShapeSearch::Search(const wchar_t* fileName, int pathLength, OxDbDatabase* database,
+                                        FindFileHint hint) {
     std::wstring found(static_cast<std::size_t>(pathLength), L'\0');
     const Oxsys::ErrorStatus status =
         HostServices::findFile(found.data(), pathLength, fileName, database, hint);
-    if (status != Oxsys::eOk) {
-        const bool isTooLong = status == Oxsys::eBufferTooSmall;
-        Say(drawingName_, "note: shape file " + Shown(fileName) +
-                              (isTooLong ? std::string(" has too long a path") : " not found " + places_) +
-                              kConsequence);
-        return {};
+    if (status == Oxsys::eOk) {
+        found.resize(std::wcslen(found.c_str()));
+        return Loadable(found, fileName);
     }
-    found.resize(std::wcslen(found.c_str()));
-    const std::string fault = Fault(found);
-    if (!fault.empty()) {
-        Say(Shown(found), "note: " + fault + kConsequence);
-        return {};
+    if (manner_ == ShapeSearchManner::kForgiving && IsDefaultFont(fileName)) {
+        return StandIn(fileName);
     }
-    return found;
+    const bool isTooLong = status == Oxsys::eBufferTooSmall;
+    const std::string whyNot = "shape file " + Shown(fileName) +
+                               (isTooLong ? std::string(" has too long a path") : " not found " + places_);
+    if (manner_ == ShapeSearchManner::kSayNotes) {
+        Say(drawingName_, "note: " + whyNot + kConsequence);
+    }
+    return {{}, whyNot};
+}
+
+ShapeSearch::Result ShapeSearch::StandIn(const wchar_t* fileName) {
+    std::wstring path = Provide(BuiltInFontBytes());
+    if (path.empty()) {
+        return {{}, std::string("the built-in font cannot be written: ") + std::strerror(errno)};
+    }
+    Say(drawingName_, "note: font file " + Shown(fileName) + " not found " + places_ +
+                          "; the built-in font stands in for it");
+    return {path, {}};
+}
+
+ShapeSearch::Result ShapeSearch::Loadable(const std::wstring& path, const wchar_t* fileName) {
+    const bool forgives = manner_ == ShapeSearchManner::kForgiving;
+    std::string fault;
+    const std::unique_ptr<std::FILE, CloseFile> file(platform::OpenForReading(path.c_str()));
+    if (!file) {
+        fault = std::string("cannot be opened: ") + std::strerror(errno);
+    } else {
+        ShxUtility::ShapesInFile shapes;
+        ShxUtility::ShapeFileFaultReport report;
+        const ShxUtility::ShapeFilePolicy policy =
+            forgives ? ShxUtility::kTolerantShapeFilePolicy : ShxUtility::ShapeFilePolicy();
+        if (LoadShapeFile(file.get(), shapes, ShxUtility::kAllKinds, report, policy) !=
+            ShxUtility::kSuccess) {
+            fault = "byte " + std::to_string(report.offset) + ": " + Sentence(report);
+        } else if (report.otherMaker || report.trailerMissing) {
+            SayFindings(ForgivenOfShapeFile(platform::PathToBytes(path), report));
+            std::wstring mended = Provide(Mended(BytesOf(file.get()), report));
+            if (!mended.empty()) {
+                return {mended, {}};
+            }
+            fault = std::string("cannot be copied into a temporary file: ") + std::strerror(errno);
+        }
+    }
+    if (fault.empty()) {
+        return {path, {}};
+    }
+    if (manner_ == ShapeSearchManner::kSayNotes) {
+        Say(Shown(path), "note: " + fault + kConsequence);
+    }
+    return {{}, "shape file " + Shown(fileName) + ": " + fault};
+}
+
+std::wstring ShapeSearch::Provide(std::string_view bytes) {
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+    provided_.push_back(std::make_unique<TemporaryFile>());
+    TemporaryFile& file = *provided_.back();
+    const bool written = file.Create(folder / "styleconv") &&
+                         std::fwrite(bytes.data(), 1, bytes.size(), file.Stream()) == bytes.size() &&
+                         file.Close();
+    return written ? WidePath(file.Path()) : std::wstring();
 }
 
 } // namespace styleconv

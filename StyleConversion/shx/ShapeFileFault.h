@@ -58,6 +58,8 @@ struct ShapeFileFaultReport {
     /// What the policy forgave.
     bool otherMaker = false;
     bool trailerMissing = false;
+    /// Where the trailer stands or should stand; 0 where reading did not get there.
+    std::uint64_t trailer = 0;
     /// How many bytes were read.
     std::uint64_t end = 0;
 };

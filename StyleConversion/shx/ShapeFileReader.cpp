@@ -28,6 +28,7 @@ void ReserveShapes(ShapesInFile& out, std::size_t count) {
 
 ShxResult ReadTrailer(ShapeReading& reading) {
     const std::uint64_t start = reading.stream.Offset();
+    reading.report.trailer = start;
     char trailer[kTrailerSize] = {};
     if (reading.policy.trailerMayBeMissing) {
         const bool isThere = reading.stream.Read(trailer, kTrailerSize) == kTrailerSize &&

@@ -133,6 +133,39 @@ TEST(DrawingSlips, NothingOfWhatIsLeftOutStaysBehind) {
     table->close();
 }
 
+// The colour of B's insert is asked for when B is converted.
+TEST(DrawingSlips, InsertsOfABlockThatIsLeftOutAreNoReferences) {
+    const std::string insert = R"({"type": "insert", "block": "b"})";
+    for (const std::string& wrong :
+         {R"({"name": "C", "entities": [)" + insert + "," + insert + R"(], "units": 99})",
+          R"({"name": "B", "entities": [)" + insert + "]}"}) {
+        documents::DrawingFault fault;
+        documents::DrawingSlips slips;
+        const std::string text = Document(R"("blocks": [)" + BlockOf(kPoint) +
+                                          R"(, {"name": "A", "entities": [)" + insert + "]}, " + wrong + "]");
+        const auto drawing = documents::ReadDrawing(std::string_view(text), fault, &slips);
+        ASSERT_NE(drawing, nullptr);
+        EXPECT_EQ(slips.All().size(), 1U);
+        OxDbBlockTable* table = nullptr;
+        ASSERT_EQ(drawing->getSymbolTable(table, OxDb::kForRead), Oxsys::eOk);
+        OxDbBlockTableRecord* record = nullptr;
+        ASSERT_EQ(table->getAt(L"B", record, OxDb::kForRead, false), Oxsys::eOk);
+        OxDbBlockReferenceIdIterator* created = nullptr;
+        ASSERT_EQ(record->newBlockReferenceIdIterator(created), Oxsys::eOk);
+        const std::unique_ptr<OxDbBlockReferenceIdIterator> iterator(created);
+        int references = 0;
+        for (iterator->start(); !iterator->done(); iterator->step()) {
+            ++references;
+            OxDbBlockReference* reference = nullptr;
+            ASSERT_EQ(iterator->getBlockReference(reference, OxDb::kForRead, false), Oxsys::eOk);
+            reference->close();
+        }
+        EXPECT_EQ(references, 1);
+        record->close();
+        table->close();
+    }
+}
+
 TEST(DrawingSlips, WhatNothingKnowsIsSkippedAlone) {
     ExpectForgiven({
         {Document(R"("layer": [{"a": [1, 2]}], "blocks": [)" + BlockOf(kPoint) + "]"),

@@ -17,6 +17,7 @@ EXAMPLES = os.path.join(ROOT, "examples")
 ON_PURPOSE = {
     ("simple.lin", "linetype MARGIN"),
     ("marsh.pat", "pattern MARSH"),
+    ("draw-order.json", "block BUS_STOP"),
     ("survey-symbols.json", "block ORCHARD"),
     ("boundaries.json", "block FOOTPATH_RUNNING"),
     ("boundaries.json", "block FOOTPATH_BY_SEGMENT"),

@@ -118,6 +118,24 @@ TEST(Linetypes, OneOfTheTableStandsBeforeItsBuiltInNamesake) {
     EXPECT_EQ(LinetypeNamed(database, L"ByLayer")->numDashes(), 0);
 }
 
+TEST(Linetypes, OneThatTheDrawingLacksIsKnownByName) {
+    drawing::Database database;
+    drawing::BlockRecord& block = *database.AddBlock(L"B");
+    drawing::EntityProperties properties;
+    properties.linetype = L"Gas";
+    const drawing::Line& line = block.Add<drawing::Line>(properties, OxGePoint3d(), OxGePoint3d());
+    const OxDbObjectId missing = line.linetypeId();
+    ASSERT_NE(database.MissingName(missing), nullptr);
+    EXPECT_EQ(*database.MissingName(missing), L"Gas");
+    EXPECT_TRUE(missing == line.linetypeId());
+    EXPECT_EQ(database.MissingName(line.objectId()), nullptr);
+    EXPECT_EQ(database.MissingName(OxDbObjectId()), nullptr);
+    EXPECT_EQ(database.MissingName(block.Add<drawing::Line>(drawing::EntityProperties(), OxGePoint3d(),
+                                                            OxGePoint3d())
+                                       .linetypeId()),
+              nullptr);
+}
+
 TEST(Linetypes, OneAddedAfterTheEntityIsFound) {
     drawing::Database database;
     const auto& line = database.AddBlock(L"B")->Add<drawing::Line>({.linetype = L"dashed"}, OxGePoint3d{},

@@ -190,14 +190,70 @@ TEST_F(Check, EntitiesThatWillNotBeDrawnAreCountedByBlock) {
                 {"type": "line", "start": [0, 0], "end": [1, 0], "color": "ByBlock"}]}]})");
     EXPECT_EQ(
         found,
-        ": error: 1 entity (hatch) cannot be worked out: no pattern, or too many lines (block BAD)\n"
-        ": error: 1 entity of a linetype that the drawing lacks (block BAD)\n"
-        ": error: 1 entity of linetype GAS, whose shape file marks.shx is not found beside the drawing, "
-        "nor in a --shapes folder (block BAD)\n"
+        ": error: 1 entity (hatch) will not be drawn: it is not solid and has no pattern (block BAD)\n"
+        ": error: 1 entity will be drawn without dashes: the drawing has no linetype NONE (block BAD)\n"
+        ": error: 1 entity will be drawn without the shapes of linetype GAS: shape file marks.shx not found "
+        "beside the drawing (block BAD)\n"
         ": warning: 2 entities of the class Ray will not be drawn (block BAD)\n"
         ": warning: it has colours by block, but nothing inserts it: there is no colour to take (block "
         "BAD)\n"
         "3 errors, 2 warnings in 1 file\n");
+}
+
+std::string DrawingOf(const std::string& blocks) {
+    return R"({"format": "styleconversion/drawing", "version": 1, "blocks": [)" + blocks + "]}";
+}
+
+TEST_F(Check, WhatADrawingIsRefusedForIsFoundAllAtOnce) {
+    EXPECT_EQ(
+        Found("drawing.json", DrawingOf(R"({"name": "A", "entities": [7, {"type": "ray"}, 8]}, {"name": 5},
+                                                {"name": "B", "units": 21, "entities": []})")),
+        ": error: blocks[0].entities[0]: expected an object, found a number; the same in 1 more place (block "
+        "A)\n"
+        ": error: blocks[0].entities[1].type: expected the type of an entity, found \"ray\" (block A)\n"
+        ": error: blocks[1].name: expected a string, found a number\n"
+        ": error: blocks[2].units: expected a whole number from 0 to 20, found 21 (block B)\n"
+        "4 errors, 0 warnings in 1 file\n");
+    EXPECT_EQ(Found("other.json", "{}"),
+              ": error: format: expected \"styleconversion/drawing\", found nothing\n"
+              "1 error, 0 warnings in 1 file\n");
+}
+
+TEST_F(Check, BlocksThatAreNotConvertedByDefaultAreNotes) {
+    const std::string text = DrawingOf(
+        R"({"name": "PAPER", "layout": true, "entities": [{"type": "other", "class": "Ray"}]},
+           {"name": "*U1", "anonymous": true, "entities": []}, {"name": "TREE", "entities": []})");
+    EXPECT_EQ(Found("drawing.json", text), "0 errors, 0 warnings in 1 file\n");
+    EXPECT_EQ(Found("drawing.json", text, {"--notes"}),
+              ": note: a layout is converted only by --name (block PAPER)\n"
+              ": note: an anonymous block is converted only by --name (block *U1)\n"
+              "0 errors, 0 warnings in 1 file\n");
+    EXPECT_EQ(
+        Found("drawing.json", DrawingOf(R"({"name": "PAPER", "layout": true, "entities": []})")),
+        ": error: the drawing has no block to convert: layouts and anonymous blocks are converted only by "
+        "--name\n1 error, 0 warnings in 1 file\n");
+}
+
+TEST_F(Check, EntitiesOnIgnoredLayersAreCountedWhereSomeAreIgnored) {
+    const std::string text = DrawingOf(R"({"name": "TREE", "entities": [
+        {"type": "point", "position": [0, 0], "layer": "Notes"},
+        {"type": "other", "class": "Ray", "layer": "Notes"},
+        {"type": "point", "position": [0, 0], "layer": "NOTES"}]})");
+    EXPECT_EQ(Found("drawing.json", text, {"--ignore-layer", "Notes", "--ignore-layer", "0"}),
+              ": warning: 2 entities on the ignored layer Notes will not be drawn (block TREE)\n"
+              "0 errors, 1 warning in 1 file\n");
+    EXPECT_EQ(Found("drawing.json", text),
+              ": warning: 1 entity of the class Ray will not be drawn (block TREE)\n"
+              "0 errors, 1 warning in 1 file\n");
+}
+
+// A colour by block is that of the first insert.
+TEST_F(Check, ColoursByBlockAreFineWhereTheBlockIsInserted) {
+    const std::string tree =
+        R"({"name": "TREE", "entities": [{"type": "point", "position": [0, 0], "color": "ByBlock"}]})";
+    EXPECT_EQ(Found("drawing.json", DrawingOf(tree + R"(, {"name": "PAPER", "layout": true,
+                                               "entities": [{"type": "insert", "block": "TREE"}]})")),
+              "0 errors, 0 warnings in 1 file\n");
 }
 
 TEST_F(Check, FilesAreSortedAndFaultsOfOneDoNotHideTheOthers) {

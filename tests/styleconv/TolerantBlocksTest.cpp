@@ -1,0 +1,234 @@
+// styleconv blocks --tolerant: what is right of a drawing is converted, what is wrong is left out and named.
+#include "tests/support/ShapeFileBuilder.h"
+#include "tests/support/ToolRun.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+using test_support::ShapeFileBuilder;
+
+using Texts = std::vector<std::string>;
+
+std::string Drawing(const std::string& blocks, const std::string& tables = "") {
+    return R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,)" + tables +
+           R"("layers": [{"name": "0", "lineWeight": 25}], "blocks": [)" + blocks + "]}";
+}
+
+std::string Block(const std::string& name, const std::string& entities, const std::string& more = "") {
+    return R"({"name": ")" + name + R"(", "entities": [)" + entities + "]" + more + "}";
+}
+
+std::string Line(const std::string& more = "") {
+    return R"({"type": "line", "start": [0, 0], "end": [3, 0])" + more + "}";
+}
+
+class TolerantBlocks : public testing::Test {
+protected:
+    ToolResult Run(const std::string& text, Texts more = {}) {
+        more.insert(more.begin(), {"blocks", folder.Write("drawing.json", text)});
+        return RunTool(more);
+    }
+
+    // What is said on standard error, without the folder.
+    std::string Said(const std::string& text, Texts more = {}, int status = 0) {
+        more.emplace_back("--tolerant");
+        ToolResult result = Run(text, std::move(more));
+        EXPECT_EQ(result.status, status) << result.errors;
+        output = result.output;
+        std::string said = result.errors;
+        const std::string path = folder / "";
+        for (std::size_t at = said.find(path); at != std::string::npos; at = said.find(path, at)) {
+            said.erase(at, path.size());
+        }
+        return said;
+    }
+
+    bool Has(const std::string& text) const { return output.find(text) != std::string::npos; }
+
+    ScratchFolder folder;
+    std::string output;
+};
+
+TEST_F(TolerantBlocks, ADrawingWithoutFaultsGivesTheSameBytesAndNothingIsSaid) {
+    const std::string text = Drawing(Block("TREE", Line()));
+    EXPECT_EQ(Said(text), "");
+    EXPECT_EQ(output, Run(text).output);
+}
+
+TEST_F(TolerantBlocks, AWrongEntityIsLeftOutByNameOfItsBlock) {
+    const std::string text =
+        Drawing(Block("TREE", R"({"type": "circle", "center": [0, 0], "radius": "2"}, )" + Line()) + "," +
+                Block("POST", Line()));
+    EXPECT_EQ(Run(text).status, 1);
+    EXPECT_EQ(Said(text),
+              "drawing.json: warning: blocks[0].entities[0].radius: expected a number, found a string; "
+              "the entity is left out (block TREE)\n");
+    EXPECT_EQ(output, Run(Drawing(Block("TREE", Line()) + "," + Block("POST", Line()))).output);
+}
+
+TEST_F(TolerantBlocks, FaultsOfOneKindAreSaidOnceInABlock) {
+    const std::string bad = R"({"type": "circle", "center": [0, 0], "thickness": 1, "radius": 2})";
+    EXPECT_EQ(
+        Said(Drawing(Block("TREE", bad + "," + bad) + "," + Block("POST", bad + "," + bad + "," + bad))),
+        "drawing.json: warning: blocks[0].entities[0].thickness: unknown key; the key is skipped; the same "
+        "in 1 more place (block TREE)\n"
+        "drawing.json: warning: blocks[1].entities[0].thickness: unknown key; the key is skipped; the same "
+        "in 2 more places (block POST)\n");
+}
+
+TEST_F(TolerantBlocks, ADocumentThatIsCutGivesTheBlocksBefore) {
+    const std::string text = Drawing(Block("TREE", Line()) + "," + Block("POST", Line() + "," + Line()));
+    const std::string said = Said(text.substr(0, text.size() - 10));
+    EXPECT_EQ(
+        said.rfind(
+            "drawing.json: warning: blocks[1].entities[1].end: expected JSON, found an error at line 1, ", 0),
+        0U)
+        << said;
+    EXPECT_NE(said.find("; the block and all that follows are left out (block POST)\n"), std::string::npos)
+        << said;
+    EXPECT_TRUE(Has("\"TREE\""));
+    EXPECT_FALSE(Has("\"POST\""));
+}
+
+TEST_F(TolerantBlocks, WhatIsNoDrawingOrHasNoBlocksIsRefused) {
+    EXPECT_EQ(Said("{}", {}, 1),
+              "drawing.json: format: expected \"styleconversion/drawing\", found nothing\n");
+    EXPECT_EQ(
+        Said(Drawing("7"), {}, 1),
+        "drawing.json: warning: blocks[0]: expected an object, found a number; the block is left out\n"
+        "drawing.json: the drawing has no block to convert: layouts and anonymous blocks are converted only "
+        "by --name\n");
+    EXPECT_EQ(output, "");
+}
+
+TEST_F(TolerantBlocks, ABlockThatIsNotThereIsNamedAndTheOthersAreConverted) {
+    const std::string text = Drawing(Block("TREE", Line()));
+    EXPECT_EQ(Said(text, {"--name", "NONE", "--name", "TREE"}),
+              "drawing.json: warning: the drawing has no block named NONE\n");
+    EXPECT_TRUE(Has("\"TREE\""));
+    EXPECT_EQ(Said(text, {"--name", "NONE"}, 1),
+              "drawing.json: warning: the drawing has no block named NONE\n");
+}
+
+TEST_F(TolerantBlocks, WhatAConversionLeavesOutIsNamedByBlock) {
+    const std::string text = Drawing(
+        Block("TREE", Line(R"(, "linetype": "GAS")") + "," + Line(R"(, "linetype": "GAS")") +
+                          R"(, {"type": "hatch", "loops": []}, {"type": "hatch", "loops": [], "solid": true},
+                {"type": "hatch", "loops": [], "pattern": [{"angle": 0, "base": [0, 0], "offset": [0, 1],
+                 "dashes": []}]},
+                {"type": "hatch", "loops": [{"vertices": [[0, 0], [1, 0], [1, 1]]}],
+                 "pattern": [{"angle": 0, "base": [0, 0], "offset": [0, 1e-9], "dashes": []}]},
+                {"type": "spline", "fitPoints": []},
+                {"type": "text", "position": [0, 0], "height": 1, "text": "T", "style": "ROMAN"},
+                {"type": "other", "class": "Ray"}, {"type": "line", "start": [0, 0], "end": [1, 0]})") +
+        "," +
+        Block("POST", R"({"type": "point", "position": [0, 0], "id": "a"}, )" + Line(),
+              R"(, "drawOrder": ["a"])"));
+    EXPECT_EQ(
+        Said(text),
+        "drawing.json: warning: 1 entity (hatch) will not be drawn: it has more than 10000000 "
+        "lines (block TREE)\n"
+        "drawing.json: warning: 1 entity (hatch) will not be drawn: it has no boundary (block TREE)\n"
+        "drawing.json: warning: 1 entity (hatch) will not be drawn: it is not solid and has no pattern "
+        "(block "
+        "TREE)\n"
+        "drawing.json: warning: 1 entity (spline) will not be drawn: its data make no curve (block TREE)\n"
+        "drawing.json: warning: 1 entity (text) will be written without a font of its own: the drawing has "
+        "no "
+        "text style ROMAN (block TREE)\n"
+        "drawing.json: warning: 2 entities will be drawn without dashes: the drawing has no linetype GAS "
+        "(block TREE)\n"
+        "drawing.json: warning: 1 entity (hatch) will not be drawn: no line of its pattern lies inside its "
+        "boundary (block TREE)\n"
+        "drawing.json: warning: 1 entity of the class Ray will not be drawn (block TREE)\n"
+        "drawing.json: warning: 1 entity will not be drawn: not named in the draw order of the block (block "
+        "POST)\n");
+    EXPECT_EQ(output, Run(text).output);
+}
+
+// A ".5" dash and a gap that carries the mark: a stroke of one unit along the line.
+class TolerantBlockShapes : public TolerantBlocks {
+protected:
+    static std::string Marked(const std::string& style, const std::string& carried) {
+        return Drawing(Block("FENCE", Line(R"(, "linetype": "MARKED")")),
+                       R"("textStyles": [{"name": "MARKS", "fileName": "marks"},
+                          {"name": "STANDARD", "fileName": "txt.shx"}, {"name": "ARIAL", "typeface": "Arial"}],
+                          "linetypes": [{"name": "MARKED", "dashes": [{"length": 1},
+                          {"length": -1, "shapeStyle": ")" +
+                           style + "\", " + carried + "}]}],");
+    }
+
+    static ShapeFileBuilder Marks() { return ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}); }
+};
+
+TEST_F(TolerantBlockShapes, AShapeFileThatIsNotFoundLosesItsShapesAndNoMore) {
+    EXPECT_EQ(Said(Marked("MARKS", R"("shapeNumber": 130)")),
+              "drawing.json: warning: 1 entity will be drawn without the shapes of linetype MARKED: shape "
+              "file marks "
+              "not found beside the drawing (block FENCE)\n");
+    EXPECT_TRUE(Has("\"M 0.0,0.0 L 1.0,0.0 M 2.0,0.0 L 3.0,0.0\""));
+}
+
+TEST_F(TolerantBlockShapes, AnyMakersSignatureIsReadAndAMissingTrailer) {
+    const std::string marks = Marks().Text();
+    folder.Write("marks.shx", marks);
+    const std::string text = Marked("MARKS", R"("shapeNumber": 130)");
+    const std::string expected = Run(text).output;
+    folder.Write("marks.shx", "ForeignX-86 " + marks.substr(11));
+    EXPECT_EQ(Said(text),
+              "drawing.json: warning: 1 entity will be drawn without the shapes of linetype MARKED: "
+              "shape file marks: byte 0: this is no shape file: expected the words \"Vorlanx-86 \" (block "
+              "FENCE)\n");
+    folder.Write("marks.shx", "Foreign-86 " + marks.substr(11, marks.size() - 14));
+    EXPECT_EQ(Said(text),
+              "marks.shx: warning: the signature is another maker's; the file is read all the same\n"
+              "marks.shx: warning: \"EOF\" is missing at the end; the file is read all the same\n");
+    EXPECT_EQ(output, expected);
+    folder.Write("marks.shx", marks.substr(0, marks.size() - 3) + "eof!");
+    EXPECT_EQ(Said(text),
+              "marks.shx: warning: \"EOF\" is missing at the end; the file is read all the same\n");
+    EXPECT_EQ(output, expected);
+    EXPECT_EQ(folder.Names(), (Texts{"drawing.json", "marks.shx"})); // no copy stays
+}
+
+TEST_F(TolerantBlockShapes, ShapesThatTheFileLacksOrThatCannotBeDrawnAreNamed) {
+    folder.Write("marks.shx", Marks().Shape(131, "BAD", {6, 0}).Text());
+    EXPECT_EQ(
+        Said(Marked("MARKS", R"("shapeNumber": 132)")),
+        "drawing.json: warning: 1 entity will be drawn without shape 132 of marks, which is not there (block "
+        "FENCE)\n");
+    EXPECT_EQ(
+        Said(Marked("MARKS", R"("shapeNumber": 131)")),
+        "drawing.json: warning: 1 entity will be drawn without shape 131 of marks, which cannot be drawn: it "
+        "goes back to a position that it has not saved (block FENCE)\n");
+    EXPECT_EQ(Said(Marked("NONE", R"("shapeNumber": 131)")),
+              "drawing.json: warning: 1 entity will be drawn without the shapes of linetype MARKED: the "
+              "drawing has "
+              "no text style NONE (block FENCE)\n");
+    EXPECT_EQ(Said(Marked("ARIAL", R"("text": "GAS")")),
+              "drawing.json: warning: 1 entity will be drawn without the texts of linetype MARKED: text "
+              "style ARIAL "
+              "has no shape file, and only such texts are drawn in linetypes of a drawing (block FENCE)\n");
+}
+
+TEST_F(TolerantBlockShapes, TheBuiltInFontStandsInForATxtThatIsNotThere) {
+    const std::string text = Marked("STANDARD", R"("text": "G")");
+    const std::string without = Run(text).output;
+    EXPECT_EQ(Said(text),
+              "drawing.json: note: font file txt.shx not found beside the drawing; the built-in font "
+              "stands in for it\n");
+    EXPECT_NE(output, without);
+    const std::string drawn = output;
+    folder.Write("txt.shx", ShapeFileBuilder::Shapes().FontInfo("FONT", {1, 1, 0}).Text());
+    EXPECT_EQ(Said(text),
+              "drawing.json: warning: 1 entity will be drawn without character 71 (G) of txt.shx, which "
+              "is not there (block FENCE)\n");
+    EXPECT_EQ(output, without);
+    EXPECT_NE(drawn, without);
+}
+
+} // namespace
