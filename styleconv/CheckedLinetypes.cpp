@@ -19,10 +19,6 @@ namespace {
 
 using LineConverter::LinetypeRecord;
 
-std::string Item(const LinetypeRecord& record) {
-    return "linetype " + Shown(platform::AnsiToWide(record.name.substr(0, 200)));
-}
-
 std::string InUpperCase(std::string name) {
     for (char& c : name) {
         c = LineConverter::UpperCase(c);
@@ -48,7 +44,7 @@ public:
         for (const MeasuredLinetypes::Remark& remark : measured.Remarks()) {
             Add(parser_.ElementLine(remark.linetype, remark.element),
                 remark.isLoss ? Severity::kError : Severity::kWarning, remark.text,
-                Item(parser_.linetypes()[remark.linetype]));
+                LinetypeItem(parser_.linetypes()[remark.linetype]));
         }
     }
 
@@ -82,18 +78,20 @@ private:
         const auto [similar, isNewInUpperCase] = names_.try_emplace(InUpperCase(record.name), index);
         if (!isNew) {
             Add(line, Severity::kWarning,
-                "the name is used in line " + std::to_string(same->second) + " already", Item(record));
+                "the name is used in line " + std::to_string(same->second) + " already",
+                LinetypeItem(record));
         } else if (!isNewInUpperCase) {
             Add(line, Severity::kWarning,
                 "the name differs only in case from the one in line " +
                     std::to_string(parser_.HeaderLine(similar->second)),
-                Item(record));
+                LinetypeItem(record));
         }
         if (record.name.find_first_not_of(" \t") == std::string::npos) {
             Add(line, Severity::kWarning, "the name is nothing but blanks", "");
         } else if (record.name.front() == ' ' || record.name.back() == ' ' || record.name.front() == '\t' ||
                    record.name.back() == '\t') {
-            Add(line, Severity::kWarning, "the blank before or behind the name is part of it", Item(record));
+            Add(line, Severity::kWarning, "the blank before or behind the name is part of it",
+                LinetypeItem(record));
         }
     }
 
@@ -109,13 +107,15 @@ private:
         const std::uint64_t line = parser_.ElementLine(index, 0);
         if (length == 0.0) {
             Add(line, Severity::kWarning, "the pattern has no length, so nothing can be repeated",
-                Item(record));
+                LinetypeItem(record));
         } else if (!draws) {
-            Add(line, Severity::kWarning, "the pattern has gaps only and draws nothing", Item(record));
+            Add(line, Severity::kWarning, "the pattern has gaps only and draws nothing",
+                LinetypeItem(record));
         } else if (record.elements.front().kind == LineConverter::kDash &&
                    record.elements.front().length < 0.0) {
             Add(line, Severity::kWarning,
-                "the pattern begins with a gap: a line begins and ends with a dash elsewhere", Item(record));
+                "the pattern begins with a gap: a line begins and ends with a dash elsewhere",
+                LinetypeItem(record));
         }
     }
 

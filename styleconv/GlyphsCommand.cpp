@@ -179,8 +179,11 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     }
     ShxUtility::ShapesInFile file;
     std::vector<std::size_t> positions;
-    if (!LoadShapes(input, file, options.tolerant) ||
-        !ChooseShapes(input, file, options.numbers, positions)) {
+    if (!LoadShapes(input, file, options.tolerant)) {
+        return kInputFault;
+    }
+    const bool complete = ChooseShapes(input, file, options.numbers, positions);
+    if (!complete && !(options.tolerant && !positions.empty())) {
         return kInputFault;
     }
     if (options.tolerant && !KeepDrawn(input, file, options, positions)) {

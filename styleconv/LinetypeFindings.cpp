@@ -137,4 +137,8 @@ std::vector<Finding> ForgivenLinetypeFaults(const std::string& file, const std::
     return findings;
 }
 
+std::string LinetypeItem(const LineConverter::LinetypeRecord& record) {
+    return "linetype " + Shown(platform::AnsiToWide(record.name.substr(0, 200)));
+}
+
 } // namespace styleconv

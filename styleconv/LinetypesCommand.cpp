@@ -8,6 +8,7 @@
 #include "styleconv/LinetypeFindings.h"
 #include "styleconv/LinetypeMessages.h"
 #include "styleconv/LinetypeServices.h"
+#include "styleconv/MeasuredLinetypes.h"
 #include "styleconv/Messages.h"
 #include "styleconv/NumberOption.h"
 #include "styleconv/Progress.h"
@@ -27,6 +28,18 @@ struct LinetypesOptions : CommonOptions, LinetypeSourceOptions {
     double scale = 1.0;
 };
 
+// Characters that a font lacks are left out of the text.
+void AddMissingCharacters(const InputFile& input, const LineConverter::LinParser& parser,
+                          const MeasuredLinetypes& measured, std::vector<Finding>& findings) {
+    for (const MeasuredLinetypes::Remark& remark : measured.Remarks()) {
+        if (remark.isLoss) {
+            findings.push_back({input.Name(), parser.ElementLine(remark.linetype, remark.element),
+                                Severity::kWarning, remark.text + "; left out",
+                                LinetypeItem(parser.linetypes()[remark.linetype])});
+        }
+    }
+}
+
 // False after saying why.
 bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Symbols& symbols,
                 bool& hasLinetypes) {
@@ -41,7 +54,10 @@ bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Symbols
     services.SayWhatStoodIn();
     if (result == LineConverter::kSuccess) {
         LineConverter::CLinVisitor visitor(options.scale, &parser.faultLog(), policy);
-        AnnouncedLinetypes announced(visitor);
+        // What strict conversions pass over in silence is looked for only where it is said.
+        MeasuredLinetypes measured(visitor);
+        AnnouncedLinetypes announced(options.tolerant ? static_cast<LineConverter::LinStyleVisitor&>(measured)
+                                                      : visitor);
         BeginStage("Converting", parser.linetypes().size());
         result = parser.Accept(announced);
         const std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> results(visitor.TakeResults());
@@ -50,7 +66,11 @@ bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Symbols
         }
         if (result == LineConverter::kSuccess && options.tolerant) {
             hasLinetypes = !symbols.empty() || !parser.faults().empty();
-            SayFindings(ForgivenLinetypeFaults(input.Name(), parser.faults(), services.Sources()));
+            std::vector<Finding> findings =
+                ForgivenLinetypeFaults(input.Name(), parser.faults(), services.Sources());
+            AddMissingCharacters(input, parser, measured, findings);
+            SortByLine(findings);
+            SayFindings(findings);
             return true;
         }
         if (result == LineConverter::kSuccess && results) {
@@ -117,7 +137,8 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
         return WriteSymbols(symbols, options);
     }
     std::vector<TylModel::SymbolDefinition*> chosen;
-    return ChooseNamed(input, options.names, symbols, chosen) ? WriteSymbols(chosen, options) : kInputFault;
+    const bool complete = ChooseNamed(input, options.names, symbols, chosen);
+    return complete || (options.tolerant && !chosen.empty()) ? WriteSymbols(chosen, options) : kInputFault;
 }
 
 } // namespace

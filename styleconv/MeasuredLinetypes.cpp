@@ -6,6 +6,7 @@
 #include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "preview/Outline.h"
+#include "preview/TextMetrics.h"
 #include "styleconv/Messages.h"
 
 #include <algorithm>
@@ -23,9 +24,21 @@ std::string NumberText(double value) {
     return platform::WideToValidUtf8(encoding::FormatNumber(std::round(value * kParts) / kParts));
 }
 
-// Whether the angle to the line is known: not that of what keeps its angle to the drawing.
-bool TurnsWithTheLine(const LineConverter::ElementTransform& transform) {
-    return transform.relativeRotation != 0.0 || std::isnan(transform.absoluteRotation);
+// A text whose width is an estimate is told of where it is wider by more than such estimates are off.
+constexpr double kEstimateSlack = 0.25;
+
+// Whether an element keeps its angle to the drawing.
+bool HasFixedAngle(const LineConverter::ElementTransform& transform) {
+    return transform.relativeRotation == 0.0 && !std::isnan(transform.absoluteRotation);
+}
+
+// Where a shape or text begins, from the place of its element.
+LineConverter::ShxPen PenOf(const LineConverter::ElementTransform& transform) {
+    LineConverter::ShxPen pen;
+    pen.y = transform.offsetY;
+    pen.scale = transform.scale;
+    pen.rotation = transform.relativeRotation;
+    return pen;
 }
 
 } // namespace
@@ -59,31 +72,38 @@ void MeasuredLinetypes::Gap(double length) {
     visitor_.Gap(length);
 }
 
-void MeasuredLinetypes::AddMark(std::string name, const std::wstring& path) {
+void MeasuredLinetypes::AddOutline(Mark mark, const LineConverter::ElementTransform& transform,
+                                   const std::wstring& path) {
     preview::Outline outline;
-    if (!preview::ReadPath(path, outline).complete) {
+    if (preview::ReadPath(path, outline).complete) {
+        AddMark(std::move(mark), transform, outline.Bounds());
+    }
+}
+
+void MeasuredLinetypes::AddMark(Mark mark, const LineConverter::ElementTransform& transform,
+                                const preview::Box& box) {
+    // What stands above or below the line does not stand in the gap.
+    if (box.IsEmpty() || box.low.y > 0.0 || box.high.y < 0.0) {
         return;
     }
-    const preview::Box box = outline.Bounds();
-    // What stands above or below the line does not stand in the gap.
-    if (!box.IsEmpty() && box.low.y <= 0.0 && box.high.y >= 0.0) {
-        marks_.push_back({element_, std::move(name), position_, {box.low.x, box.high.x}});
-    }
+    const double x = position_ + transform.offsetX;
+    mark.element = element_;
+    mark.extent = {x + box.low.x, x + box.high.x};
+    mark.isFixed = HasFixedAngle(transform);
+    marks_.push_back(std::move(mark));
 }
 
 void MeasuredLinetypes::Shape(const std::string& shapeName, const LineConverter::ElementTransform& transform,
                               const ShxUtility::ShapesInFile& file) {
     used_.emplace(&file, shapeName);
     const auto found = file.nameIndex.find(shapeName);
-    if (found != file.nameIndex.end() && TurnsWithTheLine(transform)) {
-        LineConverter::ShxPen pen;
-        pen.x = position_ + transform.offsetX;
-        pen.y = transform.offsetY;
-        pen.scale = transform.scale;
-        pen.rotation = transform.relativeRotation;
+    if (found != file.nameIndex.end()) {
+        LineConverter::ShxPen pen = PenOf(transform);
         std::wstring path;
         if (DrawShxShape(path, pen, file.shapes[found->second], file) == ShxUtility::kSuccess) {
-            AddMark("shape " + Shown(platform::AnsiToWide(shapeName)), path);
+            Mark mark;
+            mark.name = "shape " + Shown(platform::AnsiToWide(shapeName));
+            AddOutline(std::move(mark), transform, path);
         }
     }
     ++element_;
@@ -94,13 +114,12 @@ void MeasuredLinetypes::Text(const std::string& text, const LineConverter::Eleme
                              const LineConverter::FontInfo& font,
                              const LineConverter::ShapeFileMap& shapeFiles) {
     const auto file = shapeFiles.find(font.fileName);
-    if (font.typeface.empty() && file != shapeFiles.end() && !file->second.fontInfo.empty()) {
+    if (!font.typeface.empty()) {
+        AddTypefaceText(text, transform, font);
+    } else if (file != shapeFiles.end() && !file->second.fontInfo.empty()) {
         const auto height = static_cast<std::int8_t>(file->second.fontInfo[0]);
-        LineConverter::ShxPen pen;
-        pen.x = position_ + transform.offsetX;
-        pen.y = transform.offsetY;
-        pen.scale = transform.scale / height * (font.textSize != 0.0 ? font.textSize : 1.0);
-        pen.rotation = transform.relativeRotation;
+        LineConverter::ShxPen pen = PenOf(transform);
+        pen.scale *= (font.textSize != 0.0 ? font.textSize : 1.0) / height;
         std::wstring path;
         std::wstring missing;
         const std::wstring characters =
@@ -118,27 +137,50 @@ void MeasuredLinetypes::Text(const std::string& text, const LineConverter::Eleme
                 {linetype_ - 1, element_, true,
                  "font " + Shown(font.fileName) + " lacks characters of the text: " + Shown(missing)});
         }
-        if (height != 0 && !font.isVertical && TurnsWithTheLine(transform)) {
-            AddMark("text \"" + Shown(platform::AnsiToWide(text)) + "\"", path);
+        if (height != 0 && !font.isVertical) {
+            Mark mark;
+            mark.name = "text \"" + Shown(platform::AnsiToWide(text)) + "\"";
+            AddOutline(std::move(mark), transform, path);
         }
     }
     ++element_;
     visitor_.Text(text, transform, font, shapeFiles);
 }
 
+void MeasuredLinetypes::AddTypefaceText(const std::string& text,
+                                        const LineConverter::ElementTransform& transform,
+                                        const LineConverter::FontInfo& font) {
+    preview::TextPart part;
+    part.content = LineConverter::DecodeControlCodes(platform::AnsiToWide(text), true).characters;
+    part.height = transform.scale * (font.textSize != 0.0 ? font.textSize : 1.0);
+    part.angle.value = transform.relativeRotation;
+    part.position.y = transform.offsetY;
+    part.horizontal = preview::HorizontalAnchor::kLeft;
+    part.vertical = preview::VerticalAnchor::kBaseline;
+    Mark mark;
+    mark.name = "text \"" + Shown(platform::AnsiToWide(text)) + "\"";
+    mark.isEstimate = true;
+    AddMark(std::move(mark), transform, preview::EstimatedBounds(part));
+}
+
 void MeasuredLinetypes::EndLinetype() {
     for (const Mark& mark : marks_) {
-        const double middle = mark.extent.from / 2 + mark.extent.to / 2;
-        const Interval gap = GapAround(middle);
-        const double width = mark.extent.to - mark.extent.from;
-        const double room = gap.to - gap.from;
-        if (room > 0.0 && width > room * (1 + kSlack)) {
-            remarks_.push_back(
-                {linetype_ - 1, mark.element, false,
-                 mark.name + " is " + NumberText(width) + " wide, the gap it stands in " + NumberText(room)});
-        }
+        JudgeMark(mark);
     }
     visitor_.EndLinetype();
+}
+
+void MeasuredLinetypes::JudgeMark(const Mark& mark) {
+    const Interval gap = GapAround(mark.extent.from / 2 + mark.extent.to / 2);
+    const double width = mark.extent.to - mark.extent.from;
+    const double room = gap.to - gap.from;
+    if (room > 0.0 && width > room * (1 + (mark.isEstimate ? kEstimateSlack : kSlack))) {
+        const std::string where = mark.isFixed ? " where the line runs along it" : "";
+        const std::string about = mark.isEstimate ? "about " : "";
+        remarks_.push_back({linetype_ - 1, mark.element, false,
+                            mark.name + " is " + about + NumberText(width) + " wide" + where +
+                                ", the gap it stands in " + NumberText(room)});
+    }
 }
 
 MeasuredLinetypes::Interval MeasuredLinetypes::GapAround(double position) const {

@@ -4,6 +4,7 @@
 
 #include "StyleConversion/linetype/LinStyleVisitor.h"
 #include "StyleConversion/shx/ShxUtility.h"
+#include "preview/Box.h"
 
 #include <cstddef>
 #include <set>
@@ -52,12 +53,18 @@ private:
     };
     struct Mark {
         std::size_t element = 0;
-        std::string name; // "shape TRACK", "text \"GAS\""
-        double position = 0.0;
-        Interval extent; // along the line
+        std::string name;        // "shape TRACK", "text \"GAS\""
+        Interval extent;         // along the line
+        bool isFixed = false;    // keeps its angle to the drawing: as it is along a line of that angle
+        bool isEstimate = false; // of a typeface, whose letters nobody has measured
     };
 
-    void AddMark(std::string name, const std::wstring& path);
+    void AddOutline(Mark mark, const LineConverter::ElementTransform& transform, const std::wstring& path);
+    void AddTypefaceText(const std::string& text, const LineConverter::ElementTransform& transform,
+                         const LineConverter::FontInfo& font);
+    // Notes the mark, which is `box` from the place of its element, unless it stands above or below the line.
+    void AddMark(Mark mark, const LineConverter::ElementTransform& transform, const preview::Box& box);
+    void JudgeMark(const Mark& mark);
     // The gap around a position, the pattern repeated; empty where something is drawn there.
     Interval GapAround(double position) const;
 

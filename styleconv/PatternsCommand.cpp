@@ -68,40 +68,47 @@ std::string ShownPattern(const std::string& name) {
     return "pattern " + Shown(platform::AnsiToWide(name));
 }
 
-// Converts the pattern, or says why it becomes nothing.
+// Where a tolerant conversion keeps what it left out, to say it in the order of the file; a strict one says
+// it at once.
+using LeftOut = std::vector<Finding>*;
+
+// Converts the pattern, or tells why it becomes nothing.
 std::unique_ptr<TylModel::SymbolDefinition> ConvertPattern(const InputFile& input, LoadedPatterns& loaded,
                                                            const std::string& name,
-                                                           std::string_view consequence) {
+                                                           std::string_view consequence, LeftOut leftOut) {
     NowAtItem(ShownPattern(name));
     std::vector<pattern::PatternLine>& lines = loaded.file.patterns.at(name);
     auto symbol = pattern::BuildAreaSymbol(name, lines);
-    if (symbol == nullptr) {
-        const std::string_view reason =
-            lines.empty() ? " has no lines"
-                          : " has no repeat tile: no rectangle of any size repeats its lines";
-        SayAtLine(input.Name(), loaded.reading.headerLines.at(name).front(),
-                  ShownPattern(name) + std::string(reason) + std::string(consequence));
+    if (symbol != nullptr) {
+        return symbol;
+    }
+    const std::size_t line = loaded.reading.headerLines.at(name).front();
+    const std::string reason =
+        lines.empty() ? "has no lines" : "has no repeat tile: no rectangle of any size repeats its lines";
+    if (leftOut != nullptr) {
+        leftOut->push_back({input.Name(), line, Severity::kWarning, "the pattern " + reason + "; left out",
+                            ShownPattern(name)});
+    } else {
+        SayAtLine(input.Name(), line, ShownPattern(name) + " " + reason + std::string(consequence));
     }
     return symbol;
 }
 
 // All that can be converted, in the order of the names. False when that is none.
-bool ConvertAll(const InputFile& input, LoadedPatterns& loaded, Symbols& symbols) {
+bool ConvertAll(const InputFile& input, LoadedPatterns& loaded, LeftOut leftOut, Symbols& symbols) {
     BeginStage("Converting", loaded.file.patterns.size());
     for (const auto& [name, lines] : loaded.file.patterns) {
-        if (auto symbol = ConvertPattern(input, loaded, name, "; left out")) {
+        if (auto symbol = ConvertPattern(input, loaded, name, "; left out", leftOut)) {
             symbols.push_back(std::move(symbol));
         }
-    }
-    if (symbols.empty()) {
-        Say(input.Name(), "none of the file's patterns can be converted");
     }
     return !symbols.empty();
 }
 
-// Those asked for, in the order asked. False when one is not there or cannot be converted.
+// Those asked for, in the order asked. False when one is not there or cannot be converted; a tolerant
+// conversion needs but one.
 bool ConvertNamed(const InputFile& input, LoadedPatterns& loaded, const std::vector<std::string>& names,
-                  Symbols& symbols) {
+                  LeftOut leftOut, Symbols& symbols) {
     bool complete = true;
     BeginStage("Converting", names.size());
     for (const std::string& name : names) {
@@ -109,13 +116,13 @@ bool ConvertNamed(const InputFile& input, LoadedPatterns& loaded, const std::vec
         if (!loaded.file.patterns.contains(narrow)) {
             Say(input.Name(), "the file has no pattern named " + Shown(name));
             complete = false;
-        } else if (auto symbol = ConvertPattern(input, loaded, narrow, "")) {
+        } else if (auto symbol = ConvertPattern(input, loaded, narrow, "", leftOut)) {
             symbols.push_back(std::move(symbol));
         } else {
             complete = false;
         }
     }
-    return complete;
+    return complete || (leftOut != nullptr && !symbols.empty());
 }
 
 pattern::PatternPolicy PolicyOf(const PatternsOptions& options) {
@@ -139,12 +146,20 @@ ExitStatus Patterns(const PatternsOptions& options) {
     if (!Load(input, loaded, PolicyOf(options))) {
         return kInputFault;
     }
+    std::vector<Finding> findings;
     if (options.tolerant) {
-        SayFindings(ForgivenPatternSlips(input.Name(), loaded.file, loaded.reading));
+        findings = ForgivenPatternSlips(input.Name(), loaded.file, loaded.reading);
     }
+    const LeftOut leftOut = options.tolerant ? &findings : nullptr;
     Symbols symbols;
-    const bool converted = options.names.empty() ? ConvertAll(input, loaded, symbols)
-                                                 : ConvertNamed(input, loaded, options.names, symbols);
+    const bool converted = options.names.empty()
+                               ? ConvertAll(input, loaded, leftOut, symbols)
+                               : ConvertNamed(input, loaded, options.names, leftOut, symbols);
+    SortByLine(findings);
+    SayFindings(findings);
+    if (!converted && options.names.empty()) {
+        Say(input.Name(), "none of the file's patterns can be converted");
+    }
     return converted ? WriteSymbols(symbols, options) : kInputFault;
 }
 

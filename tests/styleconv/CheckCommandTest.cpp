@@ -95,6 +95,30 @@ TEST_F(Check, TextsAndShapesWiderThanTheirGapAreWarningsWithBothFigures) {
         "0 errors, 3 warnings in 1 file\n");
 }
 
+// A text of a typeface is as wide as its letters are on average: 0.58 em, where a capital is 0.716 em high.
+TEST_F(Check, TextsOfATypefaceAreMeasuredByTheUsualWidthOfLetters) {
+    // Three letters of height .4 are .4 / .716 * .58 * 3 = .9721 wide, of which a gap of .7 is less than 1
+    // / 1.25.
+    EXPECT_EQ(Lines("*NARROW\nA,1,[\"GAS\",STANDARD,S=.4],-.7\n*FITS\nA,1,[\"GAS\",STANDARD,S=.4],-.8\n"
+                    "*TURNED\nA,1,[\"GAS\",STANDARD,S=.4,R=90,X=.2,Y=-.2],-.7\n"
+                    "*BELOW\nA,1,[\"GAS\",STANDARD,S=.4,Y=-.6],-.1\n",
+                    {"--font", "Arial"}),
+              ":2: warning: text \"GAS\" is about 0.9721 wide, the gap it stands in 0.7 (linetype NARROW)\n"
+              "0 errors, 1 warning in 1 file\n");
+}
+
+// Its angle to the line is another one in every direction; along itself it is as wide as it is long.
+TEST_F(Check, WhatKeepsItsAngleIsMeasuredWhereTheLineRunsAlongIt) {
+    folder.Write("marks.shx", ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Text());
+    EXPECT_EQ(
+        Lines("*WIDE\nA,1,-.5,[MARK,marks.shx,A=90,x=-.5],-.25\n*FITS\nA,1,-.5,[MARK,marks.shx,A=90,x=-.5],-."
+              "5\n"
+              "*TURNS\nA,1,-.1,[MARK,marks.shx,A=90,R=90],-.1\n"),
+        ":2: warning: shape MARK is 1 wide where the line runs along it, the gap it stands in 0.75 (linetype "
+        "WIDE)\n"
+        "0 errors, 1 warning in 1 file\n");
+}
+
 TEST_F(Check, CharactersThatAFontLacksAreErrors) {
     folder.Write("txt.shx",
                  ShapeFileBuilder::Shapes().FontInfo("FONT", {4, 1, 0}).Shape(65, "A", {0x10, 0}).Text());
@@ -285,6 +309,21 @@ TEST_F(Check, JsonIsTheFindingsDocument) {
                   "\",\n      \"line\": 2,\n      \"severity\": \"error\",\n      \"message\": "
                   "\"expected the length of a dash, or \\\"[\\\" at byte 3: A,x\",\n      \"item\": "
                   "\"linetype X\"\n    }\n  ]\n}\n");
+}
+
+TEST_F(Check, JsonHasTheByteAndTheNumberOfAShape) {
+    const std::string shapes = ShapeFileBuilder::Shapes().Shape(131, "TICK", {6, 0}).Text();
+    const std::size_t at = shapes.find("TICK");
+    const ToolResult result = RunTool({"check", folder.Write("marks.shx", shapes), "--format", "json"});
+    EXPECT_NE(result.output.find("\"byte\": " + std::to_string(at) +
+                                 ",\n      \"shape\": 131,\n      \"severity\": \"error\""),
+              std::string::npos)
+        << result.output;
+    const std::string text = RunTool({"check", folder / "marks.shx"}).output;
+    EXPECT_NE(
+        text.find("marks.shx: error: byte " + std::to_string(at) + ": it cannot be drawn: it goes back"),
+        std::string::npos)
+        << text;
 }
 
 TEST_F(Check, WrongCommandLineIsTold) {

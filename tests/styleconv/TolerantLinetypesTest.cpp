@@ -106,6 +106,10 @@ TEST_F(TolerantLinetypes, LinetypeAskedForThatIsLeftOutIsAFault) {
     const ToolResult result = Run("*X\nA,x\n*Y\nA,1\n", {"--tolerant", "--name", "X"});
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(Said(result).find(": the file has no linetype named X\n"), std::string::npos);
+    const ToolResult withAnother = Run("*X\nA,x\n*Y\nA,1\n", {"--tolerant", "--name", "X", "--name", "Y"});
+    EXPECT_EQ(withAnother.status, 0);
+    EXPECT_EQ(Names(withAnother), "Y;");
+    EXPECT_EQ(Said(withAnother), Said(result));
 }
 
 TEST_F(TolerantLinetypes, BuiltInFontStandsInOverADrawing) {
@@ -154,6 +158,22 @@ TEST_F(LinetypesFont, GoesWithoutADrawingOnly) {
     EXPECT_EQ(result.errors,
               "--font: goes without --drawing only: with it, text styles have the fonts that the "
               "drawing gives them\n");
+}
+
+TEST_F(TolerantLinetypes, CharactersThatAFontLacksAreNamedInTheOrderOfTheFile) {
+    folder.Write("txt.shx", test_support::ShapeFileBuilder::Shapes()
+                                .FontInfo("FONT", {4, 1, 0})
+                                .Shape(65, "A", {0x10, 0})
+                                .Text());
+    const std::string file =
+        folder.Write("x.lin", "*X\nA,1,[\"ABAC\",STANDARD],-9\n*Y\nA,x\n*Z\nA,1,[\"B\",STANDARD],-9\n");
+    const support::ToolResult result = support::RunTool({"linetypes", file, "--tolerant"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(
+        result.errors,
+        file + ":2: warning: font TXT.SHX lacks characters of the text: BC; left out (linetype X)\n" + file +
+            ":4: warning: expected the length of a dash, or \"[\" at byte 3: A,x; left out (linetype Y)\n" +
+            file + ":6: warning: font TXT.SHX lacks characters of the text: B; left out (linetype Z)\n");
 }
 
 } // namespace

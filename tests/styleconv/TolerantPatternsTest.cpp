@@ -53,6 +53,17 @@ TEST_F(TolerantPatternsCommand, FamiliesThatAreLeftOutAreNamed) {
     EXPECT_EQ(Run(text).output, Run(text, {}).output);
 }
 
+TEST_F(TolerantPatternsCommand, OneOfThoseAskedForIsEnough) {
+    const std::string text = "*X\n0,0,0,0,1\n*NONE\n";
+    const ToolResult result = Run(text, {"--tolerant", "--name", "NONE", "--name", "Z", "--name", "X"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, Run(text, {"--name", "X"}).output);
+    EXPECT_EQ(Said(result), ": the file has no pattern named Z\n"
+                            ":3: warning: the pattern has no lines; left out (pattern NONE)\n");
+    EXPECT_EQ(Run(text, {"--tolerant", "--name", "NONE"}).status, 1);
+    EXPECT_EQ(Run(text, {"--name", "NONE", "--name", "X"}).status, 1);
+}
+
 TEST_F(TolerantPatternsCommand, UnitsScaleAFileOfAnotherUnit) {
     const std::string text = ";%UNITS=INCH\n*X\n0,0,0,0,1\n";
     EXPECT_NE(Run(text, {"--units", "mm"}).output.find("\"repeatY\": \"25.4\""), std::string::npos);
