@@ -20,7 +20,9 @@ endif()
 
 find_program(STYLECONVERSION_CCACHE ccache)
 if(STYLECONVERSION_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${STYLECONVERSION_CCACHE}")
+  # Without these it takes nothing that was compiled with precompiled headers.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${STYLECONVERSION_CCACHE}")
 endif()
 
 add_library(project_settings INTERFACE)

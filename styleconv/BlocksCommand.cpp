@@ -14,7 +14,6 @@
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <memory>
 #include <utility>
@@ -141,16 +140,16 @@ ExitStatus Blocks(const BlocksOptions& options) {
 
 } // namespace
 
-void AddBlocksCommand(CLI::App& app, Runner& runner) {
+void AddBlocksCommand(CommandLine& line) {
     const auto options = std::make_shared<BlocksOptions>();
-    CLI::App* const command = app.add_subcommand("blocks", "Convert the blocks of a drawing document");
-    command->add_option("FILE", options->file, "A drawing document, or - for standard input")->required();
-    AddNameOption(*command, options->names, "Convert only this block; may be given again");
-    AddIgnoreLayerOption(*command, options->layersToIgnore);
-    AddShapesOption(*command, options->shapeFolders);
-    AddTolerantOption(*command, options->tolerant);
-    AddCommonOptions(*command, *options);
-    command->callback([options, &runner] { runner = [options] { return Blocks(*options); }; });
+    Command command = line.AddCommand("blocks", "Convert the blocks of a drawing document",
+                                      [options] { return Blocks(*options); });
+    command.AddFile(options->file, "A drawing document, or - for standard input");
+    AddNameOption(command, options->names, "Convert only this block; may be given again");
+    AddIgnoreLayerOption(command, options->layersToIgnore);
+    AddShapesOption(command, options->shapeFolders);
+    AddTolerantOption(command, options->tolerant);
+    AddCommonOptions(command, *options);
 }
 
 bool ListBlocks(const InputFile& input, std::vector<std::string>& names) {

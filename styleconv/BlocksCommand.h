@@ -10,7 +10,7 @@
 namespace styleconv {
 
 /// Adds the command to the command line.
-void AddBlocksCommand(CLI::App& app, Runner& runner);
+void AddBlocksCommand(CommandLine& line);
 
 /// The names of the blocks of a drawing document that was read, those that can be converted, in table order,
 /// as UTF-8. False, after saying why, when the drawing has none or is refused.

@@ -10,7 +10,6 @@
 #include "styleconv/OutputFile.h"
 #include "styleconv/PatternsCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 
@@ -104,22 +103,20 @@ ExitStatus Check(const CheckOptions& options) {
 
 } // namespace
 
-void AddCheckCommand(CLI::App& app, Runner& runner) {
+void AddCheckCommand(CommandLine& line) {
     const auto options = std::make_shared<CheckOptions>();
-    CLI::App* const command =
-        app.add_subcommand("check", "Say what is wrong with files, or will surprise, one finding a line");
-    command->add_option("FILE", options->files, ".lin, .pat, .shx and drawing .json files")->required();
-    AddLinetypeSourceOptions(*command, *options);
-    AddIgnoreLayerOption(*command, options->layersToIgnore);
-    command->add_flag(
+    Command command =
+        line.AddCommand("check", "Say what is wrong with files, or will surprise, one finding a line",
+                        [options] { return Check(*options); });
+    command.AddFiles(options->files, ".lin, .pat, .shx and drawing .json files");
+    AddLinetypeSourceOptions(command, *options);
+    AddIgnoreLayerOption(command, options->layersToIgnore);
+    command.AddFlag(
         "--notes", options->notes,
         "Also say what is as it should be: families with an exact tile, shapes that nothing uses");
-    AddCodePageOption(*command, options->codePage);
-    AddOutputOption(*command, options->output);
-    command->add_option("--format", options->format, "Form of the result: text or json")
-        ->check(CLI::IsMember({"text", "json"}))
-        ->capture_default_str();
-    command->callback([options, &runner] { runner = [options] { return Check(*options); }; });
+    AddCodePageOption(command, options->codePage);
+    AddOutputOption(command, options->output);
+    command.AddChoice("--format", options->format, {"text", "json"}, "Form of the result: text or json");
 }
 
 } // namespace styleconv

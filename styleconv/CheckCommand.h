@@ -6,6 +6,6 @@
 namespace styleconv {
 
 /// Adds the command to the command line.
-void AddCheckCommand(CLI::App& app, Runner& runner);
+void AddCheckCommand(CommandLine& line);
 
 } // namespace styleconv

@@ -16,7 +16,6 @@
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
 
-#include <CLI/CLI.hpp>
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
@@ -195,24 +194,21 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
 
 } // namespace
 
-void AddGlyphsCommand(CLI::App& app, Runner& runner) {
+void AddGlyphsCommand(CommandLine& line) {
     const auto options = std::make_shared<GlyphsOptions>();
-    CLI::App* const command = app.add_subcommand("glyphs", "Draw the shapes of a shape or font file");
-    command->add_option("FILE", options->file, "A .shx file, or - for standard input")->required();
-    command->add_option("--number", options->numbers, "Draw only this shape; may be given again")
-        ->type_name("N")
-        ->expected(1)
-        ->take_all();
-    AddNumberOption(*command, "--scale", options->scale, "Path units per shape unit (default: 1)");
-    AddNumberOption(*command, "--rotation", options->rotation,
+    Command command = line.AddCommand("glyphs", "Draw the shapes of a shape or font file",
+                                      [options] { return Glyphs(*options); });
+    command.AddFile(options->file, "A .shx file, or - for standard input");
+    command.AddIntegers("--number", options->numbers, "N", "Draw only this shape; may be given again");
+    AddNumberOption(command, "--scale", options->scale, "Path units per shape unit (default: 1)");
+    AddNumberOption(command, "--rotation", options->rotation,
                     "Degrees by which shapes are turned counter-clockwise (default: 0)");
-    AddPointOption(*command, "--at", options->x, options->y,
+    AddPointOption(command, "--at", options->x, options->y,
                    "Where every shape begins, in path units (default: 0,0)");
-    command->add_flag("--vertical", options->vertical, "Draw as in vertical text");
-    AddTolerantOption(*command, options->tolerant);
-    AddCodePageOption(*command, options->codePage);
-    AddCommonOptions(*command, *options);
-    command->callback([options, &runner] { runner = [options] { return Glyphs(*options); }; });
+    command.AddFlag("--vertical", options->vertical, "Draw as in vertical text");
+    AddTolerantOption(command, options->tolerant);
+    AddCodePageOption(command, options->codePage);
+    AddCommonOptions(command, *options);
 }
 
 bool ListShapes(const InputFile& input, std::vector<std::string>& names) {

@@ -10,7 +10,7 @@
 namespace styleconv {
 
 /// Adds the command to the command line.
-void AddGlyphsCommand(CLI::App& app, Runner& runner);
+void AddGlyphsCommand(CommandLine& line);
 
 /// The names of the shapes of a file that was read, in file order, as UTF-8; a shape without a name has no
 /// line. False, after saying why, when the file is refused or has no shapes.

@@ -6,7 +6,6 @@
 #include "styleconv/DrawingFile.h"
 #include "styleconv/Messages.h"
 
-#include <CLI/CLI.hpp>
 #include <string_view>
 #include <utility>
 
@@ -44,16 +43,12 @@ bool IsFontFile(const std::wstring& font) {
 
 } // namespace
 
-void AddLinetypeSourceOptions(CLI::App& command, LinetypeSourceOptions& options) {
-    command
-        .add_option("--drawing", options.drawing,
-                    "Take text styles from this drawing document (default: one style STANDARD with txt.shx)")
-        ->type_name("DRAWING.json");
-    command
-        .add_option(
-            "--font", options.font,
-            "Without --drawing, the font of the style STANDARD: an SHX file, or the name of a typeface")
-        ->type_name("FILE.shx|TYPEFACE");
+void AddLinetypeSourceOptions(Command& command, LinetypeSourceOptions& options) {
+    command.AddText("--drawing", options.drawing, "DRAWING.json",
+                    "Take text styles from this drawing document (default: one style STANDARD with txt.shx)");
+    command.AddText(
+        "--font", options.font, "FILE.shx|TYPEFACE",
+        "Without --drawing, the font of the style STANDARD: an SHX file, or the name of a typeface");
     AddShapesOption(command, options.shapeFolders);
 }
 

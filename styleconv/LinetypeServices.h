@@ -12,11 +12,9 @@
 #include <string>
 #include <vector>
 
-namespace CLI {
-class App;
-}
-
 namespace styleconv {
+
+class Command;
 
 struct LinetypeSourceOptions {
     std::string drawing;                   // a drawing document; empty for the one style STANDARD
@@ -26,7 +24,7 @@ struct LinetypeSourceOptions {
 };
 
 /// Adds --drawing, --shapes and --font.
-void AddLinetypeSourceOptions(CLI::App& command, LinetypeSourceOptions& options);
+void AddLinetypeSourceOptions(Command& command, LinetypeSourceOptions& options);
 
 /// False, with a message, when the options contradict each other.
 bool CheckLinetypeSourceOptions(const LinetypeSourceOptions& options);

@@ -14,7 +14,6 @@
 #include "styleconv/Progress.h"
 #include "styleconv/SymbolOutput.h"
 
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <utility>
 
@@ -143,17 +142,17 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
 
 } // namespace
 
-void AddLinetypesCommand(CLI::App& app, Runner& runner) {
+void AddLinetypesCommand(CommandLine& line) {
     const auto options = std::make_shared<LinetypesOptions>();
-    CLI::App* const command = app.add_subcommand("linetypes", "Convert the linetypes of a .lin file");
-    command->add_option("FILE", options->file, "A linetype file, or - for standard input")->required();
-    AddNameOption(*command, options->names, "Convert only the linetypes of this name; may be given again");
-    AddNumberOption(*command, "--scale", options->scale, "Multiply all lengths by this (default: 1)");
-    AddLinetypeSourceOptions(*command, *options);
-    AddTolerantOption(*command, options->tolerant);
-    AddCodePageOption(*command, options->codePage);
-    AddCommonOptions(*command, *options);
-    command->callback([options, &runner] { runner = [options] { return Linetypes(*options); }; });
+    Command command = line.AddCommand("linetypes", "Convert the linetypes of a .lin file",
+                                      [options] { return Linetypes(*options); });
+    command.AddFile(options->file, "A linetype file, or - for standard input");
+    AddNameOption(command, options->names, "Convert only the linetypes of this name; may be given again");
+    AddNumberOption(command, "--scale", options->scale, "Multiply all lengths by this (default: 1)");
+    AddLinetypeSourceOptions(command, *options);
+    AddTolerantOption(command, options->tolerant);
+    AddCodePageOption(command, options->codePage);
+    AddCommonOptions(command, *options);
 }
 
 std::string NoLinetypesText(const InputFile& input) {

@@ -10,7 +10,7 @@
 namespace styleconv {
 
 /// Adds the command to the command line.
-void AddLinetypesCommand(CLI::App& app, Runner& runner);
+void AddLinetypesCommand(CommandLine& line);
 
 /// Why a file that was read has no linetypes.
 std::string NoLinetypesText(const InputFile& input);

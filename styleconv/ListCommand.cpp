@@ -9,7 +9,6 @@
 #include "styleconv/OutputFile.h"
 #include "styleconv/PatternsCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <memory>
 
 namespace styleconv {
@@ -72,13 +71,13 @@ ExitStatus List(const ListOptions& options) {
 
 } // namespace
 
-void AddListCommand(CLI::App& app, Runner& runner) {
+void AddListCommand(CommandLine& line) {
     const auto options = std::make_shared<ListOptions>();
-    CLI::App* const command = app.add_subcommand("list", "Print the names of what a file holds, one a line");
-    command->add_option("FILE", options->file, "A .lin, .pat, .shx or drawing .json file")->required();
-    AddOutputOption(*command, options->output);
-    AddCodePageOption(*command, options->codePage);
-    command->callback([options, &runner] { runner = [options] { return List(*options); }; });
+    Command command = line.AddCommand("list", "Print the names of what a file holds, one a line",
+                                      [options] { return List(*options); });
+    command.AddFile(options->file, "A .lin, .pat, .shx or drawing .json file");
+    AddOutputOption(command, options->output);
+    AddCodePageOption(command, options->codePage);
 }
 
 } // namespace styleconv

@@ -6,6 +6,6 @@
 namespace styleconv {
 
 /// Adds the command to the command line.
-void AddListCommand(CLI::App& app, Runner& runner);
+void AddListCommand(CommandLine& line);
 
 } // namespace styleconv

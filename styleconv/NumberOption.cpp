@@ -2,7 +2,6 @@
 
 #include "StyleConversion/encoding/NumberReader.h"
 
-#include <CLI/CLI.hpp>
 #include <cmath>
 
 namespace styleconv {
@@ -22,25 +21,20 @@ bool ReadPointArgument(std::string_view text, double& x, double& y) {
            ReadNumberArgument(text.substr(comma + 1), y);
 }
 
-CLI::Option* AddNumberOption(CLI::App& command, const std::string& name, double& value,
-                             const std::string& description) {
-    const auto read = [name, &value](const std::string& text) {
-        if (!ReadNumberArgument(text, value)) {
-            throw CLI::ValidationError(name, "expected a number, found \"" + text + "\"");
-        }
+void AddNumberOption(Command& command, const std::string& name, double& value,
+                     const std::string& description) {
+    const auto read = [&value](const std::string& text) -> std::string {
+        return ReadNumberArgument(text, value) ? "" : "a number";
     };
-    return command.add_option_function<std::string>(name, read, description)->type_name("NUMBER");
+    command.AddReader(name, read, "NUMBER", description);
 }
 
-CLI::Option* AddPointOption(CLI::App& command, const std::string& name, double& x, double& y,
-                            const std::string& description) {
-    const auto read = [name, &x, &y](const std::string& text) {
-        if (!ReadPointArgument(text, x, y)) {
-            throw CLI::ValidationError(name, "expected two numbers with a comma between them, found \"" +
-                                                 text + "\"");
-        }
+void AddPointOption(Command& command, const std::string& name, double& x, double& y,
+                    const std::string& description) {
+    const auto read = [&x, &y](const std::string& text) -> std::string {
+        return ReadPointArgument(text, x, y) ? "" : "two numbers with a comma between them";
     };
-    return command.add_option_function<std::string>(name, read, description)->type_name("X,Y");
+    command.AddReader(name, read, "X,Y", description);
 }
 
 } // namespace styleconv

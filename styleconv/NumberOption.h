@@ -1,13 +1,10 @@
 // Options whose values are numbers.
 #pragma once
 
+#include "styleconv/CommandLine.h"
+
 #include <string>
 #include <string_view>
-
-namespace CLI {
-class App;
-class Option;
-} // namespace CLI
 
 namespace styleconv {
 
@@ -18,11 +15,11 @@ bool ReadNumberArgument(std::string_view text, double& value);
 bool ReadPointArgument(std::string_view text, double& x, double& y);
 
 /// Adds an option that takes one finite number.
-CLI::Option* AddNumberOption(CLI::App& command, const std::string& name, double& value,
-                             const std::string& description);
+void AddNumberOption(Command& command, const std::string& name, double& value,
+                     const std::string& description);
 
 /// Adds an option that takes a point, "X,Y".
-CLI::Option* AddPointOption(CLI::App& command, const std::string& name, double& x, double& y,
-                            const std::string& description);
+void AddPointOption(Command& command, const std::string& name, double& x, double& y,
+                    const std::string& description);
 
 } // namespace styleconv

@@ -12,7 +12,6 @@
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
 
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -165,19 +164,17 @@ ExitStatus Patterns(const PatternsOptions& options) {
 
 } // namespace
 
-void AddPatternsCommand(CLI::App& app, Runner& runner) {
+void AddPatternsCommand(CommandLine& line) {
     const auto options = std::make_shared<PatternsOptions>();
-    CLI::App* const command = app.add_subcommand("patterns", "Convert the hatch patterns of a .pat file");
-    command->add_option("FILE", options->file, "A pattern file, or - for standard input")->required();
-    AddNameOption(*command, options->names, "Convert only this pattern; may be given again");
-    AddTolerantOption(*command, options->tolerant);
-    command
-        ->add_option("--units", options->units,
-                     "Scale to this unit, mm or inch, a file that says ;%UNITS= otherwise")
-        ->check(CLI::IsMember({"mm", "inch"}));
-    AddCodePageOption(*command, options->codePage);
-    AddCommonOptions(*command, *options);
-    command->callback([options, &runner] { runner = [options] { return Patterns(*options); }; });
+    Command command = line.AddCommand("patterns", "Convert the hatch patterns of a .pat file",
+                                      [options] { return Patterns(*options); });
+    command.AddFile(options->file, "A pattern file, or - for standard input");
+    AddNameOption(command, options->names, "Convert only this pattern; may be given again");
+    AddTolerantOption(command, options->tolerant);
+    command.AddChoice("--units", options->units, {"mm", "inch"},
+                      "Scale to this unit, mm or inch, a file that says ;%UNITS= otherwise");
+    AddCodePageOption(command, options->codePage);
+    AddCommonOptions(command, *options);
 }
 
 void CheckPatterns(const InputFile& input, std::vector<Finding>& findings) {

@@ -11,7 +11,7 @@
 namespace styleconv {
 
 /// Adds the command to the command line.
-void AddPatternsCommand(CLI::App& app, Runner& runner);
+void AddPatternsCommand(CommandLine& line);
 
 /// Appends what is wrong with a pattern file that was read, or will surprise.
 void CheckPatterns(const InputFile& input, std::vector<Finding>& findings);

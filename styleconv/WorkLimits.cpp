@@ -1,14 +1,12 @@
 #include "styleconv/WorkLimits.h"
 
-#include "styleconv/Command.h"
+#include "styleconv/CommandLine.h"
 #include "styleconv/Interruption.h"
 #include "styleconv/Messages.h"
-#include "styleconv/NumberOption.h"
 #include "styleconv/ProcessMemory.h"
 #include "styleconv/Progress.h"
 #include "styleconv/TemporaryFile.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -40,17 +38,6 @@ Work& CurrentWork() {
 // Guarded by FilesMutex.
 bool lifted = false;
 
-void AddLimitOption(CLI::App& command, const std::string& name, std::string& text, double& value,
-                    const std::string& unit, const std::string& description) {
-    const auto read = [name, &text, &value](const std::string& argument) {
-        if (!ReadNumberArgument(argument, value) || value <= 0.0) {
-            throw CLI::ValidationError(name, "expected a number above 0, found \"" + argument + "\"");
-        }
-        text = argument;
-    };
-    command.add_option_function<std::string>(name, read, description)->type_name(unit);
-}
-
 // Ends the process, unless the result came first.
 void EndProcess(const std::string& what) {
     // Kept locked: nothing is renamed or created from here on.
@@ -79,13 +66,6 @@ void EndInterrupted(int signal) {
 }
 
 } // namespace
-
-void AddLimitOptions(CLI::App& command, LimitOptions& options) {
-    AddLimitOption(command, "--time-limit", options.timeText, options.time, "SECONDS",
-                   "Give up after so many seconds (default: 60)");
-    AddLimitOption(command, "--memory-limit", options.memoryText, options.memory, "MIB",
-                   "Give up when more memory than this is in use (default: 4096)");
-}
 
 void NowAtFile(std::string_view file) {
     Work& work = CurrentWork();

@@ -8,10 +8,6 @@
 #include <string_view>
 #include <thread>
 
-namespace CLI {
-class App;
-}
-
 namespace styleconv {
 
 /// As given on the command line.
@@ -21,9 +17,6 @@ struct LimitOptions {
     double time = 60.0;
     double memory = 4096.0;
 };
-
-/// Adds --time-limit and --memory-limit to a command.
-void AddLimitOptions(CLI::App& command, LimitOptions& options);
 
 /// What the command is at, for the message of a limit: a file's name and, in it, "shape 65" or "pattern
 /// BRICK" in words of messages. Each stays until it is set again; a new file is at no item.

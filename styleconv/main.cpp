@@ -1,4 +1,4 @@
-// The command line of styleconv: which commands there are, and what a wrong command line gets.
+// Starts styleconv: which commands there are, and what surrounds the one that runs.
 #include "StyleConversion/platform/Files.h"
 #include "styleconv/BlocksCommand.h"
 #include "styleconv/CheckCommand.h"
@@ -10,7 +10,6 @@
 #include "styleconv/Progress.h"
 #include "styleconv/WorkLimits.h"
 
-#include <CLI/CLI.hpp>
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -28,55 +27,35 @@ namespace {
 
 using namespace styleconv;
 
-void AddCommands(CLI::App& app, Runner& runner, LimitOptions& limits, bool& quiet) {
-    AddLinetypesCommand(app, runner);
-    AddPatternsCommand(app, runner);
-    AddBlocksCommand(app, runner);
-    AddGlyphsCommand(app, runner);
-    AddListCommand(app, runner);
-    AddCheckCommand(app, runner);
-    for (CLI::App* const command : app.get_subcommands({})) {
-        command->group("Commands");
-        AddLimitOptions(*command, limits);
-        command->add_flag("--quiet", quiet, "Do not show how far the work has come");
+void AddCommands(CommandLine& line, LimitOptions& limits, bool& quiet) {
+    AddLinetypesCommand(line);
+    AddPatternsCommand(line);
+    AddBlocksCommand(line);
+    AddGlyphsCommand(line);
+    AddListCommand(line);
+    AddCheckCommand(line);
+    for (Command command : line.Commands()) {
+        AddLimitOptions(command, limits);
+        command.AddFlag("--quiet", quiet, "Do not show how far the work has come");
     }
-}
-
-// Help and version are no errors and go to standard output.
-ExitStatus Explain(const CLI::App& app, const CLI::ParseError& error) {
-    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
-        app.exit(error);
-        return kDone;
-    }
-    const bool noCommand = app.get_subcommands().empty() && error.get_name() == "RequiredError";
-    std::fprintf(stderr, "styleconv: %s\nTry \"styleconv --help\" or \"styleconv COMMAND --help\".\n",
-                 noCommand ? "a command is missing" : error.what());
-    return kUsageFault;
 }
 
 ExitStatus Run(int argc, char** argv) {
-    CLI::App app("Turns CAD linetypes, hatch patterns, blocks and shape fonts into map symbols.",
-                 "styleconv");
-    app.set_version_flag("--version", "styleconv " STYLECONVERSION_VERSION);
-    app.require_subcommand(1);
-    // A path may begin with a slash, on every system.
-    app.allow_windows_style_options(false);
-    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
-    Runner runner;
+    CommandLine line("Turns CAD linetypes, hatch patterns, blocks and shape fonts into map symbols.",
+                     STYLECONVERSION_VERSION);
     LimitOptions limits;
     bool quiet = false;
-    AddCommands(app, runner, limits, quiet);
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return Explain(app, error);
+    AddCommands(line, limits, quiet);
+    Runner run;
+    if (const ExitStatus status = line.Parse(argc, argv, run); !run) {
+        return status;
     }
     if (!quiet) {
         AllowProgress();
     }
     NoteInterruptions();
     const WorkLimits kept(limits);
-    const ExitStatus status = runner();
+    const ExitStatus status = run();
     ClearProgress();
     return status;
 }

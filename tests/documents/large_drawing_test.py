@@ -31,8 +31,9 @@ def main():
             write_document(file, entities)
             file.flush()
             sizes.append(os.path.getsize(file.name))
-            names = subprocess.run([sys.argv[1], "list", file.name], env=environment, stdout=subprocess.PIPE,
-                                   text=True, check=True).stdout
+            # However busy the machine is: this is about memory.
+            names = subprocess.run([sys.argv[1], "list", file.name, "--time-limit", "600"], env=environment,
+                                   stdout=subprocess.PIPE, text=True, check=True).stdout
         held.append(resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss * KIBIBYTE)
         if names.split() != ["SMALL", "LARGE"]:
             sys.exit(f"expected the names of two blocks, found {names!r}")

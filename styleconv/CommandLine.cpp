@@ -1,0 +1,115 @@
+#include "styleconv/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdio>
+
+namespace styleconv {
+namespace {
+
+void NameKind(CLI::Option& option, const std::string& kind) {
+    if (!kind.empty()) {
+        option.type_name(kind);
+    }
+}
+
+void AllowAgain(CLI::Option& option, const std::string& kind) {
+    NameKind(option, kind);
+    option.expected(1)->take_all();
+}
+
+// Help and version are no errors and go to standard output.
+ExitStatus Explain(const CLI::App& app, const CLI::ParseError& error) {
+    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
+        app.exit(error);
+        return kDone;
+    }
+    const bool noCommand = app.get_subcommands().empty() && error.get_name() == "RequiredError";
+    std::fprintf(stderr, "styleconv: %s\nTry \"styleconv --help\" or \"styleconv COMMAND --help\".\n",
+                 noCommand ? "a command is missing" : error.what());
+    return kUsageFault;
+}
+
+} // namespace
+
+void Command::AddFile(std::string& path, const std::string& description) {
+    app_->add_option("FILE", path, description)->required();
+}
+
+void Command::AddFiles(std::vector<std::string>& paths, const std::string& description) {
+    app_->add_option("FILE", paths, description)->required();
+}
+
+void Command::AddFlag(const std::string& name, bool& value, const std::string& description) {
+    app_->add_flag(name, value, description);
+}
+
+void Command::AddText(const std::string& name, std::string& value, const std::string& kind,
+                      const std::string& description) {
+    NameKind(*app_->add_option(name, value, description), kind);
+}
+
+void Command::AddTexts(const std::string& name, std::vector<std::string>& values, const std::string& kind,
+                       const std::string& description) {
+    AllowAgain(*app_->add_option(name, values, description), kind);
+}
+
+void Command::AddIntegers(const std::string& name, std::vector<std::int64_t>& values, const std::string& kind,
+                          const std::string& description) {
+    AllowAgain(*app_->add_option(name, values, description), kind);
+}
+
+void Command::AddChoice(const std::string& name, std::string& value, const std::vector<std::string>& choices,
+                        const std::string& description) {
+    CLI::Option* const option = app_->add_option(name, value, description)->check(CLI::IsMember(choices));
+    if (!value.empty()) {
+        option->capture_default_str();
+    }
+}
+
+void Command::AddReader(const std::string& name, const TextReader& read, const std::string& kind,
+                        const std::string& description) {
+    const auto readOrRefuse = [name, read](const std::string& text) {
+        if (const std::string expected = read(text); !expected.empty()) {
+            throw CLI::ValidationError(name, "expected " + expected + ", found \"" + text + "\"");
+        }
+    };
+    NameKind(*app_->add_option_function<std::string>(name, readOrRefuse, description), kind);
+}
+
+CommandLine::CommandLine(const std::string& description, const std::string& version)
+    : app_(std::make_unique<CLI::App>(description, "styleconv")) {
+    app_->set_version_flag("--version", "styleconv " + version);
+    app_->require_subcommand(1);
+    // A path may begin with a slash, on every system.
+    app_->allow_windows_style_options(false);
+    app_->get_formatter()->label("SUBCOMMAND", "COMMAND");
+}
+
+CommandLine::~CommandLine() = default;
+
+Command CommandLine::AddCommand(const std::string& name, const std::string& description, const Runner& run) {
+    CLI::App* const command = app_->add_subcommand(name, description);
+    command->group("Commands");
+    command->callback([this, run] { run_ = run; });
+    return Command(*command);
+}
+
+std::vector<Command> CommandLine::Commands() {
+    std::vector<Command> commands;
+    for (CLI::App* const command : app_->get_subcommands({})) {
+        commands.emplace_back(*command);
+    }
+    return commands;
+}
+
+ExitStatus CommandLine::Parse(int argc, char** argv, Runner& run) {
+    try {
+        app_->parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return Explain(*app_, error);
+    }
+    run = run_;
+    return kDone;
+}
+
+} // namespace styleconv
