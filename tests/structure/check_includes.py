@@ -22,7 +22,7 @@ ALLOWED = {
     "preview": ["StyleConversion"],
     "styleconv": ["documents", "preview", "drawing", "StyleConversion"],
     "tests": ["StyleConversion", "drawing", "documents", "preview", "styleconv", "fuzz", "examples"],
-    "fuzz": ["StyleConversion", "drawing", "documents", "preview", "tests/support"],
+    "fuzz": ["StyleConversion", "drawing", "documents", "preview", "styleconv", "tests/support"],
     "benchmarks": ["StyleConversion", "drawing", "documents", "preview", "tests/support"],
     "examples": ["StyleConversion", "drawing", "documents", "tests/support"],
 }

@@ -1,0 +1,59 @@
+// A drawing document, read with what is wrong left out, to symbols.
+#include "StyleConversion/block/BlockConverter.h"
+#include "documents/DrawingReader.h"
+#include "fuzz/Documents.h"
+#include "fuzz/Fuzzing.h"
+#include "fuzz/Inputs.h"
+
+#include <string>
+
+namespace {
+
+using fuzzing::Require;
+
+// What repeats may ask for very many dashes and lines, which is no finding: the other target converts those
+// that are measured to be small.
+bool MayRepeat(std::string_view text) {
+    return text.find("dashes") != std::string_view::npos || text.find("pattern") != std::string_view::npos ||
+           text.find('\\') != std::string_view::npos;
+}
+
+std::string Converted(drawing::Database& database) {
+    BlockConverter converter(&database);
+    std::vector<std::wstring> names;
+    Require(converter.GetBlockNames(names) == 0, "a table of blocks");
+    fuzzing::Symbols symbols;
+    for (const std::wstring& name : names) {
+        symbols.emplace_back(converter.Convert(name));
+        Require(symbols.back() != nullptr, "a symbol for every block that is listed");
+    }
+    Require(database.IsEverythingClosed(), "all that was opened to be closed");
+    std::string document = fuzzing::TextOf(symbols);
+    fuzzing::RequireDocument(document, symbols.size());
+    return document;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view text = fuzzing::Text(data, size);
+    documents::DrawingFault strictFault;
+    const auto strict = documents::ReadDrawing(text, strictFault);
+    documents::DrawingFault fault;
+    documents::DrawingSlips slips;
+    const auto tolerant = documents::ReadDrawing(text, fault, &slips);
+    Require((tolerant == nullptr) == !fault.Text().empty(), "a fault with every refusal");
+    Require(strict == nullptr || (tolerant != nullptr && slips.All().empty()),
+            "nothing left out of a document that is right");
+    Require(strict != nullptr || tolerant == nullptr || !slips.All().empty(), "a word of what is left out");
+    for (const documents::DrawingSlip& slip : slips.All()) {
+        Require(!slip.fault.what.empty() && !slip.consequence.empty() && slip.count > 0,
+                "words for every slip");
+    }
+    if (tolerant == nullptr || MayRepeat(text)) {
+        return 0;
+    }
+    const std::string document = Converted(*tolerant);
+    Require(strict == nullptr || Converted(*strict) == document, "the same document from both readings");
+    return 0;
+}
