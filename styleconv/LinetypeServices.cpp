@@ -114,7 +114,10 @@ bool LinetypeServices::IsFontOption(const wchar_t* name) const {
 
 std::FILE* LinetypeServices::GetFile(const wchar_t* name, const wchar_t* extension) {
     if (IsFontOption(name)) {
-        return dependencies_.GetFile(platform::PathFromBytes(options_.font).c_str(), extension);
+        // By itself first: a path that is longer than those in files may be is found here.
+        const std::wstring font = platform::PathFromBytes(options_.font);
+        std::FILE* const stream = platform::OpenForReadingIgnoringCase(font.c_str());
+        return stream != nullptr ? stream : dependencies_.GetFile(font.c_str(), extension);
     }
     if (std::FILE* const stream = dependencies_.GetFile(name, extension)) {
         return stream;

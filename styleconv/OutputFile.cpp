@@ -23,6 +23,19 @@ std::FILE* OpenForWriting(const fs::path& path) {
 #endif
 }
 
+// A link stays one: what it points at is replaced.
+fs::path BehindLinks(const fs::path& path) {
+#if defined(_WIN32)
+    // The standard library takes a path in the system's long form for one below the current drive.
+    if (path.native().starts_with(LR"(\\?\)")) {
+        return path;
+    }
+#endif
+    std::error_code error;
+    const fs::path target = fs::weakly_canonical(path, error);
+    return error ? path : OpenablePath(target);
+}
+
 } // namespace
 
 OutputFile::OutputFile(std::string path)
@@ -44,13 +57,8 @@ bool OutputFile::Open() {
         file_ = stdout;
         return true;
     }
-    // A link stays one: what it points at is replaced.
+    target_ = BehindLinks(NativePath(path_));
     std::error_code error;
-    target_ = fs::weakly_canonical(NativePath(path_), error);
-    if (error) {
-        target_ = NativePath(path_);
-    }
-    target_ = OpenablePath(target_);
     const fs::file_status status = fs::status(target_, error);
     if (fs::is_directory(status)) {
         errno = EISDIR;

@@ -88,6 +88,9 @@ ToolResult Run(const std::vector<std::string>& arguments, const std::string& inp
             result.status = static_cast<int>(status);
             CloseHandle(process.hProcess);
             CloseHandle(process.hThread);
+        } else {
+            // It is said where the tool would have said something.
+            std::ofstream(scratch / "err") << "the tool was not started: error " << GetLastError() << '\n';
         }
     }
     result.output = BytesOf(scratch / "out");
