@@ -13,19 +13,17 @@ _styleconv() {
         mapfile -t COMPREPLY < <(compgen -W "$commands --help --version" -- "$current")
         return
     fi
-    case $previous in
-        --shapes)
-            mapfile -t COMPREPLY < <(compgen -d -- "$current")
-            return
-            ;;
-        --format)
-            local forms
-            forms=$("$tool" "$command" --help 2>/dev/null | sed -n 's/.*--format [A-Z]*:{\([a-z,]*\)}.*/\1/p')
-            mapfile -t COMPREPLY < <(compgen -W "${forms//,/ }" -- "$current")
-            return
-            ;;
-    esac
-    if [[ $current == -* ]]; then
+    if [[ $previous == --shapes ]]; then
+        mapfile -t COMPREPLY < <(compgen -d -- "$current")
+        return
+    fi
+    local choices=
+    if [[ $previous == --* ]]; then
+        choices=$("$tool" "$command" --help 2>/dev/null | sed -n "s/.*$previous [A-Z]*:{\([a-z,]*\)}.*/\1/p")
+    fi
+    if [[ -n $choices ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "${choices//,/ }" -- "$current")
+    elif [[ $current == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$(_styleconv_options "$tool" "$command")" -- "$current")
     else
         mapfile -t COMPREPLY < <(compgen -f -- "$current")

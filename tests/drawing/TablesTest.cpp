@@ -130,10 +130,10 @@ TEST(Linetypes, OneThatTheDrawingLacksIsKnownByName) {
     EXPECT_TRUE(missing == line.linetypeId());
     EXPECT_EQ(database.MissingName(line.objectId()), nullptr);
     EXPECT_EQ(database.MissingName(OxDbObjectId()), nullptr);
-    EXPECT_EQ(database.MissingName(block.Add<drawing::Line>(drawing::EntityProperties(), OxGePoint3d(),
-                                                            OxGePoint3d())
-                                       .linetypeId()),
-              nullptr);
+    EXPECT_EQ(
+        database.MissingName(
+            block.Add<drawing::Line>(drawing::EntityProperties(), OxGePoint3d(), OxGePoint3d()).linetypeId()),
+        nullptr);
 }
 
 TEST(Linetypes, OneAddedAfterTheEntityIsFound) {

@@ -89,8 +89,9 @@ ToolResult Run(const std::vector<std::string>& arguments, const std::string& inp
             CloseHandle(process.hProcess);
             CloseHandle(process.hThread);
         } else {
-            // It is said where the tool would have said something.
-            std::ofstream(scratch / "err") << "the tool was not started: error " << GetLastError() << '\n';
+            const DWORD error = GetLastError();
+            // Said where the tool would have said something.
+            std::ofstream(scratch / "err") << "the tool was not started: error " << error << '\n';
         }
     }
     result.output = BytesOf(scratch / "out");
