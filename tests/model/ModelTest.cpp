@@ -1,6 +1,7 @@
 // The symbol model keeps strings as they are given, and everything has one owner.
 #include "TylModel/TylModel.h"
 
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
@@ -90,16 +91,40 @@ TEST(Model, ADefinitionKeepsNameAndDescription) {
                                   {&SymbolDefinition::SetDescription, &SymbolDefinition::GetDescription}});
 }
 
+TEST(Model, APropertyTakesOneTextAfterAnother) {
+    // Some are texts that most symbols have, which are kept in another way.
+    Path path;
+    for (const std::wstring text : {L"%LINECOLOR%", L"ff123456", L"ff000000", L"", L"false", L"%LINECOLOR"}) {
+        path.SetLineColor(text);
+        EXPECT_EQ(path.GetLineColor(), text);
+    }
+}
+
+TEST(Model, TextsThatMostSymbolsHaveAreKeptOnce) {
+    Path first;
+    Path second;
+    for (const std::wstring text : {L"LINECOLOR", L"'Baseline'", L"Rotation angle for the hatch style"}) {
+        first.SetLineColor(text);
+        second.SetFillColor(text);
+        EXPECT_EQ(&first.GetLineColor(), &second.GetFillColor()) << "not the same place";
+    }
+    first.SetLineColor(L"LINECOLORS");
+    second.SetFillColor(L"LINECOLORS");
+    EXPECT_NE(&first.GetLineColor(), &second.GetFillColor());
+}
+
 TEST(Model, ACollectionKeepsTheOrderOfAdoption) {
     TylOwnerCollection<Parameter> collection;
     EXPECT_EQ(collection.GetCount(), 0);
-    auto* const first = new Parameter;
-    auto* const second = new Parameter;
-    EXPECT_EQ(collection.Adopt(first), 0);
-    EXPECT_EQ(collection.Adopt(second), 1);
-    EXPECT_EQ(collection.GetCount(), 2);
-    EXPECT_EQ(collection.GetAt(0), first);
-    EXPECT_EQ(collection.GetAt(1), second);
+    std::vector<Parameter*> adopted;
+    for (std::int32_t i = 0; i < 5; ++i) {
+        adopted.push_back(new Parameter);
+        EXPECT_EQ(collection.Adopt(adopted.back()), i);
+    }
+    EXPECT_EQ(collection.GetCount(), 5);
+    for (std::int32_t i = 0; i < 5; ++i) {
+        EXPECT_EQ(collection.GetAt(i), adopted[static_cast<std::size_t>(i)]);
+    }
 }
 
 TEST(Model, ADefinitionHasNoUsageUntilItAdoptsOne) {

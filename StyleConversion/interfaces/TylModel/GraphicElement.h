@@ -1,6 +1,7 @@
 // The drawable elements of a symbol: paths and texts.
 #pragma once
 
+#include "TylModel/CommonTexts.h"
 #include "TylModel/RootObject.h"
 
 #include <string>
@@ -42,24 +43,26 @@ public:
     void SetGeometry(std::wstring&& geometry) { geometry_ = std::move(geometry); }
     const std::wstring& GetGeometry() const { return geometry_; }
     /// Eight hexadecimal digits, alpha first, or a parameter reference.
-    void SetLineColor(const std::wstring& color) { lineColor_ = color; }
-    const std::wstring& GetLineColor() const { return lineColor_; }
+    void SetLineColor(const std::wstring& color) { lineColor_.Set(color); }
+    void SetLineColor(std::wstring&& color) { lineColor_.Set(std::move(color)); }
+    const std::wstring& GetLineColor() const { return lineColor_.Get(); }
     /// As the line colour.
-    void SetFillColor(const std::wstring& color) { fillColor_ = color; }
-    const std::wstring& GetFillColor() const { return fillColor_; }
+    void SetFillColor(const std::wstring& color) { fillColor_.Set(color); }
+    const std::wstring& GetFillColor() const { return fillColor_.Get(); }
     /// Millimetres, or a parameter reference.
-    void SetLineWeight(const std::wstring& weight) { lineWeight_ = weight; }
-    const std::wstring& GetLineWeight() const { return lineWeight_; }
+    void SetLineWeight(const std::wstring& weight) { lineWeight_.Set(weight); }
+    void SetLineWeight(std::wstring&& weight) { lineWeight_.Set(std::move(weight)); }
+    const std::wstring& GetLineWeight() const { return lineWeight_.Get(); }
     /// "true" when the line weight grows with the symbol, "false" when it does not.
-    void SetLineWeightScalable(const std::wstring& scalable) { lineWeightScalable_ = scalable; }
-    const std::wstring& GetLineWeightScalable() const { return lineWeightScalable_; }
+    void SetLineWeightScalable(const std::wstring& scalable) { lineWeightScalable_.Set(scalable); }
+    const std::wstring& GetLineWeightScalable() const { return lineWeightScalable_.Get(); }
 
 private:
     std::wstring geometry_;
-    std::wstring lineColor_;
-    std::wstring fillColor_;
-    std::wstring lineWeight_;
-    std::wstring lineWeightScalable_;
+    PropertyText lineColor_;
+    PropertyText fillColor_;
+    PropertyText lineWeight_;
+    PropertyText lineWeightScalable_;
 };
 
 /// One text.
@@ -86,14 +89,14 @@ public:
     void SetPositionY(const std::wstring& y) { positionY_ = y; }
     const std::wstring& GetPositionY() const { return positionY_; }
     /// "'Left'" or "'Right'"; centred when empty.
-    void SetHorizontalAlignment(const std::wstring& alignment) { horizontalAlignment_ = alignment; }
-    const std::wstring& GetHorizontalAlignment() const { return horizontalAlignment_; }
+    void SetHorizontalAlignment(const std::wstring& alignment) { horizontalAlignment_.Set(alignment); }
+    const std::wstring& GetHorizontalAlignment() const { return horizontalAlignment_.Get(); }
     /// "'Baseline'", "'Bottom'" or "'Top'"; in the middle when empty.
-    void SetVerticalAlignment(const std::wstring& alignment) { verticalAlignment_ = alignment; }
-    const std::wstring& GetVerticalAlignment() const { return verticalAlignment_; }
+    void SetVerticalAlignment(const std::wstring& alignment) { verticalAlignment_.Set(alignment); }
+    const std::wstring& GetVerticalAlignment() const { return verticalAlignment_.Get(); }
     /// As a path's colours.
-    void SetTextColor(const std::wstring& color) { textColor_ = color; }
-    const std::wstring& GetTextColor() const { return textColor_; }
+    void SetTextColor(const std::wstring& color) { textColor_.Set(color); }
+    const std::wstring& GetTextColor() const { return textColor_.Get(); }
     /// Each of the four styles is "true" or left empty.
     void SetBold(const std::wstring& bold) { bold_ = bold; }
     const std::wstring& GetBold() const { return bold_; }
@@ -111,9 +114,9 @@ private:
     std::wstring angle_;
     std::wstring positionX_;
     std::wstring positionY_;
-    std::wstring horizontalAlignment_;
-    std::wstring verticalAlignment_;
-    std::wstring textColor_;
+    PropertyText horizontalAlignment_;
+    PropertyText verticalAlignment_;
+    PropertyText textColor_;
     std::wstring bold_;
     std::wstring italic_;
     std::wstring underlined_;

@@ -1,6 +1,7 @@
 // The ordered, owning collection of the symbol model.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -17,25 +18,30 @@ public:
     /// its index. When memory runs out, std::bad_alloc is thrown and `item` has been deleted.
     std::int32_t Adopt(T* item) {
         std::unique_ptr<T> owned(item);
-        if (items_.empty()) {
-            items_.reserve(kFirstRoom);
+        if (count_ < kFirst) {
+            first_[count_] = std::move(owned);
+        } else {
+            others_.push_back(std::move(owned));
         }
-        items_.push_back(std::move(owned));
-        return static_cast<std::int32_t>(items_.size() - 1);
+        return static_cast<std::int32_t>(count_++);
     }
 
     /// The number of items.
-    std::int32_t GetCount() const { return static_cast<std::int32_t>(items_.size()); }
+    std::int32_t GetCount() const { return static_cast<std::int32_t>(count_); }
 
     /// The item at `index`, which must be from 0 to GetCount() - 1. It stays the collection's.
-    T* GetAt(std::int32_t index) const { return items_[static_cast<std::size_t>(index)].get(); }
+    T* GetAt(std::int32_t index) const {
+        const auto place = static_cast<std::size_t>(index);
+        return (place < kFirst ? first_[place] : others_[place - kFirst]).get();
+    }
 
 private:
-    // Items to make room for at first: most collections stay that small, and the smallest blocks of common
-    // allocators hold as many pointers.
-    static constexpr std::size_t kFirstRoom = 3;
+    // Most collections have no more items than these, and then take no memory of their own.
+    static constexpr std::size_t kFirst = 2;
 
-    std::vector<std::unique_ptr<T>> items_;
+    std::size_t count_ = 0;
+    std::array<std::unique_ptr<T>, kFirst> first_;
+    std::vector<std::unique_ptr<T>> others_;
 };
 
 } // namespace TylModel

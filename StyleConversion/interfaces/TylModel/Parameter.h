@@ -1,6 +1,7 @@
 // A value of a symbol that its user may override.
 #pragma once
 
+#include "TylModel/CommonTexts.h"
 #include "TylModel/RootObject.h"
 
 #include <cstdint>
@@ -24,26 +25,26 @@ public:
     ~Parameter() override;
 
     /// What expressions name between two "%". Unique within a symbol.
-    void SetIdentifier(const std::wstring& identifier) { identifier_ = identifier; }
-    const std::wstring& GetIdentifier() const { return identifier_; }
+    void SetIdentifier(const std::wstring& identifier) { identifier_.Set(identifier); }
+    const std::wstring& GetIdentifier() const { return identifier_.Get(); }
     /// The label of the parameter's control; "&" stands before the letter of its keyboard shortcut.
-    void SetDisplayName(const std::wstring& name) { displayName_ = name; }
-    const std::wstring& GetDisplayName() const { return displayName_; }
+    void SetDisplayName(const std::wstring& name) { displayName_.Set(name); }
+    const std::wstring& GetDisplayName() const { return displayName_.Get(); }
     /// What the parameter changes.
-    void SetDescription(const std::wstring& description) { description_ = description; }
-    const std::wstring& GetDescription() const { return description_; }
+    void SetDescription(const std::wstring& description) { description_.Set(description); }
+    const std::wstring& GetDescription() const { return description_.Get(); }
     /// The value, as an expression, where the user of the symbol gives none.
-    void SetDefaultValue(const std::wstring& value) { defaultValue_ = value; }
-    const std::wstring& GetDefaultValue() const { return defaultValue_; }
+    void SetDefaultValue(const std::wstring& value) { defaultValue_.Set(value); }
+    const std::wstring& GetDefaultValue() const { return defaultValue_.Get(); }
     /// How the value is meant and edited.
     void SetDataType(DataType type) { dataType_ = type; }
     DataType GetDataType() const { return dataType_; }
 
 private:
-    std::wstring identifier_;
-    std::wstring displayName_;
-    std::wstring description_;
-    std::wstring defaultValue_;
+    PropertyText identifier_;
+    PropertyText displayName_;
+    PropertyText description_;
+    PropertyText defaultValue_;
     DataType dataType_ = kText;
 };
 

@@ -1,6 +1,7 @@
 // How a symbol is used: at a point, along a line, over an area.
 #pragma once
 
+#include "TylModel/CommonTexts.h"
 #include "TylModel/RootObject.h"
 
 #include <string>
@@ -12,11 +13,11 @@ class TYLMODEL_API PointUsage : public TylRootObject {
 public:
     ~PointUsage() override;
     /// Degrees, counter-clockwise.
-    void SetAngle(const std::wstring& angle) { angle_ = angle; }
-    const std::wstring& GetAngle() const { return angle_; }
+    void SetAngle(const std::wstring& angle) { angle_.Set(angle); }
+    const std::wstring& GetAngle() const { return angle_.Get(); }
 
 private:
-    std::wstring angle_;
+    PropertyText angle_;
 };
 
 /// How a symbol is repeated along a line. Lengths are in the units of the symbol's geometry.
@@ -27,8 +28,8 @@ public:
     void SetAngle(const std::wstring& angle) { angle_ = angle; }
     const std::wstring& GetAngle() const { return angle_; }
     /// "'FromAngle'" for an angle that does not turn with the line; empty for one relative to the line.
-    void SetAngleControl(const std::wstring& control) { angleControl_ = control; }
-    const std::wstring& GetAngleControl() const { return angleControl_; }
+    void SetAngleControl(const std::wstring& control) { angleControl_.Set(control); }
+    const std::wstring& GetAngleControl() const { return angleControl_.Get(); }
     /// The distance from one repetition to the next.
     void SetRepeat(const std::wstring& repeat) { repeat_ = repeat; }
     const std::wstring& GetRepeat() const { return repeat_; }
@@ -38,7 +39,7 @@ public:
 
 private:
     std::wstring angle_;
-    std::wstring angleControl_;
+    PropertyText angleControl_;
     std::wstring repeat_;
     std::wstring startOffset_;
 };
@@ -48,8 +49,8 @@ class TYLMODEL_API AreaUsage : public TylRootObject {
 public:
     ~AreaUsage() override;
     /// Degrees, counter-clockwise, by which the tiling is turned.
-    void SetAngle(const std::wstring& angle) { angle_ = angle; }
-    const std::wstring& GetAngle() const { return angle_; }
+    void SetAngle(const std::wstring& angle) { angle_.Set(angle); }
+    const std::wstring& GetAngle() const { return angle_.Get(); }
     /// The tile's size along its own x axis.
     void SetRepeatX(const std::wstring& repeat) { repeatX_ = repeat; }
     const std::wstring& GetRepeatX() const { return repeatX_; }
@@ -58,7 +59,7 @@ public:
     const std::wstring& GetRepeatY() const { return repeatY_; }
 
 private:
-    std::wstring angle_;
+    PropertyText angle_;
     std::wstring repeatX_;
     std::wstring repeatY_;
 };

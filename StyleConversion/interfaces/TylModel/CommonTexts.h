@@ -1,0 +1,38 @@
+// The texts that most symbols have alike.
+#pragma once
+
+#include "TylModel/Export.h"
+
+#include <string>
+#include <utility>
+
+namespace TylModel {
+
+/// The one copy that is kept, for as long as the process runs, of a text that most symbols have; null for any
+/// other text. What it finds decides only how much memory a property takes.
+TYLMODEL_API const std::wstring* FindCommonText(const std::wstring& text);
+
+/// The text of a property: without memory of its own where it is one that most symbols have.
+class PropertyText {
+public:
+    void Set(const std::wstring& text) {
+        common_ = FindCommonText(text);
+        if (common_ == nullptr) {
+            own_ = text;
+        }
+    }
+    /// The same without a copy.
+    void Set(std::wstring&& text) {
+        common_ = FindCommonText(text);
+        if (common_ == nullptr) {
+            own_ = std::move(text);
+        }
+    }
+    const std::wstring& Get() const { return common_ != nullptr ? *common_ : own_; }
+
+private:
+    std::wstring own_;
+    const std::wstring* common_ = nullptr;
+};
+
+} // namespace TylModel
