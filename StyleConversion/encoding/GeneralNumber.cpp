@@ -36,6 +36,7 @@ constexpr std::array<std::uint64_t, kPowers> MakePowersOfFive() {
 }
 
 constexpr std::array<std::uint64_t, kPowers> kPowersOfFive = MakePowersOfFive();
+constexpr std::uint64_t kTenTo8 = 100'000'000;
 constexpr std::uint64_t kTenTo14 = 100'000'000'000'000;
 constexpr std::uint64_t kTenTo15 = 1'000'000'000'000'000;
 
@@ -70,7 +71,12 @@ Decimal ToDecimal(double magnitude) {
     Decimal decimal;
     decimal.exponent = exponent;
     decimal.count = kSignificantDigits;
-    for (std::size_t i = kSignificantDigits; i > 0; --i) {
+    decimal.digits.fill('0');
+    if (scaled % kTenTo8 == 0) { // as of all short decimals
+        scaled /= kTenTo8;
+        decimal.count -= 8;
+    }
+    for (auto i = static_cast<std::size_t>(decimal.count); i > 0; --i) {
         decimal.digits[i - 1] = static_cast<char>('0' + scaled % 10);
         scaled /= 10;
     }

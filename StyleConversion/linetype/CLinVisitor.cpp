@@ -100,8 +100,9 @@ void CLinVisitor::EndLinetype() {
     if (hasText_) {
         AddTextColorParameter(*simple_);
     }
-    const std::wstring repeat = NumberText(position_ * scale_);
-    AddLineUsage(*simple_).SetRepeat(repeat);
+    repeat_.clear();
+    encoding::AppendNumber(repeat_, position_ * scale_);
+    AddLineUsage(*simple_).SetRepeat(repeat_);
     simple_->SetName(name_);
 
     // Room first: nothing may fail between letting go of a symbol and keeping its address.
@@ -117,7 +118,7 @@ void CLinVisitor::EndLinetype() {
     }
     auto& members = compound_->GetSymbols();
     for (std::int32_t i = members.GetCount() - 1; i >= 0; --i) {
-        members.GetAt(i)->GetSymbolDefinition()->GetLineUsage()->SetRepeat(repeat);
+        members.GetAt(i)->GetSymbolDefinition()->GetLineUsage()->SetRepeat(repeat_);
     }
     auto dashes = std::make_unique<TylModel::SimpleSymbol>();
     dashes->AdoptSymbolDefinition(simple_.release());

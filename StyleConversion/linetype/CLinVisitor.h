@@ -60,7 +60,9 @@ private:
     std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> results_;
     std::unique_ptr<TylModel::CompoundSymbolDefinition> compound_;
     std::unique_ptr<TylModel::SimpleSymbolDefinition> simple_;
+    // Of one linetype; the storage serves the next one too.
     std::wstring dashPath_;
+    std::wstring repeat_;
     // Along the pattern, in the file's units.
     double position_ = 0.0;
     double scale_;

@@ -50,7 +50,7 @@ constexpr const wchar_t* kStandardStyle = L"STANDARD";
 
 } // namespace
 
-LinResult LinParser::ParseTextElement(const char*& cursor, LinElement& element) {
+LinResult LinParser::ParseTextElement(const char*& cursor, ComplexElement& element) {
     const char* const quote = platform::FindInMultiByte(cursor, '"');
     if (quote == nullptr) {
         return SyntaxError(LinFaultKind::kTextNotClosed, cursor);
@@ -82,7 +82,7 @@ LinResult LinParser::ParseTextElement(const char*& cursor, LinElement& element) 
 }
 
 // From the comma before the style to the mark behind it.
-LinResult LinParser::ParseStyle(const char*& cursor, LinElement& element) {
+LinResult LinParser::ParseStyle(const char*& cursor, ComplexElement& element) {
     const char* const styleStart = ++cursor;
     for (; *cursor != ',' && *cursor != ']'; ++cursor) {
         if (*cursor == 0 || *cursor == '=') {
@@ -116,7 +116,7 @@ bool LinParser::StyleIsLeftOut(const char*& cursor) {
     return isEmpty || isField;
 }
 
-LinResult LinParser::ParseShapeElement(const char*& cursor, LinElement& element) {
+LinResult LinParser::ParseShapeElement(const char*& cursor, ComplexElement& element) {
     const char* const nameStart = cursor;
     for (; *cursor != ','; ++cursor) {
         if (*cursor == 0 || *cursor == ']') {

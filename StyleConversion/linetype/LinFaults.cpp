@@ -21,9 +21,10 @@ LinFault& LinFaultLog::Add(LinResult result, LinFaultKind kind) {
     if (place_.linetype != nullptr) {
         fault.linetype = place_.linetype->name.substr(0, kLongestNameInFault);
         if (fault.element >= 1 && fault.element <= place_.linetype->elements.size()) {
-            const LinElement& element = place_.linetype->elements[fault.element - 1];
-            fault.shapeFile = element.shapeFile;
-            fault.styleName = element.styleName;
+            if (const auto& complex = place_.linetype->elements[fault.element - 1].complex) {
+                fault.shapeFile = complex->shapeFile;
+                fault.styleName = complex->styleName;
+            }
         }
     }
     faults_.push_back(std::move(fault));

@@ -40,7 +40,7 @@ LinResult AnsiToWide(std::string_view narrow, std::wstring& wide) {
         return kSuccess;
     }
     try {
-        wide = platform::AnsiToWide(narrow);
+        platform::AnsiToWide(narrow, wide);
     } catch (const std::bad_alloc&) {
         return kOutOfMemory;
     }

@@ -181,16 +181,17 @@ LinResult LinParser::ReadElement(const char*& cursor, LinElement& element) {
 }
 
 LinResult LinParser::ReadComplexElement(const char*& cursor, LinElement& element) {
+    element.complex = std::make_unique<ComplexElement>();
     ++cursor;
     SkipBlanks(cursor);
     if (*cursor == '"') {
         ++cursor;
-        if (const LinResult result = ParseTextElement(cursor, element); result != kSuccess) {
+        if (const LinResult result = ParseTextElement(cursor, *element.complex); result != kSuccess) {
             return result;
         }
         element.kind = kText;
     } else {
-        if (const LinResult result = ParseShapeElement(cursor, element); result != kSuccess) {
+        if (const LinResult result = ParseShapeElement(cursor, *element.complex); result != kSuccess) {
             return result;
         }
         element.kind = kShape;

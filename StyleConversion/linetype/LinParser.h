@@ -92,10 +92,10 @@ private:
     // Each reads one part of an element and leaves `cursor` behind it, or where it fails: from behind the
     // opening quote to the "]" after a text, from behind the "[" to the "]" after a shape, and from behind a
     // style or shape file to the "]".
-    LinResult ParseTextElement(const char*& cursor, LinElement& element);
-    LinResult ParseStyle(const char*& cursor, LinElement& element);
+    LinResult ParseTextElement(const char*& cursor, ComplexElement& element);
+    LinResult ParseStyle(const char*& cursor, ComplexElement& element);
     bool StyleIsLeftOut(const char*& cursor);
-    LinResult ParseShapeElement(const char*& cursor, LinElement& element);
+    LinResult ParseShapeElement(const char*& cursor, ComplexElement& element);
     LinResult ParseTransform(const char*& cursor, ElementTransform& transform);
     LinResult ParseTransformField(const char*& cursor, ElementTransform& transform);
     // What a loose form allows, each told to the fault log.

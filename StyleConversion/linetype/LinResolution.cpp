@@ -39,9 +39,10 @@ void LinParser::CollectReferences() {
         for (std::size_t i = 0; i < elements.size(); ++i) {
             const LinElement& element = elements[i];
             if (element.kind == kText) {
-                styleReferences_.try_emplace(element.styleName, Reference{linetype, i});
+                styleReferences_.try_emplace(element.complex->styleName, Reference{linetype, i});
             } else if (element.kind == kShape) {
-                shapeFileReferences_.try_emplace(element.shapeFile, ShapeFileReference{0, {linetype, i}})
+                shapeFileReferences_
+                    .try_emplace(element.complex->shapeFile, ShapeFileReference{0, {linetype, i}})
                     .first->second.acceptedKinds |= ShxUtility::kShapes;
             }
         }
@@ -166,20 +167,20 @@ std::optional<LinFault> LinParser::MissingFor(const LinElement& element) const {
         return found == faults.end() ? std::nullopt : std::optional<LinFault>(found->second);
     };
     if (element.kind == kShape) {
-        const auto file = shapeFiles_.find(element.shapeFile);
+        const auto file = shapeFiles_.find(element.complex->shapeFile);
         if (file != shapeFiles_.end() && file->second.kind != ShxUtility::kShapes) {
             LinFault fault;
             fault.result = kShapeFileNotLoaded;
             fault.kind = LinFaultKind::kNotAShapeFile;
-            fault.subject = element.shapeFile;
+            fault.subject = element.complex->shapeFile;
             return fault;
         }
-        return missingIn(missingFiles_, element.shapeFile);
+        return missingIn(missingFiles_, element.complex->shapeFile);
     }
     if (element.kind == kText) {
-        const auto style = fontInfos_.find(element.styleName);
+        const auto style = fontInfos_.find(element.complex->styleName);
         if (style == fontInfos_.end()) {
-            return missingIn(missingStyles_, element.styleName);
+            return missingIn(missingStyles_, element.complex->styleName);
         }
         return style->second.typeface.empty() ? missingIn(missingFiles_, style->second.fileName)
                                               : std::nullopt;

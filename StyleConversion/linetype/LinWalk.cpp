@@ -36,17 +36,17 @@ bool LinParser::WalkElement(const LinElement& element, LinStyleVisitor& visitor)
         }
         return true;
     case kShape: {
-        const auto found = shapeFiles_.find(element.shapeFile);
+        const auto found = shapeFiles_.find(element.complex->shapeFile);
         if (found == shapeFiles_.end() || found->second.kind != ShxUtility::kShapes) {
-            Fault(kShapeFileNotLoaded, LinFaultKind::kNotAShapeFile, element.shapeFile);
+            Fault(kShapeFileNotLoaded, LinFaultKind::kNotAShapeFile, element.complex->shapeFile);
             return false;
         }
-        visitor.Shape(element.shapeName, element.transform, found->second);
+        visitor.Shape(element.complex->shapeName, element.complex->transform, found->second);
         return true;
     }
     case kText:
-        if (const auto found = fontInfos_.find(element.styleName); found != fontInfos_.end()) {
-            visitor.Text(element.text, element.transform, found->second, shapeFiles_);
+        if (const auto found = fontInfos_.find(element.complex->styleName); found != fontInfos_.end()) {
+            visitor.Text(element.complex->text, element.complex->transform, found->second, shapeFiles_);
         }
         return true;
     case kNone:

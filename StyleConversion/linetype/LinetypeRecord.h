@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <memory_resource>
 #include <string>
 #include <vector>
@@ -30,11 +31,8 @@ enum LinElementKind : std::int32_t {
     kText = 3,
 };
 
-/// One element of a pattern. Which fields have a meaning depends on the kind.
-struct LinElement {
-    LinElementKind kind = kNone;
-    /// Of a dash: positive drawn, negative a gap, 0 a dot.
-    double length = 0.0;
+/// What a shape or text has beside its kind. Which names have a meaning depends on that.
+struct ComplexElement {
     /// Of a shape: its name within the file, a to z in upper case, in the file's bytes.
     std::string shapeName;
     /// Of a shape: its SHX file, a to z in upper case, without an extension where the linetype file gives
@@ -44,8 +42,16 @@ struct LinElement {
     std::string text;
     /// Of a text: its text style, a to z in upper case.
     std::wstring styleName;
-    /// Of a shape or text.
     ElementTransform transform;
+};
+
+/// One element of a pattern. Most of them are dashes, and so a dash is small.
+struct LinElement {
+    LinElementKind kind = kNone;
+    /// Of a dash: positive drawn, negative a gap, 0 a dot.
+    double length = 0.0;
+    /// Of a shape or text, also while it is still being read; null of a dash.
+    std::unique_ptr<ComplexElement> complex;
 };
 
 struct LinetypeRecord {

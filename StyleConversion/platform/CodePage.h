@@ -16,6 +16,8 @@ bool SetAnsiCodePage(const std::string& name);
 /// them back where the system allows it: as U+DC80 to U+DCFF under UTF-8, as the character of the byte's own
 /// number under every other page.
 std::wstring AnsiToWide(std::string_view narrow);
+/// The same into a string whose storage is used again.
+void AnsiToWide(std::string_view narrow, std::wstring& wide);
 
 /// Converts to bytes of the code page in force; "?" stands for a character that it cannot express.
 std::string WideToAnsi(std::wstring_view wide);

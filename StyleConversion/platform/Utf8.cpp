@@ -57,15 +57,17 @@ Decoded DecodeAt(std::string_view bytes, std::size_t position) {
     return {codePoint, length};
 }
 
-void AppendCodePoint(std::wstring& wide, std::uint32_t codePoint) {
+// Writes the one or two units of a character, and returns where the next one goes.
+wchar_t* WriteCodePoint(wchar_t* target, std::uint32_t codePoint) {
     if constexpr (sizeof(wchar_t) == 2) {
         if (codePoint >= 0x10000) {
-            wide += static_cast<wchar_t>(0xd7c0 + (codePoint >> 10));
-            wide += static_cast<wchar_t>(0xdc00 + (codePoint & 0x3ff));
-            return;
+            *target++ = static_cast<wchar_t>(0xd7c0 + (codePoint >> 10));
+            *target++ = static_cast<wchar_t>(0xdc00 + (codePoint & 0x3ff));
+            return target;
         }
     }
-    wide += static_cast<wchar_t>(codePoint);
+    *target++ = static_cast<wchar_t>(codePoint);
+    return target;
 }
 
 void AppendUtf8(std::string& bytes, std::uint32_t codePoint) {
@@ -136,18 +138,25 @@ bool IsUtf8(std::string_view bytes) {
 
 std::wstring Utf8ToWide(std::string_view bytes) {
     std::wstring wide;
-    wide.reserve(bytes.size());
+    Utf8ToWide(bytes, wide);
+    return wide;
+}
+
+void Utf8ToWide(std::string_view bytes, std::wstring& wide) {
+    wide.resize(bytes.size()); // No character has more units than bytes.
+    wchar_t* target = wide.data();
     for (std::size_t position = 0; position < bytes.size();) {
-        const Decoded decoded = DecodeAt(bytes, position);
+        const auto byte = static_cast<std::uint8_t>(bytes[position]);
+        const Decoded decoded = byte < 0x80 ? Decoded{byte, 1} : DecodeAt(bytes, position);
         if (decoded.length == 0) {
-            wide += static_cast<wchar_t>(kEscapedByte + static_cast<std::uint8_t>(bytes[position]));
+            *target++ = static_cast<wchar_t>(kEscapedByte + byte);
             ++position;
         } else {
-            AppendCodePoint(wide, decoded.codePoint);
+            target = WriteCodePoint(target, decoded.codePoint);
             position += decoded.length;
         }
     }
-    return wide;
+    wide.resize(static_cast<std::size_t>(target - wide.data()));
 }
 
 std::string WideToUtf8Bytes(std::wstring_view wide) {

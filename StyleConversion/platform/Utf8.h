@@ -12,6 +12,8 @@ bool IsUtf8(std::string_view bytes);
 /// Decodes UTF-8. Each byte that belongs to no valid sequence becomes the lone surrogate U+DC00 + byte, which
 /// WideToUtf8Bytes turns back into that byte: any bytes survive the round trip.
 std::wstring Utf8ToWide(std::string_view bytes);
+/// The same into a string whose storage is used again.
+void Utf8ToWide(std::string_view bytes, std::wstring& wide);
 
 /// Encodes as UTF-8, with U+DC80 to U+DCFF standing for single bytes as above.
 std::string WideToUtf8Bytes(std::wstring_view wide);

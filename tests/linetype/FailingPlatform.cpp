@@ -43,6 +43,10 @@ std::wstring AnsiToWide(std::string_view narrow) {
     return {narrow.begin(), narrow.end()};
 }
 
+void AnsiToWide(std::string_view narrow, std::wstring& wide) {
+    wide = AnsiToWide(narrow);
+}
+
 std::string WideToAnsi(std::wstring_view /*wide*/) {
     return {};
 }

@@ -94,18 +94,18 @@ protected:
 
 TEST_F(LinElementNames, RadiansAreMultipliedExactly) {
     ASSERT_EQ(Parse("*X\nA,[m,marks.shx,R=1r]\n"), LineConverter::kSuccess);
-    EXPECT_EQ(parser.linetypes()[0].elements[0].transform.relativeRotation, 0.017453292519943295);
+    EXPECT_EQ(parser.linetypes()[0].elements[0].complex->transform.relativeRotation, 0.017453292519943295);
 }
 
 TEST_F(LinElementNames, RotationThatIsNotGivenIsNotANumber) {
     ASSERT_EQ(Parse("*X\nA,[m,marks.shx]\n"), LineConverter::kSuccess);
-    EXPECT_TRUE(std::isnan(parser.linetypes()[0].elements[0].transform.absoluteRotation));
+    EXPECT_TRUE(std::isnan(parser.linetypes()[0].elements[0].complex->transform.absoluteRotation));
 }
 
 TEST_F(LinElementNames, OnlyTheLettersAToZBecomeUpperCase) {
     styles.AddTrueType(L"ST\u00E9", L"Other");
     EXPECT_EQ(Elements("A,[\"a\",st\xC3\xA9]"), "text a in Other of 0 at nan 0 1 0 0;");
-    EXPECT_EQ(parser.linetypes()[0].elements[0].styleName, L"ST\u00E9");
+    EXPECT_EQ(parser.linetypes()[0].elements[0].complex->styleName, L"ST\u00E9");
     EXPECT_EQ(Elements("A,[m\xC3\xA9,marks.shx]"), "shape M\xC3\xA9 of 2 at nan 0 1 0 0;");
 }
 
@@ -113,7 +113,7 @@ TEST_F(LinElementNames, QuoteWithinADoubleByteCharacterDoesNotCloseTheText) {
     // 0x83 begins a double-byte character in this code page, whose second byte is here the quote's code.
     ASSERT_TRUE(platform::SetAnsiCodePage("SHIFT_JIS"));
     ASSERT_EQ(Parse("*X\nA,[\"\x83\"b\",ST]\n"), LineConverter::kSuccess);
-    EXPECT_EQ(parser.linetypes()[0].elements[0].text, "\x83\"b");
+    EXPECT_EQ(parser.linetypes()[0].elements[0].complex->text, "\x83\"b");
     ASSERT_TRUE(platform::SetAnsiCodePage("WINDOWS-1252"));
     EXPECT_EQ(Parse("*X\nA,[\"\x83\"b\",ST]\n"), LineConverter::kSyntaxError);
 }

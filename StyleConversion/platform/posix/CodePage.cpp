@@ -149,6 +149,14 @@ std::wstring AnsiToWide(std::string_view narrow) {
     return Current() ? Decode(*Current(), narrow) : Utf8ToWide(narrow);
 }
 
+void AnsiToWide(std::string_view narrow, std::wstring& wide) {
+    if (Current()) {
+        wide = Decode(*Current(), narrow);
+    } else {
+        Utf8ToWide(narrow, wide);
+    }
+}
+
 std::string WideToAnsi(std::wstring_view wide) {
     return Current() ? Encode(*Current(), wide) : WideToUtf8Bytes(wide);
 }

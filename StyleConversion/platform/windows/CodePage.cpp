@@ -102,6 +102,14 @@ std::wstring AnsiToWide(std::string_view narrow) {
     return wide;
 }
 
+void AnsiToWide(std::string_view narrow, std::wstring& wide) {
+    if (Current() == CP_UTF8) {
+        Utf8ToWide(narrow, wide);
+    } else {
+        wide = AnsiToWide(narrow);
+    }
+}
+
 std::string WideToAnsi(std::wstring_view wide) {
     if (Current() == CP_UTF8) {
         return WideToUtf8Bytes(wide);
