@@ -13,6 +13,14 @@ namespace {
 
 /// In place, the control points of the part before `fraction`.
 void KeepBefore(Point* points, double* weights, std::size_t order, double fraction) {
+    if (weights == nullptr) { // The same without a question at each point.
+        for (std::size_t round = 1; round < order; ++round) {
+            for (std::size_t index = order - 1; index >= round; --index) {
+                points[index] = Between(points[index - 1], points[index], fraction);
+            }
+        }
+        return;
+    }
     for (std::size_t round = 1; round < order; ++round) {
         for (std::size_t index = order - 1; index >= round; --index) {
             Blend(points, weights, index - 1, index, index, fraction);
@@ -22,6 +30,14 @@ void KeepBefore(Point* points, double* weights, std::size_t order, double fracti
 
 /// In place, the control points of the part after `fraction`.
 void KeepAfter(Point* points, double* weights, std::size_t order, double fraction) {
+    if (weights == nullptr) {
+        for (std::size_t round = 1; round < order; ++round) {
+            for (std::size_t index = 0; index + round < order; ++index) {
+                points[index] = Between(points[index], points[index + 1], fraction);
+            }
+        }
+        return;
+    }
     for (std::size_t round = 1; round < order; ++round) {
         for (std::size_t index = 0; index + round < order; ++index) {
             Blend(points, weights, index, index + 1, index, fraction);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace geometry {
 
@@ -21,6 +22,13 @@ constexpr double kSmallestStep = 1e-13;
 constexpr double kProved = 0.999;
 constexpr double kRefuted = 0.97;
 
+/// A part of a cubic is nowhere further from its chord than 3/4 of the further one of its two inner control
+/// points. Quick answers keep away from the bounds above by this share of a squared distance, and are given
+/// only for tolerances so many times the rounding of the coordinates that it does not come near that.
+constexpr double kSquaredShareOfHandles = 0.75 * 0.75;
+constexpr double kQuickMargin = 0.001;
+constexpr double kQuickTolerance = 1e6;
+
 /// Halvings after which an undecided piece counts as refuted.
 constexpr int kDeepest = 40;
 
@@ -30,17 +38,26 @@ constexpr int kNarrowings = 4;
 /// A kink is taken as the next sample when the curve goes past it by less than this part of the step.
 constexpr double kKinkShare = 0.25;
 
-double SquaredDistanceToSegment(Point point, Point start, Point end) {
-    const Vector along = end - start;
-    const Vector across = point - start;
-    const double squaredLength = Dot(along, along);
-    if (!(squaredLength > 0.0)) {
-        return Dot(across, across);
+/// A straight line between two points of the curve.
+class Chord {
+public:
+    Chord(Point start, Point end) : start_(start), along_(end - start), squaredLength_(Dot(along_, along_)) {}
+
+    double SquaredDistanceTo(Point point) const {
+        const Vector across = point - start_;
+        if (!(squaredLength_ > 0.0)) {
+            return Dot(across, across);
+        }
+        const double fraction = std::clamp(Dot(across, along_) / squaredLength_, 0.0, 1.0);
+        const Vector rest = across - fraction * along_;
+        return Dot(rest, rest);
     }
-    const double fraction = std::clamp(Dot(across, along) / squaredLength, 0.0, 1.0);
-    const Vector rest = across - fraction * along;
-    return Dot(rest, rest);
-}
+
+private:
+    Point start_;
+    Vector along_;
+    double squaredLength_;
+};
 
 /// The first control point that differs from `points[from]`, going up or down; that point itself if none
 /// does.
@@ -64,15 +81,31 @@ bool HasKink(const BezierChain& chain, std::size_t piece) {
     return std::fabs(Cross(in, out)) > kSameDirection * Length(in) * Length(out) || Dot(in, out) < 0.0;
 }
 
+/// The distance below which points of the chain cannot be told from rounding.
+double RoundingOf(const BezierChain& chain) {
+    double magnitude = 0.0;
+    for (const Point& point : chain.points) {
+        magnitude = std::max(magnitude, std::max(std::fabs(point.x), std::fabs(point.y)));
+    }
+    return 64.0 * std::numeric_limits<double>::epsilon() * magnitude;
+}
+
+/// Where a step along the curve begins.
+struct CurveStart {
+    double position = 0.0;
+    Point point;
+};
+
 class Sampler {
 public:
     explicit Sampler(const BezierChain& chain)
-        : chain_(chain), stack_(chain), kinks_(PieceCount(chain), false) {
+        : chain_(chain), stack_(chain), kinks_(PieceCount(chain), false), rounding_(RoundingOf(chain)) {
         for (std::size_t piece = 1; piece < PieceCount(chain); ++piece) {
             kinks_[piece] = HasKink(chain, piece);
         }
     }
 
+    double Rounding() const { return rounding_; }
     double PositionOf(double parameter) const;
     CurveSample At(double position) const;
     /// False when more than `most` samples are needed; `reached` is then how far they went.
@@ -80,9 +113,11 @@ public:
              double& reached);
 
 private:
-    bool StaysWithin(double from, double to);
-    double LongestStep(double from, double most, double guess);
-    double MovedToKink(double from, double to);
+    bool StaysWithin(const CurveStart& from, double to);
+    std::optional<bool> QuickAnswer(const Chord& chord) const;
+    bool StaysNear(const Chord& chord);
+    double LongestStep(const CurveStart& from, double most, double guess);
+    double MovedToKink(const CurveStart& from, double to);
 
     std::size_t PieceAt(double position) const {
         return std::min(static_cast<std::size_t>(position), PieceCount(chain_) - 1);
@@ -95,8 +130,10 @@ private:
     const BezierChain& chain_;
     BezierStack stack_;
     std::vector<bool> kinks_; ///< by piece: at its start
+    double rounding_;         ///< of the coordinates
     double proved_ = 0.0;     ///< squared distances
     double refuted_ = 0.0;
+    bool quick_ = false; ///< whether there are quick answers
 };
 
 double Sampler::PositionOf(double parameter) const {
@@ -119,29 +156,61 @@ CurveSample Sampler::At(double position) const {
 
 /// Whether the curve between two positions stays within the tolerance of the chord. The distance to a segment
 /// is a convex function, so a piece is nowhere further away than the furthest of its control points.
-bool Sampler::StaysWithin(double from, double to) {
-    const Point start = PointAt(from);
-    const Point end = PointAt(to);
+bool Sampler::StaysWithin(const CurveStart& from, double to) {
     stack_.Clear();
-    for (std::size_t piece = PieceAt(from); static_cast<double>(piece) < to && piece < PieceCount(chain_);
-         ++piece) {
+    const std::size_t first = PieceAt(from.position);
+    if (const auto base = static_cast<double>(first); to <= base + 1.0) {
+        // All within one piece: its part ends at the very point at which the chord does.
+        stack_.Push(first, from.position - base, to - base);
+        const Chord chord(from.point, stack_.TopPoints().back());
+        const std::optional<bool> answer = QuickAnswer(chord);
+        return answer ? *answer : StaysNear(chord);
+    }
+    const Chord chord(from.point, PointAt(to));
+    for (std::size_t piece = first; static_cast<double>(piece) < to && piece < PieceCount(chain_); ++piece) {
         const auto base = static_cast<double>(piece);
-        stack_.Push(piece, std::max(from - base, 0.0), std::min(to - base, 1.0));
-        while (!stack_.IsEmpty()) {
-            const std::span<const Point> points = stack_.TopPoints();
-            double furthest = 0.0;
-            for (const Point& point : points) {
-                furthest = std::max(furthest, SquaredDistanceToSegment(point, start, end));
-            }
-            if (furthest <= proved_) {
-                stack_.Pop();
-                continue;
-            }
-            if (SquaredDistanceToSegment(points.front(), start, end) > refuted_ ||
-                SquaredDistanceToSegment(points.back(), start, end) > refuted_ ||
-                stack_.TopDepth() == kDeepest) {
-                return false;
-            }
+        stack_.Push(piece, std::max(from.position - base, 0.0), std::min(to - base, 1.0));
+        if (!StaysNear(chord)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// The same of the one piece on the stack, a part of a cubic with its ends on the chord's: what halving would
+/// find out after a while, unless it is close. Halving never proves a piece with a point further away than
+/// kProved, and never refutes one without a point further away than kRefuted.
+std::optional<bool> Sampler::QuickAnswer(const Chord& chord) const {
+    if (!quick_) {
+        return std::nullopt;
+    }
+    const std::span<const Point> points = stack_.TopPoints();
+    const double handles = std::max(chord.SquaredDistanceTo(points[1]), chord.SquaredDistanceTo(points[2]));
+    if (kSquaredShareOfHandles * handles <= (1.0 - kQuickMargin) * refuted_) {
+        return true;
+    }
+    const Point middle = 0.125 * (points[0] + points[3]) + 0.375 * (points[1] + points[2]);
+    if (chord.SquaredDistanceTo(middle) > (1.0 + kQuickMargin) * proved_) {
+        return false;
+    }
+    return std::nullopt;
+}
+
+/// The same of the pieces on the stack, which is empty after a yes.
+bool Sampler::StaysNear(const Chord& chord) {
+    while (!stack_.IsEmpty()) {
+        const std::span<const Point> points = stack_.TopPoints();
+        const double first = chord.SquaredDistanceTo(points.front());
+        const double last = chord.SquaredDistanceTo(points.back());
+        double furthest = std::max({0.0, first, last});
+        for (std::size_t index = 1; index + 1 < points.size(); ++index) {
+            furthest = std::max(furthest, chord.SquaredDistanceTo(points[index]));
+        }
+        if (furthest <= proved_) {
+            stack_.Pop();
+        } else if (first > refuted_ || last > refuted_ || stack_.TopDepth() == kDeepest) {
+            return false;
+        } else {
             stack_.HalveTop();
         }
     }
@@ -150,17 +219,18 @@ bool Sampler::StaysWithin(double from, double to) {
 
 /// The longest step from a position, at most `most`, that keeps within the tolerance, to kNarrowings
 /// halvings.
-double Sampler::LongestStep(double from, double most, double guess) {
-    const double smallest = std::max(kSmallestStep, 4.0 * std::numeric_limits<double>::epsilon() * from);
+double Sampler::LongestStep(const CurveStart& from, double most, double guess) {
+    const double position = from.position;
+    const double smallest = std::max(kSmallestStep, 4.0 * std::numeric_limits<double>::epsilon() * position);
     double good = std::min(guess, most);
     double bad = 0.0;
-    if (StaysWithin(from, from + good)) {
+    if (StaysWithin(from, position + good)) {
         while (bad == 0.0) {
             if (good == most) {
                 return most;
             }
             const double longer = std::min(2.0 * good, most);
-            (StaysWithin(from, from + longer) ? good : bad) = longer;
+            (StaysWithin(from, position + longer) ? good : bad) = longer;
         }
     } else {
         do {
@@ -169,24 +239,24 @@ double Sampler::LongestStep(double from, double most, double guess) {
             if (good < smallest) {
                 return std::min(smallest, most);
             }
-        } while (!StaysWithin(from, from + good));
+        } while (!StaysWithin(from, position + good));
     }
     for (int round = 0; round < kNarrowings; ++round) {
         const double middle = 0.5 * (good + bad);
-        (StaysWithin(from, from + middle) ? good : bad) = middle;
+        (StaysWithin(from, position + middle) ? good : bad) = middle;
     }
     return good;
 }
 
 /// The last kink between two positions where it lies close before the second, else the second.
-double Sampler::MovedToKink(double from, double to) {
-    for (std::size_t piece = PieceAt(to); static_cast<double>(piece) > from; --piece) {
+double Sampler::MovedToKink(const CurveStart& from, double to) {
+    for (std::size_t piece = PieceAt(to); static_cast<double>(piece) > from.position; --piece) {
         if (!kinks_[piece]) {
             continue;
         }
         const auto kink = static_cast<double>(piece);
         const Point point = PointAt(kink);
-        const bool close = Distance(point, PointAt(to)) <= kKinkShare * Distance(PointAt(from), point);
+        const bool close = Distance(point, PointAt(to)) <= kKinkShare * Distance(from.point, point);
         return close && StaysWithin(from, kink) ? kink : to;
     }
     return to;
@@ -196,6 +266,7 @@ bool Sampler::Run(double start, double end, double tolerance, std::size_t most,
                   std::vector<CurveSample>& samples, double& reached) {
     proved_ = (kProved * tolerance) * (kProved * tolerance);
     refuted_ = (kRefuted * tolerance) * (kRefuted * tolerance);
+    quick_ = chain_.degree == 3 && !IsRational(chain_) && tolerance > kQuickTolerance * rounding_;
     samples.clear();
     samples.push_back(At(start));
     double step = 1.0;
@@ -204,21 +275,13 @@ bool Sampler::Run(double start, double end, double tolerance, std::size_t most,
         if (samples.size() == most) {
             return false;
         }
-        step = LongestStep(reached, end - reached, step);
+        const CurveStart from{reached, samples.back().point};
+        step = LongestStep(from, end - reached, step);
         const double furthest = reached + step;
-        reached = furthest < end ? MovedToKink(reached, furthest) : end;
+        reached = furthest < end ? MovedToKink(from, furthest) : end;
         samples.push_back(At(reached));
     }
     return true;
-}
-
-/// The distance below which points of the chain cannot be told from rounding.
-double RoundingOf(const BezierChain& chain) {
-    double magnitude = 0.0;
-    for (const Point& point : chain.points) {
-        magnitude = std::max(magnitude, std::max(std::fabs(point.x), std::fabs(point.y)));
-    }
-    return 64.0 * std::numeric_limits<double>::epsilon() * magnitude;
 }
 
 } // namespace
@@ -234,7 +297,7 @@ double SamplePoints(const NurbsCurve& curve, double start, double end, double to
     Sampler sampler(chain);
     const double from = sampler.PositionOf(std::clamp(start, interval.start, interval.end));
     const double to = sampler.PositionOf(std::clamp(end, interval.start, interval.end));
-    const double least = RoundingOf(chain);
+    const double least = sampler.Rounding();
     double held = tolerance >= least ? tolerance : least;
     const std::size_t most = kSamplesPerCurve + kSamplesPerPiece * PieceCount(chain);
     double reached = from;
