@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class OxCmColor;
@@ -166,7 +167,8 @@ private:
     std::wstring Int2TylString(std::int32_t value) const;
     std::wstring Lineweight2TylString(OxDb::LineWeight lineWeight) const;
     std::wstring Color2TylString(const OxCmColor& color) const;
-    void AppendPoint(std::wstring& path, const OxGePoint2d& point) const;
+    // The command and the point behind it.
+    void AppendPoint(std::wstring& path, std::wstring_view command, const OxGePoint2d& point) const;
     void AppendLineToString(std::wstring* path, const OxGePoint2d& from, const OxGePoint2d& to) const;
     void AppendArcString(std::wstring* path, double radiusX, double radiusY, double rotation, bool largeArc,
                          bool sweep, const OxGePoint2d& end) const;

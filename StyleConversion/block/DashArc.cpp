@@ -3,6 +3,7 @@
 
 #include "StyleConversion/block/Angles.h"
 #include "StyleConversion/block/DashFit.h"
+#include "StyleConversion/encoding/ScaledPath.h"
 
 #include <cmath>
 
@@ -13,8 +14,7 @@ void BlockConverter::ParseDashArc(const OxDbLinetypeTableRecord* linetype, const
     const auto arcTo = [&](const OxGePoint2d& point, double step) {
         AppendArcString(&path, radius, radius, 0.0, step >= block::kPi, clockwise, point);
     };
-    path += path.empty() ? L"M " : L" M ";
-    AppendPoint(path, start);
+    AppendPoint(path, path.empty() ? encoding::kFirstMove : encoding::kMove, start);
     if (!block::HasDashes(linetype)) {
         arcTo(end, sweep);
         return;
@@ -31,8 +31,7 @@ void BlockConverter::ParseDashArc(const OxDbLinetypeTableRecord* linetype, const
             const double step = std::fabs(length) / radius;
             current = travel.From(current, step);
             if (length <= 0.0) {
-                path += length < 0.0 ? L" M " : L" L ";
-                AppendPoint(path, current);
+                AppendPoint(path, length < 0.0 ? encoding::kMove : encoding::kLine, current);
             } else {
                 arcTo(current, step);
             }

@@ -3,16 +3,13 @@
 
 #include "StyleConversion/block/Angles.h"
 #include "StyleConversion/block/DashFit.h"
+#include "StyleConversion/encoding/ScaledPath.h"
 
 void BlockConverter::ParseDashLine(const OxDbLinetypeTableRecord* linetype, const OxGePoint2d& start,
                                    const OxGePoint2d& end, std::wstring& path,
                                    std::wstring& shapePath) const {
-    const auto lineTo = [&](const OxGePoint2d& point) {
-        path += L" L ";
-        AppendPoint(path, point);
-    };
-    path += path.empty() ? L"M " : L" M ";
-    AppendPoint(path, start);
+    const auto lineTo = [&](const OxGePoint2d& point) { AppendPoint(path, encoding::kLine, point); };
+    AppendPoint(path, path.empty() ? encoding::kFirstMove : encoding::kMove, start);
     if (!block::HasDashes(linetype)) {
         lineTo(end);
         return;
@@ -29,9 +26,8 @@ void BlockConverter::ParseDashLine(const OxDbLinetypeTableRecord* linetype, cons
         for (int i = first; i < linetype->numDashes(); ++i) {
             const double length = linetype->dashLengthAt(i);
             const bool gap = length < 0.0;
-            path += gap ? L" M " : L" L ";
             current = direction.From(current, gap ? -length : length);
-            AppendPoint(path, current);
+            AppendPoint(path, gap ? encoding::kMove : encoding::kLine, current);
             DrawDashShape(*linetype, i, current, angle, 1.0, shapePath);
         }
         first = 0;

@@ -3,6 +3,7 @@
 #include "OxDb/OxGeCurve2d.h"
 #include "StyleConversion/block/Angles.h"
 #include "StyleConversion/block/BlockConverter.h"
+#include "StyleConversion/encoding/ScaledPath.h"
 
 // Writes the edges of one loop in order; what is neither segment nor arc adds nothing.
 class BlockConverter::EdgeLoopWriter {
@@ -50,16 +51,12 @@ private:
     }
 
     void MoveTo(const OxGePoint2d& start) {
-        if (!started_) {
-            // No blank, also behind the loop before: the output is wanted so.
-            path_ += L"M ";
-        } else if (!start.isEqualTo(current_)) {
-            path_ += L" M ";
-        } else {
+        if (started_ && start.isEqualTo(current_)) {
             return;
         }
+        // No blank, also behind the loop before: the output is wanted so.
+        converter_.AppendPoint(path_, started_ ? encoding::kMove : encoding::kFirstMove, start);
         started_ = true;
-        converter_.AppendPoint(path_, start);
     }
 
     const BlockConverter& converter_;

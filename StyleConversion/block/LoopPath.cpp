@@ -2,14 +2,14 @@
 #include "StyleConversion/block/LoopPath.h"
 
 #include "StyleConversion/block/BlockConverter.h"
+#include "StyleConversion/encoding/ScaledPath.h"
 
 void BlockConverter::AppendLoop(std::wstring& path, const OxGePoint2dArray& vertices,
                                 const OxGeDoubleArray& bulges) const {
     if (vertices.length() <= 2) {
         return;
     }
-    path += path.empty() ? L"M " : L" M ";
-    AppendPoint(path, vertices[0]);
+    AppendPoint(path, path.empty() ? encoding::kFirstMove : encoding::kMove, vertices[0]);
     // There is no segment back to the first vertex: filling closes the figure.
     for (int i = 1; i < vertices.length(); ++i) {
         const double bulge = block::BulgeAt(bulges, i - 1);
@@ -17,8 +17,7 @@ void BlockConverter::AppendLoop(std::wstring& path, const OxGePoint2dArray& vert
             const auto arc = block::ArcOfBulge(bulge, vertices[i - 1].distanceTo(vertices[i]));
             AppendArcString(&path, arc.radius, arc.radius, 0.0, arc.large, arc.sweep, vertices[i]);
         } else {
-            path += L" L ";
-            AppendPoint(path, vertices[i]);
+            AppendPoint(path, encoding::kLine, vertices[i]);
         }
     }
 }

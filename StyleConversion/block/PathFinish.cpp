@@ -5,6 +5,8 @@
 #include "StyleConversion/block/BlockSymbol.h"
 #include "StyleConversion/encoding/ValueForms.h"
 
+#include <utility>
+
 void BlockConverter::FinishStroke(const OxDbBlockTableRecord& record, const OxDbEntity& entity,
                                   block::BlockSymbol& symbol) const {
     auto& [path, shapes] = symbol.CurrentPath();
@@ -13,14 +15,15 @@ void BlockConverter::FinishStroke(const OxDbBlockTableRecord& record, const OxDb
         path += shapes;
     }
     // Resolved also for an entity without geometry: the parameters are wanted then too.
-    const std::wstring color = GetEntityColor(record, entity, entity.color(), symbol);
-    const std::wstring lineWeight = GetEntityLineweight(record, entity, symbol);
+    std::wstring color = GetEntityColor(record, entity, entity.color(), symbol);
+    std::wstring lineWeight = GetEntityLineweight(record, entity, symbol);
     if (path.empty()) {
         return;
     }
+    static const std::wstring no = encoding::BooleanString(false);
     auto graphic = symbol.MakePath();
-    graphic->SetLineColor(color);
-    graphic->SetLineWeight(lineWeight);
-    graphic->SetLineWeightScalable(encoding::BooleanString(false));
+    graphic->SetLineColor(std::move(color));
+    graphic->SetLineWeight(std::move(lineWeight));
+    graphic->SetLineWeightScalable(no);
     symbol.Adopt(std::move(graphic));
 }

@@ -1,6 +1,7 @@
 #include "StyleConversion/block/PolylineWalk.h"
 
 #include "StyleConversion/block/Limits.h"
+#include "StyleConversion/encoding/ScaledPath.h"
 
 #include <cmath>
 #include <cstddef>
@@ -59,8 +60,7 @@ void BlockConverter::PolylineWalk::Start(const OxGePoint2d& point) {
     started_ = true;
     current_ = point;
     std::wstring& path = geometry_.path;
-    path += path.empty() ? L"M " : L" M ";
-    converter_.AppendPoint(path, point);
+    converter_.AppendPoint(path, path.empty() ? encoding::kFirstMove : encoding::kMove, point);
 }
 
 void BlockConverter::PolylineWalk::EmitEntry(const block::PolylineSegment& segment,
@@ -71,8 +71,8 @@ void BlockConverter::PolylineWalk::EmitEntry(const block::PolylineSegment& segme
     if (segment.isArc && remaining_ > 0.0) {
         ArcTo(segment, step, current_);
     } else {
-        geometry_.path += remaining_ >= 0.0 ? L" L " : L" M ";
-        converter_.AppendPoint(geometry_.path, current_);
+        converter_.AppendPoint(geometry_.path, remaining_ >= 0.0 ? encoding::kLine : encoding::kMove,
+                               current_);
     }
     DrawShape(segment, angle);
 }
@@ -121,8 +121,7 @@ void BlockConverter::PolylineWalk::CutAtEnd(const block::PolylineSegment& segmen
             LineTo(segment.end);
         }
     } else if (remaining_ < 0.0) {
-        geometry_.path += L" M ";
-        converter_.AppendPoint(geometry_.path, segment.end);
+        converter_.AppendPoint(geometry_.path, encoding::kMove, segment.end);
         remaining_ += left;
     } else if (segment.isArc) {
         // Judged from the whole entry, which starts again at full length behind the arc: the output is wanted
@@ -135,8 +134,7 @@ void BlockConverter::PolylineWalk::CutAtEnd(const block::PolylineSegment& segmen
 }
 
 void BlockConverter::PolylineWalk::LineTo(const OxGePoint2d& point) {
-    geometry_.path += L" L ";
-    converter_.AppendPoint(geometry_.path, point);
+    converter_.AppendPoint(geometry_.path, encoding::kLine, point);
 }
 
 void BlockConverter::PolylineWalk::ArcTo(const block::PolylineSegment& segment, double angle,

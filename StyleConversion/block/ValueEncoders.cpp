@@ -13,7 +13,7 @@ std::wstring BlockConverter::Double2TylString(double value) const {
 
 std::wstring BlockConverter::Point2TylString(const OxGePoint2d& point) const {
     std::wstring text;
-    AppendPoint(text, point);
+    AppendPoint(text, L"", point);
     return text;
 }
 
@@ -29,8 +29,9 @@ std::wstring BlockConverter::Color2TylString(const OxCmColor& color) const {
     return encoding::ColorString(OxCmEntityColor::trueColor(color.entityColor()));
 }
 
-void BlockConverter::AppendPoint(std::wstring& path, const OxGePoint2d& point) const {
-    encoding::AppendPoint(path, {point.x, point.y}, scale_);
+void BlockConverter::AppendPoint(std::wstring& path, std::wstring_view command,
+                                 const OxGePoint2d& point) const {
+    encoding::AppendPoint(path, command, {point.x, point.y}, scale_);
 }
 
 void BlockConverter::AppendLineToString(std::wstring* path, const OxGePoint2d& from,

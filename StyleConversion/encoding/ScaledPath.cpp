@@ -1,6 +1,6 @@
 #include "StyleConversion/encoding/ScaledPath.h"
 
-#include "StyleConversion/encoding/TrimmedNumber.h"
+#include "StyleConversion/encoding/PathPiece.h"
 
 #include <cmath>
 
@@ -12,36 +12,33 @@ constexpr double kTolerance = 1e-6;
 
 } // namespace
 
-void AppendPoint(std::wstring& path, Point point, double scale) {
-    AppendTrimmed(path, point.x * scale);
-    path += L',';
-    AppendTrimmed(path, point.y * scale);
+void AppendPoint(std::wstring& path, std::wstring_view command, Point point, double scale) {
+    PathPiece().Words(command).Pair(point.x * scale, point.y * scale).AppendTo(path);
 }
 
 void AppendLineToString(std::wstring& path, Point from, Point to, double scale) {
     const double dx = std::fabs(from.x - to.x);
     const double dy = std::fabs(from.y - to.y);
     if ((dx < kTolerance && dy < kTolerance) || (dx > kTolerance && dy > kTolerance)) {
-        path += L" L ";
-        AppendPoint(path, to, scale);
+        AppendPoint(path, kLine, to, scale);
     } else if (dx < kTolerance) {
-        path += L" v ";
-        AppendTrimmed(path, (to.y - from.y) * scale);
+        PathPiece().Words(L" v ").Number((to.y - from.y) * scale).AppendTo(path);
     } else if (dy < kTolerance) {
-        path += L" h ";
-        AppendTrimmed(path, (to.x - from.x) * scale);
+        PathPiece().Words(L" h ").Number((to.x - from.x) * scale).AppendTo(path);
     }
 }
 
 void AppendArcString(std::wstring& path, double radiusX, double radiusY, double rotation, bool largeArc,
                      bool sweep, Point end, double scale) {
-    path += L" A ";
-    AppendPoint(path, {radiusX, radiusY}, scale);
-    path += L' ';
-    AppendTrimmed(path, rotation);
-    path += largeArc ? L" 1" : L" 0";
-    path += sweep ? L" 1 " : L" 0 ";
-    AppendPoint(path, end, scale);
+    PathPiece()
+        .Words(L" A ")
+        .Pair(radiusX * scale, radiusY * scale)
+        .Words(L" ")
+        .Number(rotation)
+        .Words(largeArc ? L" 1" : L" 0")
+        .Words(sweep ? L" 1 " : L" 0 ")
+        .Pair(end.x * scale, end.y * scale)
+        .AppendTo(path);
 }
 
 } // namespace encoding

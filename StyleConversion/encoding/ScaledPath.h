@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace encoding {
 
@@ -12,8 +13,13 @@ struct Point {
     double y = 0.0;
 };
 
-/// "x,y", each multiplied by `scale`.
-void AppendPoint(std::wstring& path, Point point, double scale);
+/// The commands that a point follows. The first move stands at a path's start.
+inline constexpr std::wstring_view kFirstMove = L"M ";
+inline constexpr std::wstring_view kMove = L" M ";
+inline constexpr std::wstring_view kLine = L" L ";
+
+/// The command and "x,y", each multiplied by `scale`.
+void AppendPoint(std::wstring& path, std::wstring_view command, Point point, double scale);
 
 /// " L x,y" to `to`, or, where the segment is vertical or horizontal within 1e-6 drawing units, the relative
 /// " v dy" or " h dx". Where one difference equals 1e-6 exactly and the other exceeds it, nothing is written

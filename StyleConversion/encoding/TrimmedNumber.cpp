@@ -3,65 +3,86 @@
 
 #include "StyleConversion/encoding/BinaryParts.h"
 #include "StyleConversion/encoding/WideProduct.h"
-#include "StyleConversion/encoding/Widening.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
-#include <cstddef>
+#include <cmath>
 #include <cstdint>
 
 namespace encoding {
 namespace {
 
-constexpr std::size_t kDecimals = 5;
-
-// Sign, 309 digits before the point, the point, the decimals: the longest text of a finite double.
-constexpr std::size_t kLongestText = 1 + 309 + 1 + kDecimals;
+constexpr std::uint32_t kDecimals = 5;
+constexpr std::uint32_t kTenToDecimals = 100000;
 
 // Below this, value * 10^5 fits 64 bits.
 constexpr double kFastLimit = 1e14;
 
-// |value| * 10^5, rounded as printf rounds: 10^5 is 3125 and a shift. For |value| < kFastLimit.
+// |value| * 10^5, rounded as printf rounds, for |value| < kFastLimit.
 std::uint64_t RoundedHundredThousandths(double value) {
+    // Below 2^40 the product of doubles is less than 2^-13 off. It settles which way to round unless it comes
+    // close to a half.
+    constexpr double kSmallProduct = 1099511627776.0;
+    constexpr double kTooClose = 0.001;
+    const double product = std::fabs(value) * kTenToDecimals;
+    if (product < kSmallProduct) {
+        const auto whole = static_cast<std::int64_t>(product);
+        const double overHalf = product - static_cast<double>(whole) - 0.5;
+        if (std::fabs(overHalf) > kTooClose) {
+            return static_cast<std::uint64_t>(whole + (overHalf > 0.0 ? 1 : 0));
+        }
+    }
+    // Exactly: 10^5 is 3125 and a shift.
     const BinaryParts parts = TakeApart(value);
     return ShiftRounded(Multiply(parts.significand, 3125), -(parts.exponent + 5));
 }
 
-// The text of a value that has fewer than 15 digits before its point, trimmed already.
-void AppendShortTrimmed(std::wstring& text, double value) {
-    std::uint64_t scaled = RoundedHundredThousandths(value);
-    wchar_t buffer[24];
-    wchar_t* const end = buffer + 24;
-    wchar_t* first = end;
-    wchar_t* cut = end;
-    for (std::size_t decimal = kDecimals; decimal > 0; --decimal) {
-        const auto digit = static_cast<wchar_t>(L'0' + static_cast<wchar_t>(scaled % 10));
-        scaled /= 10;
-        *--first = digit;
-        if (digit == L'0' && decimal > 1) {
-            cut = first;
-        }
+wchar_t Digit(std::uint64_t value) {
+    return static_cast<wchar_t>(L'0' + static_cast<wchar_t>(value));
+}
+
+wchar_t* WriteWhole(wchar_t* target, std::uint64_t whole) {
+    std::size_t length = 1;
+    for (std::uint64_t power = 10; power <= whole; power *= 10) {
+        ++length;
     }
-    *--first = L'.';
+    for (std::size_t i = length; i > 0; --i) {
+        target[i - 1] = Digit(whole % 10);
+        whole /= 10;
+    }
+    return target + length;
+}
+
+// The first decimal, and those behind it up to a zero.
+wchar_t* WriteDecimals(wchar_t* target, std::uint32_t decimals) {
+    constexpr std::uint32_t kFirstPlace = kTenToDecimals / 10;
     do {
-        *--first = static_cast<wchar_t>(L'0' + static_cast<wchar_t>(scaled % 10));
-        scaled /= 10;
-    } while (scaled != 0);
+        *target++ = Digit(decimals / kFirstPlace);
+        decimals = decimals % kFirstPlace * 10;
+    } while (decimals >= kFirstPlace);
+    return target;
+}
+
+// The text of a value that has fewer than 15 digits before its point, trimmed already.
+wchar_t* WriteShortTrimmed(wchar_t* target, double value) {
+    const std::uint64_t scaled = RoundedHundredThousandths(value);
     if (std::bit_cast<std::int64_t>(value) < 0) {
-        *--first = L'-';
+        *target++ = L'-';
     }
-    text.append(first, cut);
+    target = WriteWhole(target, scaled / kTenToDecimals);
+    *target++ = L'.';
+    return WriteDecimals(target, static_cast<std::uint32_t>(scaled % kTenToDecimals));
 }
 
 } // namespace
 
-void AppendTrimmed(std::wstring& text, double value) {
+wchar_t* WriteTrimmed(wchar_t* target, double value) {
     if (value > -kFastLimit && value < kFastLimit) {
-        AppendShortTrimmed(text, value);
-        return;
+        return WriteShortTrimmed(target, value);
     }
-    char buffer[kLongestText];
-    char* const end = std::to_chars(buffer, buffer + kLongestText, value, std::chars_format::fixed,
+    char buffer[kLongestTrimmed];
+    char* const end = std::to_chars(buffer, buffer + kLongestTrimmed, value, std::chars_format::fixed,
                                     static_cast<int>(kDecimals))
                           .ptr;
     auto length = static_cast<std::size_t>(end - buffer);
@@ -72,7 +93,12 @@ void AppendTrimmed(std::wstring& text, double value) {
             length = original - back;
         }
     }
-    AppendAscii(text, buffer, length);
+    return std::copy(buffer, buffer + length, target);
+}
+
+void AppendTrimmed(std::wstring& text, double value) {
+    wchar_t buffer[kLongestTrimmed];
+    text.append(buffer, static_cast<std::size_t>(WriteTrimmed(buffer, value) - buffer));
 }
 
 std::wstring Double2TrimmedString(double value) {

@@ -74,14 +74,18 @@ void AdoptParameter(SimpleSymbolDefinition& definition, const std::wstring& iden
 
 void AdoptUsage(SimpleSymbolDefinition& definition, const Tile& tile) {
     auto usage = std::make_unique<TylModel::AreaUsage>();
-    std::wstring angle = kHatchAngleReference;
+    std::wstring text = kHatchAngleReference; // whose storage does for the others too
     if (tile.angle != 0) {
-        angle += L'+';
-        encoding::AppendTrimmed(angle, tile.angle);
+        text += L'+';
+        encoding::AppendTrimmed(text, tile.angle);
     }
-    usage->SetAngle(angle);
-    usage->SetRepeatX(encoding::Double2TrimmedString(tile.width));
-    usage->SetRepeatY(encoding::Double2TrimmedString(tile.height));
+    usage->SetAngle(text);
+    text.clear();
+    encoding::AppendTrimmed(text, tile.width);
+    usage->SetRepeatX(text);
+    text.clear();
+    encoding::AppendTrimmed(text, tile.height);
+    usage->SetRepeatY(text);
     definition.AdoptAreaUsage(usage.release());
 }
 
@@ -121,7 +125,7 @@ MakeCompound(const std::wstring& name, std::vector<std::unique_ptr<SimpleSymbolD
 std::unique_ptr<SymbolDefinition> AreaSymbolBuilder::Build(const std::string& name,
                                                            std::vector<PatternLine>& lines) {
     std::stable_sort(lines.begin(), lines.end(), IsDrawnBefore);
-    name_ = platform::AnsiToWide(name);
+    platform::AnsiToWide(name, name_);
     definitions_.clear();
     path_.clear();
     previous_ = {};

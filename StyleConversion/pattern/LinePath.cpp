@@ -1,7 +1,7 @@
 // Rows of dashes as path commands.
 #include "StyleConversion/pattern/LinePath.h"
 
-#include "StyleConversion/encoding/TrimmedNumber.h"
+#include "StyleConversion/encoding/PathPiece.h"
 
 #include <cmath>
 #include <cstddef>
@@ -10,17 +10,10 @@
 namespace pattern {
 namespace {
 
-void AppendPair(std::wstring& path, double x, double y) {
-    encoding::AppendTrimmed(path, x);
-    path += L',';
-    encoding::AppendTrimmed(path, y);
-}
+using encoding::PathPiece;
 
 void AppendHorizontal(std::wstring& path, double x, double y, double length) {
-    path += L"M ";
-    AppendPair(path, x, y);
-    path += L" h ";
-    encoding::AppendTrimmed(path, length);
+    PathPiece().Words(L"M ").Pair(x, y).Words(L" h ").Number(length).AppendTo(path);
 }
 
 // Turns points by the family's angle about its origin.
@@ -30,8 +23,8 @@ public:
         : originX_(line.originX), originY_(line.originY), cos_(std::cos(line.angle * kRadiansPerDegree)),
           sin_(std::sin(line.angle * kRadiansPerDegree)) {}
 
-    void AppendTurned(std::wstring& path, double x, double y) const {
-        AppendPair(path, (x - originX_) * cos_ - (y - originY_) * sin_ + originX_,
+    void AddTurned(PathPiece& piece, double x, double y) const {
+        piece.Pair((x - originX_) * cos_ - (y - originY_) * sin_ + originX_,
                    (x - originX_) * sin_ + (y - originY_) * cos_ + originY_);
     }
 
@@ -43,10 +36,12 @@ private:
 };
 
 void AppendTurnedDash(std::wstring& path, const Rotation& rotation, double x, double y, double length) {
-    path += L"M ";
-    rotation.AppendTurned(path, x, y);
-    path += L" L ";
-    rotation.AppendTurned(path, x + length, y);
+    PathPiece piece;
+    piece.Words(L"M ");
+    rotation.AddTurned(piece, x, y);
+    piece.Words(L" L ");
+    rotation.AddTurned(piece, x + length, y);
+    piece.AppendTo(path);
 }
 
 // From the drawing's frame into the family's own, in which its lines run along the x axis.

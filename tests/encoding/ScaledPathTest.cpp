@@ -15,9 +15,9 @@ std::wstring LinePiece(Point from, Point to, double scale = 1.0) {
 
 TEST(ScaledPath, APointIsTwoScaledNumbersWithAComma) {
     std::wstring path;
-    encoding::AppendPoint(path, {1.0, 2.0}, 25.4);
+    encoding::AppendPoint(path, L"", {1.0, 2.0}, 25.4);
     EXPECT_EQ(path, L"25.4,50.8");
-    encoding::AppendPoint(path, {12.5, -3.0}, 1.0);
+    encoding::AppendPoint(path, L"", {12.5, -3.0}, 1.0);
     EXPECT_EQ(path, L"25.4,50.812.5,-3.0");
 }
 

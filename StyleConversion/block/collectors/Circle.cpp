@@ -5,6 +5,7 @@
 #include "StyleConversion/block/BlockSymbol.h"
 #include "StyleConversion/block/OpenLinetype.h"
 #include "StyleConversion/encoding/IntegerConversion.h"
+#include "StyleConversion/encoding/ScaledPath.h"
 
 void BlockConverter::CollectGeometryFromCircle(const OxDbBlockTableRecord& record, const OxDbCircle& circle,
                                                block::BlockSymbol& symbol) const {
@@ -13,8 +14,7 @@ void BlockConverter::CollectGeometryFromCircle(const OxDbBlockTableRecord& recor
     const double radius = circle.radius();
     const OxGePoint2d rightmost{center.x + radius, center.y};
     block::Linetype linetype(circle);
-    path += L"M ";
-    AppendPoint(path, rightmost);
+    AppendPoint(path, encoding::kFirstMove, rightmost);
     if (linetype.Get() != nullptr && linetype.Get()->numDashes() >= 1 &&
         radius * 2.0 * block::kPi > linetype.Get()->patternLength()) {
         DashCircle(*linetype.Get(), center, radius, path, shapes);
@@ -45,8 +45,7 @@ void BlockConverter::DashCircle(const OxDbLinetypeTableRecord& linetype, const O
                 AppendArcString(&path, radius, radius, 0.0, step >= block::kPi, false, current);
             } else {
                 current = travel.From(current, -length / radius);
-                path += length < 0.0 ? L" M " : L" L ";
-                AppendPoint(path, current);
+                AppendPoint(path, length < 0.0 ? encoding::kMove : encoding::kLine, current);
             }
             if (!linetype.shapeStyleAt(i).isNull()) {
                 const double tangent = block::CalcLineAngle(center, current) + block::kHalfPi;

@@ -4,6 +4,7 @@
 #include "StyleConversion/block/BlockConverter.h"
 #include "StyleConversion/block/BlockSymbol.h"
 #include "StyleConversion/block/Limits.h"
+#include "StyleConversion/encoding/ScaledPath.h"
 
 #include <cmath>
 
@@ -40,8 +41,7 @@ void BlockConverter::CollectGeometryFromEllipse(const OxDbBlockTableRecord& reco
     ellipse.getEndPoint(end);
     const OxGePoint3d center = ellipse.center();
 
-    path += L"M ";
-    AppendPoint(path, block::InPlane(start));
+    AppendPoint(path, encoding::kFirstMove, block::InPlane(start));
     if (ellipse.isClosed()) {
         const OxGePoint2d opposite{2.0 * center.x - start.x, 2.0 * center.y - start.y};
         // Both halves carry the large-arc flag: the output is wanted so.

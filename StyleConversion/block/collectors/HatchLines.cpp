@@ -2,6 +2,7 @@
 #include "OxDb/OxDbHatch.h"
 #include "StyleConversion/block/BlockConverter.h"
 #include "StyleConversion/block/BlockSymbol.h"
+#include "StyleConversion/encoding/ScaledPath.h"
 
 void BlockConverter::CollectGeometryFromHatch(const OxDbBlockTableRecord& record, OxDbHatch& hatch,
                                               block::BlockSymbol& symbol) const {
@@ -28,10 +29,8 @@ void BlockConverter::CollectGeometryFromNonSolidHatch(const OxDbBlockTableRecord
         if (hatch.getHatchLineDataAt(i, start, end) != Oxsys::eOk) {
             continue;
         }
-        path += path.empty() ? L"M " : L" M ";
-        AppendPoint(path, start);
-        path += L" L ";
-        AppendPoint(path, end);
+        AppendPoint(path, path.empty() ? encoding::kFirstMove : encoding::kMove, start);
+        AppendPoint(path, encoding::kLine, end);
     }
     const std::wstring color = GetEntityColor(record, hatch, hatch.color(), symbol);
     if (path.empty()) {
