@@ -12,7 +12,7 @@ namespace fuzzing {
 
 Stream OpenBytes(std::string_view bytes) {
 #if defined(_WIN32)
-    Stream stream(std::tmpfile());
+    Stream stream(platform::OpenTemporary());
     Require(stream && std::fwrite(bytes.data(), 1, bytes.size(), stream.get()) == bytes.size(),
             "a temporary file");
     std::rewind(stream.get());

@@ -1,5 +1,6 @@
 #include "styleconv/BuiltInFont.h"
 
+#include "StyleConversion/platform/Files.h"
 #include "styleconv/BuiltInFontBytes.h"
 
 namespace styleconv {
@@ -10,7 +11,7 @@ std::string_view BuiltInFontBytes() {
 
 std::FILE* OpenBuiltInFont() {
     // The reader of fonts reads streams, and C has none over memory.
-    std::FILE* const stream = std::tmpfile();
+    std::FILE* const stream = platform::OpenTemporary();
     if (stream != nullptr &&
         std::fwrite(kBuiltInFont, 1, sizeof kBuiltInFont, stream) != sizeof kBuiltInFont) {
         std::fclose(stream);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "StyleConversion/linetype/Services.h"
+#include "StyleConversion/platform/Files.h"
 
 #include <cstdio>
 #include <map>
@@ -48,7 +49,7 @@ public:
         if (found == files.end()) {
             return nullptr;
         }
-        std::FILE* const stream = std::tmpfile();
+        std::FILE* const stream = platform::OpenTemporary();
         std::fwrite(found->second.data(), 1, found->second.size(), stream);
         std::rewind(stream);
         return stream;
