@@ -1,14 +1,16 @@
 #!/usr/bin/env bash
-# Builds everything with sanitizers and optimised, checks formatting, runs clang-tidy and then all tests.
+# Builds everything with sanitizers, optimised and for Windows, checks formatting, runs clang-tidy and then all tests:
+# those of Windows under wine.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/packages.sh
-install_packages "${tool_packages[@]}" "${test_packages[@]}"
+install_packages "${tool_packages[@]}" "${test_packages[@]}" "${windows_packages[@]}"
 
 echo "== formatting"
 git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
 
-for preset in debug release; do
+presets=(debug release windows)
+for preset in "${presets[@]}"; do
   echo "== $preset: build"
   cmake --preset "$preset" >/dev/null
   cmake --build --preset "$preset"
@@ -17,7 +19,7 @@ done
 echo "== clang-tidy"
 scripts/tidy.sh
 
-for preset in debug release; do
+for preset in "${presets[@]}"; do
   echo "== $preset: tests"
   ctest --preset "$preset" --progress
 done
