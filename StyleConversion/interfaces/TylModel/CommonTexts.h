@@ -15,6 +15,7 @@ TYLMODEL_API const std::wstring* FindCommonText(const std::wstring& text);
 /// The text of a property: without memory of its own where it is one that most symbols have.
 class PropertyText {
 public:
+    /// Keeps a copy, or the common one.
     void Set(const std::wstring& text) {
         common_ = FindCommonText(text);
         if (common_ == nullptr) {
