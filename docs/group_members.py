@@ -44,5 +44,15 @@ def grouped(lines):
             index = end
 
 
+def explained(line):
+    """What says the same in every class is explained here."""
+    text = line.strip()
+    if text == "static const OxRxClass* desc();":
+        return line + " ///< The descriptor of this class."
+    if text.startswith("OxGe") and text.endswith("= default;") and "const OxGe" in text:
+        return line + " ///< Member by member."
+    return line
+
+
 if __name__ == "__main__":
-    print("\n".join(grouped(lines_of(sys.argv[1]))))
+    print("\n".join(explained(line) for line in grouped(lines_of(sys.argv[1]))))

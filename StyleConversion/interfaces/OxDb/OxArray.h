@@ -10,6 +10,7 @@
 template <class T>
 class OxArray {
 public:
+    /// An empty array with room for `physicalLength` elements. A grow length below 1 counts as 1.
     explicit OxArray(int physicalLength = 0, int growLength = 8)
         : growLength_(growLength < 1 ? 1 : growLength) {
         if (physicalLength > 0) {
@@ -17,12 +18,14 @@ public:
         }
     }
 
+    /// How many elements the array holds, under two names; how many it has room for; and how it grows.
     int logicalLength() const { return static_cast<int>(elements_.size()); }
     int length() const { return logicalLength(); }
     int physicalLength() const { return static_cast<int>(elements_.capacity()); }
     int growLength() const { return growLength_; }
     bool isEmpty() const { return elements_.empty(); }
 
+    /// The element at `index`, from 0 to length() - 1, which is not checked. It stays the array's.
     T& operator[](int index) { return elements_[static_cast<std::size_t>(index)]; }
     const T& operator[](int index) const { return elements_[static_cast<std::size_t>(index)]; }
     T& at(int index) { return (*this)[index]; }
@@ -52,6 +55,7 @@ public:
     T* asArrayPtr() { return elements_.data(); }
     const T* asArrayPtr() const { return elements_.data(); }
 
+    /// For a loop over all elements.
     const T* begin() const { return elements_.data(); }
     const T* end() const { return elements_.data() + elements_.size(); }
 

@@ -18,6 +18,7 @@ public:
         kByIndex = 0xC3,
     };
 
+    /// The top byte, which may be none of the listed ones.
     static ColorMethod colorMethod(std::uint32_t packedColor) {
         return static_cast<ColorMethod>(packedColor >> 24U);
     }
@@ -34,9 +35,11 @@ class OXDB_API OxCmColor {
 public:
     OxCmColor() = default;
 
+    /// Whether the colour is the layer's, or that of the insert of the block.
     bool isByLayer() const { return OxCmEntityColor::colorMethod(packed_) == OxCmEntityColor::kByLayer; }
     bool isByBlock() const { return OxCmEntityColor::colorMethod(packed_) == OxCmEntityColor::kByBlock; }
 
+    /// Make it so.
     void setByLayer() { packed_ = Pack(OxCmEntityColor::kByLayer, 0); }
     void setByBlock() { packed_ = Pack(OxCmEntityColor::kByBlock, 0); }
     /// Index from 1 to 255 of the standard palette.
@@ -50,6 +53,7 @@ public:
     /// The packed value that OxCmEntityColor works on.
     std::uint32_t entityColor() const { return packed_; }
 
+    /// Exactly, the way that it is given included.
     bool operator==(const OxCmColor&) const = default;
 
 private:

@@ -28,6 +28,8 @@ public:
     OxDbBlockTableRecordIterator(const OxDbBlockTableRecordIterator&) = delete;
     OxDbBlockTableRecordIterator& operator=(const OxDbBlockTableRecordIterator&) = delete;
 
+    /// As with the records of a table: goes to the first (or last) entity, tells whether none is left, goes
+    /// one on.
     virtual void start(bool atBeginning = true, bool skipErased = true) = 0;
     virtual bool done() const = 0;
     virtual void step(bool forward = true, bool skipErased = true) = 0;
@@ -49,7 +51,9 @@ public:
 
     /// Goes to the first reference.
     virtual void start() = 0;
+    /// True behind the last reference.
     virtual bool done() const = 0;
+    /// Goes one reference on. Does nothing when done.
     virtual void step() = 0;
     /// Opens the reference that the iterator stands at, which the caller closes. On failure, as when there is
     /// none, `reference` is null.
@@ -70,6 +74,7 @@ public:
     virtual bool isLayout() const = 0;
     /// Whether the block was named by the system.
     virtual bool isAnonymous() const = 0;
+    /// The unit that the block is drawn in.
     virtual OxDb::UnitsValue blockInsertUnits() const = 0;
 
     /// Opens the block's draw-order table, which the caller closes. eKeyNotFound when it has none; the table
@@ -92,6 +97,7 @@ public:
                                          bool openErased = false) const = 0;
 };
 
+/// The blocks of a drawing.
 class OXDB_API OxDbBlockTable : public OxDbSymbolTable {
 public:
     ~OxDbBlockTable() override;

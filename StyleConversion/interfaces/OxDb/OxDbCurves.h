@@ -8,6 +8,7 @@ class OXDB_API OxDbPoint : public OxDbEntity {
 public:
     ~OxDbPoint() override;
     static const OxRxClass* desc();
+    /// Drawing units.
     virtual OxGePoint3d position() const = 0;
 };
 
@@ -16,6 +17,7 @@ class OXDB_API OxDbLine : public OxDbCurve {
 public:
     ~OxDbLine() override;
     static const OxRxClass* desc();
+    /// Drawing units.
     virtual OxGePoint3d startPoint() const = 0;
     virtual OxGePoint3d endPoint() const = 0;
 };
@@ -26,6 +28,7 @@ class OXDB_API OxDbArc : public OxDbCurve {
 public:
     ~OxDbArc() override;
     static const OxRxClass* desc();
+    /// Drawing units.
     virtual OxGePoint3d center() const = 0;
     virtual double radius() const = 0;
     /// Unit normal of the arc's plane; with a negative z the arc runs clockwise in the drawing plane.
@@ -37,6 +40,7 @@ class OXDB_API OxDbCircle : public OxDbCurve {
 public:
     ~OxDbCircle() override;
     static const OxRxClass* desc();
+    /// Drawing units.
     virtual OxGePoint3d center() const = 0;
     virtual double radius() const = 0;
 };
@@ -46,6 +50,7 @@ class OXDB_API OxDbEllipse : public OxDbCurve {
 public:
     ~OxDbEllipse() override;
     static const OxRxClass* desc();
+    /// Drawing units.
     virtual OxGePoint3d center() const = 0;
     /// From the centre to the curve; its length is the radius.
     virtual OxGeVector3d majorAxis() const = 0;

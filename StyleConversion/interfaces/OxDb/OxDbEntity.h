@@ -21,6 +21,7 @@ public:
     /// The entity's linetype record. By layer and by block are records too, without dashes.
     virtual OxDbObjectId linetypeId() const = 0;
 
+    /// As the reads give it. eNotApplicable for an entity that a drawing holds only to be read.
     virtual Oxsys::ErrorStatus setColor(const OxCmColor& color) = 0;
     virtual Oxsys::ErrorStatus setLineWeight(OxDb::LineWeight lineWeight) = 0;
     /// The id of a linetype record.

@@ -24,8 +24,10 @@ public:
         kSpline = 4,
     };
 
+    /// Whether the area is filled, and has no lines.
     virtual bool isSolidFill() const = 0;
 
+    /// Loop indices are below this number; eInvalidIndex for others.
     virtual int numLoops() const = 0;
     /// The edges of a loop in order, each of a class derived from OxGeCurve2d, and their types. The edges
     /// stay the hatch's own and may be used while it is open. eNotApplicable for a polyline loop.
@@ -41,5 +43,6 @@ public:
     virtual Oxsys::ErrorStatus evaluateHatch(bool underestimateLines) = 0;
     /// How many lines the evaluation gave; 0 before it.
     virtual int numHatchLines() const = 0;
+    /// The ends of a line. eInvalidIndex when there is none of that index, as before the evaluation.
     virtual Oxsys::ErrorStatus getHatchLineDataAt(int index, OxGePoint2d& start, OxGePoint2d& end) const = 0;
 };

@@ -13,6 +13,7 @@ public:
 
     /// The length of one repetition, in drawing units: as a rule the sum of the magnitudes of the dashes.
     virtual double patternLength() const = 0;
+    /// How many dashes, gaps and dots; 0 for a continuous line.
     virtual int numDashes() const = 0;
     /// Drawing units: above 0 a dash, below 0 a gap of that magnitude, 0 a dot.
     virtual double dashLengthAt(int index) const = 0;
@@ -22,6 +23,7 @@ public:
     virtual int shapeNumberAt(int index) const = 0;
     /// From the dash's end, x along the direction of travel, y to its left; drawing units.
     virtual OxGeVector2d shapeOffsetAt(int index) const = 0;
+    /// The size of the shape or text beside its own.
     virtual double shapeScaleAt(int index) const = 0;
     /// Radians, counter-clockwise from the direction of travel.
     virtual double shapeRotationAt(int index) const = 0;

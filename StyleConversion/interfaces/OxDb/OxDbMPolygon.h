@@ -3,11 +3,13 @@
 
 #include "OxDb/OxDbEntity.h"
 
+/// An area that its loops bound, outline and inside.
 class OXDB_API OxDbMPolygon : public OxDbEntity {
 public:
     ~OxDbMPolygon() override;
     static const OxRxClass* desc();
 
+    /// Loop indices are below this number; eInvalidIndex for others.
     virtual int numMPolygonLoops() const = 0;
     /// The vertices of a loop, and a bulge for each, or no bulges at all when all segments are straight.
     virtual Oxsys::ErrorStatus getMPolygonLoopAt(int index, OxGePoint2dArray& vertices,

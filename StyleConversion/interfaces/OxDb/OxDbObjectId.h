@@ -8,8 +8,10 @@ struct OxDbStub;
 class OxDbObjectId {
 public:
     constexpr OxDbObjectId() = default;
+    /// For the library that makes ids.
     constexpr explicit OxDbObjectId(OxDbStub* stub) : stub_(stub) {}
 
+    /// Whether it names nothing, and lets it do so. Ids of the same object are equal.
     constexpr bool isNull() const { return stub_ == nullptr; }
     constexpr void setNull() { stub_ = nullptr; }
     constexpr bool operator==(const OxDbObjectId&) const = default;

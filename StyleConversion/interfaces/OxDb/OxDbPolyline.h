@@ -17,6 +17,7 @@ public:
     static const OxRxClass* desc();
     const OxRxClass* isA() const override;
 
+    /// What a segment is.
     enum SegType {
         kLine = 0,
         kArc = 1,
@@ -28,9 +29,11 @@ public:
         kEmpty = 4,
     };
 
+    /// How many vertices there are.
     virtual unsigned int numVerts() const;
     /// Whether linetypes run on over the vertices (otherwise each segment starts the pattern anew).
     virtual bool hasPlinegen() const;
+    /// What segment `index` is; kEmpty when there is none.
     virtual SegType segType(unsigned int index) const;
     /// The segment as a straight one. eNotApplicable when it is of another kind, eInvalidIndex when there is
     /// none; the output is then as it was.
@@ -43,6 +46,7 @@ public:
     /// hand, that is counter-clockwise; widths are -1 for "not given". eInvalidIndex above numVerts().
     virtual Oxsys::ErrorStatus addVertexAt(unsigned int index, const OxGePoint2d& point, double bulge = 0.0,
                                            double startWidth = -1.0, double endWidth = -1.0);
+    /// Each sets what the read of its name gives.
     virtual void setPlinegen(bool value);
     virtual void setClosed(bool value);
 
@@ -53,6 +57,7 @@ public:
     OxCmColor color() const override;
     OxDb::LineWeight lineWeight() const override;
     OxDbObjectId linetypeId() const override;
+    /// Each sets what the read of its name gives, and succeeds.
     Oxsys::ErrorStatus setColor(const OxCmColor& color) override;
     Oxsys::ErrorStatus setLineWeight(OxDb::LineWeight lineWeight) override;
     Oxsys::ErrorStatus setLinetype(OxDbObjectId linetypeId) override;

@@ -9,6 +9,7 @@ public:
     ~OxDbSpline() override;
     static const OxRxClass* desc();
 
+    /// Whether the spline is given by the points that it passes through.
     virtual bool hasFitData() const = 0;
     /// The points that the spline passes through. Tangents mean something only when `tangentsExist`.
     /// eNotApplicable when the spline has no fit data.

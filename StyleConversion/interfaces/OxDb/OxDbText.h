@@ -17,8 +17,10 @@ public:
     virtual double rotation() const = 0;
     /// The insertion point: the left end of the base line, however the text is aligned.
     virtual OxGePoint3d position() const = 0;
+    /// How the text stands to its alignment point.
     virtual OxDb::TextHorzMode horizontalMode() const = 0;
     virtual OxDb::TextVertMode verticalMode() const = 0;
+    /// The text, with its control codes.
     virtual const wchar_t* textStringConst() const = 0;
 };
 
@@ -29,6 +31,7 @@ public:
     ~OxDbAttributeDefinition() override;
     static const OxRxClass* desc();
 
+    /// The attribute's name, and what a user is asked for it.
     virtual const wchar_t* tagConst() const = 0;
     virtual const wchar_t* promptConst() const = 0;
 };
@@ -39,10 +42,13 @@ public:
     ~OxDbMText() override;
     static const OxRxClass* desc();
 
+    /// The text style record; null when the text has none.
     virtual OxDbObjectId textStyle() const = 0;
+    /// Drawing units.
     virtual double textHeight() const = 0;
     /// Radians, counter-clockwise.
     virtual double rotation() const = 0;
+    /// The insertion point, in drawing units.
     virtual OxGePoint3d location() const = 0;
     /// The extent of the text as it is set, in drawing units.
     virtual double actualWidth() const = 0;

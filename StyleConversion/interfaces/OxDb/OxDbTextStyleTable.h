@@ -20,9 +20,11 @@ public:
     /// the codes of the system's fonts.
     virtual Oxsys::ErrorStatus font(wchar_t*& typeface, bool& bold, bool& italic, std::int32_t& characterSet,
                                     std::int32_t& pitchAndFamily) const = 0;
+    /// The style's flags, which the converters hand through.
     virtual std::int32_t flagBits() const = 0;
     /// Whether the file holds shapes rather than letters.
     virtual bool isShapeFile() const = 0;
+    /// Whether letters stand below each other.
     virtual bool isVertical() const = 0;
     /// Radians, from 0 to 2π: styles that slant backward have an angle just below 2π.
     virtual double obliquingAngle() const = 0;
@@ -32,6 +34,7 @@ public:
     virtual double xScale() const = 0;
 };
 
+/// The text styles of a drawing.
 class OXDB_API OxDbTextStyleTable : public OxDbSymbolTable {
 public:
     ~OxDbTextStyleTable() override;

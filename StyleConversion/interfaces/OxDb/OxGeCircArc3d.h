@@ -9,11 +9,13 @@
 class OXDB_API OxGeCircArc3d {
 public:
     OxGeCircArc3d() = default;
+    /// Nothing is checked: lengths are in drawing units, the angle in radians.
     OxGeCircArc3d(const OxGePoint3d& start, const OxGePoint3d& end, const OxGePoint3d& center, double radius,
                   double includedAngle, const OxGeVector3d& normal)
         : start_(start), end_(end), center_(center), normal_(normal), radius_(radius),
           includedAngle_(includedAngle) {}
 
+    /// As they were given.
     OxGePoint3d startPoint() const { return start_; }
     OxGePoint3d endPoint() const { return end_; }
     OxGePoint3d center() const { return center_; }

@@ -25,6 +25,7 @@ public:
     OxGeInterval(double lower, double upper, double tolerance = 1e-12)
         : lower_(lower), upper_(upper), tolerance_(tolerance) {}
 
+    /// As they were set, in the unit of the curve's parameter. length() is upperBound() less lowerBound().
     double lowerBound() const { return lower_; }
     double upperBound() const { return upper_; }
     double length() const { return upper_ - lower_; }
@@ -45,9 +46,11 @@ private:
 class OXDB_API OxGeBoundBlock2d {
 public:
     OxGeBoundBlock2d() = default;
+    /// From the corners with the least and with the greatest coordinates.
     OxGeBoundBlock2d(const OxGePoint2d& minimum, const OxGePoint2d& maximum)
         : minimum_(minimum), maximum_(maximum) {}
 
+    /// Copies the corners.
     void getMinMaxPoints(OxGePoint2d& minimum, OxGePoint2d& maximum) const {
         minimum = minimum_;
         maximum = maximum_;
@@ -103,11 +106,14 @@ protected:
 class OXDB_API OxGeLineSeg2d : public OxGeCurve2d {
 public:
     OxGeLineSeg2d() = default;
+    /// From one point to the other.
     OxGeLineSeg2d(const OxGePoint2d& start, const OxGePoint2d& end) : start_(start), end_(end) {}
 
+    /// Where the segment starts and ends, and how long it is, in drawing units.
     OxGePoint2d startPoint() const { return start_; }
     OxGePoint2d endPoint() const { return end_; }
     double length() const { return start_.distanceTo(end_); }
+    /// Makes it another segment, and returns it.
     OxGeLineSeg2d& set(const OxGePoint2d& start, const OxGePoint2d& end) {
         start_ = start;
         end_ = end;
@@ -136,6 +142,7 @@ public:
     OxGeEllipArc2d(const OxGePoint2d& center, const OxGeVector2d& majorAxis, double radiusRatio,
                    double startAngle, double endAngle, bool clockwise);
 
+    /// As they were given; radii in drawing units, angles in radians.
     OxGePoint2d center() const { return center_; }
     double majorRadius() const { return majorAxis_.length(); }
     double minorRadius() const { return majorAxis_.length() * radiusRatio_; }
@@ -143,10 +150,12 @@ public:
     double startAng() const { return startAngle_; }
     double endAng() const { return endAngle_; }
     bool isClockWise() const { return clockwise_; }
+    /// The points at the arc's angles, and the axes from the centre to the curve, in drawing units.
     OxGePoint2d startPoint() const { return pointAt(startAngle_); }
     OxGePoint2d endPoint() const { return pointAt(endAngle_); }
     OxGeVector2d majorAxis() const { return majorAxis_; }
     OxGeVector2d minorAxis() const;
+    /// The point of the whole ellipse at that parameter, in radians.
     OxGePoint2d pointAt(double angle) const;
 
     OxGe::EntityId type() const override { return OxGe::kEllipArc2d; }
@@ -170,14 +179,17 @@ private:
 class OXDB_API OxGeCircArc2d : public OxGeCurve2d {
 public:
     OxGeCircArc2d() = default;
+    /// Nothing is checked: the radius is in drawing units, the angles in radians.
     OxGeCircArc2d(const OxGePoint2d& center, double radius, double startAngle, double endAngle,
                   bool clockwise);
 
+    /// As they were given.
     OxGePoint2d center() const { return center_; }
     double radius() const { return radius_; }
     double startAng() const { return startAngle_; }
     double endAng() const { return endAngle_; }
     bool isClockWise() const { return clockwise_; }
+    /// The points at the arc's angles, and at any angle of the whole circle.
     OxGePoint2d startPoint() const { return pointAt(startAngle_); }
     OxGePoint2d endPoint() const { return pointAt(endAngle_); }
     OxGePoint2d pointAt(double angle) const;

@@ -19,6 +19,7 @@ public:
         }
     }
 
+    /// How many knots there are, the knot of that index, which is not checked, and the tolerance.
     int length() const { return knots_.length(); }
     double operator[](int index) const { return knots_[index]; }
     double tolerance() const { return tolerance_; }

@@ -13,8 +13,10 @@ public:
     OxGeTol() = default;
     OxGeTol(double equalPoint, double equalVector) : equalPoint_(equalPoint), equalVector_(equalVector) {}
 
+    /// The largest distance of equal points, in drawing units, and the largest difference of equal vectors.
     double equalPoint() const { return equalPoint_; }
     double equalVector() const { return equalVector_; }
+    /// Each sets one of the two and returns this tolerance.
     OxGeTol& setEqualPoint(double value) {
         equalPoint_ = value;
         return *this;
@@ -32,33 +34,42 @@ private:
 /// Tolerances that operations take when none is given.
 class OXDB_API OxGeContext {
 public:
+    /// 1e-10 unless the host sets it otherwise, which it must not do while another thread converts.
     static OxGeTol gTol;
 };
 
 /// A direction and length in the plane.
 struct OxGeVector2d {
+    /// Drawing units.
     double x = 0.0;
     double y = 0.0;
 
+    /// Drawing units, never negative.
     double length() const { return std::sqrt(x * x + y * y); }
+    /// Exactly, coordinate by coordinate.
     bool operator==(const OxGeVector2d&) const = default;
 };
 
 /// A direction and length in space.
 struct OxGeVector3d {
+    /// Drawing units.
     double x = 0.0;
     double y = 0.0;
     double z = 0.0;
 
+    /// Drawing units, never negative.
     double length() const { return std::sqrt(x * x + y * y + z * z); }
+    /// Exactly, coordinate by coordinate.
     bool operator==(const OxGeVector3d&) const = default;
 };
 
 /// A point of the plane.
 struct OxGePoint2d {
+    /// Drawing units.
     double x = 0.0;
     double y = 0.0;
 
+    /// Drawing units.
     double distanceTo(const OxGePoint2d& other) const {
         const double dx = other.x - x;
         const double dy = other.y - y;
@@ -68,15 +79,18 @@ struct OxGePoint2d {
     bool isEqualTo(const OxGePoint2d& other, const OxGeTol& tolerance = OxGeContext::gTol) const {
         return distanceTo(other) <= tolerance.equalPoint();
     }
+    /// Exactly, coordinate by coordinate.
     bool operator==(const OxGePoint2d&) const = default;
 };
 
 /// A point of space. Entities of a block give their coordinates in the block's coordinate system.
 struct OxGePoint3d {
+    /// Drawing units.
     double x = 0.0;
     double y = 0.0;
     double z = 0.0;
 
+    /// Exactly, coordinate by coordinate.
     bool operator==(const OxGePoint3d&) const = default;
 };
 

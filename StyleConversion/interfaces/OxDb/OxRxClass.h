@@ -11,6 +11,7 @@ public:
     /// `name` must outlive the descriptor; `parent` is null for the root class.
     constexpr OxRxClass(const wchar_t* name, const OxRxClass* parent) : name_(name), parent_(parent) {}
 
+    /// The class's name, without copying it, and the descriptor of its parent, null for the root class.
     const wchar_t* name() const { return name_; }
     const OxRxClass* myParent() const { return parent_; }
 
