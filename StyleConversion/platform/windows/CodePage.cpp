@@ -89,25 +89,23 @@ bool SetAnsiCodePage(const std::string& name) {
 }
 
 std::wstring AnsiToWide(std::string_view narrow) {
-    if (Current() == CP_UTF8) {
-        return Utf8ToWide(narrow);
-    }
     std::wstring wide;
-    if (narrow.empty() || narrow.size() > INT_MAX) {
-        return wide;
-    }
-    const int size = static_cast<int>(narrow.size());
-    wide.resize(static_cast<std::size_t>(MultiByteToWideChar(Current(), 0, narrow.data(), size, nullptr, 0)));
-    MultiByteToWideChar(Current(), 0, narrow.data(), size, wide.data(), static_cast<int>(wide.size()));
+    AnsiToWide(narrow, wide);
     return wide;
 }
 
 void AnsiToWide(std::string_view narrow, std::wstring& wide) {
     if (Current() == CP_UTF8) {
         Utf8ToWide(narrow, wide);
-    } else {
-        wide = AnsiToWide(narrow);
+        return;
     }
+    wide.clear();
+    if (narrow.empty() || narrow.size() > INT_MAX) {
+        return;
+    }
+    const int size = static_cast<int>(narrow.size());
+    wide.resize(static_cast<std::size_t>(MultiByteToWideChar(Current(), 0, narrow.data(), size, nullptr, 0)));
+    MultiByteToWideChar(Current(), 0, narrow.data(), size, wide.data(), static_cast<int>(wide.size()));
 }
 
 std::string WideToAnsi(std::wstring_view wide) {
