@@ -70,33 +70,30 @@ public:
         BeginStage("Converting", names.size());
         for (const std::wstring& name : names) {
             NowAtItem("block " + Shown(name));
-            if (!ConvertOne(name, symbols)) {
-                return false;
-            }
+            ConvertOne(name, symbols);
         }
         return isTolerant_ ? !symbols.empty() : symbols.size() == names.size();
     }
 
 private:
-    // False, after saying why, where nothing is to be converted any more.
-    bool ConvertOne(const std::wstring& name, Symbols& symbols) {
+    // Or says why not.
+    void ConvertOne(const std::wstring& name, Symbols& symbols) {
         const std::uint64_t tooDense = drawing_.HatchesTooDense();
         std::unique_ptr<TylModel::SymbolDefinition> symbol(converter_.Convert(name));
         if (!isTolerant_ && drawing_.HatchesTooDense() > tooDense) {
+            // It cannot be evaluated; the rest of the block, and the other blocks, are worth having.
             Say(input_.Name(),
-                "block " + Shown(name) + ": a hatch has more lines than the limit of 2147483647");
-            return false;
+                "warning: block " + Shown(name) + ": a hatch has more than 2147483647 lines and is left out");
         }
         if (symbol == nullptr) {
             const std::string severity = isTolerant_ ? "warning: " : "";
             Say(input_.Name(), severity + "the drawing has no block named " + Shown(name));
-            return true;
+            return;
         }
         symbols.push_back(std::move(symbol));
         if (isTolerant_) {
             SayLosses(name);
         }
-        return true;
     }
 
     void SayLosses(const std::wstring& name) {
