@@ -72,6 +72,9 @@ public:
             NowAtItem("block " + Shown(name));
             ConvertOne(name, symbols);
         }
+        if (isTolerant_ && symbols.empty()) {
+            Say(input_.Name(), "none of the blocks asked for can be converted");
+        }
         return isTolerant_ ? !symbols.empty() : symbols.size() == names.size();
     }
 
@@ -82,12 +85,13 @@ private:
         std::unique_ptr<TylModel::SymbolDefinition> symbol(converter_.Convert(name));
         if (!isTolerant_ && drawing_.HatchesTooDense() > tooDense) {
             // It cannot be evaluated; the rest of the block, and the other blocks, are worth having.
-            Say(input_.Name(),
-                "warning: block " + Shown(name) + ": a hatch has more than 2147483647 lines and is left out");
+            SayMissing(input_.Name(),
+                       "block " + Shown(name) + ": a hatch has more than " +
+                           std::to_string(drawing_.MostHatchLines()) + " lines and is left out",
+                       true);
         }
         if (symbol == nullptr) {
-            const std::string severity = isTolerant_ ? "warning: " : "";
-            Say(input_.Name(), severity + "the drawing has no block named " + Shown(name));
+            SayMissing(input_.Name(), "the drawing has no block named " + Shown(name), isTolerant_);
             return;
         }
         symbols.push_back(std::move(symbol));

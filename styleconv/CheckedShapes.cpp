@@ -4,6 +4,7 @@
 #include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/shx/ShxUtility.h"
+#include "styleconv/FileStream.h"
 #include "styleconv/Messages.h"
 #include "styleconv/ShapeFileMessages.h"
 #include "styleconv/WorkLimits.h"
@@ -19,10 +20,6 @@
 
 namespace styleconv {
 namespace {
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 bool HasLowerCase(const std::string& name) {
     return std::any_of(name.begin(), name.end(), [](char c) { return LineConverter::UpperCase(c) != c; });
@@ -146,7 +143,7 @@ std::string ShownShape(const ShxUtility::Shape& shape) {
 
 void CheckShapes(const InputFile& input, std::vector<Finding>& findings) {
     ShapeCheck check(input, findings);
-    const std::unique_ptr<std::FILE, CloseFile> stream(platform::OpenForReading(input.Path().c_str()));
+    const FileStream stream(platform::OpenForReading(input.Path().c_str()));
     if (!stream) {
         check.Add(Severity::kError, std::string("cannot be opened: ") + std::strerror(errno));
         return;

@@ -6,6 +6,7 @@
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/shx/ShxUtility.h"
 #include "styleconv/CheckedShapes.h"
+#include "styleconv/FileStream.h"
 #include "styleconv/Messages.h"
 #include "styleconv/ShapeFileMessages.h"
 
@@ -17,10 +18,6 @@
 
 namespace styleconv {
 namespace {
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 std::string NameOf(const OxDbLinetypeTableRecord& linetype) {
     const wchar_t* name = nullptr;
@@ -122,7 +119,7 @@ DashShapes::Source DashShapes::Load(OxDbObjectId styleId) {
         source.whyNot = search_.WhyNot(fileName.get());
         return source;
     }
-    const std::unique_ptr<std::FILE, CloseFile> file(platform::OpenForReading(path.data()));
+    const FileStream file(platform::OpenForReading(path.data()));
     ShxUtility::ShapesInFile shapes;
     if (file && LoadShapeFile(file.get(), shapes, ShxUtility::kAllKinds) == ShxUtility::kSuccess) {
         source.shapes = std::move(shapes);

@@ -7,6 +7,7 @@
 #include "StyleConversion/shx/ShxUtility.h"
 #include "documents/GlyphsDocument.h"
 #include "styleconv/CheckedShapes.h"
+#include "styleconv/FileStream.h"
 #include "styleconv/GlyphSymbols.h"
 #include "styleconv/Messages.h"
 #include "styleconv/NumberOption.h"
@@ -37,13 +38,9 @@ struct GlyphsOptions : CommonOptions {
     bool tolerant = false;
 };
 
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
 // False, after saying why, where the file is refused or has no shapes.
 bool LoadShapes(const InputFile& input, ShxUtility::ShapesInFile& file, bool tolerant = false) {
-    const std::unique_ptr<std::FILE, CloseFile> stream(platform::OpenForReading(input.Path().c_str()));
+    const FileStream stream(platform::OpenForReading(input.Path().c_str()));
     if (!stream) {
         Say(input.Name(), std::string("cannot be opened: ") + std::strerror(errno));
         return false;
@@ -64,10 +61,10 @@ bool LoadShapes(const InputFile& input, ShxUtility::ShapesInFile& file, bool tol
 }
 
 // Positions of the shapes to draw, in the order in which they are drawn. False, after saying so, where the
-// file lacks one.
-bool ChooseShapes(const InputFile& input, const ShxUtility::ShapesInFile& file,
-                  const std::vector<std::int64_t>& numbers, std::vector<std::size_t>& positions) {
-    if (numbers.empty()) {
+// file lacks one; to a tolerant conversion, where it lacks all.
+bool ChooseShapes(const InputFile& input, const ShxUtility::ShapesInFile& file, const GlyphsOptions& options,
+                  std::vector<std::size_t>& positions) {
+    if (options.numbers.empty()) {
         for (std::size_t i = 0; i < file.shapes.size(); ++i) {
             // The font information is no glyph.
             if (file.shapes[i].number != 0) {
@@ -77,18 +74,21 @@ bool ChooseShapes(const InputFile& input, const ShxUtility::ShapesInFile& file,
         return true;
     }
     bool complete = true;
-    for (const std::int64_t number : numbers) {
+    for (const std::int64_t number : options.numbers) {
         const bool possible = number >= 0 && number <= UINT16_MAX;
         const auto found =
             possible ? file.numberIndex.find(static_cast<std::uint16_t>(number)) : file.numberIndex.end();
         if (found == file.numberIndex.end()) {
-            Say(input.Name(), "the file has no shape " + std::to_string(number));
+            SayMissing(input.Name(), "the file has no shape " + std::to_string(number), options.tolerant);
             complete = false;
         } else {
             positions.push_back(found->second);
         }
     }
-    return complete;
+    if (options.tolerant && positions.empty()) {
+        Say(input.Name(), "none of the shapes asked for can be drawn");
+    }
+    return options.tolerant ? !positions.empty() : complete;
 }
 
 documents::Glyph DrawGlyph(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape,
@@ -178,14 +178,8 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     }
     ShxUtility::ShapesInFile file;
     std::vector<std::size_t> positions;
-    if (!LoadShapes(input, file, options.tolerant)) {
-        return kInputFault;
-    }
-    const bool complete = ChooseShapes(input, file, options.numbers, positions);
-    if (!complete && !(options.tolerant && !positions.empty())) {
-        return kInputFault;
-    }
-    if (options.tolerant && !KeepDrawn(input, file, options, positions)) {
+    if (!LoadShapes(input, file, options.tolerant) || !ChooseShapes(input, file, options, positions) ||
+        (options.tolerant && !KeepDrawn(input, file, options, positions))) {
         return kInputFault;
     }
     return options.format == "json" ? WriteDocument(file, positions, options)

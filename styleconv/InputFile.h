@@ -1,6 +1,7 @@
 // A file named on the command line, or standard input.
 #pragma once
 
+#include "styleconv/FileStream.h"
 #include "styleconv/TemporaryFile.h"
 
 #include <cstdio>
@@ -36,17 +37,13 @@ public:
     bool IsStandardInput() const { return argument_ == "-"; }
 
 private:
-    struct CloseFile {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-
     bool OpenNamed();
 
     std::string argument_;
     std::string name_;
     std::string bytes_;
     std::wstring path_;
-    std::unique_ptr<std::FILE, CloseFile> file_;
+    FileStream file_;
     TemporaryFile temporary_;
 };
 

@@ -15,7 +15,10 @@
 #include "styleconv/SymbolOutput.h"
 
 #include <memory>
+#include <set>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace styleconv {
 namespace {
@@ -25,6 +28,12 @@ struct LinetypesOptions : CommonOptions, LinetypeSourceOptions {
     std::vector<std::string> names;
     std::string codePage;
     double scale = 1.0;
+};
+
+struct Converted {
+    Symbols symbols;
+    bool hasLinetypes = false;
+    std::set<std::wstring> withFaults; // names; where no symbol has it, that linetype was left out
 };
 
 // Characters that a font lacks are left out of the text.
@@ -40,8 +49,7 @@ void AddMissingCharacters(const InputFile& input, const LineConverter::LinParser
 }
 
 // False after saying why.
-bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Symbols& symbols,
-                bool& hasLinetypes) {
+bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Converted& converted) {
     LinetypeServices services(input, options);
     if (!services.ReadDrawing()) {
         return false;
@@ -61,10 +69,13 @@ bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Symbols
         result = parser.Accept(announced);
         const std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> results(visitor.TakeResults());
         for (std::size_t i = 0; results && i < results->size(); ++i) {
-            symbols.emplace_back((*results)[i]);
+            converted.symbols.emplace_back((*results)[i]);
         }
         if (result == LineConverter::kSuccess && options.tolerant) {
-            hasLinetypes = !symbols.empty() || !parser.faults().empty();
+            converted.hasLinetypes = !converted.symbols.empty() || !parser.faults().empty();
+            for (const LineConverter::LinFault& fault : parser.faults()) {
+                converted.withFaults.insert(platform::AnsiToWide(fault.linetype));
+            }
             std::vector<Finding> findings =
                 ForgivenLinetypeFaults(input.Name(), parser.faults(), services.Sources());
             AddMissingCharacters(input, parser, measured, findings);
@@ -88,24 +99,31 @@ void SayThereAreNoLinetypes(const InputFile& input) {
     }
 }
 
-// Those asked for, in the order asked. False, after saying so, when one is not there.
-bool ChooseNamed(const InputFile& input, const std::vector<std::string>& names, const Symbols& symbols,
+// Those asked for, in the order asked. False, after saying so, when one is not there; a tolerant conversion
+// needs but one.
+bool ChooseNamed(const InputFile& input, const LinetypesOptions& options, const Converted& converted,
                  std::vector<TylModel::SymbolDefinition*>& chosen) {
     bool complete = true;
-    for (const std::string& name : names) {
+    for (const std::string& name : options.names) {
         const std::wstring wide = platform::Utf8ToWide(name);
         const std::size_t before = chosen.size();
-        for (const auto& symbol : symbols) {
+        for (const auto& symbol : converted.symbols) {
             if (symbol->GetName() == wide) {
                 chosen.push_back(symbol.get());
             }
         }
         if (chosen.size() == before) {
-            Say(input.Name(), "the file has no linetype named " + Shown(name));
             complete = false;
+            // Why one was left out has been said.
+            if (!converted.withFaults.contains(wide)) {
+                SayMissing(input.Name(), "the file has no linetype named " + Shown(name), options.tolerant);
+            }
         }
     }
-    return complete;
+    if (options.tolerant && chosen.empty()) {
+        Say(input.Name(), "none of the linetypes asked for can be converted");
+    }
+    return complete || (options.tolerant && !chosen.empty());
 }
 
 ExitStatus Linetypes(const LinetypesOptions& options) {
@@ -119,25 +137,23 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
     if (!ChooseCodePage(input, options.codePage)) {
         return kUsageFault;
     }
-    Symbols symbols;
-    bool hasLinetypes = false;
-    if (!ConvertAll(input, options, symbols, hasLinetypes)) {
+    Converted converted;
+    if (!ConvertAll(input, options, converted)) {
         return kInputFault;
     }
-    if (symbols.empty()) {
-        if (hasLinetypes) {
-            Say(input.Name(), "none of the file's linetypes can be converted");
-        } else {
-            SayThereAreNoLinetypes(input);
-        }
+    if (converted.symbols.empty() && !converted.hasLinetypes) {
+        SayThereAreNoLinetypes(input);
         return kInputFault;
     }
     if (options.names.empty()) {
-        return WriteSymbols(symbols, options);
+        if (converted.symbols.empty()) {
+            Say(input.Name(), "none of the file's linetypes can be converted");
+            return kInputFault;
+        }
+        return WriteSymbols(converted.symbols, options);
     }
     std::vector<TylModel::SymbolDefinition*> chosen;
-    const bool complete = ChooseNamed(input, options.names, symbols, chosen);
-    return complete || (options.tolerant && !chosen.empty()) ? WriteSymbols(chosen, options) : kInputFault;
+    return ChooseNamed(input, options, converted, chosen) ? WriteSymbols(chosen, options) : kInputFault;
 }
 
 } // namespace

@@ -32,6 +32,10 @@ void SayAtByte(std::string_view file, std::size_t byte, std::string_view what) {
     Say(file, "byte " + std::to_string(byte) + ": " + std::string(what));
 }
 
+void SayMissing(std::string_view file, std::string_view what, bool isTolerant) {
+    Say(file, (isTolerant ? "warning: " : "") + std::string(what));
+}
+
 std::string Shown(std::wstring_view name) {
     std::wstring shown(name);
     for (wchar_t& c : shown) {

@@ -113,7 +113,7 @@ bool ConvertNamed(const InputFile& input, LoadedPatterns& loaded, const std::vec
     for (const std::string& name : names) {
         const std::string narrow = platform::WideToAnsi(platform::Utf8ToWide(name));
         if (!loaded.file.patterns.contains(narrow)) {
-            Say(input.Name(), "the file has no pattern named " + Shown(name));
+            SayMissing(input.Name(), "the file has no pattern named " + Shown(name), leftOut != nullptr);
             complete = false;
         } else if (auto symbol = ConvertPattern(input, loaded, narrow, "", leftOut)) {
             symbols.push_back(std::move(symbol));
@@ -156,8 +156,10 @@ ExitStatus Patterns(const PatternsOptions& options) {
                                : ConvertNamed(input, loaded, options.names, leftOut, symbols);
     SortByLine(findings);
     SayFindings(findings);
-    if (!converted && options.names.empty()) {
+    if (options.names.empty() && !converted) {
         Say(input.Name(), "none of the file's patterns can be converted");
+    } else if (options.tolerant && !converted) {
+        Say(input.Name(), "none of the patterns asked for can be converted");
     }
     return converted ? WriteSymbols(symbols, options) : kInputFault;
 }

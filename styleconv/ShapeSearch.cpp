@@ -2,8 +2,10 @@
 
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/shx/ShapeFileFault.h"
+#include "StyleConversion/shx/ShapeHeaderReader.h"
 #include "styleconv/BuiltInFont.h"
 #include "styleconv/CheckedShapes.h"
+#include "styleconv/FileStream.h"
 #include "styleconv/Messages.h"
 #include "styleconv/Paths.h"
 #include "styleconv/ShapeFileMessages.h"
@@ -18,10 +20,6 @@
 
 namespace styleconv {
 namespace {
-
-struct CloseFile {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 std::vector<std::wstring> SearchFolders(const std::wstring& drawingPath,
                                         const std::vector<std::string>& folders) {
@@ -46,22 +44,21 @@ std::string Places(bool hasPath, const std::vector<std::string>& folders) {
     return places.empty() ? "anywhere (give a folder with --shapes)" : places;
 }
 
-std::string BytesOf(std::FILE* file) {
-    std::string bytes;
+// False, with errno set, when the file cannot be read to its end.
+bool ReadAll(std::FILE* file, std::string& bytes) {
     std::array<char, 1 << 16> block{};
     std::size_t count = 0;
     std::rewind(file);
     while ((count = std::fread(block.data(), 1, block.size(), file)) > 0) {
         bytes.append(block.data(), count);
     }
-    return bytes;
+    return std::ferror(file) == 0;
 }
 
 // The same shapes in a file that needs no forgiveness.
 std::string Mended(const std::string& bytes, const ShxUtility::ShapeFileFaultReport& report) {
-    constexpr std::string_view kSignature = "Vorlanx-86 ";
-    std::string mended(kSignature);
-    mended += std::string_view(bytes).substr(0, report.trailer).substr(kSignature.size());
+    std::string mended(ShxUtility::kSignature);
+    mended += std::string_view(bytes).substr(0, report.trailer).substr(ShxUtility::kSignature.size());
     return mended + "EOF";
 }
 
@@ -138,7 +135,7 @@ ShapeSearch::Result ShapeSearch::StandIn(const wchar_t* fileName) {
 ShapeSearch::Result ShapeSearch::Loadable(const std::wstring& path, const wchar_t* fileName) {
     const bool forgives = manner_ == ShapeSearchManner::kForgiving;
     std::string fault;
-    const std::unique_ptr<std::FILE, CloseFile> file(platform::OpenForReading(path.c_str()));
+    const FileStream file(platform::OpenForReading(path.c_str()));
     if (!file) {
         fault = std::string("cannot be opened: ") + std::strerror(errno);
     } else {
@@ -151,9 +148,12 @@ ShapeSearch::Result ShapeSearch::Loadable(const std::wstring& path, const wchar_
             fault = "byte " + std::to_string(report.offset) + ": " + Sentence(report);
         } else if (report.otherMaker || report.trailerMissing) {
             SayFindings(ForgivenOfShapeFile(platform::PathToBytes(path), report));
-            std::wstring mended = Provide(Mended(BytesOf(file.get()), report));
-            if (!mended.empty()) {
-                return {mended, {}};
+            std::string bytes;
+            if (ReadAll(file.get(), bytes)) {
+                std::wstring mended = Provide(Mended(bytes, report));
+                if (!mended.empty()) {
+                    return {std::move(mended), {}};
+                }
             }
             fault = std::string("cannot be copied into a temporary file: ") + std::strerror(errno);
         }

@@ -10,18 +10,18 @@
 namespace ShxUtility {
 namespace {
 
-constexpr std::string_view kMagic = "Vorlanx-86 ";
-constexpr std::string_view kMagicEnd = "-86 ";
+// Of the signature of any maker.
+constexpr std::string_view kSignatureEnd = "-86 ";
 constexpr int kVersionEnd = 0x1a;
 
 ShxResult ReadMagic(ShapeReading& reading) {
-    char magic[kMagic.size()];
-    if (reading.stream.Read(magic, kMagic.size()) != kMagic.size()) {
+    char magic[kSignature.size()];
+    if (reading.stream.Read(magic, kSignature.size()) != kSignature.size()) {
         return reading.FailHere(ShapeFileFault::MagicCutShort);
     }
-    if (std::memcmp(magic, kMagic.data(), kMagic.size()) != 0) {
-        const std::string_view found(magic, kMagic.size());
-        if (!reading.policy.anyMaker || !found.ends_with(kMagicEnd)) {
+    if (std::memcmp(magic, kSignature.data(), kSignature.size()) != 0) {
+        const std::string_view found(magic, kSignature.size());
+        if (!reading.policy.anyMaker || !found.ends_with(kSignatureEnd)) {
             return reading.Fail(ShapeFileFault::MagicWrong, 0);
         }
         reading.report.otherMaker = true;

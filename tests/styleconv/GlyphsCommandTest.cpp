@@ -117,6 +117,20 @@ TEST(GlyphsCommand, ANumberThatTheFileLacksIsAFault) {
     EXPECT_EQ(folder.Read("out.json"), "old");
 }
 
+TEST(GlyphsCommand, ToleratesANumberThatTheFileLacksBesideOneThatItHas) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.shx", ShapeFileBuilder::Shapes().Shape(65, "A", {0}).Text());
+    const ToolResult one = RunTool({"glyphs", file, "--tolerant", "--number", "66", "--number", "65"});
+    EXPECT_EQ(one.status, 0);
+    EXPECT_EQ(one.errors, file + ": warning: the file has no shape 66\n");
+    EXPECT_EQ(one.output, RunTool({"glyphs", file, "--number", "65"}).output);
+    const ToolResult none = RunTool({"glyphs", file, "--tolerant", "--number", "66"});
+    EXPECT_EQ(none.status, 1);
+    EXPECT_EQ(none.errors, file + ": warning: the file has no shape 66\n" + file +
+                               ": none of the shapes asked for can be drawn\n");
+    EXPECT_EQ(none.output, "");
+}
+
 TEST(GlyphsCommand, ScaleRotationAndStartActOnEveryShape) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.shx", TwoShapes());

@@ -111,7 +111,8 @@ TEST_F(TolerantBlocks, ABlockThatIsNotThereIsNamedAndTheOthersAreConverted) {
               "drawing.json: warning: the drawing has no block named NONE\n");
     EXPECT_TRUE(Has("\"TREE\""));
     EXPECT_EQ(Said(text, {"--name", "NONE"}, 1),
-              "drawing.json: warning: the drawing has no block named NONE\n");
+              "drawing.json: warning: the drawing has no block named NONE\n"
+              "drawing.json: none of the blocks asked for can be converted\n");
 }
 
 TEST_F(TolerantBlocks, WhatAConversionLeavesOutIsNamedByBlock) {
