@@ -1,5 +1,6 @@
 #include "fuzz/Documents.h"
 
+#include "StyleConversion/block/BlockConverter.h"
 #include "documents/SymbolsDocument.h"
 #include "fuzz/Fuzzing.h"
 
@@ -14,6 +15,19 @@ Symbols Owned(std::vector<TylModel::SymbolDefinition*>* symbols) {
     }
     delete symbols;
     return owned;
+}
+
+Symbols ConvertBlocks(drawing::Database& database) {
+    BlockConverter converter(&database);
+    std::vector<std::wstring> names;
+    Require(converter.GetBlockNames(names) == 0, "a table of blocks");
+    Symbols symbols;
+    for (const std::wstring& name : names) {
+        symbols.emplace_back(converter.Convert(name));
+        Require(symbols.back() != nullptr, "a symbol for every block that is listed");
+    }
+    Require(database.IsEverythingClosed(), "all that was opened to be closed");
+    return symbols;
 }
 
 std::string TextOf(const Symbols& symbols) {

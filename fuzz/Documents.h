@@ -2,6 +2,7 @@
 #pragma once
 
 #include "TylModel/TylModel.h"
+#include "drawing/Database.h"
 
 #include <cstddef>
 #include <memory>
@@ -14,6 +15,10 @@ using Symbols = std::vector<std::unique_ptr<TylModel::SymbolDefinition>>;
 
 /// Takes the symbols over; a null pointer holds none.
 Symbols Owned(std::vector<TylModel::SymbolDefinition*>* symbols);
+
+/// The symbols of all blocks that the drawing lists. Requires that there is one for each, and that all that
+/// was opened for them is closed.
+Symbols ConvertBlocks(drawing::Database& database);
 
 /// The symbols document.
 std::string TextOf(const Symbols& symbols);

@@ -1,6 +1,8 @@
 #include "fuzz/ShapeWork.h"
 
+#include "StyleConversion/shx/ShapeFileFault.h"
 #include "StyleConversion/shx/ShxUtility.h"
+#include "fuzz/Inputs.h"
 
 #include <algorithm>
 
@@ -61,6 +63,14 @@ bool AllFitBudget(const ShapesInFile& file) {
     return std::all_of(file.shapes.begin(), file.shapes.end(), [&](const Shape& shape) {
         return FitsBudget(file, shape.data.data(), shape.data.size(), file.kind, budget);
     });
+}
+
+bool AllFitBudget(std::string_view shapeFile, const ShapeFilePolicy& policy) {
+    ShapesInFile file;
+    ShapeFileFaultReport report;
+    const Stream stream = OpenBytes(shapeFile);
+    LoadShapeFile(stream.get(), file, kAllKinds, report, policy);
+    return AllFitBudget(file);
 }
 
 } // namespace fuzzing

@@ -1,10 +1,12 @@
 // How much work it is to draw shapes.
 #pragma once
 
+#include "StyleConversion/shx/ShapeFilePolicy.h"
 #include "StyleConversion/shx/ShapesInFile.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace fuzzing {
 
@@ -19,5 +21,9 @@ bool FitsBudget(const ShxUtility::ShapesInFile& file, const std::uint8_t* progra
 
 /// Whether all shapes of a file together take no more than kMostInstructions.
 bool AllFitBudget(const ShxUtility::ShapesInFile& file);
+
+/// Whether all shapes of the file of these bytes do, as far as the policy reads it. A text draws a shape for
+/// each of its characters, so that a shape alone says too little.
+bool AllFitBudget(std::string_view shapeFile, const ShxUtility::ShapeFilePolicy& policy = {});
 
 } // namespace fuzzing

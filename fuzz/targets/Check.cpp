@@ -13,7 +13,6 @@
 #include "styleconv/PatternsCommand.h"
 
 #include "StyleConversion/platform/Files.h"
-#include "StyleConversion/shx/ShapeFileFault.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
@@ -26,12 +25,7 @@ using fuzzing::Require;
 
 bool TakesLittleWork(char kind, std::string_view bytes) {
     if (kind == 's') {
-        ShxUtility::ShapesInFile file;
-        ShxUtility::ShapeFileFaultReport report;
-        const fuzzing::Stream stream = fuzzing::OpenBytes(bytes);
-        ShxUtility::LoadShapeFile(stream.get(), file, ShxUtility::kAllKinds, report,
-                                  ShxUtility::kTolerantShapeFilePolicy);
-        return fuzzing::AllFitBudget(file);
+        return fuzzing::AllFitBudget(bytes, ShxUtility::kTolerantShapeFilePolicy);
     }
     // Hatches of very many lines are what drawings may ask for and no finding.
     return kind != 'd' ||

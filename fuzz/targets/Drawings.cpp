@@ -1,5 +1,4 @@
 // A drawing document to symbols.
-#include "StyleConversion/block/BlockConverter.h"
 #include "documents/DrawingReader.h"
 #include "drawing/HostServices.h"
 #include "fuzz/Documents.h"
@@ -79,18 +78,6 @@ bool TakesLittleWork(std::string_view text) {
            sizes.largest * std::max(1.0, sizes.largest) / sizes.smallestRepeat <= kMostRepetitions;
 }
 
-fuzzing::Symbols ConvertAll(drawing::Database& database) {
-    BlockConverter converter(&database);
-    std::vector<std::wstring> names;
-    Require(converter.GetBlockNames(names) == 0, "a table of blocks");
-    fuzzing::Symbols symbols;
-    for (const std::wstring& name : names) {
-        symbols.emplace_back(converter.Convert(name));
-        Require(symbols.back() != nullptr, "a symbol for every block that is listed");
-    }
-    return symbols;
-}
-
 std::unique_ptr<drawing::Database> Read(std::string_view text, std::string& fault) {
     documents::DrawingFault found;
     auto database = documents::ReadDrawing(text, found);
@@ -118,10 +105,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     database->LimitHatchLines(100000);
-    const fuzzing::Symbols symbols = ConvertAll(*database);
-    Require(database->IsEverythingClosed(), "all that was opened to be closed");
+    const fuzzing::Symbols symbols = fuzzing::ConvertBlocks(*database);
     const std::string document = fuzzing::TextOf(symbols);
     fuzzing::RequireDocument(document, symbols.size());
-    Require(fuzzing::TextOf(ConvertAll(*database)) == document, "the same document twice");
+    Require(fuzzing::TextOf(fuzzing::ConvertBlocks(*database)) == document, "the same document twice");
     return 0;
 }

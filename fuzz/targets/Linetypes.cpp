@@ -1,55 +1,17 @@
 // A linetype file with its shape file to symbols.
 //
-// Input: the linetype file and, from the last "Vorlanx-86 " on, the shape file that every name finds. Styles
-// whose name begins with "T" have a typeface, all others that shape file.
+// Input: the linetype file and, from the last "Vorlanx-86 " on, the shape file that every name finds.
 #include "StyleConversion/linetype/LinParser.h"
 #include "StyleConversion/linetype/LineConverter.h"
-#include "StyleConversion/shx/ShxUtility.h"
 #include "fuzz/Documents.h"
 #include "fuzz/Fuzzing.h"
 #include "fuzz/Inputs.h"
+#include "fuzz/LinetypeServices.h"
 #include "fuzz/ShapeWork.h"
 
 #include <algorithm>
-#include <string>
-
-namespace {
 
 using fuzzing::Require;
-
-class Services : public LineConverter::IGetFile, public LineConverter::IGetFontInfo {
-public:
-    explicit Services(std::string_view shapeFile) : shapeFile_(shapeFile) {}
-
-    std::FILE* GetFile(const wchar_t* /*name*/, const wchar_t* /*extension*/) override {
-        return shapeFile_.empty() ? nullptr : fuzzing::OpenBytes(shapeFile_).release();
-    }
-
-    bool GetFontInfoFromStyle(const wchar_t* styleName, LineConverter::FontInfo& info) override {
-        info.fileName = L"font.shx";
-        info.xScale = 1.0;
-        if (styleName[0] == L'T') {
-            info.typeface = L"Face";
-        }
-        info.bold = styleName[1] == L'B';
-        info.isVertical = styleName[1] == L'V';
-        info.textSize = styleName[1] == L'F' ? 0.25 : 0.0;
-        return styleName[0] != L'N';
-    }
-
-private:
-    std::string_view shapeFile_;
-};
-
-// A text draws a shape for each of its characters.
-bool TakesLittleWork(std::string_view shapeFile) {
-    ShxUtility::ShapesInFile file;
-    const fuzzing::Stream stream = fuzzing::OpenBytes(shapeFile);
-    ShxUtility::LoadShapeFile(stream.get(), file, ShxUtility::kAllKinds);
-    return fuzzing::AllFitBudget(file);
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static fuzzing::InputOnDisk input;
@@ -58,11 +20,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view text = bytes.substr(0, border);
     const std::string_view shapeFile = bytes.substr(border);
     fuzzing::ChooseCodePage(text);
-    if (!TakesLittleWork(shapeFile)) {
+    if (!fuzzing::AllFitBudget(shapeFile)) {
         return 0;
     }
     const std::wstring& path = input.Holding(text);
-    Services services(shapeFile);
+    fuzzing::LinetypeServices services(shapeFile);
     LineConverter::LinParser parser(&services, &services);
     const LineConverter::LinResult result = parser.Parse(path);
     Require(result >= 0 && result <= LineConverter::kShapeFileNotLoaded &&

@@ -1,9 +1,7 @@
 // A drawing document, read with what is wrong left out, to symbols.
-#include "StyleConversion/block/BlockConverter.h"
 #include "documents/DrawingReader.h"
 #include "fuzz/Documents.h"
 #include "fuzz/Fuzzing.h"
-#include "fuzz/Inputs.h"
 
 #include <string>
 
@@ -19,15 +17,7 @@ bool MayRepeat(std::string_view text) {
 }
 
 std::string Converted(drawing::Database& database) {
-    BlockConverter converter(&database);
-    std::vector<std::wstring> names;
-    Require(converter.GetBlockNames(names) == 0, "a table of blocks");
-    fuzzing::Symbols symbols;
-    for (const std::wstring& name : names) {
-        symbols.emplace_back(converter.Convert(name));
-        Require(symbols.back() != nullptr, "a symbol for every block that is listed");
-    }
-    Require(database.IsEverythingClosed(), "all that was opened to be closed");
+    const fuzzing::Symbols symbols = fuzzing::ConvertBlocks(database);
     std::string document = fuzzing::TextOf(symbols);
     fuzzing::RequireDocument(document, symbols.size());
     return document;

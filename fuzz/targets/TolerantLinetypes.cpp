@@ -1,15 +1,14 @@
 // A linetype file with its shape file, read by the policies that forgive, to symbols.
 //
 // Input: the linetype file and, from seven bytes before the last "-86 " on, the shape file that every name
-// finds. Styles whose name begins with "T" have a typeface, those with "N" are not there, all others have
-// that shape file.
+// finds.
 #include "StyleConversion/linetype/CLinVisitor.h"
 #include "StyleConversion/linetype/LinParser.h"
 #include "StyleConversion/linetype/LineConverter.h"
-#include "StyleConversion/shx/ShapeFileFault.h"
 #include "fuzz/Documents.h"
 #include "fuzz/Fuzzing.h"
 #include "fuzz/Inputs.h"
+#include "fuzz/LinetypeServices.h"
 #include "fuzz/ShapeWork.h"
 
 #include <string>
@@ -19,37 +18,6 @@ namespace {
 
 using fuzzing::Require;
 
-class Services : public LineConverter::IGetFile, public LineConverter::IGetFontInfo {
-public:
-    explicit Services(std::string_view shapeFile) : shapeFile_(shapeFile) {}
-
-    std::FILE* GetFile(const wchar_t* /*name*/, const wchar_t* /*extension*/) override {
-        return shapeFile_.empty() ? nullptr : fuzzing::OpenBytes(shapeFile_).release();
-    }
-
-    bool GetFontInfoFromStyle(const wchar_t* styleName, LineConverter::FontInfo& info) override {
-        info.fileName = L"font.shx";
-        info.xScale = 1.0;
-        if (styleName[0] == L'T') {
-            info.typeface = L"Face";
-        }
-        info.isVertical = styleName[1] == L'V';
-        return styleName[0] != L'N';
-    }
-
-private:
-    std::string_view shapeFile_;
-};
-
-bool TakesLittleWork(std::string_view shapeFile) {
-    ShxUtility::ShapesInFile file;
-    ShxUtility::ShapeFileFaultReport report;
-    const fuzzing::Stream stream = fuzzing::OpenBytes(shapeFile);
-    ShxUtility::LoadShapeFile(stream.get(), file, ShxUtility::kAllKinds, report,
-                              ShxUtility::kTolerantShapeFilePolicy);
-    return fuzzing::AllFitBudget(file);
-}
-
 struct Conversion {
     std::string document;
     std::size_t symbols = 0;
@@ -57,7 +25,7 @@ struct Conversion {
     std::vector<LineConverter::LinFault> faults;
 };
 
-Conversion Convert(const std::wstring& path, Services& services) {
+Conversion Convert(const std::wstring& path, fuzzing::LinetypeServices& services) {
     LineConverter::LinParser parser(&services, &services, LineConverter::kTolerantLinPolicy);
     Require(parser.Parse(path) == LineConverter::kSuccess, "every file that is there to be read");
     LineConverter::CLinVisitor visitor(2.0, &parser.faultLog(), LineConverter::kTolerantLinPolicy);
@@ -82,11 +50,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view text = bytes.substr(0, border);
     const std::string_view shapeFile = bytes.substr(border);
     fuzzing::ChooseCodePage(text);
-    if (!TakesLittleWork(shapeFile)) {
+    if (!fuzzing::AllFitBudget(shapeFile, ShxUtility::kTolerantShapeFilePolicy)) {
         return 0;
     }
     const std::wstring& path = input.Holding(text);
-    Services services(shapeFile);
+    fuzzing::LinetypeServices services(shapeFile);
     const Conversion conversion = Convert(path, services);
     fuzzing::RequireDocument(conversion.document, conversion.symbols);
     Require(Convert(path, services).document == conversion.document, "the same document twice");
