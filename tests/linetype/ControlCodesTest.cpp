@@ -2,6 +2,7 @@
 #include "StyleConversion/linetype/ControlCodes.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
 
 namespace linetypetest {
@@ -13,6 +14,10 @@ struct CodeCase {
     const wchar_t* text;
     std::wstring characters;
 };
+
+void PrintTo(const CodeCase& row, std::ostream* out) {
+    *out << testing::PrintToString(std::wstring(row.text));
+}
 
 class ControlCodes : public testing::TestWithParam<CodeCase> {};
 
@@ -50,6 +55,10 @@ struct LineCase {
     bool overlined;
     bool underlined;
 };
+
+void PrintTo(const LineCase& row, std::ostream* out) {
+    *out << testing::PrintToString(std::wstring(row.text));
+}
 
 class OverAndUnderline : public testing::TestWithParam<LineCase> {};
 

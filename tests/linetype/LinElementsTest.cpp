@@ -4,6 +4,7 @@
 #include "StyleConversion/platform/CodePage.h"
 
 #include <cmath>
+#include <ostream>
 
 namespace linetypetest {
 namespace {
@@ -12,6 +13,10 @@ struct ElementCase {
     const char* element;
     const char* read; // what the walk shows
 };
+
+void PrintTo(const ElementCase& row, std::ostream* out) {
+    *out << row.element;
+}
 
 class LinElements : public ParserFixture, public testing::WithParamInterface<ElementCase> {};
 

@@ -1,6 +1,8 @@
 // Headers and the dashes of patterns.
 #include "ParserFixture.h"
 
+#include <ostream>
+
 namespace linetypetest {
 namespace {
 
@@ -65,6 +67,10 @@ struct PatternCase {
     const char* pattern;
     const char* elements;
 };
+
+void PrintTo(const PatternCase& row, std::ostream* out) {
+    *out << row.pattern;
+}
 
 class LinPatternTable : public LinPattern, public testing::WithParamInterface<PatternCase> {};
 

@@ -1,6 +1,8 @@
 // Forms that a strict reading refuses, or reads only a part of, and a tolerant one takes as they are meant.
 #include "TolerantFixture.h"
 
+#include <ostream>
+
 namespace linetypetest {
 namespace {
 
@@ -14,6 +16,10 @@ struct Slip {
     const char* clean; // the same as it should be written
     LinFaultKind kind;
 };
+
+void PrintTo(const Slip& row, std::ostream* out) {
+    *out << row.pattern;
+}
 
 class TolerantSlips : public TolerantFixture, public testing::WithParamInterface<Slip> {};
 

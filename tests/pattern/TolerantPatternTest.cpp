@@ -4,6 +4,7 @@
 #include "StyleConversion/pattern/RepeatTile.h"
 
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
 
 namespace {
@@ -51,6 +52,10 @@ struct Slip {
     Kind kind;
     std::size_t line;
 };
+
+void PrintTo(const Slip& row, std::ostream* out) {
+    *out << testing::PrintToString(std::string(row.text));
+}
 
 class TolerantPatterns : public testing::TestWithParam<Slip> {};
 
@@ -151,6 +156,10 @@ struct Tile {
     int rowCount;
     double error;
 };
+
+void PrintTo(const Tile& row, std::ostream* out) {
+    *out << row.family;
+}
 
 class TilePhase : public testing::TestWithParam<Tile> {};
 
