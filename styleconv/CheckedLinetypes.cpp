@@ -4,8 +4,8 @@
 #include "StyleConversion/linetype/LinParser.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "styleconv/AnnouncedLinetypes.h"
+#include "styleconv/EmptyFile.h"
 #include "styleconv/LinetypeFindings.h"
-#include "styleconv/LinetypesCommand.h"
 #include "styleconv/MeasuredLinetypes.h"
 #include "styleconv/Messages.h"
 #include "styleconv/Progress.h"
@@ -160,7 +160,7 @@ bool CheckLinetypes(const InputFile& input, const LinetypeSourceOptions& options
     if (result != LineConverter::kSuccess && parser.faults().empty()) {
         found.push_back({input.Name(), 0, Severity::kError, "there is not enough memory", ""});
     } else if (parser.linetypes().empty() && parser.faults().empty()) {
-        found.push_back({input.Name(), 0, Severity::kError, NoLinetypesText(input), ""});
+        found.push_back({input.Name(), 0, Severity::kError, EmptyFileText(input, kNoLinetypes), ""});
     }
     const std::string standIn = services.BuiltInFontText();
     if (!standIn.empty()) {

@@ -5,6 +5,7 @@
 #include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "styleconv/AnnouncedLinetypes.h"
+#include "styleconv/EmptyFile.h"
 #include "styleconv/LinetypeFindings.h"
 #include "styleconv/LinetypeMessages.h"
 #include "styleconv/LinetypeServices.h"
@@ -91,14 +92,6 @@ bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Convert
     return false;
 }
 
-void SayThereAreNoLinetypes(const InputFile& input) {
-    if (StartsWithByteOrderMark(input.Bytes())) {
-        SayAtLine(input.Name(), 1, NoLinetypesText(input));
-    } else {
-        Say(input.Name(), NoLinetypesText(input));
-    }
-}
-
 // Those asked for, in the order asked. False, after saying so, when one is not there; a tolerant conversion
 // needs but one.
 bool ChooseNamed(const InputFile& input, const LinetypesOptions& options, const Converted& converted,
@@ -142,7 +135,7 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
         return kInputFault;
     }
     if (converted.symbols.empty() && !converted.hasLinetypes) {
-        SayThereAreNoLinetypes(input);
+        SayFileIsEmpty(input, kNoLinetypes);
         return kInputFault;
     }
     if (options.names.empty()) {
@@ -171,14 +164,6 @@ void AddLinetypesCommand(CommandLine& line) {
     AddCommonOptions(command, *options);
 }
 
-std::string NoLinetypesText(const InputFile& input) {
-    return StartsWithByteOrderMark(input.Bytes())
-               ? "the file has no linetypes: a UTF-8 byte-order mark stands before its first character and "
-                 "hides a "
-                 "header there; save the file without it"
-               : "the file has no linetypes: no line begins with \"*\" and a name";
-}
-
 bool ListLinetypes(const InputFile& input, std::vector<std::string>& names) {
     LineConverter::LinParser parser(nullptr, nullptr);
     if (parser.Read(input.Path()) != LineConverter::kSuccess) {
@@ -189,7 +174,7 @@ bool ListLinetypes(const InputFile& input, std::vector<std::string>& names) {
         names.push_back(platform::WideToValidUtf8(platform::AnsiToWide(record.name)));
     }
     if (names.empty()) {
-        SayThereAreNoLinetypes(input);
+        SayFileIsEmpty(input, kNoLinetypes);
     }
     return !names.empty();
 }

@@ -12,9 +12,6 @@ namespace styleconv {
 /// Adds the command to the command line.
 void AddLinetypesCommand(CommandLine& line);
 
-/// Why a file that was read has no linetypes.
-std::string NoLinetypesText(const InputFile& input);
-
 /// The names of the linetypes of a file that was read, in file order, as UTF-8. Styles and shape files need
 /// not be there. False, after saying why, when the file has none or cannot be read whole.
 bool ListLinetypes(const InputFile& input, std::vector<std::string>& names);

@@ -5,6 +5,7 @@
 #include "StyleConversion/pattern/PatternLimits.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Utf8.h"
+#include "styleconv/EmptyFile.h"
 #include "styleconv/Finding.h"
 #include "styleconv/Messages.h"
 #include "styleconv/PatternFindings.h"
@@ -32,21 +33,6 @@ struct LoadedPatterns {
     pattern::PatternReading reading;
 };
 
-std::string NoPatternsText(const InputFile& input) {
-    return StartsWithByteOrderMark(input.Bytes()) ? "the file has no patterns: a UTF-8 byte-order mark "
-                                                    "stands before its first character and hides a "
-                                                    "header there; save the file without it"
-                                                  : "the file has no patterns: no line begins with \"*\"";
-}
-
-void SayThereAreNoPatterns(const InputFile& input) {
-    if (StartsWithByteOrderMark(input.Bytes())) {
-        SayAtLine(input.Name(), 1, NoPatternsText(input));
-    } else {
-        Say(input.Name(), NoPatternsText(input));
-    }
-}
-
 // False, after saying why, when the file has no patterns or its reading ended early.
 bool Load(const InputFile& input, LoadedPatterns& loaded, const pattern::PatternPolicy& policy = {}) {
     pattern::ParsePatternFile(input.Bytes(), loaded.file, &loaded.reading, policy);
@@ -57,7 +43,7 @@ bool Load(const InputFile& input, LoadedPatterns& loaded, const pattern::Pattern
         return false;
     }
     if (loaded.file.patterns.empty()) {
-        SayThereAreNoPatterns(input);
+        SayFileIsEmpty(input, kNoPatterns);
         return false;
     }
     return true;
@@ -186,7 +172,7 @@ void CheckPatterns(const InputFile& input, std::vector<Finding>& findings) {
         findings.push_back(std::move(finding));
     }
     if (loaded.file.patterns.empty()) {
-        findings.push_back({input.Name(), 0, Severity::kError, NoPatternsText(input), ""});
+        findings.push_back({input.Name(), 0, Severity::kError, EmptyFileText(input, kNoPatterns), ""});
     }
 }
 
