@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds everything with sanitizers, optimised and for Windows, checks formatting, runs clang-tidy and then all tests:
-# those of Windows under wine.
+# Builds everything with sanitizers, optimised and for Windows, checks formatting, runs clang-tidy, shows what is built
+# for Windows to clang for the Microsoft compiler's target, and runs all tests: those of Windows under wine.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/packages.sh
@@ -18,6 +18,9 @@ done
 
 echo "== clang-tidy"
 scripts/tidy.sh
+
+echo "== the Microsoft compiler's target"
+scripts/msvc.sh
 
 for preset in "${presets[@]}"; do
   echo "== $preset: tests"
