@@ -30,13 +30,15 @@ Stream OpenBytes(std::string_view bytes) {
 }
 
 InputOnDisk::InputOnDisk()
-    : path_(std::filesystem::temp_directory_path() /
-            ("styleconversion_fuzz_" + std::to_string(std::random_device()()))),
-      widePath_(platform::PathFromBytes(path_.string())) {}
+    : folder_(std::filesystem::temp_directory_path() /
+              ("styleconversion_fuzz_" + std::to_string(std::random_device()()))),
+      path_(folder_ / "input"), widePath_(platform::PathFromBytes(path_.string())) {
+    Require(std::filesystem::create_directory(folder_), "a temporary folder");
+}
 
 InputOnDisk::~InputOnDisk() {
     std::error_code ignored;
-    std::filesystem::remove(path_, ignored);
+    std::filesystem::remove_all(folder_, ignored);
 }
 
 const std::wstring& InputOnDisk::Holding(std::string_view bytes) {

@@ -18,7 +18,8 @@ using Stream = std::unique_ptr<std::FILE, CloseFile>;
 /// A stream that stands before the bytes, which must outlive it.
 Stream OpenBytes(std::string_view bytes);
 
-/// A file on disk that holds one input after the other and is removed at the program's end.
+/// A file on disk that holds one input after the other and is removed at the program's end. It has a folder
+/// of its own: what is searched for beside it is never there, and searching takes no time.
 class InputOnDisk {
 public:
     InputOnDisk();
@@ -30,6 +31,7 @@ public:
     const std::wstring& Holding(std::string_view bytes);
 
 private:
+    std::filesystem::path folder_;
     std::filesystem::path path_;
     std::wstring widePath_;
 };
