@@ -13,6 +13,7 @@ namespace encoding {
 class PathPiece {
 public:
     // Written out, since the compiler's own would fill the long buffer with zeros first.
+    // cppcheck-suppress uninitMemberVar
     PathPiece() : end_(buffer_) {}
 
     /// At most kWords characters in all. The length of a literal is known without looking for its end.
