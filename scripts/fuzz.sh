@@ -25,7 +25,8 @@ mkdir -p build/fuzz/found build/fuzz/logs
 for target in "${targets[@]}"; do
   corpus=build/fuzz/corpus/$target
   mkdir -p "$corpus"
-  options=(-max_total_time="$share" -timeout=10 -rss_limit_mb=2048 -max_len=4096 -print_final_stats=1
+  # Weighing inputs by how rare what they reach is takes a third of the time and comes upon no more.
+  options=(-entropic=0 -max_total_time="$share" -timeout=10 -rss_limit_mb=2048 -max_len=4096 -print_final_stats=1
     -artifact_prefix="build/fuzz/found/$target-")
   [ ! -e "fuzz/dictionaries/$target.dict" ] || options+=(-dict="fuzz/dictionaries/$target.dict")
   log=build/fuzz/logs/$target-$(date +%s).log
