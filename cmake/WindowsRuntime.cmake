@@ -12,8 +12,8 @@ file(COPY ${runtime_libraries} DESTINATION "${CMAKE_BINARY_DIR}/bin")
 
 # The maths functions are the system's. Those of the compiler's runtime compute with the processor's own instructions,
 # whose pi is too short: the cosine of a right angle is wrong from the fifth digit on.
-# Those of the system under wine are within one unit in the last place of those of Linux; for about three angles in a
-# hundred they are not the same, which shows in the last digit of some coordinates.
+# Those of the system under wine are within one unit in the last place of those of Linux; for about three sines and
+# cosines and seven arctangents in a hundred they are not the same, which shows in the last digit of some coordinates.
 set(maths_definition "${CMAKE_BINARY_DIR}/maths.def")
 file(WRITE "${maths_definition}" "LIBRARY msvcrt.dll\nEXPORTS\n")
 foreach(function acos asin atan atan2 cos exp fmod log log10 pow sin tan)

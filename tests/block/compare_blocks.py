@@ -1,13 +1,39 @@
-"""Compares the tool with a second implementation on random drawings: compare_blocks.py STYLECONV [COUNT [SEED]]"""
+"""Compares the tool with a second implementation on random drawings:
+compare_blocks.py STYLECONV [COUNT [SEED [MATHS]]]
+
+MATHS is the program system_maths, where the tool runs on another system than this.
+"""
+import functools
 import json
 import math
 import os
 import random
+import struct
 import subprocess
 import sys
 import tempfile
 
 import reference_blocks
+
+
+class SystemMaths:
+    """The maths functions of the system that the tool runs on, bit for bit."""
+
+    def __init__(self, command):
+        self.program = subprocess.Popen([command], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self.results = {}  # of lines, in which 0 and -0 differ
+        for name in ("sin", "cos", "atan", "atan2"):
+            setattr(self, name, functools.partial(self.result, name))
+
+    def result(self, name, *arguments):
+        line = " ".join([name] + [struct.pack(">d", argument).hex() for argument in arguments]) + "\n"
+        if line not in self.results:
+            self.program.stdin.write(line.encode())
+            self.program.stdin.flush()
+            bits = int(self.program.stdout.readline(), 16)
+            self.results[line] = struct.unpack(">d", bits.to_bytes(8, "big"))[0]
+        return self.results[line]
+
 
 LAYERS = ["0", "Roads", "roads", "WATER", "Nowhere"]
 
@@ -253,6 +279,8 @@ def main():
     tool = sys.argv[1]
     count = int(sys.argv[2]) if len(sys.argv) > 2 else 200
     first = int(sys.argv[3]) if len(sys.argv) > 3 else 1
+    if len(sys.argv) > 4:
+        reference_blocks.maths = SystemMaths(sys.argv[4])
     with tempfile.TemporaryDirectory() as folder:
         for seed in range(first, first + count):
             difference = compare(tool, seed, folder)

@@ -7,6 +7,10 @@ import ctypes
 import math
 from fractions import Fraction
 
+# Where sines, cosines and arctangents come from. Those of two systems differ in the last bit now and then, so for a
+# tool that runs on another system this is to be that system's.
+maths = math
+
 PI = 3.141592653589793
 HALF_PI = 1.5707963267948966
 TWO_PI = 6.283185307179586
@@ -43,7 +47,7 @@ def trimmed(value):
 def line_angle(a, b):
     if a[0] == b[0]:
         return HALF_PI if b[1] > a[1] else -HALF_PI
-    angle = math.atan((b[1] - a[1]) / (b[0] - a[0]))
+    angle = maths.atan((b[1] - a[1]) / (b[0] - a[0]))
     if a[0] > b[0]:
         angle += PI
     return angle
@@ -162,8 +166,8 @@ class ShapeFile:
                 else:
                     dx, dy = (code >> 4) * DIRECTIONS[code & 15][0], (code >> 4) * DIRECTIONS[code & 15][1]
                 theta = degrees * PI / 180
-                x = (math.cos(theta) * dx - math.sin(theta) * dy) * state[2]
-                y = (math.sin(theta) * dx + math.cos(theta) * dy) * state[2]
+                x = (maths.cos(theta) * dx - maths.sin(theta) * dy) * state[2]
+                y = (maths.sin(theta) * dx + maths.cos(theta) * dy) * state[2]
                 if pen:
                     path += "M %.15g,%.15g l %.15g,%.15g " % (state[0], state[1], x, y)
                 state[0] += x
@@ -179,8 +183,8 @@ class ShapeFile:
 
         def piece(a, b, large, sweep):
             text = "M %.15g,%.15g " % (state[0], state[1])
-            state[0] += r * (math.cos(b * PI / 180) - math.cos(a * PI / 180))
-            state[1] += r * (math.sin(b * PI / 180) - math.sin(a * PI / 180))
+            state[0] += r * (maths.cos(b * PI / 180) - maths.cos(a * PI / 180))
+            state[1] += r * (maths.sin(b * PI / 180) - maths.sin(a * PI / 180))
             return text + "A %.15g,%.15g 0 %d %d %.15g,%.15g " % (r, r, large, sweep, state[0], state[1])
 
         if end - start >= 270:
@@ -367,8 +371,8 @@ class Converter:
         if file is None:
             return ""
         ox, oy = dash.get("offset", [0, 0])
-        c = math.cos(direction)
-        s = math.sin(direction)
+        c = maths.cos(direction)
+        s = maths.sin(direction)
         state = [at[0] + c * ox - s * oy, at[1] + s * ox + c * oy, dash.get("scale", 1.0) * stretch]
         rotation = dash.get("rotation", 0.0) + direction
         if dash.get("shapeNumber", 0) != 0:
@@ -401,8 +405,8 @@ class Converter:
             return
         n, h = self.fit(linetype, distance(a, b))
         angle = line_angle(a, b)
-        c = math.cos(angle)
-        s = math.sin(angle)
+        c = maths.cos(angle)
+        s = maths.sin(angle)
         cur = (a[0] + h * c, a[1] + h * s)
         out[0] += " L " + self.point(cur)
         for r in range(n):
@@ -422,7 +426,7 @@ class Converter:
 
     def dash_arc(self, linetype, a, b, center, radius, sweep, clockwise, out):
         def on(t):
-            return (center[0] + radius * math.cos(t), center[1] + radius * math.sin(t))
+            return (center[0] + radius * maths.cos(t), center[1] + radius * maths.sin(t))
 
         def moved(p, step):
             t = line_angle(center, p)
@@ -478,8 +482,8 @@ class Converter:
         clockwise = entity.get("normal", [0, 0, 1])[2] < 0
 
         def at(t):
-            x = -math.cos(t) if clockwise else math.cos(t)
-            return (center[0] + radius * x, center[1] + radius * math.sin(t))
+            x = -maths.cos(t) if clockwise else maths.cos(t)
+            return (center[0] + radius * x, center[1] + radius * maths.sin(t))
 
         a, b = entity["startAngle"], entity["endAngle"]
         sweep = b - a
@@ -509,13 +513,13 @@ class Converter:
                 a = line_angle((cx, cy), (x, y))
                 if d > 0:
                     a = a + d / r
-                    x, y = cx + r * math.cos(a), cy + r * math.sin(a)
+                    x, y = cx + r * maths.cos(a), cy + r * maths.sin(a)
                     out[0] += (" A " + self.point((r, r)) + " " + "0.0" + (" 1" if d / r >= PI else " 0") + " 0 " +
                                self.point((x, y)))
                 else:
                     out[0] += " L " if d == 0 else " M "
                     a = a - d / r
-                    x, y = cx + r * math.cos(a), cy + r * math.sin(a)
+                    x, y = cx + r * maths.cos(a), cy + r * maths.sin(a)
                     out[0] += self.point((x, y))
                 out[1] += self.shape(linetype, i, (x, y), line_angle((cx, cy), (x, y)) + HALF_PI, k)
         self.finish(entity, out)
@@ -530,10 +534,10 @@ class Converter:
         ry = math.sqrt(nx * nx + ny * ny)
 
         def at(t):
-            return (cx + mx * math.cos(t) + nx * math.sin(t), cy + my * math.cos(t) + ny * math.sin(t))
+            return (cx + mx * maths.cos(t) + nx * maths.sin(t), cy + my * maths.cos(t) + ny * maths.sin(t))
 
         start, end = at(a), at(b)
-        rotation = math.atan2(my, mx) * 180 / PI
+        rotation = maths.atan2(my, mx) * 180 / PI
         out = ["M " + self.point(start), ""]
         if abs(abs(b - a) - TWO_PI) <= 1e-9:
             opposite = (2 * cx - start[0], 2 * cy - start[1])
@@ -568,7 +572,7 @@ class Converter:
             ux, uy = (b[0] - a[0]) / chord, (b[1] - a[1]) / chord
             center = ((a[0] + b[0]) / 2 - uy * along, (a[1] + b[1]) / 2 + ux * along)
             radius = chord * (1 + bulge * bulge) / (4 * abs(bulge))
-            result.append(("arc", a, b, center, radius, 4 * math.atan(abs(bulge)), bulge < 0))
+            result.append(("arc", a, b, center, radius, 4 * maths.atan(abs(bulge)), bulge < 0))
         return result
 
     def collect_polyline(self, entity):
@@ -616,12 +620,12 @@ class Converter:
                 size = abs(remaining)
                 left -= size
                 if is_line:
-                    cur = (cur[0] + size * math.cos(angle), cur[1] + size * math.sin(angle))
+                    cur = (cur[0] + size * maths.cos(angle), cur[1] + size * maths.sin(angle))
                 else:
                     step = size / radius
                     t = line_angle(center, cur)
                     t = t - step if clockwise else t + step
-                    cur = (center[0] + radius * math.cos(t), center[1] + radius * math.sin(t))
+                    cur = (center[0] + radius * maths.cos(t), center[1] + radius * maths.sin(t))
                 if remaining > 0 and not is_line:
                     out[0] += self.arc_piece(radius, radius, 0.0, step >= PI, clockwise, cur)
                 else:
@@ -706,10 +710,10 @@ class Converter:
 
             def at(t):
                 if kind == "arc":
-                    return (center[0] + rx * math.cos(t),
-                            center[1] - rx * math.sin(t) if clockwise else center[1] + rx * math.sin(t))
-                return (center[0] + major[0] * math.cos(t) + minor[0] * math.sin(t),
-                        center[1] + major[1] * math.cos(t) + minor[1] * math.sin(t))
+                    return (center[0] + rx * maths.cos(t),
+                            center[1] - rx * maths.sin(t) if clockwise else center[1] + rx * maths.sin(t))
+                return (center[0] + major[0] * maths.cos(t) + minor[0] * maths.sin(t),
+                        center[1] + major[1] * maths.cos(t) + minor[1] * maths.sin(t))
 
             if abs(abs(b - a) - TWO_PI) <= 1e-9:
                 p = (center[0] - rx, center[1])

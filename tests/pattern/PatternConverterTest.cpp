@@ -189,6 +189,51 @@ TEST_F(Converter, WidensNamesThroughTheCodePage) {
     EXPECT_EQ(symbol->GetName(), L"H\u00f6lzer");
 }
 
+std::string WithCarriageReturns(std::string_view text) {
+    std::string changed;
+    for (const char c : text) {
+        changed += c == '\n' ? "\r\n" : std::string(1, c);
+    }
+    return changed;
+}
+
+TEST_F(Converter, GivesTheSameForLineEndsOfEitherKind) {
+    // Remarks, blank lines, both kinds of header, a line of the greatest length, and a last line without an
+    // end.
+    const std::string text = "; a remark\n"
+                             "\n"
+                             "*B,second\n"
+                             "0,0,0,0,1,20,-5\n"
+                             "90,0,0,0,1" +
+                             std::string(117, ' ') +
+                             "\n"
+                             "\n"
+                             "; another remark\n"
+                             "*A\n"
+                             "0,0,0,0,2";
+    // The cycle of 20 and 5 is 25 wide; a family without dashes is drawn over 10.
+    const std::vector<std::string> symbols = {
+        "simple A\narea %HATCHANGLE% 10.0 2.0\npath M 0.0,0.0 h 10.0\n",
+        "compound B\narea %HATCHANGLE% 25.0 1.0\npath M 0.0,0.0 h 20.0\n"
+        "area %HATCHANGLE%+90.0 10.0 1.0\npath M 0.0,0.0 h 10.0\n"};
+    for (const std::string& ends : {text, WithCarriageReturns(text)}) {
+        const TemporaryFile file(ends);
+        PatternConverter converter(file.GetName());
+        EXPECT_EQ(Names(converter), (std::vector<std::wstring>{L"A", L"B"}));
+        EXPECT_EQ(ConvertAll(converter), symbols);
+        EXPECT_EQ(ConvertOne(converter, L"A"), symbols.front());
+    }
+}
+
+// It ends no line: here it is part of the name.
+TEST_F(Converter, TakesACarriageReturnAloneForACharacter) {
+    const TemporaryFile file("*A\r0,0\n0,0,0,0,1\r\r\n");
+    PatternConverter converter(file.GetName());
+    EXPECT_EQ(Names(converter), std::vector<std::wstring>{L"A\r0"});
+    EXPECT_EQ(ConvertOne(converter, L"A\r0"),
+              "simple A\r0\narea %HATCHANGLE% 10.0 1.0\npath M 0.0,0.0 h 10.0\n");
+}
+
 TEST_F(Converter, HandsOutTheLongestNameThatALineHolds) {
     const std::string name(126, 'N');
     const TemporaryFile file("*" + name + "\n0,0,0,0,1\n");
