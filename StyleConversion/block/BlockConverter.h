@@ -44,7 +44,9 @@ class SymbolDefinition;
 
 namespace block {
 class BlockSymbol;
-}
+class LoadedShapeFiles;
+struct DashGeometry;
+} // namespace block
 
 /// Converts one block at a time. Lengths and coordinates of the symbols are millimetres; the drawing's unit,
 /// or the block's own where it has one, says how many of them a drawing unit is. A drawing without a unit
@@ -95,7 +97,8 @@ private:
     void SetScale(OxDb::UnitsValue units);
     void AssignPointUsage(block::BlockSymbol& symbol) const;
 
-    // Looks the entity's layer up. `layer` is null when it is not found; the caller closes it.
+    // Looks a layer, or the entity's own, up. `layer` is null when it is not found; the caller closes it.
+    void FindLayer(const wchar_t* name, OxDbLayerTableRecord*& layer) const;
     void FindEntityLayer(const OxDbEntity& entity, OxDbLayerTableRecord*& layer) const;
     std::wstring GetEntityColor(const OxDbBlockTableRecord& record, const OxDbEntity& entity,
                                 const OxCmColor& color, block::BlockSymbol& symbol) const;
@@ -136,18 +139,18 @@ private:
                       block::BlockSymbol& symbol) const;
 
     // Linetypes: one straight or circular piece with its dashes, appended to `path`, and the shapes and texts
-    // at the dashes, appended to `shapePath`. `linetype` may be null. Angles are radians.
+    // at the dashes, appended to `shapes`. `linetype` may be null. Angles are radians.
     void ParseDashLine(const OxDbLinetypeTableRecord* linetype, const OxGePoint2d& start,
-                       const OxGePoint2d& end, std::wstring& path, std::wstring& shapePath) const;
+                       const OxGePoint2d& end, std::wstring& path, block::DashGeometry& shapes) const;
     void ParseDashArc(const OxDbLinetypeTableRecord* linetype, const OxGePoint2d& start,
                       const OxGePoint2d& end, const OxGePoint2d& center, double radius, double sweep,
-                      bool clockwise, std::wstring& path, std::wstring& shapePath) const;
+                      bool clockwise, std::wstring& path, block::DashGeometry& shapes) const;
     void DashCircle(const OxDbLinetypeTableRecord& linetype, const OxGePoint2d& center, double radius,
-                    std::wstring& path, std::wstring& shapePath) const;
+                    std::wstring& path, block::DashGeometry& shapes) const;
     // Draws what dash `index` carries at `at`, where the direction of travel is `direction`, `stretch` times
     // its size.
     void DrawDashShape(const OxDbLinetypeTableRecord& linetype, int index, const OxGePoint2d& at,
-                       double direction, double stretch, std::wstring& shapePath) const;
+                       double direction, double stretch, block::DashGeometry& shapes) const;
 
     // Boundary loops. One of vertices and bulges (tangents of a quarter of the included angle), where fewer
     // than three vertices add nothing; and one of edges.
@@ -155,9 +158,9 @@ private:
                     const OxArray<double>& bulges) const;
     void AppendEdgeLoop(std::wstring& path, const OxArray<const OxGeCurve2d*>& edges) const;
 
-    // Shape files. ParseShxId loads the file of a text style; ProcessShape draws one of its shapes and moves
-    // x, y and scale to what its program left. Rotation in radians.
-    bool ParseShxId(OxDbObjectId styleId, ShxUtility::ShapesInFile& shapes) const;
+    // Shape files. ParseShxId gives the file of a text style, loaded by now, or null; ProcessShape draws one
+    // of its shapes and moves x, y and scale to what its program left. Rotation in radians.
+    const ShxUtility::ShapesInFile* ParseShxId(OxDbObjectId styleId, block::LoadedShapeFiles& files) const;
     std::wstring ProcessShape(const ShxUtility::ShapesInFile& shapes, int shapeNumber, double& scale,
                               double& x, double& y, double rotation) const;
 

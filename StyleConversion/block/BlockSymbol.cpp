@@ -22,6 +22,22 @@ BlockSymbol::BlockSymbol(TylModel::SimpleSymbolDefinition& symbol,
     }
 }
 
+NamedLayer& BlockSymbol::LayerNamed(std::wstring_view name) {
+    if (lastLayer_ != nullptr && lastLayer_->name == name) {
+        return *lastLayer_;
+    }
+    const auto found = layersByName_.find(name);
+    if (found != layersByName_.end()) {
+        lastLayer_ = found->second;
+    } else {
+        NamedLayer& added = layers_.emplace_back();
+        added.name = name;
+        layersByName_.emplace(added.name, &added);
+        lastLayer_ = &added;
+    }
+    return *lastLayer_;
+}
+
 void BlockSymbol::Adopt(std::unique_ptr<TylModel::Parameter> parameter) {
     identifiers_.insert(parameter->GetIdentifier());
     symbol_.GetParameterDefinition().Adopt(parameter.release());
@@ -37,7 +53,7 @@ void BlockSymbol::AdoptPointUsage(std::unique_ptr<TylModel::PointUsage> usage) {
 
 EntityPath& BlockSymbol::StartPath() {
     path_.path.clear();
-    path_.shapes.clear();
+    path_.shapes.path.clear();
     return path_;
 }
 

@@ -1,13 +1,16 @@
 // The symbol of the block under conversion, as the collectors see it.
 #pragma once
 
+#include "StyleConversion/block/LoadedShapeFiles.h"
 #include "TylModel/TylModel.h"
 
 #include <cstddef>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -21,16 +24,26 @@ struct TextHash {
 
 using TextSet = std::unordered_set<std::wstring, TextHash, std::equal_to<>>;
 
+/// A layer that entities name, and which of its parameters the symbol has: an entity's layer need not be
+/// looked up for those. Small, since there may be many.
+struct NamedLayer {
+    std::wstring name;   // as entities spell it
+    std::wstring record; // as the layer spells it
+    bool hasColor = false;
+    bool hasLineWeight = false;
+};
+
 /// The geometry of one entity: its own, and that of the shapes and texts in its linetype.
 struct EntityPath {
     std::wstring path;
-    std::wstring shapes;
+    DashGeometry shapes;
 };
 
 /// Lives as long as the conversion of one block and knows, beside the symbol, what would otherwise have to be
-/// searched for at every entity: the identifiers of the symbol's parameters, and the layers to ignore. The
-/// converter hands it to the collectors in the symbol's place, and so needs no state of its own between
-/// conversions. An entity's cost does not grow with the number of layers or parameters.
+/// searched for at every entity: the identifiers of the symbol's parameters, the layers to ignore, the
+/// layers of entities, and the shape files of linetypes. The converter hands it to the collectors in the
+/// symbol's place, and so needs no state of its own between conversions. An entity's cost does not grow with
+/// the number of layers or parameters.
 class BlockSymbol {
 public:
     /// Both must outlive this object.
@@ -42,12 +55,15 @@ public:
     /// Whether a search through the symbol's parameters for that identifier would find one.
     bool HasParameter(std::wstring_view identifier) const { return identifiers_.contains(identifier); }
 
+    /// Knows nothing of the layer the first time.
+    NamedLayer& LayerNamed(std::wstring_view name);
+
     /// Both append to the symbol, which then owns the object. A parameter's identifier is not looked for.
     void Adopt(std::unique_ptr<TylModel::Parameter> parameter);
     void Adopt(std::unique_ptr<TylModel::GraphicElement> graphic);
     void AdoptPointUsage(std::unique_ptr<TylModel::PointUsage> usage);
 
-    /// Room for the geometry of the next entity: both strings empty, with the storage of entities before.
+    /// Room for the geometry of the next entity: both paths empty, with the storage of entities before.
     EntityPath& StartPath();
     /// What was written since.
     EntityPath& CurrentPath() { return path_; }
@@ -58,6 +74,10 @@ private:
     TylModel::SimpleSymbolDefinition& symbol_;
     TextSet identifiers_;
     std::unordered_set<std::wstring_view> layersToIgnore_;
+    std::deque<NamedLayer> layers_;
+    std::unordered_map<std::wstring_view, NamedLayer*> layersByName_; // the names are in layers_
+    // Asked for last: an entity asks twice, and its neighbours often for the same.
+    NamedLayer* lastLayer_ = nullptr;
     EntityPath path_;
 };
 

@@ -5,14 +5,16 @@
 #include "OxDb/OxDbEntity.h"
 #include "StyleConversion/block/Opened.h"
 
-void BlockConverter::FindEntityLayer(const OxDbEntity& entity, OxDbLayerTableRecord*& layer) const {
+void BlockConverter::FindLayer(const wchar_t* name, OxDbLayerTableRecord*& layer) const {
     layer = nullptr;
     block::Opened<OxDbLayerTable> table;
-    if (!table.Accept(database_->getSymbolTable(table.Receive(), OxDb::kForRead))) {
-        return;
-    }
-    const block::LayerName name(entity);
-    if (name.Get() != nullptr && table->getAt(name.Get(), layer, OxDb::kForRead, false) != Oxsys::eOk) {
+    if (name != nullptr && table.Accept(database_->getSymbolTable(table.Receive(), OxDb::kForRead)) &&
+        table->getAt(name, layer, OxDb::kForRead, false) != Oxsys::eOk) {
         layer = nullptr;
     }
+}
+
+void BlockConverter::FindEntityLayer(const OxDbEntity& entity, OxDbLayerTableRecord*& layer) const {
+    const block::LayerName name(entity);
+    FindLayer(name.Get(), layer);
 }

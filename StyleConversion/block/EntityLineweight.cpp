@@ -44,8 +44,16 @@ std::wstring BlockConverter::GetEntityLineweight(const OxDbBlockTableRecord& rec
     if (weight != OxDb::kLnWtByLayer) {
         return text();
     }
+    const block::LayerName name(entity);
+    if (name.Get() == nullptr) {
+        return Lineweight2TylString(OxDb::kLnWt000);
+    }
+    block::NamedLayer& known = symbol.LayerNamed(name.Get());
+    if (known.hasLineWeight) {
+        return block::Reference(kLineweightByLayer, known.record);
+    }
     block::Opened<OxDbLayerTableRecord> layer;
-    FindEntityLayer(entity, layer.Receive());
+    FindLayer(name.Get(), layer.Receive());
     if (layer.Get() == nullptr) {
         return Lineweight2TylString(OxDb::kLnWt000);
     }
@@ -54,5 +62,7 @@ std::wstring BlockConverter::GetEntityLineweight(const OxDbBlockTableRecord& rec
     if (layer->getName(layerName) != Oxsys::eOk || layerName == nullptr) {
         return text();
     }
+    known.record = layerName;
+    known.hasLineWeight = true;
     return block::ReferToParameter(symbol, kLineweightByLayer, layerName, text);
 }

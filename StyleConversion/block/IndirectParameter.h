@@ -15,17 +15,24 @@ struct IndirectParameter {
     TylModel::Parameter::DataType dataType;
 };
 
-/// "%identifierNAME%". Adds the parameter to the symbol where it has none of that identifier; one that it has
-/// keeps the default that it was given first. `defaultValue` is called for a new one only.
-template <class DefaultValue>
-std::wstring ReferToParameter(BlockSymbol& symbol, const IndirectParameter& kind, std::wstring_view name,
-                              DefaultValue defaultValue) {
+/// "%identifierNAME%".
+inline std::wstring Reference(const IndirectParameter& kind, std::wstring_view name) {
     std::wstring reference;
     reference.reserve(kind.identifier.size() + name.size() + 2);
     reference += L'%';
     reference += kind.identifier;
     reference += name;
-    const std::wstring_view identifier = std::wstring_view(reference).substr(1);
+    reference += L'%';
+    return reference;
+}
+
+/// The same. Adds the parameter to the symbol where it has none of that identifier; one that it has keeps the
+/// default that it was given first. `defaultValue` is called for a new one only.
+template <class DefaultValue>
+std::wstring ReferToParameter(BlockSymbol& symbol, const IndirectParameter& kind, std::wstring_view name,
+                              DefaultValue defaultValue) {
+    std::wstring reference = Reference(kind, name);
+    const std::wstring_view identifier = std::wstring_view(reference).substr(1, reference.size() - 2);
     if (!symbol.HasParameter(identifier)) {
         const std::wstring displayName = std::wstring(kind.displayName).append(name);
         auto parameter = std::make_unique<TylModel::Parameter>();
@@ -36,7 +43,6 @@ std::wstring ReferToParameter(BlockSymbol& symbol, const IndirectParameter& kind
         parameter->SetDataType(kind.dataType);
         symbol.Adopt(std::move(parameter));
     }
-    reference += L'%';
     return reference;
 }
 

@@ -88,6 +88,30 @@ TEST_F(EntityColor, ParameterTakesTheLayersSpellingAndNotTheEntitys) {
     EXPECT_EQ(DefaultOf(L"COLORBYLAYERRoads"), L"ff123456");
 }
 
+TEST_F(EntityColor, LayerIsLookedUpOncePerSpelling) {
+    for (const wchar_t* const layer : {L"Roads", L"ROADS", L"Roads", L"ROADS"}) {
+        AddPoint(ByLayer(), layer);
+    }
+    database.Failures().Clear();
+    const Symbol symbol = Convert();
+    EXPECT_EQ(database.Failures().Calls(Operation::kLayerTableGetAt), 2U);
+    EXPECT_EQ(Identifiers(symbol), (Texts{L"COLORBYLAYERRoads", L"ROTATION"}));
+    for (std::int32_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(PathAt(symbol, i).GetLineColor(), L"%COLORBYLAYERRoads%") << i;
+    }
+}
+
+TEST_F(EntityColor, LayerThatCouldNotBeHadIsLookedUpAgainForTheNextEntity) {
+    AddPoint(ByLayer(), L"Roads");
+    AddPoint(ByLayer(), L"Roads");
+    for (const Operation operation : {Operation::kLayerTableGetAt, Operation::kLayerGetName}) {
+        Fail(operation, 1);
+        const Symbol symbol = Convert();
+        EXPECT_NE(PathAt(symbol, 0).GetLineColor(), L"%COLORBYLAYERRoads%");
+        EXPECT_EQ(PathAt(symbol, 1).GetLineColor(), L"%COLORBYLAYERRoads%");
+    }
+}
+
 TEST_F(EntityColor, ByLayerWithoutThatLayerIsBlack) {
     AddPoint(ByLayer(), L"Nowhere");
     EXPECT_EQ(OutrightColor(), L"ff000000");

@@ -32,9 +32,7 @@ public:
     }
 
     drawing::HostServices& Services() { return services_; }
-    std::uint64_t Searches() const {
-        return const_cast<drawing::HostServices&>(services_).Failures().Calls(drawing::Operation::kFindFile);
-    }
+    std::uint64_t Searches() { return services_.Failures().Calls(drawing::Operation::kFindFile); }
 
 private:
     static std::filesystem::path NewFolder() {
