@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <random>
 
@@ -90,8 +91,11 @@ ToolResult Run(const std::vector<std::string>& arguments, const std::string& inp
             CloseHandle(process.hThread);
         } else {
             const DWORD error = GetLastError();
-            // Said where the tool would have said something.
-            std::ofstream(scratch / "err") << "the tool was not started: error " << error << '\n';
+            // Said where the tool would have said something, and for tests that do not look there. It happens
+            // where the tool is being linked anew.
+            const std::string message = "the tool was not started: error " + std::to_string(error) + "\n";
+            std::ofstream(scratch / "err") << message;
+            std::cerr << message;
         }
     }
     result.output = BytesOf(scratch / "out");
