@@ -11,8 +11,62 @@ namespace geometry {
 
 namespace {
 
+/// Between() at one fraction, which is judged once.
+class Divider {
+public:
+    explicit Divider(double fraction)
+        : isNear_(fraction <= 0.5), share_(isNear_ ? fraction : 1.0 - fraction) {}
+
+    template <class Work>
+    void Do(Work work) const {
+        if (isNear_) {
+            work([share = share_](Point a, Point b) {
+                return Point{a.x + share * (b.x - a.x), a.y + share * (b.y - a.y)};
+            });
+        } else {
+            work([share = share_](Point a, Point b) {
+                return Point{b.x - share * (b.x - a.x), b.y - share * (b.y - a.y)};
+            });
+        }
+    }
+
+private:
+    bool isNear_;
+    double share_;
+};
+
+constexpr std::size_t kCubicOrder = 4;
+
+/// The two below for a cubic that is not rational: most curves are, and loops cost more than the sums in
+/// them.
+void KeepBeforeInCubic(Point* points, double fraction) {
+    Divider(fraction).Do([&](const auto& between) {
+        points[3] = between(points[2], points[3]);
+        points[2] = between(points[1], points[2]);
+        points[1] = between(points[0], points[1]);
+        points[3] = between(points[2], points[3]);
+        points[2] = between(points[1], points[2]);
+        points[3] = between(points[2], points[3]);
+    });
+}
+
+void KeepAfterInCubic(Point* points, double fraction) {
+    Divider(fraction).Do([&](const auto& between) {
+        points[0] = between(points[0], points[1]);
+        points[1] = between(points[1], points[2]);
+        points[2] = between(points[2], points[3]);
+        points[0] = between(points[0], points[1]);
+        points[1] = between(points[1], points[2]);
+        points[0] = between(points[0], points[1]);
+    });
+}
+
 /// In place, the control points of the part before `fraction`.
 void KeepBefore(Point* points, double* weights, std::size_t order, double fraction) {
+    if (weights == nullptr && order == kCubicOrder) {
+        KeepBeforeInCubic(points, fraction);
+        return;
+    }
     if (weights == nullptr) { // The same without a question at each point.
         for (std::size_t round = 1; round < order; ++round) {
             for (std::size_t index = order - 1; index >= round; --index) {
@@ -30,6 +84,10 @@ void KeepBefore(Point* points, double* weights, std::size_t order, double fracti
 
 /// In place, the control points of the part after `fraction`.
 void KeepAfter(Point* points, double* weights, std::size_t order, double fraction) {
+    if (weights == nullptr && order == kCubicOrder) {
+        KeepAfterInCubic(points, fraction);
+        return;
+    }
     if (weights == nullptr) {
         for (std::size_t round = 1; round < order; ++round) {
             for (std::size_t index = 0; index + round < order; ++index) {
@@ -113,14 +171,23 @@ BezierChain DecomposeIntoBezier(const NurbsCurve& curve) {
 BezierStack::BezierStack(const BezierChain& chain)
     : chain_(&chain), order_(static_cast<std::size_t>(chain.degree) + 1) {}
 
+void BezierStack::Grow() {
+    ++count_;
+    if (depths_.size() < count_) {
+        depths_.resize(count_);
+        points_.resize(count_ * order_);
+        weights_.resize(IsRational(*chain_) ? count_ * order_ : 0);
+    }
+}
+
 void BezierStack::Push(std::size_t piece, double from, double to) {
     const auto first = static_cast<std::ptrdiff_t>(piece * order_);
-    const auto last = first + static_cast<std::ptrdiff_t>(order_);
-    points_.insert(points_.end(), chain_->points.begin() + first, chain_->points.begin() + last);
+    Grow();
+    std::copy_n(chain_->points.begin() + first, order_, TopPointData());
     if (IsRational(*chain_)) {
-        weights_.insert(weights_.end(), chain_->weights.begin() + first, chain_->weights.begin() + last);
+        std::copy_n(chain_->weights.begin() + first, order_, TopWeightData());
     }
-    depths_.push_back(0);
+    depths_[count_ - 1] = 0;
     if (to < 1.0) {
         KeepBefore(TopPointData(), TopWeightData(), order_, to);
     }
@@ -130,51 +197,66 @@ void BezierStack::Push(std::size_t piece, double from, double to) {
 }
 
 void BezierStack::HalveTop() {
-    // The lower copy becomes the second half while the upper one becomes the first.
-    const std::size_t lower = points_.size() - order_;
-    points_.resize(points_.size() + order_);
-    std::copy_n(points_.begin() + static_cast<std::ptrdiff_t>(lower), order_,
-                points_.begin() + static_cast<std::ptrdiff_t>(lower + order_));
-    double* lowerWeights = nullptr;
-    if (IsRational(*chain_)) {
-        weights_.resize(weights_.size() + order_);
-        std::copy_n(weights_.begin() + static_cast<std::ptrdiff_t>(lower), order_,
-                    weights_.begin() + static_cast<std::ptrdiff_t>(lower + order_));
-        lowerWeights = weights_.data() + lower;
+    const int depth = TopDepth() + 1;
+    depths_[count_ - 1] = depth;
+    Grow();
+    depths_[count_ - 1] = depth;
+    if (order_ == kCubicOrder && !IsRational(*chain_)) {
+        HalveTopOfCubic();
+        return;
     }
-    Point* upperPoints = TopPointData();
-    double* upperWeights = TopWeightData();
+    // The lower copy becomes the second half while the upper one becomes the first.
+    Point* const upperPoints = TopPointData();
+    Point* const lowerPoints = upperPoints - order_;
+    std::copy_n(lowerPoints, order_, upperPoints);
+    double* const upperWeights = TopWeightData();
+    double* lowerWeights = nullptr;
+    if (upperWeights != nullptr) {
+        lowerWeights = upperWeights - order_;
+        std::copy_n(lowerWeights, order_, upperWeights);
+    }
     for (std::size_t round = 1; round < order_; ++round) {
         for (std::size_t index = order_ - 1; index >= round; --index) {
             Blend(upperPoints, upperWeights, index - 1, index, index, 0.5);
         }
         const std::size_t kept = order_ - 1 - round;
-        points_[lower + kept] = upperPoints[order_ - 1];
+        lowerPoints[kept] = upperPoints[order_ - 1];
         if (lowerWeights != nullptr) {
             lowerWeights[kept] = upperWeights[order_ - 1];
         }
     }
-    const int depth = depths_.back() + 1;
-    depths_.back() = depth;
-    depths_.push_back(depth);
+}
+
+/// The same, with the triangle of points written out.
+void BezierStack::HalveTopOfCubic() {
+    Point* const first = TopPointData();
+    Point* const second = first - kCubicOrder;
+    const Point a = Between(second[0], second[1], 0.5);
+    const Point b = Between(second[1], second[2], 0.5);
+    const Point c = Between(second[2], second[3], 0.5);
+    const Point ab = Between(a, b, 0.5);
+    const Point bc = Between(b, c, 0.5);
+    const Point middle = Between(ab, bc, 0.5);
+    first[0] = second[0];
+    first[1] = a;
+    first[2] = ab;
+    first[3] = middle;
+    second[0] = middle;
+    second[1] = bc;
+    second[2] = c;
 }
 
 void BezierStack::Pop() {
-    points_.resize(points_.size() - order_);
-    if (IsRational(*chain_)) {
-        weights_.resize(weights_.size() - order_);
-    }
-    depths_.pop_back();
+    --count_;
 }
 
 void BezierStack::Clear() {
-    points_.clear();
-    weights_.clear();
-    depths_.clear();
+    count_ = 0;
 }
 
 std::span<const double> BezierStack::TopWeights() const {
-    return IsRational(*chain_) ? std::span(weights_).last(order_) : std::span<const double>();
+    return IsRational(*chain_) ? std::span(weights_).subspan((count_ - 1) * order_, order_)
+                               : std::span<const double>();
 }
 
 Point EvaluatePiece(const BezierChain& chain, std::size_t piece, double fraction) {

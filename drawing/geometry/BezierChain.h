@@ -59,20 +59,27 @@ public:
     void Pop();
     void Clear();
 
-    bool IsEmpty() const { return depths_.empty(); }
-    int TopDepth() const { return depths_.back(); }
-    std::span<const Point> TopPoints() const { return std::span(points_).last(order_); }
+    bool IsEmpty() const { return count_ == 0; }
+    int TopDepth() const { return depths_[count_ - 1]; }
+    std::span<const Point> TopPoints() const {
+        return std::span(points_).subspan((count_ - 1) * order_, order_);
+    }
     /// Empty when the chain is not rational.
     std::span<const double> TopWeights() const;
 
 private:
-    Point* TopPointData() { return points_.data() + (points_.size() - order_); }
+    /// One more place on the stack, filled by the caller.
+    void Grow();
+    void HalveTopOfCubic();
+    Point* TopPointData() { return points_.data() + (count_ - 1) * order_; }
     double* TopWeightData() {
-        return IsRational(*chain_) ? weights_.data() + (weights_.size() - order_) : nullptr;
+        return IsRational(*chain_) ? weights_.data() + (count_ - 1) * order_ : nullptr;
     }
 
     const BezierChain* chain_;
     std::size_t order_;
+    std::size_t count_ = 0;
+    // Of the pieces on the stack, and behind them what is left of others.
     std::vector<Point> points_;
     std::vector<double> weights_;
     std::vector<int> depths_;

@@ -127,6 +127,10 @@ private:
         return EvaluatePiece(chain_, piece, position - static_cast<double>(piece));
     }
 
+    Point PieceStart(std::size_t piece) const {
+        return chain_.points[piece * (static_cast<std::size_t>(chain_.degree) + 1)];
+    }
+
     const BezierChain& chain_;
     BezierStack stack_;
     std::vector<bool> kinks_; ///< by piece: at its start
@@ -167,6 +171,13 @@ bool Sampler::StaysWithin(const CurveStart& from, double to) {
         return answer ? *answer : StaysNear(chord);
     }
     const Chord chord(from.point, PointAt(to));
+    // A joint of pieces that is too far away settles it.
+    for (std::size_t piece = first + 1; static_cast<double>(piece) < to && piece < PieceCount(chain_);
+         ++piece) {
+        if (chord.SquaredDistanceTo(PieceStart(piece)) > proved_) {
+            return false;
+        }
+    }
     for (std::size_t piece = first; static_cast<double>(piece) < to && piece < PieceCount(chain_); ++piece) {
         const auto base = static_cast<double>(piece);
         stack_.Push(piece, std::max(from.position - base, 0.0), std::min(to - base, 1.0));
@@ -202,11 +213,14 @@ bool Sampler::StaysNear(const Chord& chord) {
         const std::span<const Point> points = stack_.TopPoints();
         const double first = chord.SquaredDistanceTo(points.front());
         const double last = chord.SquaredDistanceTo(points.back());
-        double furthest = std::max({0.0, first, last});
-        for (std::size_t index = 1; index + 1 < points.size(); ++index) {
-            furthest = std::max(furthest, chord.SquaredDistanceTo(points[index]));
+        if (first > proved_ || last > proved_) {
+            return false;
         }
-        if (furthest <= proved_) {
+        bool isProved = true;
+        for (std::size_t index = 1; isProved && index + 1 < points.size(); ++index) {
+            isProved = !(chord.SquaredDistanceTo(points[index]) > proved_);
+        }
+        if (isProved) {
             stack_.Pop();
         } else if (first > refuted_ || last > refuted_ || stack_.TopDepth() == kDeepest) {
             return false;
