@@ -46,6 +46,7 @@ namespace block {
 class BlockSymbol;
 class LoadedShapeFiles;
 struct DashGeometry;
+struct NamedLayer;
 } // namespace block
 
 /// Converts one block at a time. Lengths and coordinates of the symbols are millimetres; the drawing's unit,
@@ -100,6 +101,8 @@ private:
     // Looks a layer, or the entity's own, up. `layer` is null when it is not found; the caller closes it.
     void FindLayer(const wchar_t* name, OxDbLayerTableRecord*& layer) const;
     void FindEntityLayer(const OxDbEntity& entity, OxDbLayerTableRecord*& layer) const;
+    // The entity's layer, looked up or known from an entity before; null when it is not found.
+    block::NamedLayer* ReadEntityLayer(const OxDbEntity& entity, block::BlockSymbol& symbol) const;
     std::wstring GetEntityColor(const OxDbBlockTableRecord& record, const OxDbEntity& entity,
                                 const OxCmColor& color, block::BlockSymbol& symbol) const;
     std::wstring GetEntityLineweight(const OxDbBlockTableRecord& record, const OxDbEntity& entity,

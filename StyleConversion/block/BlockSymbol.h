@@ -1,6 +1,8 @@
 // The symbol of the block under conversion, as the collectors see it.
 #pragma once
 
+#include "OxDb/OxCmColor.h"
+#include "OxDb/OxDbTypes.h"
 #include "StyleConversion/block/LoadedShapeFiles.h"
 #include "TylModel/TylModel.h"
 
@@ -24,13 +26,16 @@ struct TextHash {
 
 using TextSet = std::unordered_set<std::wstring, TextHash, std::equal_to<>>;
 
-/// A layer that entities name, and which of its parameters the symbol has: an entity's layer need not be
-/// looked up for those. Small, since there may be many.
+/// A layer that entities name: it is looked up once.
 struct NamedLayer {
     std::wstring name;   // as entities spell it
     std::wstring record; // as the layer spells it
-    bool hasColor = false;
-    bool hasLineWeight = false;
+    OxCmColor color;
+    OxDb::LineWeight lineWeight = OxDb::kLnWt000;
+    bool isKnown = false; // with its own spelling; else it is to be looked up again
+    // Whether the symbol has the parameter.
+    bool hasColorParameter = false;
+    bool hasLineweightParameter = false;
 };
 
 /// The geometry of one entity: its own, and that of the shapes and texts in its linetype.
@@ -55,7 +60,7 @@ public:
     /// Whether a search through the symbol's parameters for that identifier would find one.
     bool HasParameter(std::wstring_view identifier) const { return identifiers_.contains(identifier); }
 
-    /// Knows nothing of the layer the first time.
+    /// Not yet known the first time.
     NamedLayer& LayerNamed(std::wstring_view name);
 
     /// Both append to the symbol, which then owns the object. A parameter's identifier is not looked for.

@@ -44,23 +44,14 @@ std::wstring BlockConverter::GetEntityColor(const OxDbBlockTableRecord& record, 
     // A by-block colour that could not be settled is tested here once more: the output is wanted so.
     if (resolved.isByLayer()) {
         resolved.setRGB(0, 0, 0);
-        const block::LayerName name(entity);
-        if (name.Get() == nullptr) {
-            return text();
-        }
-        block::NamedLayer& known = symbol.LayerNamed(name.Get());
-        if (known.hasColor) {
-            return block::Reference(kColorByLayer, known.record);
-        }
-        block::Opened<OxDbLayerTableRecord> layer;
-        FindLayer(name.Get(), layer.Receive());
-        const wchar_t* layerName = nullptr;
-        if (layer.Get() != nullptr) {
-            resolved = layer->color();
-            if (layer->getName(layerName) == Oxsys::eOk && layerName != nullptr) {
-                known.record = layerName;
-                known.hasColor = true;
-                return block::ReferToParameter(symbol, kColorByLayer, layerName, text);
+        if (block::NamedLayer* const layer = ReadEntityLayer(entity, symbol)) {
+            if (layer->hasColorParameter) {
+                return block::Reference(kColorByLayer, layer->record);
+            }
+            resolved = layer->color;
+            if (layer->isKnown) {
+                layer->hasColorParameter = true;
+                return block::ReferToParameter(symbol, kColorByLayer, layer->record, text);
             }
         }
     }

@@ -3,6 +3,7 @@
 
 #include "OxDb/OxDbDatabase.h"
 #include "OxDb/OxDbEntity.h"
+#include "StyleConversion/block/BlockSymbol.h"
 #include "StyleConversion/block/Opened.h"
 
 void BlockConverter::FindLayer(const wchar_t* name, OxDbLayerTableRecord*& layer) const {
@@ -17,4 +18,28 @@ void BlockConverter::FindLayer(const wchar_t* name, OxDbLayerTableRecord*& layer
 void BlockConverter::FindEntityLayer(const OxDbEntity& entity, OxDbLayerTableRecord*& layer) const {
     const block::LayerName name(entity);
     FindLayer(name.Get(), layer);
+}
+
+block::NamedLayer* BlockConverter::ReadEntityLayer(const OxDbEntity& entity,
+                                                   block::BlockSymbol& symbol) const {
+    const block::LayerName name(entity);
+    if (name.Get() == nullptr) {
+        return nullptr;
+    }
+    block::NamedLayer& layer = symbol.LayerNamed(name.Get());
+    if (!layer.isKnown) {
+        block::Opened<OxDbLayerTableRecord> record;
+        FindLayer(name.Get(), record.Receive());
+        if (record.Get() == nullptr) {
+            return nullptr;
+        }
+        layer.color = record->color();
+        layer.lineWeight = record->lineWeight();
+        const wchar_t* spelling = nullptr;
+        layer.isKnown = record->getName(spelling) == Oxsys::eOk && spelling != nullptr;
+        if (layer.isKnown) {
+            layer.record = spelling;
+        }
+    }
+    return &layer;
 }

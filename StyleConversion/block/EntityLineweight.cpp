@@ -44,25 +44,17 @@ std::wstring BlockConverter::GetEntityLineweight(const OxDbBlockTableRecord& rec
     if (weight != OxDb::kLnWtByLayer) {
         return text();
     }
-    const block::LayerName name(entity);
-    if (name.Get() == nullptr) {
+    block::NamedLayer* const layer = ReadEntityLayer(entity, symbol);
+    if (layer == nullptr) {
         return Lineweight2TylString(OxDb::kLnWt000);
     }
-    block::NamedLayer& known = symbol.LayerNamed(name.Get());
-    if (known.hasLineWeight) {
-        return block::Reference(kLineweightByLayer, known.record);
+    if (layer->hasLineweightParameter) {
+        return block::Reference(kLineweightByLayer, layer->record);
     }
-    block::Opened<OxDbLayerTableRecord> layer;
-    FindLayer(name.Get(), layer.Receive());
-    if (layer.Get() == nullptr) {
-        return Lineweight2TylString(OxDb::kLnWt000);
-    }
-    weight = layer->lineWeight();
-    const wchar_t* layerName = nullptr;
-    if (layer->getName(layerName) != Oxsys::eOk || layerName == nullptr) {
+    weight = layer->lineWeight;
+    if (!layer->isKnown) {
         return text();
     }
-    known.record = layerName;
-    known.hasLineWeight = true;
-    return block::ReferToParameter(symbol, kLineweightByLayer, layerName, text);
+    layer->hasLineweightParameter = true;
+    return block::ReferToParameter(symbol, kLineweightByLayer, layer->record, text);
 }
