@@ -21,7 +21,7 @@ Table* OpenTable(drawing::Database& database) {
 /// The layer's name of an entity, the buffer released.
 inline std::wstring LayerName(const OxDbEntity& entity) {
     wchar_t* buffer = entity.layer();
-    const std::wstring name = buffer != nullptr ? buffer : L"(none)";
+    std::wstring name = buffer != nullptr ? buffer : L"(none)";
     oxutDelBuffer(buffer);
     return name;
 }
