@@ -1,8 +1,9 @@
-// A file of the standard library that closes itself.
+// A file of the standard library that closes itself, and all that it holds.
 #pragma once
 
 #include <cstdio>
 #include <memory>
+#include <string>
 
 namespace styleconv {
 
@@ -12,5 +13,8 @@ struct CloseFile {
 
 /// For reading: whether closing failed is nowhere told.
 using FileStream = std::unique_ptr<std::FILE, CloseFile>;
+
+/// Appends what is left to read. False, with errno set, when reading failed.
+bool ReadAll(std::FILE* file, std::string& bytes);
 
 } // namespace styleconv

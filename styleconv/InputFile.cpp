@@ -8,7 +8,6 @@
 #include "styleconv/Progress.h"
 #include "styleconv/WorkLimits.h"
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -16,19 +15,6 @@
 #include <utility>
 
 namespace styleconv {
-namespace {
-
-// Reads to the end. False when reading failed, errno telling why.
-bool ReadAll(std::FILE* file, std::string& bytes) {
-    std::array<char, 1 << 16> block{};
-    std::size_t count = 0;
-    while ((count = std::fread(block.data(), 1, block.size(), file)) > 0) {
-        bytes.append(block.data(), count);
-    }
-    return std::ferror(file) == 0;
-}
-
-} // namespace
 
 InputFile::InputFile(std::string argument)
     : argument_(std::move(argument)), name_(argument_ == "-" ? "standard input" : argument_) {}

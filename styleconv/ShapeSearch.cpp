@@ -11,7 +11,6 @@
 #include "styleconv/ShapeFileMessages.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -42,17 +41,6 @@ std::string Places(bool hasPath, const std::vector<std::string>& folders) {
         places += before + Shown(folders[i]);
     }
     return places.empty() ? "anywhere (give a folder with --shapes)" : places;
-}
-
-// False, with errno set, when the file cannot be read to its end.
-bool ReadAll(std::FILE* file, std::string& bytes) {
-    std::array<char, 1 << 16> block{};
-    std::size_t count = 0;
-    std::rewind(file);
-    while ((count = std::fread(block.data(), 1, block.size(), file)) > 0) {
-        bytes.append(block.data(), count);
-    }
-    return std::ferror(file) == 0;
 }
 
 // The same shapes in a file that needs no forgiveness.
@@ -149,6 +137,7 @@ ShapeSearch::Result ShapeSearch::Loadable(const std::wstring& path, const wchar_
         } else if (report.otherMaker || report.trailerMissing) {
             SayFindings(ForgivenOfShapeFile(platform::PathToBytes(path), report));
             std::string bytes;
+            std::rewind(file.get());
             if (ReadAll(file.get(), bytes)) {
                 std::wstring mended = Provide(Mended(bytes, report));
                 if (!mended.empty()) {

@@ -44,8 +44,6 @@ class SymbolDefinition;
 
 namespace block {
 class BlockSymbol;
-class LoadedShapeFiles;
-struct DashGeometry;
 struct NamedLayer;
 } // namespace block
 
@@ -142,18 +140,18 @@ private:
                       block::BlockSymbol& symbol) const;
 
     // Linetypes: one straight or circular piece with its dashes, appended to `path`, and the shapes and texts
-    // at the dashes, appended to `shapes`. `linetype` may be null. Angles are radians.
+    // at the dashes, appended to `shapePath`. `linetype` may be null. Angles are radians.
     void ParseDashLine(const OxDbLinetypeTableRecord* linetype, const OxGePoint2d& start,
-                       const OxGePoint2d& end, std::wstring& path, block::DashGeometry& shapes) const;
+                       const OxGePoint2d& end, std::wstring& path, std::wstring& shapePath) const;
     void ParseDashArc(const OxDbLinetypeTableRecord* linetype, const OxGePoint2d& start,
                       const OxGePoint2d& end, const OxGePoint2d& center, double radius, double sweep,
-                      bool clockwise, std::wstring& path, block::DashGeometry& shapes) const;
+                      bool clockwise, std::wstring& path, std::wstring& shapePath) const;
     void DashCircle(const OxDbLinetypeTableRecord& linetype, const OxGePoint2d& center, double radius,
-                    std::wstring& path, block::DashGeometry& shapes) const;
+                    std::wstring& path, std::wstring& shapePath) const;
     // Draws what dash `index` carries at `at`, where the direction of travel is `direction`, `stretch` times
     // its size.
     void DrawDashShape(const OxDbLinetypeTableRecord& linetype, int index, const OxGePoint2d& at,
-                       double direction, double stretch, block::DashGeometry& shapes) const;
+                       double direction, double stretch, std::wstring& shapePath) const;
 
     // Boundary loops. One of vertices and bulges (tangents of a quarter of the included angle), where fewer
     // than three vertices add nothing; and one of edges.
@@ -161,9 +159,9 @@ private:
                     const OxArray<double>& bulges) const;
     void AppendEdgeLoop(std::wstring& path, const OxArray<const OxGeCurve2d*>& edges) const;
 
-    // Shape files. ParseShxId gives the file of a text style, loaded by now, or null; ProcessShape draws one
-    // of its shapes and moves x, y and scale to what its program left. Rotation in radians.
-    const ShxUtility::ShapesInFile* ParseShxId(OxDbObjectId styleId, block::LoadedShapeFiles& files) const;
+    // Shape files. ParseShxId loads the file of a text style; ProcessShape draws one of its shapes and moves
+    // x, y and scale to what its program left. Rotation in radians.
+    bool ParseShxId(OxDbObjectId styleId, ShxUtility::ShapesInFile& shapes) const;
     std::wstring ProcessShape(const ShxUtility::ShapesInFile& shapes, int shapeNumber, double& scale,
                               double& x, double& y, double rotation) const;
 

@@ -53,7 +53,7 @@ void BlockSymbol::AdoptPointUsage(std::unique_ptr<TylModel::PointUsage> usage) {
 
 EntityPath& BlockSymbol::StartPath() {
     path_.path.clear();
-    path_.shapes.path.clear();
+    path_.shapes.clear();
     return path_;
 }
 

@@ -3,7 +3,6 @@
 
 #include "OxDb/OxCmColor.h"
 #include "OxDb/OxDbTypes.h"
-#include "StyleConversion/block/LoadedShapeFiles.h"
 #include "TylModel/TylModel.h"
 
 #include <cstddef>
@@ -41,14 +40,14 @@ struct NamedLayer {
 /// The geometry of one entity: its own, and that of the shapes and texts in its linetype.
 struct EntityPath {
     std::wstring path;
-    DashGeometry shapes;
+    std::wstring shapes;
 };
 
 /// Lives as long as the conversion of one block and knows, beside the symbol, what would otherwise have to be
-/// searched for at every entity: the identifiers of the symbol's parameters, the layers to ignore, the
-/// layers of entities, and the shape files of linetypes. The converter hands it to the collectors in the
-/// symbol's place, and so needs no state of its own between conversions. An entity's cost does not grow with
-/// the number of layers or parameters.
+/// searched for at every entity: the identifiers of the symbol's parameters, the layers to ignore, and
+/// the layers of entities. The converter hands it to the collectors in the symbol's place, and so needs no
+/// state of its own between conversions. An entity's cost does not grow with the number of layers or
+/// parameters.
 class BlockSymbol {
 public:
     /// Both must outlive this object.
@@ -68,7 +67,7 @@ public:
     void Adopt(std::unique_ptr<TylModel::GraphicElement> graphic);
     void AdoptPointUsage(std::unique_ptr<TylModel::PointUsage> usage);
 
-    /// Room for the geometry of the next entity: both paths empty, with the storage of entities before.
+    /// Room for the geometry of the next entity: both strings empty, with the storage of entities before.
     EntityPath& StartPath();
     /// What was written since.
     EntityPath& CurrentPath() { return path_; }

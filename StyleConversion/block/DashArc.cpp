@@ -10,7 +10,7 @@
 void BlockConverter::ParseDashArc(const OxDbLinetypeTableRecord* linetype, const OxGePoint2d& start,
                                   const OxGePoint2d& end, const OxGePoint2d& center, double radius,
                                   double sweep, bool clockwise, std::wstring& path,
-                                  block::DashGeometry& shapes) const {
+                                  std::wstring& shapePath) const {
     const auto arcTo = [&](const OxGePoint2d& point, double step) {
         AppendArcString(&path, radius, radius, 0.0, step >= block::kPi, clockwise, point);
     };
@@ -38,7 +38,7 @@ void BlockConverter::ParseDashArc(const OxDbLinetypeTableRecord* linetype, const
             if (!linetype->shapeStyleAt(i).isNull()) {
                 // A quarter turn to the left also where the arc runs clockwise: the output is wanted so.
                 const double direction = block::CalcLineAngle(center, current) + block::kHalfPi;
-                DrawDashShape(*linetype, i, current, direction, 1.0, shapes);
+                DrawDashShape(*linetype, i, current, direction, 1.0, shapePath);
             }
         }
         first = 0;

@@ -7,7 +7,7 @@
 
 void BlockConverter::ParseDashLine(const OxDbLinetypeTableRecord* linetype, const OxGePoint2d& start,
                                    const OxGePoint2d& end, std::wstring& path,
-                                   block::DashGeometry& shapes) const {
+                                   std::wstring& shapePath) const {
     const auto lineTo = [&](const OxGePoint2d& point) { AppendPoint(path, encoding::kLine, point); };
     AppendPoint(path, path.empty() ? encoding::kFirstMove : encoding::kMove, start);
     if (!block::HasDashes(linetype)) {
@@ -28,7 +28,7 @@ void BlockConverter::ParseDashLine(const OxDbLinetypeTableRecord* linetype, cons
             const bool gap = length < 0.0;
             current = direction.From(current, gap ? -length : length);
             AppendPoint(path, gap ? encoding::kMove : encoding::kLine, current);
-            DrawDashShape(*linetype, i, current, angle, 1.0, shapes);
+            DrawDashShape(*linetype, i, current, angle, 1.0, shapePath);
         }
         first = 0;
     }

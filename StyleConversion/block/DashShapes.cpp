@@ -2,8 +2,8 @@
 #include "StyleConversion/block/BlockConverter.h"
 
 #include "OxDb/OxDbLinetypeTableRecord.h"
-#include "StyleConversion/block/LoadedShapeFiles.h"
 #include "StyleConversion/block/Utf16Units.h"
+#include "StyleConversion/shx/ShapesInFile.h"
 
 #include <cmath>
 
@@ -17,13 +17,13 @@ double HeightAboveBaseLine(const ShxUtility::ShapesInFile& shapes) {
 } // namespace
 
 void BlockConverter::DrawDashShape(const OxDbLinetypeTableRecord& linetype, int index, const OxGePoint2d& at,
-                                   double direction, double stretch, block::DashGeometry& shapes) const {
+                                   double direction, double stretch, std::wstring& shapePath) const {
     const OxDbObjectId style = linetype.shapeStyleAt(index);
     if (style.isNull()) {
         return;
     }
-    const ShxUtility::ShapesInFile* const file = ParseShxId(style, shapes.files);
-    if (file == nullptr) {
+    ShxUtility::ShapesInFile shapes;
+    if (!ParseShxId(style, shapes)) {
         return;
     }
     // Shapes stay in drawing units, whatever the scale of the path around them: the output is wanted so.
@@ -35,17 +35,17 @@ void BlockConverter::DrawDashShape(const OxDbLinetypeTableRecord& linetype, int 
     double scale = linetype.shapeScaleAt(index) * stretch;
     const double rotation = linetype.shapeRotationAt(index) + direction;
     if (const int number = linetype.shapeNumberAt(index); number != 0) {
-        shapes.path += ProcessShape(*file, number, scale, x, y, rotation);
+        shapePath += ProcessShape(shapes, number, scale, x, y, rotation);
         return;
     }
     const wchar_t* text = nullptr;
     if (linetype.textAt(index, text) != Oxsys::eOk || text == nullptr) {
         return;
     }
-    if (const double above = HeightAboveBaseLine(*file); above != 0.0) {
+    if (const double above = HeightAboveBaseLine(shapes); above != 0.0) {
         scale /= above;
     }
     // Point and scale go on from character to character, also from one that could not be drawn.
     block::ForEachUtf16Unit(
-        text, [&](std::uint16_t unit) { shapes.path += ProcessShape(*file, unit, scale, x, y, rotation); });
+        text, [&](std::uint16_t unit) { shapePath += ProcessShape(shapes, unit, scale, x, y, rotation); });
 }

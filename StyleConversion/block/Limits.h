@@ -1,16 +1,11 @@
 // Limits of block conversion.
 #pragma once
 
-#include <cstddef>
-
 namespace block {
 
 /// Characters, the ending zero included, of the path of a shape file: what the host's file search is given
 /// room for.
 inline constexpr int kShapeFilePathLength = 1024;
-
-/// Shape files that are kept while a block is converted; linetypes that draw from more load some again.
-inline constexpr std::size_t kMostShapeFiles = 16;
 
 /// Drawing units: the sampling of a spline is refined no further below this chord tolerance,
 inline constexpr double kFinestSampling = 1e-6;

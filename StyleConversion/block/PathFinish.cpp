@@ -10,9 +10,9 @@
 void BlockConverter::FinishStroke(const OxDbBlockTableRecord& record, const OxDbEntity& entity,
                                   block::BlockSymbol& symbol) const {
     auto& [path, shapes] = symbol.CurrentPath();
-    if (!shapes.path.empty()) {
+    if (!shapes.empty()) {
         path += L' ';
-        path += shapes.path;
+        path += shapes;
     }
     // Resolved also for an entity without geometry: the parameters are wanted then too.
     std::wstring color = GetEntityColor(record, entity, entity.color(), symbol);

@@ -4,15 +4,12 @@
 #include "OxDb/OxDbDatabase.h"
 #include "OxDb/OxDbHostApplicationServices.h"
 #include "StyleConversion/block/Limits.h"
-#include "StyleConversion/block/LoadedShapeFiles.h"
 #include "StyleConversion/block/Opened.h"
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/shx/ShxUtility.h"
 
-#include <array>
 #include <cstdio>
 #include <memory>
-#include <utility>
 
 namespace {
 
@@ -29,19 +26,28 @@ std::unique_ptr<wchar_t[]> StyleFileName(OxDbObjectId styleId) {
     return std::unique_ptr<wchar_t[]>(name);
 }
 
-using ShapeFilePath = std::array<wchar_t, block::kShapeFilePathLength>;
-
-bool FindShapeFile(const wchar_t* name, ShapeFilePath& path) {
+std::FILE* OpenShapeFile(const wchar_t* name) {
     OxDbHostApplicationServices* const services = oxdbHostApplicationServices();
-    path[0] = L'\0';
-    return services != nullptr &&
-           services->findFile(path.data(), block::kShapeFilePathLength, name, nullptr,
-                              OxDbHostApplicationServices::kCompiledShapeFile) == Oxsys::eOk &&
-           path[0] != L'\0';
+    if (services == nullptr) {
+        return nullptr;
+    }
+    wchar_t path[block::kShapeFilePathLength] = L"";
+    if (services->findFile(path, block::kShapeFilePathLength, name, nullptr,
+                           OxDbHostApplicationServices::kCompiledShapeFile) != Oxsys::eOk ||
+        path[0] == L'\0') {
+        return nullptr;
+    }
+    return platform::OpenForReading(path);
 }
 
-bool LoadFile(const wchar_t* path, ShxUtility::ShapesInFile& shapes) {
-    std::FILE* const file = platform::OpenForReading(path);
+} // namespace
+
+bool BlockConverter::ParseShxId(OxDbObjectId styleId, ShxUtility::ShapesInFile& shapes) const {
+    const std::unique_ptr<wchar_t[]> name = StyleFileName(styleId);
+    if (name == nullptr) {
+        return false;
+    }
+    std::FILE* const file = OpenShapeFile(name.get());
     if (file == nullptr) {
         return false;
     }
@@ -52,22 +58,6 @@ bool LoadFile(const wchar_t* path, ShxUtility::ShapesInFile& shapes) {
     }
     std::fclose(file);
     return true;
-}
-
-} // namespace
-
-const ShxUtility::ShapesInFile* BlockConverter::ParseShxId(OxDbObjectId styleId,
-                                                           block::LoadedShapeFiles& files) const {
-    const std::unique_ptr<wchar_t[]> name = StyleFileName(styleId);
-    ShapeFilePath path;
-    if (name == nullptr || !FindShapeFile(name.get(), path)) {
-        return nullptr;
-    }
-    if (const ShxUtility::ShapesInFile* const known = files.Find(name.get(), path.data())) {
-        return known;
-    }
-    ShxUtility::ShapesInFile shapes;
-    return LoadFile(path.data(), shapes) ? &files.Keep(name.get(), path.data(), std::move(shapes)) : nullptr;
 }
 
 std::wstring BlockConverter::ProcessShape(const ShxUtility::ShapesInFile& shapes, int shapeNumber,

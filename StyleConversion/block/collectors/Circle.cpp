@@ -27,7 +27,7 @@ void BlockConverter::CollectGeometryFromCircle(const OxDbBlockTableRecord& recor
 }
 
 void BlockConverter::DashCircle(const OxDbLinetypeTableRecord& linetype, const OxGePoint2d& center,
-                                double radius, std::wstring& path, block::DashGeometry& shapes) const {
+                                double radius, std::wstring& path, std::wstring& shapePath) const {
     const double circumference = radius * 2.0 * block::kPi;
     const double patternLength = linetype.patternLength();
     // Without a pattern length the conversion gives the lowest integer, that is no repetition at all.
@@ -49,7 +49,7 @@ void BlockConverter::DashCircle(const OxDbLinetypeTableRecord& linetype, const O
             }
             if (!linetype.shapeStyleAt(i).isNull()) {
                 const double tangent = block::CalcLineAngle(center, current) + block::kHalfPi;
-                DrawDashShape(linetype, i, current, tangent, stretch, shapes);
+                DrawDashShape(linetype, i, current, tangent, stretch, shapePath);
             }
         }
     }
