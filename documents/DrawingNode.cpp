@@ -1,31 +1,42 @@
 // Nodes of the drawing document, and the place that reading has got to.
 #include "documents/DrawingNode.h"
 
+#include "documents/ShownText.h"
+
 namespace documents {
 namespace {
 
-constexpr std::size_t kShownCharacters =
-    60; // of a text in a message; more would hide the rest of the message
+// Bytes of a text in a message; more would hide the rest of the message.
+constexpr std::size_t kShownBytes = 60;
 
-// Bytes above 0x7F are left alone; a cut goes before a whole character.
+bool IsWithinCharacter(std::string_view text, std::size_t position) {
+    return (static_cast<unsigned char>(text[position]) & 0xC0U) == 0x80U;
+}
+
+// A cut goes before a whole character.
 std::string Shortened(std::string_view text) {
-    std::size_t length = text.size();
-    if (length > kShownCharacters) {
-        length = kShownCharacters;
-        while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80U) {
-            --length;
-        }
+    if (text.size() <= kShownBytes) {
+        return ShownText(text);
     }
-    std::string shown(text.substr(0, length));
-    for (char& c : shown) {
-        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) {
-            c = '?';
-        }
+    std::size_t length = kShownBytes;
+    while (length > 0 && IsWithinCharacter(text, length)) {
+        --length;
     }
-    return length < text.size() ? shown + "..." : shown;
+    return ShownText(text.substr(0, length)) + "...";
 }
 
 } // namespace
+
+std::string ShownEnd(std::string_view text) {
+    if (text.size() <= kShownBytes) {
+        return ShownText(text);
+    }
+    std::size_t start = text.size() - kShownBytes;
+    while (start < text.size() && IsWithinCharacter(text, start)) {
+        ++start;
+    }
+    return "..." + ShownText(text.substr(start));
+}
 
 std::string Shown(const NumberToken& number) {
     return number.isInteger ? std::to_string(number.integer) : Shortened(number.text);

@@ -30,6 +30,9 @@ std::string Shown(const NumberToken& number);
 /// A text as it stands in a message: in quotes, shortened, control characters as "?".
 std::string Shown(std::string_view text);
 
+/// The end of a text that is no value of the document, shortened likewise.
+std::string ShownEnd(std::string_view text);
+
 /// Where reading has got to, and what it refused or left out.
 class ReadState {
 public:

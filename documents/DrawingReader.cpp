@@ -3,6 +3,7 @@
 
 #include "documents/DrawingBlocks.h"
 
+#include <algorithm>
 #include <array>
 #include <iterator>
 #include <limits>
@@ -113,13 +114,17 @@ public:
             if (!state_.IsSkipping()) {
                 Next(); // the place is the number's own
             }
-            state_.Refuse("expected a number that is finite, found " + lastToken);
+            state_.Refuse("expected a number that is finite, found " + ShownEnd(lastToken));
         } else {
             // "[json.exception.parse_error.101] parse error at line 1, column 5: ..."
-            const std::string text = error.what();
-            const std::size_t place = text.find("line ");
-            state_.Refuse("expected JSON, found an error at " +
-                          (place == std::string::npos ? text : text.substr(place)));
+            // with what was read last, which may be of any length.
+            std::string text = error.what();
+            text.erase(0, std::min(text.find("line "), text.size()));
+            const std::size_t token = text.find(lastToken);
+            if (token != std::string::npos) {
+                text.replace(token, lastToken.size(), ShownEnd(lastToken));
+            }
+            state_.Refuse("expected JSON, found an error at " + text);
         }
         isCut_ = state_.ForgiveCut();
         return false;

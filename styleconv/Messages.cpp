@@ -1,10 +1,9 @@
 #include "styleconv/Messages.h"
 
 #include "StyleConversion/platform/CodePage.h"
-#include "StyleConversion/platform/Utf8.h"
+#include "documents/ShownText.h"
 #include "styleconv/Progress.h"
 
-#include <cstdint>
 #include <cstdio>
 #include <utility>
 
@@ -37,19 +36,11 @@ void SayMissing(std::string_view file, std::string_view what, bool isTolerant) {
 }
 
 std::string Shown(std::wstring_view name) {
-    std::wstring shown(name);
-    for (wchar_t& c : shown) {
-        const auto code = static_cast<std::uint32_t>(c);
-        const bool control = code < 0x20 || (code >= 0x7f && code < 0xa0);
-        if (control) {
-            c = L'?';
-        }
-    }
-    return platform::WideToValidUtf8(shown);
+    return documents::ShownText(name);
 }
 
 std::string Shown(std::string_view name) {
-    return Shown(platform::Utf8ToWide(name));
+    return documents::ShownText(name);
 }
 
 std::string ShownLine(std::string_view text) {

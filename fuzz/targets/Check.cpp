@@ -2,6 +2,7 @@
 //
 // Input: "l", "p", "s" or "d" for linetypes, patterns, shapes and drawings, then the file.
 #include "documents/FindingsDocument.h"
+#include "documents/ShownText.h"
 #include "fuzz/Fuzzing.h"
 #include "fuzz/Inputs.h"
 #include "fuzz/ShapeWork.h"
@@ -70,9 +71,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const styleconv::Finding& finding : findings) {
         Require(!finding.message.empty(), "words for every finding");
         const std::string shown = styleconv::FindingText(finding);
-        Require(std::none_of(shown.begin(), shown.end(),
-                             [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; }),
-                "a finding of one line that moves no cursor");
+        Require(shown == documents::ShownText(shown),
+                "a finding of UTF-8 and of one line that moves no cursor");
         Require(finding.line == 0 || finding.line >= line, "findings in the order of lines");
         line = std::max(line, finding.line);
     }

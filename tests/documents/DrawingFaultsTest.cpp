@@ -284,6 +284,38 @@ TEST(DrawingFaults, TextThatIsNotJsonIsRefusedWithItsPlace) {
     EXPECT_EQ(FaultOf(Document(R"("insunits": NaN)")).substr(0, 30), "insunits: expected JSON, found");
 }
 
+TEST(DrawingFaults, NoTextOfTheFileMovesTheCursorOfATerminal) {
+    // Behind U+009B stands what a terminal takes as a command.
+    EXPECT_EQ(FaultOf(Document("\"layers\": [{\"name\": \"0\", \"color\": \"\xc2\x9b\x32J\x7f\"}]")),
+              "layers[0].color: expected a color (\"ByLayer\", \"ByBlock\", an index from 1 to 255 or "
+              "\"#rrggbb\"), found \"?2J?\"");
+    EXPECT_EQ(FaultOf("{\"\xc2\x9b\x32J\": 1}"), "?2J: unknown key");
+    EXPECT_EQ(FaultOf("{\"a\xc2\x9b\x32J\x7f\x01"),
+              "expected JSON, found an error at line 1, column 9: syntax error while parsing object key - "
+              "invalid string: control character U+0001 (SOH) must be escaped to \\u0001; last read: "
+              "'\"a?2J?<U+0001>'; expected string literal");
+    EXPECT_EQ(FaultOf("{\"a\x9b"),
+              "expected JSON, found an error at line 1, column 4: syntax error while parsing object key - "
+              "invalid string: ill-formed UTF-8 byte; last read: '\"a\xef\xbf\xbd'; expected string literal");
+}
+
+TEST(DrawingFaults, OfALongTextThatIsNoJsonTheEndIsShown) {
+    // 60 bytes: half of the first "ä" would be among them.
+    const std::string end = "\xc3\xa4" + std::string(50, 'b') + "<U+0001>";
+    EXPECT_EQ(
+        FaultOf("{\"" + std::string(1000000, 'a') + "\xc3\xa4" + std::string(51, 'b') + "\x01"),
+        "expected JSON, found an error at line 1, column 1000056: syntax error while parsing object key - "
+        "invalid string: control character U+0001 (SOH) must be escaped to \\u0001; last read: '..." +
+            std::string(51, 'b') + "<U+0001>'; expected string literal");
+    EXPECT_EQ(
+        FaultOf("{\"" + std::string(1000000, 'a') + end.substr(0, 52) + "\x01"),
+        "expected JSON, found an error at line 1, column 1000055: syntax error while parsing object key - "
+        "invalid string: control character U+0001 (SOH) must be escaped to \\u0001; last read: '..." +
+            end + "'; expected string literal");
+    EXPECT_EQ(FaultOf(Document("\"insunits\": 1" + std::string(1000, '0'))),
+              "insunits: expected a number that is finite, found ..." + std::string(60, '0'));
+}
+
 TEST(DrawingFaults, ALongTextIsShownShortenedBeforeAWholeCharacter) {
     const std::string name = std::string(59, 'a') + "\xc3\xa4" + std::string(50, 'b');
     EXPECT_EQ(FaultOf(Document(R"("layers": [{"name": "A", "color": ")" + name + R"("}])")),
