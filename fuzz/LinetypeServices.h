@@ -10,8 +10,7 @@ namespace fuzzing {
 
 /// Every name finds the same shape file. The name of a style chooses what it is: one that begins with "T" has
 /// a typeface, one with "N" is not there, and all others have that shape file. The second letter makes it
-/// bold
-/// ("B"), vertical ("V") or of a fixed height ("F").
+/// bold ("B"), vertical ("V") or of a fixed height ("F").
 class LinetypeServices : public LineConverter::IGetFile, public LineConverter::IGetFontInfo {
 public:
     /// `shapeFile` must outlive the services; where it is empty, no name finds a file.

@@ -85,10 +85,8 @@ private:
         std::unique_ptr<TylModel::SymbolDefinition> symbol(converter_.Convert(name));
         if (!isTolerant_ && drawing_.HatchesTooDense() > tooDense) {
             // It cannot be evaluated; the rest of the block, and the other blocks, are worth having.
-            SayMissing(input_.Name(),
-                       "block " + Shown(name) + ": a hatch has more than " +
-                           std::to_string(drawing_.MostHatchLines()) + " lines and is left out",
-                       true);
+            Say(input_.Name(), "warning: block " + Shown(name) + ": a hatch has more than " +
+                                   std::to_string(drawing_.MostHatchLines()) + " lines and is left out");
         }
         if (symbol == nullptr) {
             SayMissing(input_.Name(), "the drawing has no block named " + Shown(name), isTolerant_);

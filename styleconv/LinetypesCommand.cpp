@@ -75,7 +75,9 @@ bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Convert
         if (result == LineConverter::kSuccess && options.tolerant) {
             converted.hasLinetypes = !converted.symbols.empty() || !parser.faults().empty();
             for (const LineConverter::LinFault& fault : parser.faults()) {
-                converted.withFaults.insert(platform::AnsiToWide(fault.linetype));
+                if (!fault.linetype.empty()) {
+                    converted.withFaults.insert(platform::AnsiToWide(fault.linetype));
+                }
             }
             std::vector<Finding> findings =
                 ForgivenLinetypeFaults(input.Name(), parser.faults(), services.Sources());

@@ -18,7 +18,7 @@ void SayAtLine(std::string_view file, std::size_t line, std::string_view what);
 /// "file: byte 412: what"
 void SayAtByte(std::string_view file, std::size_t byte, std::string_view what);
 
-/// What was asked for and is not there, or is left out: a warning to a conversion that goes on without it.
+/// What was asked for and is not there: a warning to a tolerant conversion, which goes on without it.
 void SayMissing(std::string_view file, std::string_view what, bool isTolerant);
 
 /// A name as it stands in a message: UTF-8, with control characters shown as "?", so that no file can move

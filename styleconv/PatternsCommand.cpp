@@ -142,12 +142,15 @@ ExitStatus Patterns(const PatternsOptions& options) {
                                : ConvertNamed(input, loaded, options.names, leftOut, symbols);
     SortByLine(findings);
     SayFindings(findings);
-    if (options.names.empty() && !converted) {
+    if (converted) {
+        return WriteSymbols(symbols, options);
+    }
+    if (options.names.empty()) {
         Say(input.Name(), "none of the file's patterns can be converted");
-    } else if (options.tolerant && !converted) {
+    } else if (options.tolerant) {
         Say(input.Name(), "none of the patterns asked for can be converted");
     }
-    return converted ? WriteSymbols(symbols, options) : kInputFault;
+    return kInputFault;
 }
 
 } // namespace

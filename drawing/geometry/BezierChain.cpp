@@ -20,13 +20,9 @@ public:
     template <class Work>
     void Do(Work work) const {
         if (isNear_) {
-            work([share = share_](Point a, Point b) {
-                return Point{a.x + share * (b.x - a.x), a.y + share * (b.y - a.y)};
-            });
+            work([share = share_](Point a, Point b) { return OnTheWay(a, b, share); });
         } else {
-            work([share = share_](Point a, Point b) {
-                return Point{b.x - share * (b.x - a.x), b.y - share * (b.y - a.y)};
-            });
+            work([share = share_](Point a, Point b) { return OnTheWayBack(a, b, share); });
         }
     }
 

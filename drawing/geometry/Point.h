@@ -54,14 +54,18 @@ inline double Distance(Point a, Point b) {
     return Length(b - a);
 }
 
+/// The point at `share` of the way from a to b, or from b to a: exact where the way starts.
+inline Point OnTheWay(Point a, Point b, double share) {
+    return {a.x + share * (b.x - a.x), a.y + share * (b.y - a.y)};
+}
+inline Point OnTheWayBack(Point a, Point b, double share) {
+    return {b.x - share * (b.x - a.x), b.y - share * (b.y - a.y)};
+}
+
 /// The point at `fraction` of the way from a to b. Exact at both ends, and where both ends are the same
 /// point.
 inline Point Between(Point a, Point b, double fraction) {
-    if (fraction <= 0.5) {
-        return {a.x + fraction * (b.x - a.x), a.y + fraction * (b.y - a.y)};
-    }
-    const double back = 1.0 - fraction;
-    return {b.x - back * (b.x - a.x), b.y - back * (b.y - a.y)};
+    return fraction <= 0.5 ? OnTheWay(a, b, fraction) : OnTheWayBack(a, b, 1.0 - fraction);
 }
 
 } // namespace geometry

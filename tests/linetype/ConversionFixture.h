@@ -26,15 +26,7 @@ protected:
             return "result " + std::to_string(result);
         }
         const std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> symbols(visitor.TakeResults());
-        if (!symbols) {
-            return "failed";
-        }
-        std::string result;
-        for (TylModel::SymbolDefinition* const symbol : *symbols) {
-            result += SymbolText::Of(*symbol) + "\n";
-            delete symbol;
-        }
-        return result;
+        return symbols ? TakeTexts(*symbols) : "failed";
     }
 
     /// The same for one linetype "X" of that pattern.

@@ -1,4 +1,5 @@
 // Linetype files with either kind of line end, through the entry point with services of the caller's.
+#include "tests/support/LineEnds.h"
 #include "FakeServices.h"
 #include "ShapeBytes.h"
 #include "SymbolText.h"
@@ -13,6 +14,8 @@
 namespace linetypetest {
 namespace {
 
+using support::WithCarriageReturns;
+
 class LineEnds : public testing::Test {
 protected:
     LineEnds() { styles.AddTrueType(L"ST", L"Arial"); }
@@ -22,23 +25,7 @@ protected:
         const std::wstring path = folder.Write("test.lin", text);
         const std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> symbols(
             LineConverter::Convert(path.c_str(), &styles, &files, 1.0));
-        if (!symbols) {
-            return "null";
-        }
-        std::string result;
-        for (TylModel::SymbolDefinition* const symbol : *symbols) {
-            result += SymbolText::Of(*symbol) + "\n";
-            delete symbol;
-        }
-        return result;
-    }
-
-    static std::string WithCarriageReturns(std::string_view text) {
-        std::string changed;
-        for (const char c : text) {
-            changed += c == '\n' ? "\r\n" : std::string(1, c);
-        }
-        return changed;
+        return symbols ? TakeTexts(*symbols) : "null";
     }
 
     TestFolder folder;

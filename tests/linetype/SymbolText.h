@@ -6,6 +6,7 @@
 #include "TylModel/TylModel.h"
 
 #include <string>
+#include <vector>
 
 namespace linetypetest {
 
@@ -98,5 +99,15 @@ private:
 
     std::string text_;
 };
+
+/// Each symbol as SymbolText has it and with a line's end. Deletes the symbols.
+inline std::string TakeTexts(const std::vector<TylModel::SymbolDefinition*>& symbols) {
+    std::string result;
+    for (TylModel::SymbolDefinition* const symbol : symbols) {
+        result += SymbolText::Of(*symbol) + "\n";
+        delete symbol;
+    }
+    return result;
+}
 
 } // namespace linetypetest

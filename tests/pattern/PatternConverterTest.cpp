@@ -4,6 +4,7 @@
 #include "PatternTestSupport.h"
 
 #include "StyleConversion/platform/CodePage.h"
+#include "tests/support/LineEnds.h"
 
 #include <string>
 #include <type_traits>
@@ -189,14 +190,6 @@ TEST_F(Converter, WidensNamesThroughTheCodePage) {
     EXPECT_EQ(symbol->GetName(), L"H\u00f6lzer");
 }
 
-std::string WithCarriageReturns(std::string_view text) {
-    std::string changed;
-    for (const char c : text) {
-        changed += c == '\n' ? "\r\n" : std::string(1, c);
-    }
-    return changed;
-}
-
 TEST_F(Converter, GivesTheSameForLineEndsOfEitherKind) {
     // Remarks, blank lines, both kinds of header, a line of the greatest length, and a last line without an
     // end.
@@ -216,7 +209,7 @@ TEST_F(Converter, GivesTheSameForLineEndsOfEitherKind) {
         "simple A\narea %HATCHANGLE% 10.0 2.0\npath M 0.0,0.0 h 10.0\n",
         "compound B\narea %HATCHANGLE% 25.0 1.0\npath M 0.0,0.0 h 20.0\n"
         "area %HATCHANGLE%+90.0 10.0 1.0\npath M 0.0,0.0 h 10.0\n"};
-    for (const std::string& ends : {text, WithCarriageReturns(text)}) {
+    for (const std::string& ends : {text, support::WithCarriageReturns(text)}) {
         const TemporaryFile file(ends);
         PatternConverter converter(file.GetName());
         EXPECT_EQ(Names(converter), (std::vector<std::wstring>{L"A", L"B"}));

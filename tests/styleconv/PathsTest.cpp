@@ -1,6 +1,7 @@
 // Files of any name and path are read and written, and their lines may end in either way, on every system.
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/platform/Utf8.h"
+#include "tests/support/LineEnds.h"
 #include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ToolRun.h"
 
@@ -14,6 +15,7 @@ namespace {
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
+using support::WithCarriageReturns;
 using test_support::ShapeFileBuilder;
 
 namespace fs = std::filesystem;
@@ -160,14 +162,6 @@ TEST(Paths, NamesInsideFilesAreOfTheFilesCodePage) {
         EXPECT_EQ(result.status, 0) << result.errors;
         EXPECT_EQ(result.errors, "");
     }
-}
-
-std::string WithCarriageReturns(const std::string& text) {
-    std::string changed;
-    for (const char c : text) {
-        changed += c == '\n' ? "\r\n" : std::string(1, c);
-    }
-    return changed;
 }
 
 TEST(LineEnds, OfEitherKindGiveTheSame) {

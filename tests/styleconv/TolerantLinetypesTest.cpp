@@ -128,6 +128,14 @@ TEST_F(TolerantLinetypes, LinetypeAskedForThatIsNotThereIsAWarningBesideAnother)
               ": none of the linetypes asked for can be converted\n");
 }
 
+TEST_F(TolerantLinetypes, NoLinetypeHasTheEmptyName) {
+    // The stray pattern is a fault that belongs to no linetype.
+    const ToolResult result = Run("A,1\n*Y\nA,1\n", {"--tolerant", "--name", "", "--name", "Y"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(Said(result), ":1: warning: a pattern without a header before it; left out\n"
+                            ": warning: the file has no linetype named \n");
+}
+
 TEST_F(TolerantLinetypes, BuiltInFontStandsInOverADrawing) {
     const auto drawing = [&](const std::string& styles) {
         return folder.Write("drawing.json",
