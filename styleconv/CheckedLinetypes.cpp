@@ -5,6 +5,7 @@
 #include "StyleConversion/platform/CodePage.h"
 #include "styleconv/AnnouncedLinetypes.h"
 #include "styleconv/EmptyFile.h"
+#include "styleconv/LackedCharacters.h"
 #include "styleconv/LinetypeFindings.h"
 #include "styleconv/MeasuredLinetypes.h"
 #include "styleconv/Messages.h"
@@ -42,8 +43,7 @@ public:
 
     void AddRemarks(const MeasuredLinetypes& measured) {
         for (const MeasuredLinetypes::Remark& remark : measured.Remarks()) {
-            Add(parser_.ElementLine(remark.linetype, remark.element),
-                remark.isLoss ? Severity::kError : Severity::kWarning, remark.text,
+            Add(parser_.ElementLine(remark.linetype, remark.element), Severity::kWarning, remark.text,
                 LinetypeItem(parser_.linetypes()[remark.linetype]));
         }
     }
@@ -151,6 +151,7 @@ bool CheckLinetypes(const InputFile& input, const LinetypeSourceOptions& options
         for (TylModel::SymbolDefinition* const symbol : *symbols) {
             delete symbol;
         }
+        AddLackedCharacters(input.Name(), parser, Severity::kError, "", found);
         check.AddRemarks(measured);
         check.NoteUnusedShapes(measured);
     }

@@ -6,10 +6,10 @@
 #include "StyleConversion/platform/Utf8.h"
 #include "styleconv/AnnouncedLinetypes.h"
 #include "styleconv/EmptyFile.h"
+#include "styleconv/LackedCharacters.h"
 #include "styleconv/LinetypeFindings.h"
 #include "styleconv/LinetypeMessages.h"
 #include "styleconv/LinetypeServices.h"
-#include "styleconv/MeasuredLinetypes.h"
 #include "styleconv/Messages.h"
 #include "styleconv/NumberOption.h"
 #include "styleconv/Progress.h"
@@ -37,18 +37,6 @@ struct Converted {
     std::set<std::wstring> withFaults; // names; where no symbol has it, that linetype was left out
 };
 
-// Characters that a font lacks are left out of the text.
-void AddMissingCharacters(const InputFile& input, const LineConverter::LinParser& parser,
-                          const MeasuredLinetypes& measured, std::vector<Finding>& findings) {
-    for (const MeasuredLinetypes::Remark& remark : measured.Remarks()) {
-        if (remark.isLoss) {
-            findings.push_back({input.Name(), parser.ElementLine(remark.linetype, remark.element),
-                                Severity::kWarning, remark.text + "; left out",
-                                LinetypeItem(parser.linetypes()[remark.linetype])});
-        }
-    }
-}
-
 // False after saying why.
 bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Converted& converted) {
     LinetypeServices services(input, options);
@@ -62,10 +50,7 @@ bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Convert
     services.SayWhatStoodIn();
     if (result == LineConverter::kSuccess) {
         LineConverter::CLinVisitor visitor(options.scale, &parser.faultLog(), policy);
-        // What strict conversions pass over in silence is looked for only where it is said.
-        MeasuredLinetypes measured(visitor);
-        AnnouncedLinetypes announced(options.tolerant ? static_cast<LineConverter::LinStyleVisitor&>(measured)
-                                                      : visitor);
+        AnnouncedLinetypes announced(visitor);
         BeginStage("Converting", parser.linetypes().size());
         result = parser.Accept(announced);
         const std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> results(visitor.TakeResults());
@@ -81,7 +66,7 @@ bool ConvertAll(const InputFile& input, const LinetypesOptions& options, Convert
             }
             std::vector<Finding> findings =
                 ForgivenLinetypeFaults(input.Name(), parser.faults(), services.Sources());
-            AddMissingCharacters(input, parser, measured, findings);
+            AddLackedCharacters(input.Name(), parser, Severity::kWarning, "; left out", findings);
             SortByLine(findings);
             SayFindings(findings);
             return true;

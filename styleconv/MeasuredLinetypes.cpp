@@ -121,21 +121,13 @@ void MeasuredLinetypes::Text(const std::string& text, const LineConverter::Eleme
         LineConverter::ShxPen pen = PenOf(transform);
         pen.scale *= (font.textSize != 0.0 ? font.textSize : 1.0) / height;
         std::wstring path;
-        std::wstring missing;
         const std::wstring characters =
             LineConverter::DecodeControlCodes(platform::AnsiToWide(text), true).characters;
         for (const wchar_t character : LineConverter::ToUtf16Units(characters)) {
             const ShxUtility::Shape* const glyph = LineConverter::FindGlyph(file->second, character);
-            if (glyph == nullptr) {
-                missing += missing.find(character) == std::wstring::npos ? std::wstring(1, character) : L"";
-            } else if (DrawShxShape(path, pen, *glyph, file->second) != ShxUtility::kSuccess) {
+            if (glyph != nullptr && DrawShxShape(path, pen, *glyph, file->second) != ShxUtility::kSuccess) {
                 break; // told by the conversion
             }
-        }
-        if (!missing.empty()) {
-            remarks_.push_back(
-                {linetype_ - 1, element_, true,
-                 "font " + Shown(font.fileName) + " lacks characters of the text: " + Shown(missing)});
         }
         if (height != 0 && !font.isVertical) {
             Mark mark;
@@ -177,7 +169,7 @@ void MeasuredLinetypes::JudgeMark(const Mark& mark) {
     if (room > 0.0 && width > room * (1 + (mark.isEstimate ? kEstimateSlack : kSlack))) {
         const std::string where = mark.isFixed ? " where the line runs along it" : "";
         const std::string about = mark.isEstimate ? "about " : "";
-        remarks_.push_back({linetype_ - 1, mark.element, false,
+        remarks_.push_back({linetype_ - 1, mark.element,
                             mark.name + " is " + about + NumberText(width) + " wide" + where +
                                 ", the gap it stands in " + NumberText(room)});
     }

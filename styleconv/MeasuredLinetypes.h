@@ -1,5 +1,4 @@
-// How wide the shapes and texts of linetypes are, which shapes they use, and which characters their fonts
-// lack.
+// How wide the shapes and texts of linetypes are, and which shapes they use.
 #pragma once
 
 #include "StyleConversion/linetype/LinStyleVisitor.h"
@@ -17,11 +16,10 @@ namespace styleconv {
 /// Looks at each linetype of a walk and passes it on.
 class MeasuredLinetypes final : public LineConverter::LinStyleVisitor {
 public:
-    /// What is worth telling of an element; both counted from 0.
+    /// An element that is wider than its gap; both counted from 0.
     struct Remark {
         std::size_t linetype = 0;
         std::size_t element = 0;
-        bool isLoss = false;
         std::string text;
     };
 

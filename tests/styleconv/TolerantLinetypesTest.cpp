@@ -200,4 +200,23 @@ TEST_F(TolerantLinetypes, CharactersThatAFontLacksAreNamedInTheOrderOfTheFile) {
             file + ":6: warning: font TXT.SHX lacks characters of the text: B; left out (linetype Z)\n");
 }
 
+TEST_F(TolerantLinetypes, CharactersThatAFontLacksAreNamedUpToOneThatCannotBeDrawn) {
+    // B goes on to shape 99, which is not there. No C and no D.
+    folder.Write("txt.shx", ShapeFileBuilder::Shapes()
+                                .FontInfo("FONT", {4, 1, 0})
+                                .Shape(65, "A", {0x10, 0})
+                                .Shape(66, "B", {7, 99, 0})
+                                .Text());
+    const ToolResult result =
+        Run("*X\nA,1,[\"ACBD\",STANDARD],-9\n*Y\nA,1,[\"AB\",STANDARD],-9\n*Z\nA,1,[\"DA\",STANDARD],-9\n");
+    EXPECT_EQ(Names(result), "Z;");
+    const std::string notDrawn =
+        "character B of text style STANDARD cannot be drawn: the file lacks a subshape of it";
+    EXPECT_EQ(Said(result),
+              ":2: warning: " + notDrawn + "; left out (linetype X)\n" +
+                  ":2: warning: font TXT.SHX lacks characters of the text: C; left out (linetype X)\n" +
+                  ":4: warning: " + notDrawn + "; left out (linetype Y)\n" +
+                  ":6: warning: font TXT.SHX lacks characters of the text: D; left out (linetype Z)\n");
+}
+
 } // namespace
