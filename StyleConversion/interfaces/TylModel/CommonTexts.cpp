@@ -10,7 +10,7 @@ namespace TylModel {
 namespace {
 
 // Of lines, of hatch patterns, of blocks, and of texts.
-constexpr std::array<std::wstring_view, 30> kTexts{
+constexpr std::array<std::wstring_view, 32> kTexts{
     L"LINECOLOR",
     L"%LINECOLOR%",
     L"Line &Color",
@@ -44,6 +44,9 @@ constexpr std::array<std::wstring_view, 30> kTexts{
     L"Text Color",
     L"'Left'",
     L"'Baseline'",
+
+    L"0.0",
+    L"true",
 };
 
 class Table {
@@ -80,11 +83,16 @@ private:
 };
 
 const Table kTable;
+const std::wstring kNoText;
 
 } // namespace
 
 const std::wstring* FindCommonText(const std::wstring& text) {
-    return text.empty() ? nullptr : kTable.Find(text);
+    return text.empty() ? &kNoText : kTable.Find(text);
+}
+
+const std::wstring& NoText() {
+    return kNoText;
 }
 
 } // namespace TylModel

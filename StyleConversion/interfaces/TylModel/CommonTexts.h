@@ -3,6 +3,7 @@
 
 #include "TylModel/Export.h"
 
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -12,27 +13,35 @@ namespace TylModel {
 /// other text. What it finds decides only how much memory a property takes.
 TYLMODEL_API const std::wstring* FindCommonText(const std::wstring& text);
 
-/// The text of a property: without memory of its own where it is one that most symbols have.
+/// The empty text.
+TYLMODEL_API const std::wstring& NoText();
+
+/// The text of a property: without memory of its own where it is empty or one that most symbols have.
 class PropertyText {
 public:
     /// Keeps a copy, or the common one.
     void Set(const std::wstring& text) {
-        common_ = FindCommonText(text);
-        if (common_ == nullptr) {
-            own_ = text;
+        if (!SetCommon(text)) {
+            own_ = std::make_unique<const std::wstring>(text);
         }
     }
     /// The same without a copy.
     void Set(std::wstring&& text) {
-        common_ = FindCommonText(text);
-        if (common_ == nullptr) {
-            own_ = std::move(text);
+        if (!SetCommon(text)) {
+            own_ = std::make_unique<const std::wstring>(std::move(text));
         }
     }
-    const std::wstring& Get() const { return common_ != nullptr ? *common_ : own_; }
+    const std::wstring& Get() const {
+        return common_ != nullptr ? *common_ : own_ != nullptr ? *own_ : NoText();
+    }
 
 private:
-    std::wstring own_;
+    bool SetCommon(const std::wstring& text) {
+        common_ = FindCommonText(text);
+        return common_ != nullptr;
+    }
+
+    std::unique_ptr<const std::wstring> own_;
     const std::wstring* common_ = nullptr;
 };
 

@@ -98,14 +98,14 @@ public:
     void SetTextColor(const std::wstring& color) { textColor_.Set(color); }
     const std::wstring& GetTextColor() const { return textColor_.Get(); }
     /// Each of the four styles is "true" or left empty.
-    void SetBold(const std::wstring& bold) { bold_ = bold; }
-    const std::wstring& GetBold() const { return bold_; }
-    void SetItalic(const std::wstring& italic) { italic_ = italic; }
-    const std::wstring& GetItalic() const { return italic_; }
-    void SetUnderlined(const std::wstring& underlined) { underlined_ = underlined; }
-    const std::wstring& GetUnderlined() const { return underlined_; }
-    void SetOverlined(const std::wstring& overlined) { overlined_ = overlined; }
-    const std::wstring& GetOverlined() const { return overlined_; }
+    void SetBold(const std::wstring& bold) { bold_.Set(bold); }
+    const std::wstring& GetBold() const { return bold_.Get(); }
+    void SetItalic(const std::wstring& italic) { italic_.Set(italic); }
+    const std::wstring& GetItalic() const { return italic_.Get(); }
+    void SetUnderlined(const std::wstring& underlined) { underlined_.Set(underlined); }
+    const std::wstring& GetUnderlined() const { return underlined_.Get(); }
+    void SetOverlined(const std::wstring& overlined) { overlined_.Set(overlined); }
+    const std::wstring& GetOverlined() const { return overlined_.Get(); }
 
 private:
     std::wstring content_;
@@ -117,10 +117,10 @@ private:
     PropertyText horizontalAlignment_;
     PropertyText verticalAlignment_;
     PropertyText textColor_;
-    std::wstring bold_;
-    std::wstring italic_;
-    std::wstring underlined_;
-    std::wstring overlined_;
+    PropertyText bold_;
+    PropertyText italic_;
+    PropertyText underlined_;
+    PropertyText overlined_;
 };
 
 } // namespace TylModel

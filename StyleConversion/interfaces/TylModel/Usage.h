@@ -25,8 +25,8 @@ class TYLMODEL_API LineUsage : public TylRootObject {
 public:
     ~LineUsage() override;
     /// Degrees, counter-clockwise, measured as the angle control says.
-    void SetAngle(const std::wstring& angle) { angle_ = angle; }
-    const std::wstring& GetAngle() const { return angle_; }
+    void SetAngle(const std::wstring& angle) { angle_.Set(angle); }
+    const std::wstring& GetAngle() const { return angle_.Get(); }
     /// "'FromAngle'" for an angle that does not turn with the line; empty for one relative to the line.
     void SetAngleControl(const std::wstring& control) { angleControl_.Set(control); }
     const std::wstring& GetAngleControl() const { return angleControl_.Get(); }
@@ -34,14 +34,14 @@ public:
     void SetRepeat(const std::wstring& repeat) { repeat_ = repeat; }
     const std::wstring& GetRepeat() const { return repeat_; }
     /// The distance from the line's start to the first repetition.
-    void SetStartOffset(const std::wstring& offset) { startOffset_ = offset; }
-    const std::wstring& GetStartOffset() const { return startOffset_; }
+    void SetStartOffset(const std::wstring& offset) { startOffset_.Set(offset); }
+    const std::wstring& GetStartOffset() const { return startOffset_.Get(); }
 
 private:
-    std::wstring angle_;
+    PropertyText angle_;
     PropertyText angleControl_;
     std::wstring repeat_;
-    std::wstring startOffset_;
+    PropertyText startOffset_;
 };
 
 /// How a symbol tiles an area. Lengths are in the units of the symbol's geometry.
