@@ -3,6 +3,7 @@
 #include "StyleConversion/linetype/LinNames.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Files.h"
+#include "StyleConversion/shx/ShapeDrawer.h"
 #include "StyleConversion/shx/ShxUtility.h"
 #include "styleconv/FileStream.h"
 #include "styleconv/Messages.h"
@@ -24,6 +25,13 @@ namespace {
 bool HasLowerCase(const std::string& name) {
     return std::any_of(name.begin(), name.end(), [](char c) { return LineConverter::UpperCase(c) != c; });
 }
+
+// Where shapes are drawn to see whether they can be.
+struct Nowhere {
+    void MoveTo(double /*x*/, double /*y*/) {}
+    void LineBy(double /*dx*/, double /*dy*/) {}
+    void ArcTo(double /*radius*/, int /*largeArc*/, int /*sweep*/, double /*x*/, double /*y*/) {}
+};
 
 class ShapeCheck {
 public:
@@ -118,22 +126,23 @@ private:
 
 } // namespace
 
-ShxUtility::ShxResult ResultOfDrawing(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape) {
+ShxUtility::ShxResult ResultOfDrawing(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape,
+                                      bool vertical) {
     ShxUtility::ShapeInstructions instructions;
     const ShxUtility::ShxResult decoded = ShxUtility::DecodeShape(
         instructions, shape.data.data(), static_cast<std::uint16_t>(shape.data.size()), file.kind);
     if (decoded != ShxUtility::kSuccess) {
         return decoded;
     }
-    std::wstring path;
     double x = 0.0;
     double y = 0.0;
     double scale = 1.0;
     ShxUtility::PositionStack positions;
     std::vector<std::uint16_t> activeSubshapes;
     bool penDown = true;
-    return ShxUtility::DrawShape(path, x, y, scale, positions, activeSubshapes, penDown, instructions, file,
-                                 0.0, false);
+    Nowhere nowhere;
+    const ShxUtility::DrawingState state{x, y, scale, positions, activeSubshapes, penDown};
+    return ShxUtility::ShapeDrawer<Nowhere>(nowhere, state, file, 0.0).Draw(instructions, vertical);
 }
 
 std::string ShownShape(const ShxUtility::Shape& shape) {

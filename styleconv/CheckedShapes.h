@@ -17,8 +17,9 @@ void CheckShapes(const InputFile& input, std::vector<Finding>& findings);
 std::vector<Finding> ForgivenOfShapeFile(const std::string& file,
                                          const ShxUtility::ShapeFileFaultReport& report);
 
-/// What drawing the shape by itself comes to.
-ShxUtility::ShxResult ResultOfDrawing(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape);
+/// What drawing the shape by itself comes to, at any place, size and angle.
+ShxUtility::ShxResult ResultOfDrawing(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape,
+                                      bool vertical = false);
 
 /// "shape 130 MARK"
 std::string ShownShape(const ShxUtility::Shape& shape);

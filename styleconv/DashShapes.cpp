@@ -30,7 +30,7 @@ void AddNew(std::vector<std::string>& texts, std::string text) {
     }
 }
 
-// Null where the file has none that can be drawn; `fault` says why.
+// False where the file has none that can be drawn; `fault` says why.
 bool CanDraw(const ShxUtility::ShapesInFile& shapes, int number, std::string& fault) {
     const auto found = shapes.numberIndex.find(static_cast<std::uint16_t>(number));
     if (found == shapes.numberIndex.end()) {

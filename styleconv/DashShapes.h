@@ -19,8 +19,8 @@ public:
     /// Both must outlive this object.
     DashShapes(const drawing::Database& drawing, ShapeSearch& search) : drawing_(drawing), search_(search) {}
 
-    /// What an entity of the linetype will be drawn without, and why: "the shapes and texts of linetype GAS:
-    /// the drawing has no text style MARKS".
+    /// What an entity of the linetype will be drawn without, and why: "the shapes of linetype GAS: the
+    /// drawing has no text style MARKS".
     const std::vector<std::string>& LacksOf(const OxDbLinetypeTableRecord& linetype);
 
 private:

@@ -118,13 +118,14 @@ documents::Glyph DrawGlyph(const ShxUtility::ShapesInFile& file, const ShxUtilit
 bool KeepDrawn(const InputFile& input, const ShxUtility::ShapesInFile& file, const GlyphsOptions& options,
                std::vector<std::size_t>& positions) {
     std::erase_if(positions, [&](std::size_t position) {
-        const documents::Glyph glyph = DrawGlyph(file, file.shapes[position], options);
-        if (glyph.result == ShxUtility::kSuccess) {
+        const ShxUtility::Shape& shape = file.shapes[position];
+        const ShxUtility::ShxResult result = ResultOfDrawing(file, shape, options.vertical);
+        if (result == ShxUtility::kSuccess) {
             return false;
         }
-        SayFindings({{input.Name(), 0, Severity::kWarning,
-                      std::string("it cannot be drawn: ") + DrawingFault(glyph.result) + "; left out",
-                      ShownShape(file.shapes[position])}});
+        SayFindings(
+            {{input.Name(), 0, Severity::kWarning,
+              std::string("it cannot be drawn: ") + DrawingFault(result) + "; left out", ShownShape(shape)}});
         return true;
     });
     if (positions.empty()) {

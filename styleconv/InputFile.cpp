@@ -41,6 +41,10 @@ bool InputFile::OpenNamed() {
     path_ = platform::PathFromBytes(argument_);
     std::error_code error;
     const std::filesystem::file_status status = std::filesystem::status(NativePath(argument_), error);
+    if (status.type() == std::filesystem::file_type::none) {
+        Say(name_, "cannot be opened: " + error.default_error_condition().message());
+        return false;
+    }
     if (!std::filesystem::exists(status)) {
         Say(name_, "cannot be opened: there is no such file");
         return false;

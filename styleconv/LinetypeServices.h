@@ -18,7 +18,7 @@ class Command;
 
 struct LinetypeSourceOptions {
     std::string drawing;                   // a drawing document; empty for the one style STANDARD
-    std::vector<std::string> shapeFolders; //
+    std::vector<std::string> shapeFolders; // where shape files are looked for, too
     std::string font;                      // of STANDARD without a drawing: a file or a typeface
     bool tolerant = false;                 // what the drawing lacks of STANDARD is made up for
 };

@@ -107,7 +107,7 @@ const char* DrawingFault(std::int32_t shxResult) {
     case ShxUtility::kRecursiveSubshape:
         return "it draws itself as a subshape";
     case ShxUtility::kSubshapeNotFound:
-        return "the file lacks a subshape of it";
+        return "a subshape of it is missing";
     default:
         return "its program cannot be carried out";
     }

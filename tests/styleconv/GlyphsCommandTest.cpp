@@ -131,6 +131,22 @@ TEST(GlyphsCommand, ToleratesANumberThatTheFileLacksBesideOneThatItHas) {
     EXPECT_EQ(none.output, "");
 }
 
+TEST(GlyphsCommand, TolerantLeavesOutWhatCannotBeDrawnTheWayItIsAskedFor) {
+    const ScratchFolder folder;
+    // In vertical text only, the first one goes on to shape 99, which is not there.
+    const std::string file = folder.Write(
+        "a.shx",
+        ShapeFileBuilder::Shapes().Shape(65, "A", {14, 7, 99, 0x10, 0}).Shape(66, "B", {0x10, 0}).Text());
+    const ToolResult across = RunTool({"glyphs", file, "--tolerant"});
+    EXPECT_EQ(across.errors, "");
+    EXPECT_EQ(across.output, RunTool({"glyphs", file}).output);
+    const ToolResult down = RunTool({"glyphs", file, "--tolerant", "--vertical"});
+    EXPECT_EQ(down.status, 0);
+    EXPECT_EQ(down.errors, file + ": warning: it cannot be drawn: a subshape of it is missing; left out "
+                                  "(shape 65 A)\n");
+    EXPECT_EQ(down.output, RunTool({"glyphs", file, "--vertical", "--number", "66"}).output);
+}
+
 TEST(GlyphsCommand, ScaleRotationAndStartActOnEveryShape) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.shx", TwoShapes());

@@ -5,6 +5,8 @@
 #include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ToolRun.h"
 
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -150,6 +152,17 @@ TEST(Paths, AMessageNamesAFileAsItWasGiven) {
     EXPECT_EQ(notThere.status, 1);
     EXPECT_EQ(notThere.errors, missing + ": cannot be opened: there is no such file\n");
 }
+
+#if !defined(_WIN32)
+TEST(Paths, AFileThatCannotBeLookedForIsNotSaidToBeMissing) {
+    Place place({"links"});
+    const std::string loop = place.Result("loop.lin");
+    fs::create_symlink("loop.lin", loop);
+    const ToolResult result = RunTool({"linetypes", loop});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, loop + ": cannot be opened: " + std::strerror(ELOOP) + "\n");
+}
+#endif
 
 // The name of a shape file stands in a linetype file in that file's code page; 0xe4 is "ä" in WINDOWS-1252,
 // and letters outside A to Z keep their case.

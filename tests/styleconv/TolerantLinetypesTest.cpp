@@ -211,7 +211,7 @@ TEST_F(TolerantLinetypes, CharactersThatAFontLacksAreNamedUpToOneThatCannotBeDra
         Run("*X\nA,1,[\"ACBD\",STANDARD],-9\n*Y\nA,1,[\"AB\",STANDARD],-9\n*Z\nA,1,[\"DA\",STANDARD],-9\n");
     EXPECT_EQ(Names(result), "Z;");
     const std::string notDrawn =
-        "character B of text style STANDARD cannot be drawn: the file lacks a subshape of it";
+        "character B of text style STANDARD cannot be drawn: a subshape of it is missing";
     EXPECT_EQ(Said(result),
               ":2: warning: " + notDrawn + "; left out (linetype X)\n" +
                   ":2: warning: font TXT.SHX lacks characters of the text: C; left out (linetype X)\n" +
