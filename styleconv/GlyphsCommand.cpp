@@ -114,11 +114,18 @@ documents::Glyph DrawGlyph(const ShxUtility::ShapesInFile& file, const ShxUtilit
     return glyph;
 }
 
+// Named as --number names it.
+void NowAtShape(const ShxUtility::Shape& shape) {
+    NowAtItem("shape " + std::to_string(shape.number));
+}
+
 // Takes the shapes that cannot be drawn out of those to draw, and names them. False when none is left.
 bool KeepDrawn(const InputFile& input, const ShxUtility::ShapesInFile& file, const GlyphsOptions& options,
                std::vector<std::size_t>& positions) {
+    BeginStage("Checking", positions.size());
     std::erase_if(positions, [&](std::size_t position) {
         const ShxUtility::Shape& shape = file.shapes[position];
+        NowAtShape(shape);
         const ShxUtility::ShxResult result = ResultOfDrawing(file, shape, options.vertical);
         if (result == ShxUtility::kSuccess) {
             return false;
@@ -140,7 +147,7 @@ ExitStatus WriteDocument(const ShxUtility::ShapesInFile& file, const std::vector
     documents::GlyphsWriter writer(file, [&](std::string_view text) { return output.Write(text); });
     BeginWriting(options.output.empty(), positions.size());
     for (const std::size_t position : positions) {
-        NowAtItem("shape " + std::to_string(file.shapes[position].number));
+        NowAtShape(file.shapes[position]);
         if (!writer.Add(DrawGlyph(file, file.shapes[position], options))) {
             return kInputFault;
         }
@@ -153,7 +160,7 @@ ExitStatus WritePictures(const ShxUtility::ShapesInFile& file, const std::vector
     std::vector<std::unique_ptr<TylModel::SimpleSymbolDefinition>> symbols;
     BeginStage("Drawing", positions.size());
     for (const std::size_t position : positions) {
-        NowAtItem("shape " + std::to_string(file.shapes[position].number));
+        NowAtShape(file.shapes[position]);
         symbols.push_back(SymbolOf(DrawGlyph(file, file.shapes[position], options)));
     }
     // Letters that are turned stand on no common line.

@@ -79,6 +79,17 @@ TEST(Limits, TimeEndsShapesThatFanOutWithoutEnd) {
     EXPECT_EQ(folder.Names(), (std::vector<std::string>{"fan.shx", "out.json"}));
 }
 
+TEST(Limits, ATolerantRunNamesTheShapeThatHasNoEndToo) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("fan.shx", FanOfNothing());
+    const ToolResult result =
+        RunTool({"glyphs", file, "--tolerant", "--number", "1", "--number", "40", "--time-limit", "0.5"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, file + ": shape 40: not done within the time limit of 0.5 seconds; --time-limit "
+                                    "gives it more\n");
+    EXPECT_EQ(result.output, "");
+}
+
 TEST(Limits, MemoryEndsShapesThatFanOutWithoutEnd) {
     const ScratchFolder folder;
     const std::string file =
