@@ -17,6 +17,17 @@ void AllowAgain(CLI::Option& option, const std::string& kind) {
     option.expected(1)->take_all();
 }
 
+std::string NotAsExpected(const std::string& expected, const std::string& found) {
+    return "expected " + expected + ", found \"" + found + "\"";
+}
+
+// What stands where a command should, if anything but options does.
+std::string NoCommandText(const CLI::App& app) {
+    const std::vector<std::string> rest = app.remaining();
+    const bool isWord = !rest.empty() && !rest.front().starts_with('-');
+    return isWord ? "there is no command \"" + rest.front() + "\"" : "a command is missing";
+}
+
 // Help and version are no errors and go to standard output.
 ExitStatus Explain(const CLI::App& app, const CLI::ParseError& error) {
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
@@ -25,7 +36,7 @@ ExitStatus Explain(const CLI::App& app, const CLI::ParseError& error) {
     }
     const bool noCommand = app.get_subcommands().empty() && error.get_name() == "RequiredError";
     std::fprintf(stderr, "styleconv: %s\nTry \"styleconv --help\" or \"styleconv COMMAND --help\".\n",
-                 noCommand ? "a command is missing" : error.what());
+                 noCommand ? NoCommandText(app).c_str() : error.what());
     return kUsageFault;
 }
 
@@ -55,7 +66,12 @@ void Command::AddTexts(const std::string& name, std::vector<std::string>& values
 
 void Command::AddIntegers(const std::string& name, std::vector<std::int64_t>& values, const std::string& kind,
                           const std::string& description) {
-    AllowAgain(*app_->add_option(name, values, description), kind);
+    CLI::Option& option = *app_->add_option(name, values, description);
+    AllowAgain(option, kind);
+    option.check([](const std::string& text) {
+        std::int64_t value = 0;
+        return CLI::detail::lexical_cast(text, value) ? "" : NotAsExpected("a whole number", text);
+    });
 }
 
 void Command::AddChoice(const std::string& name, std::string& value, const std::vector<std::string>& choices,
@@ -70,7 +86,7 @@ void Command::AddReader(const std::string& name, const TextReader& read, const s
                         const std::string& description) {
     const auto readOrRefuse = [name, read](const std::string& text) {
         if (const std::string expected = read(text); !expected.empty()) {
-            throw CLI::ValidationError(name, "expected " + expected + ", found \"" + text + "\"");
+            throw CLI::ValidationError(name, NotAsExpected(expected, text));
         }
     };
     NameKind(*app_->add_option_function<std::string>(name, readOrRefuse, description), kind);

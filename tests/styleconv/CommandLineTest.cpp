@@ -16,6 +16,21 @@ TEST(CommandLine, WithoutACommandIsWrong) {
                              "Try \"styleconv --help\" or \"styleconv COMMAND --help\".\n");
 }
 
+TEST(CommandLine, WhatIsNoCommandIsNamed) {
+    const std::string help = "\nTry \"styleconv --help\" or \"styleconv COMMAND --help\".\n";
+    EXPECT_EQ(RunTool({"paint", "a.lin"}).errors, "styleconv: there is no command \"paint\"" + help);
+    EXPECT_EQ(RunTool({"--tolerant", "a.lin"}).errors, "styleconv: a command is missing" + help);
+}
+
+TEST(CommandLine, WhatIsNoWholeNumberIsNamed) {
+    for (const std::string number : {"x", "6.5", "7a"}) {
+        const ToolResult result = RunTool({"glyphs", "a.shx", "--number", "65", "--number=" + number});
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.errors, "styleconv: --number: expected a whole number, found \"" + number +
+                                     "\"\nTry \"styleconv --help\" or \"styleconv COMMAND --help\".\n");
+    }
+}
+
 TEST(CommandLine, AnUnknownCommandOptionOrFormatIsWrong) {
     for (const std::vector<std::string>& arguments : {std::vector<std::string>{"paint"},
                                                       {"patterns"},
