@@ -2,8 +2,7 @@
 #pragma once
 
 #include "StyleConversion/linetype/LinStyleVisitor.h"
-#include "StyleConversion/platform/CodePage.h"
-#include "styleconv/Messages.h"
+#include "styleconv/LinetypeFindings.h"
 #include "styleconv/WorkLimits.h"
 
 #include <string>
@@ -19,7 +18,7 @@ public:
     void End() override { visitor_.End(); }
     void BeginLinetype(const LineConverter::LinetypeRecord& record, const std::string& description,
                        int elementCount) override {
-        NowAtItem("linetype " + Shown(platform::AnsiToWide(record.name)));
+        NowAtItem(LinetypeItem(record.name));
         visitor_.BeginLinetype(record, description, elementCount);
     }
     void EndLinetype() override { visitor_.EndLinetype(); }

@@ -44,7 +44,7 @@ public:
     void AddRemarks(const MeasuredLinetypes& measured) {
         for (const MeasuredLinetypes::Remark& remark : measured.Remarks()) {
             Add(parser_.ElementLine(remark.linetype, remark.element), Severity::kWarning, remark.text,
-                LinetypeItem(parser_.linetypes()[remark.linetype]));
+                LinetypeItem(parser_.linetypes()[remark.linetype].name));
         }
     }
 
@@ -79,19 +79,19 @@ private:
         if (!isNew) {
             Add(line, Severity::kWarning,
                 "the name is used in line " + std::to_string(same->second) + " already",
-                LinetypeItem(record));
+                LinetypeItem(record.name));
         } else if (!isNewInUpperCase) {
             Add(line, Severity::kWarning,
                 "the name differs only in case from the one in line " +
                     std::to_string(parser_.HeaderLine(similar->second)),
-                LinetypeItem(record));
+                LinetypeItem(record.name));
         }
         if (record.name.find_first_not_of(" \t") == std::string::npos) {
             Add(line, Severity::kWarning, "the name is nothing but blanks", "");
         } else if (record.name.front() == ' ' || record.name.back() == ' ' || record.name.front() == '\t' ||
                    record.name.back() == '\t') {
             Add(line, Severity::kWarning, "the blank before or behind the name is part of it",
-                LinetypeItem(record));
+                LinetypeItem(record.name));
         }
     }
 
@@ -107,15 +107,15 @@ private:
         const std::uint64_t line = parser_.ElementLine(index, 0);
         if (length == 0.0) {
             Add(line, Severity::kWarning, "the pattern has no length, so nothing can be repeated",
-                LinetypeItem(record));
+                LinetypeItem(record.name));
         } else if (!draws) {
             Add(line, Severity::kWarning, "the pattern has gaps only and draws nothing",
-                LinetypeItem(record));
+                LinetypeItem(record.name));
         } else if (record.elements.front().kind == LineConverter::kDash &&
                    record.elements.front().length < 0.0) {
             Add(line, Severity::kWarning,
                 "the pattern begins with a gap: a line begins and ends with a dash elsewhere",
-                LinetypeItem(record));
+                LinetypeItem(record.name));
         }
     }
 

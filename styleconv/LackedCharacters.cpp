@@ -68,7 +68,7 @@ void AddLackedCharacters(const std::string& file, const LineConverter::LinParser
                 element.kind == LineConverter::kText ? Remark(*element.complex, parser) : "";
             if (!remark.empty()) {
                 findings.push_back({file, parser.ElementLine(linetype, i), severity, remark + consequence,
-                                    LinetypeItem(record)});
+                                    LinetypeItem(record.name)});
             }
         }
     }

@@ -2,7 +2,6 @@
 
 #include "StyleConversion/encoding/NumberReader.h"
 #include "StyleConversion/linetype/LinLimits.h"
-#include "StyleConversion/platform/CodePage.h"
 #include "styleconv/Messages.h"
 
 #include <cstddef>
@@ -97,7 +96,7 @@ Finding Begin(const std::string& file, const LinFault& fault) {
     finding.file = file;
     finding.line = fault.line;
     if (!fault.linetype.empty()) {
-        finding.item = "linetype " + Shown(platform::AnsiToWide(fault.linetype));
+        finding.item = LinetypeItem(fault.linetype);
     }
     return finding;
 }
@@ -137,8 +136,8 @@ std::vector<Finding> ForgivenLinetypeFaults(const std::string& file, const std::
     return findings;
 }
 
-std::string LinetypeItem(const LineConverter::LinetypeRecord& record) {
-    return "linetype " + Shown(platform::AnsiToWide(record.name.substr(0, 200)));
+std::string LinetypeItem(const std::string& name) {
+    return "linetype " + ShownName(name);
 }
 
 } // namespace styleconv

@@ -21,7 +21,7 @@ std::vector<Finding> ForgivenLinetypeFaults(const std::string& file,
                                             const std::vector<LineConverter::LinFault>& faults,
                                             const LinetypeSources& sources);
 
-/// "linetype GAS", cut where the name is very long.
-std::string LinetypeItem(const LineConverter::LinetypeRecord& record);
+/// "linetype GAS"
+std::string LinetypeItem(const std::string& name);
 
 } // namespace styleconv

@@ -8,6 +8,22 @@
 #include <utility>
 
 namespace styleconv {
+namespace {
+
+// At most `longest` characters of a text in the file's encoding.
+std::string ShownStart(std::string_view text, std::size_t longest) {
+    // No encoding has more bytes to a character, so that none of those shown is cut.
+    constexpr std::size_t kMostBytes = 4;
+    const std::wstring wide = platform::AnsiToWide(text.substr(0, (longest + 1) * kMostBytes));
+    if (wide.size() <= longest) {
+        return Shown(wide);
+    }
+    // Where characters have 16 bits, the second half of a pair stays with the first.
+    const bool cutsPair = wide[longest] >= 0xdc00 && wide[longest] <= 0xdfff;
+    return Shown(std::wstring_view(wide).substr(0, longest - (cutsPair ? 1 : 0))) + "…";
+}
+
+} // namespace
 
 void Say(std::string_view file, std::string_view what) {
     std::string line = Shown(file);
@@ -43,9 +59,14 @@ std::string Shown(std::string_view name) {
     return documents::ShownText(name);
 }
 
+std::string ShownName(std::string_view name) {
+    constexpr std::size_t kLongest = 200;
+    return ShownStart(name, kLongest);
+}
+
 std::string ShownLine(std::string_view text) {
     constexpr std::size_t kLongest = 160;
-    return Shown(platform::AnsiToWide(text.substr(0, kLongest))) + (text.size() > kLongest ? "…" : "");
+    return ShownStart(text, kLongest);
 }
 
 } // namespace styleconv

@@ -26,7 +26,9 @@ void SayMissing(std::string_view file, std::string_view what, bool isTolerant);
 std::string Shown(std::string_view name);
 std::string Shown(std::wstring_view name);
 
-/// A text of the file's encoding as a message shows it: its first part where it is very long.
+/// A name or a line in the file's encoding as a message shows it: of a very long one, its first characters
+/// and "…".
+std::string ShownName(std::string_view name);
 std::string ShownLine(std::string_view text);
 
 } // namespace styleconv

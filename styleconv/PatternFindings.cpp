@@ -3,7 +3,6 @@
 #include "StyleConversion/encoding/PathCommands.h"
 #include "StyleConversion/pattern/PatternLimits.h"
 #include "StyleConversion/pattern/RepeatTile.h"
-#include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "styleconv/Messages.h"
 
@@ -19,10 +18,6 @@ using pattern::PatternSlip;
 // Rounded to so many parts of one, for people.
 std::string NumberText(double value, double parts) {
     return platform::WideToValidUtf8(encoding::FormatNumber(std::round(value * parts) / parts));
-}
-
-std::string Item(const std::string& pattern) {
-    return pattern.empty() ? "" : "pattern " + Shown(platform::AnsiToWide(pattern));
 }
 
 std::string SlipText(const PatternSlip& slip) {
@@ -94,7 +89,8 @@ public:
         : fileName_(fileName), file_(file), reading_(reading) {}
 
     void Add(std::size_t line, Severity severity, std::string message, const std::string& pattern) {
-        findings_.push_back({fileName_, line, severity, std::move(message), Item(pattern)});
+        findings_.push_back(
+            {fileName_, line, severity, std::move(message), pattern.empty() ? "" : PatternItem(pattern)});
     }
 
     void AddTiles() {
@@ -202,6 +198,10 @@ std::vector<Finding> ForgivenPatternSlips(const std::string& fileName, const pat
     }
     findings.AddLeftOut();
     return findings.Take();
+}
+
+std::string PatternItem(const std::string& name) {
+    return "pattern " + ShownName(name);
 }
 
 } // namespace styleconv

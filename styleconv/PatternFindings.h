@@ -18,4 +18,7 @@ std::vector<Finding> CheckedPatterns(const std::string& fileName, const pattern:
 std::vector<Finding> ForgivenPatternSlips(const std::string& fileName, const pattern::PatternFile& file,
                                           const pattern::PatternReading& reading);
 
+/// "pattern BRICK"
+std::string PatternItem(const std::string& name);
+
 } // namespace styleconv

@@ -49,10 +49,6 @@ bool Load(const InputFile& input, LoadedPatterns& loaded, const pattern::Pattern
     return true;
 }
 
-std::string ShownPattern(const std::string& name) {
-    return "pattern " + Shown(platform::AnsiToWide(name));
-}
-
 // Where a tolerant conversion keeps what it left out, to say it in the order of the file; a strict one says
 // it at once.
 using LeftOut = std::vector<Finding>*;
@@ -61,7 +57,7 @@ using LeftOut = std::vector<Finding>*;
 std::unique_ptr<TylModel::SymbolDefinition> ConvertPattern(const InputFile& input, LoadedPatterns& loaded,
                                                            const std::string& name,
                                                            std::string_view consequence, LeftOut leftOut) {
-    NowAtItem(ShownPattern(name));
+    NowAtItem(PatternItem(name));
     std::vector<pattern::PatternLine>& lines = loaded.file.patterns.at(name);
     auto symbol = pattern::BuildAreaSymbol(name, lines);
     if (symbol != nullptr) {
@@ -72,9 +68,9 @@ std::unique_ptr<TylModel::SymbolDefinition> ConvertPattern(const InputFile& inpu
         lines.empty() ? "has no lines" : "has no repeat tile: no rectangle of any size repeats its lines";
     if (leftOut != nullptr) {
         leftOut->push_back({input.Name(), line, Severity::kWarning, "the pattern " + reason + "; left out",
-                            ShownPattern(name)});
+                            PatternItem(name)});
     } else {
-        SayAtLine(input.Name(), line, ShownPattern(name) + " " + reason + std::string(consequence));
+        SayAtLine(input.Name(), line, PatternItem(name) + " " + reason + std::string(consequence));
     }
     return symbol;
 }

@@ -81,6 +81,23 @@ TEST_F(Check, NamesAndPatternsThatSurpriseAreWarnings) {
         "0 errors, 7 warnings in 1 file\n");
 }
 
+TEST_F(Check, LongNamesAndLinesAreShownUpToAWholeCharacter) {
+    // 200 characters of a name are shown, and 160 of a line.
+    const auto letters = [](std::size_t count) {
+        std::string text;
+        for (std::size_t i = 0; i < count; ++i) {
+            text += "\xc3\xa4";
+        }
+        return text;
+    };
+    const std::string wrong = ": error: expected the length of a dash, or \"[\" at byte 3: A,";
+    EXPECT_EQ(Lines("*" + letters(200) + "\nA," + letters(158) + "\n*A" + letters(200) + "\nA,B" +
+                    letters(158) + "\n"),
+              ":2" + wrong + letters(158) + " (linetype " + letters(200) + ")\n" + ":4" + wrong + "B" +
+                  letters(157) + "… (linetype A" + letters(199) + "…)\n" +
+                  "2 errors, 0 warnings in 1 file\n");
+}
+
 TEST_F(Check, TextsAndShapesWiderThanTheirGapAreWarningsWithBothFigures) {
     // A stroke of one unit along the line.
     folder.Write("marks.shx", ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Text());
