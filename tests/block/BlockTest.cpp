@@ -31,8 +31,10 @@ Symbol BlockTest::Convert(const std::wstring& name) {
 
 std::vector<std::wstring> BlockTest::Geometries() {
     const Symbol symbol = Convert();
+    const std::int32_t count = symbol->GetGraphics().GetCount();
     std::vector<std::wstring> geometries;
-    for (std::int32_t i = 0; i < symbol->GetGraphics().GetCount(); ++i) {
+    geometries.reserve(static_cast<std::size_t>(count));
+    for (std::int32_t i = 0; i < count; ++i) {
         geometries.push_back(PathAt(symbol, i).GetGeometry());
     }
     return geometries;
@@ -74,8 +76,10 @@ const TylModel::Parameter& ParameterAt(const Symbol& symbol, std::int32_t index)
 }
 
 std::vector<std::wstring> Identifiers(const Symbol& symbol) {
+    const std::int32_t count = symbol->GetParameterDefinition().GetCount();
     std::vector<std::wstring> identifiers;
-    for (std::int32_t i = 0; i < symbol->GetParameterDefinition().GetCount(); ++i) {
+    identifiers.reserve(static_cast<std::size_t>(count));
+    for (std::int32_t i = 0; i < count; ++i) {
         identifiers.push_back(ParameterAt(symbol, i).GetIdentifier());
     }
     return identifiers;

@@ -24,7 +24,7 @@ TEST(DrawingFaults, AWrongDocumentIsRefused) {
         {"{}", "format: expected \"styleconversion/drawing\", found nothing"},
         {R"({"format": "styleconversion/drawing"})", "version: expected the number 1, found nothing"},
         {R"({"format": "styleconversion/symbols", "version": 1})",
-         "format: expected \"styleconversion/drawing\", found \"styleconversion/symbols\""},
+         R"(format: expected "styleconversion/drawing", found "styleconversion/symbols")"},
         {R"({"format": 5})", "format: expected \"styleconversion/drawing\", found a number"},
         {R"({"version": 2})", "version: expected the number 1, found 2"},
     });
@@ -136,7 +136,7 @@ TEST(DrawingFaults, AMissingKeyIsRefused) {
         {EntityDocument(R"({"type": "polyline"})"),
          "blocks[0].entities[0].vertices: expected an array, found nothing"},
         {EntityDocument(R"({"type": "spline"})"),
-         "blocks[0].entities[0]: expected \"fitPoints\" or \"controlPoints\", found neither"},
+         R"(blocks[0].entities[0]: expected "fitPoints" or "controlPoints", found neither)"},
         {EntityDocument(R"({"type": "spline", "controlPoints": [], "knots": []})"),
          "blocks[0].entities[0].degree: expected a whole number of 32 bits, found nothing"},
         {EntityDocument(R"({"type": "spline", "fitPoints": [], "endTangent": [1, 0]})"),
@@ -144,7 +144,7 @@ TEST(DrawingFaults, AMissingKeyIsRefused) {
         {EntityDocument(R"({"type": "hatch"})"),
          "blocks[0].entities[0].loops: expected an array, found nothing"},
         {EntityDocument(R"({"type": "hatch", "loops": [{}]})"),
-         "blocks[0].entities[0].loops[0]: expected \"vertices\" or \"edges\", found neither"},
+         R"(blocks[0].entities[0].loops[0]: expected "vertices" or "edges", found neither)"},
         {EntityDocument(
              R"({"type": "hatch", "loops": [], "pattern": [{"angle": 0, "base": [0, 0], "dashes": []}]})"),
          "blocks[0].entities[0].pattern[0].offset: expected a vector [x, y], found nothing"},
@@ -166,7 +166,7 @@ TEST(DrawingFaults, KeysThatExcludeEachOtherAreRefused) {
              R"({"type": "spline", "degree": 3, "controlPoints": [], "knots": [], "fitTolerance": 0})"),
          "blocks[0].entities[0].fitTolerance: this key cannot be given beside \"controlPoints\""},
         {EntityDocument(R"({"type": "hatch", "loops": [{"vertices": [], "edges": []}]})"),
-         "blocks[0].entities[0].loops[0]: expected either \"vertices\" or \"edges\", found both"},
+         R"(blocks[0].entities[0].loops[0]: expected either "vertices" or "edges", found both)"},
     });
 }
 
