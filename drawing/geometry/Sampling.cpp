@@ -3,6 +3,7 @@
 
 #include "drawing/geometry/BezierChain.h"
 #include "drawing/geometry/Limits.h"
+#include "drawing/geometry/QuickTrials.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,13 +22,6 @@ constexpr double kSmallestStep = 1e-13;
 /// second refutes it. Between the two a piece that is halved a few times is decided.
 constexpr double kProved = 0.999;
 constexpr double kRefuted = 0.97;
-
-/// A part of a cubic is nowhere further from its chord than 3/4 of the further one of its two inner control
-/// points. Quick answers keep away from the bounds above by this share of a squared distance, and are given
-/// only for tolerances so many times the rounding of the coordinates that it does not come near that.
-constexpr double kSquaredShareOfHandles = 0.75 * 0.75;
-constexpr double kQuickMargin = 0.001;
-constexpr double kQuickTolerance = 1e6;
 
 /// Halvings after which an undecided piece counts as refuted.
 constexpr int kDeepest = 40;
@@ -99,7 +93,8 @@ struct CurveStart {
 class Sampler {
 public:
     explicit Sampler(const BezierChain& chain)
-        : chain_(chain), stack_(chain), kinks_(PieceCount(chain), false), rounding_(RoundingOf(chain)) {
+        : chain_(chain), stack_(chain), kinks_(PieceCount(chain), false), rounding_(RoundingOf(chain)),
+          quick_(chain, rounding_) {
         for (std::size_t piece = 1; piece < PieceCount(chain); ++piece) {
             kinks_[piece] = HasKink(chain, piece);
         }
@@ -114,7 +109,6 @@ public:
 
 private:
     bool StaysWithin(const CurveStart& from, double to);
-    std::optional<bool> QuickAnswer(const Chord& chord) const;
     bool StaysNear(const Chord& chord);
     double LongestStep(const CurveStart& from, double most, double guess);
     double MovedToKink(const CurveStart& from, double to);
@@ -137,7 +131,7 @@ private:
     double rounding_;         ///< of the coordinates
     double proved_ = 0.0;     ///< squared distances
     double refuted_ = 0.0;
-    bool quick_ = false; ///< whether there are quick answers
+    QuickTrials quick_;
 };
 
 double Sampler::PositionOf(double parameter) const {
@@ -161,14 +155,15 @@ CurveSample Sampler::At(double position) const {
 /// Whether the curve between two positions stays within the tolerance of the chord. The distance to a segment
 /// is a convex function, so a piece is nowhere further away than the furthest of its control points.
 bool Sampler::StaysWithin(const CurveStart& from, double to) {
+    if (const std::optional<bool> answer = quick_.StaysNear(from.point, from.position, to)) {
+        return *answer;
+    }
     stack_.Clear();
     const std::size_t first = PieceAt(from.position);
     if (const auto base = static_cast<double>(first); to <= base + 1.0) {
         // All within one piece: its part ends at the very point at which the chord does.
         stack_.Push(first, from.position - base, to - base);
-        const Chord chord(from.point, stack_.TopPoints().back());
-        const std::optional<bool> answer = QuickAnswer(chord);
-        return answer ? *answer : StaysNear(chord);
+        return StaysNear(Chord(from.point, stack_.TopPoints().back()));
     }
     const Chord chord(from.point, PointAt(to));
     // A joint of pieces that is too far away settles it.
@@ -186,25 +181,6 @@ bool Sampler::StaysWithin(const CurveStart& from, double to) {
         }
     }
     return true;
-}
-
-/// The same of the one piece on the stack, a part of a cubic with its ends on the chord's: what halving would
-/// find out after a while, unless it is close. Halving never proves a piece with a point further away than
-/// kProved, and never refutes one without a point further away than kRefuted.
-std::optional<bool> Sampler::QuickAnswer(const Chord& chord) const {
-    if (!quick_) {
-        return std::nullopt;
-    }
-    const std::span<const Point> points = stack_.TopPoints();
-    const double handles = std::max(chord.SquaredDistanceTo(points[1]), chord.SquaredDistanceTo(points[2]));
-    if (kSquaredShareOfHandles * handles <= (1.0 - kQuickMargin) * refuted_) {
-        return true;
-    }
-    const Point middle = 0.125 * (points[0] + points[3]) + 0.375 * (points[1] + points[2]);
-    if (chord.SquaredDistanceTo(middle) > (1.0 + kQuickMargin) * proved_) {
-        return false;
-    }
-    return std::nullopt;
 }
 
 /// The same of the pieces on the stack, which is empty after a yes.
@@ -280,7 +256,7 @@ bool Sampler::Run(double start, double end, double tolerance, std::size_t most,
                   std::vector<CurveSample>& samples, double& reached) {
     proved_ = (kProved * tolerance) * (kProved * tolerance);
     refuted_ = (kRefuted * tolerance) * (kRefuted * tolerance);
-    quick_ = chain_.degree == 3 && !IsRational(chain_) && tolerance > kQuickTolerance * rounding_;
+    quick_.SetBounds(kRefuted * tolerance, kProved * tolerance);
     samples.clear();
     samples.push_back(At(start));
     double step = 1.0;
