@@ -1,10 +1,8 @@
 #include "styleconv/MeasuredLinetypes.h"
 
-#include "StyleConversion/encoding/PathCommands.h"
 #include "StyleConversion/linetype/ControlCodes.h"
 #include "StyleConversion/linetype/ShxDrawing.h"
 #include "StyleConversion/platform/CodePage.h"
-#include "StyleConversion/platform/Utf8.h"
 #include "preview/Outline.h"
 #include "preview/TextMetrics.h"
 #include "styleconv/Messages.h"
@@ -19,10 +17,8 @@ namespace {
 // A text or shape may be as wide as its gap, give or take what arithmetic leaves.
 constexpr double kSlack = 1e-9;
 
-std::string NumberText(double value) {
-    constexpr double kParts = 1e4;
-    return platform::WideToValidUtf8(encoding::FormatNumber(std::round(value * kParts) / kParts));
-}
+// Four decimals of a width are shown.
+constexpr double kShownParts = 1e4;
 
 // A text whose width is an estimate is told of where it is wider by more than such estimates are off.
 constexpr double kEstimateSlack = 0.25;
@@ -170,8 +166,8 @@ void MeasuredLinetypes::JudgeMark(const Mark& mark) {
         const std::string where = mark.isFixed ? " where the line runs along it" : "";
         const std::string about = mark.isEstimate ? "about " : "";
         remarks_.push_back({linetype_ - 1, mark.element,
-                            mark.name + " is " + about + NumberText(width) + " wide" + where +
-                                ", the gap it stands in " + NumberText(room)});
+                            mark.name + " is " + about + RoundedText(width, kShownParts) + " wide" + where +
+                                ", the gap it stands in " + RoundedText(room, kShownParts)});
     }
 }
 

@@ -1,9 +1,12 @@
 #include "styleconv/Messages.h"
 
+#include "StyleConversion/encoding/PathCommands.h"
 #include "StyleConversion/platform/CodePage.h"
+#include "StyleConversion/platform/Utf8.h"
 #include "documents/ShownText.h"
 #include "styleconv/Progress.h"
 
+#include <cmath>
 #include <cstdio>
 #include <utility>
 
@@ -67,6 +70,10 @@ std::string ShownName(std::string_view name) {
 std::string ShownLine(std::string_view text) {
     constexpr std::size_t kLongest = 160;
     return ShownStart(text, kLongest);
+}
+
+std::string RoundedText(double value, double parts) {
+    return platform::WideToValidUtf8(encoding::FormatNumber(std::round(value * parts) / parts));
 }
 
 } // namespace styleconv

@@ -31,4 +31,7 @@ std::string Shown(std::wstring_view name);
 std::string ShownName(std::string_view name);
 std::string ShownLine(std::string_view text);
 
+/// A number for people, rounded to so many parts of one.
+std::string RoundedText(double value, double parts);
+
 } // namespace styleconv

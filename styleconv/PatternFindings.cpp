@@ -1,24 +1,16 @@
 #include "styleconv/PatternFindings.h"
 
-#include "StyleConversion/encoding/PathCommands.h"
 #include "StyleConversion/pattern/PatternLimits.h"
 #include "StyleConversion/pattern/RepeatTile.h"
-#include "StyleConversion/platform/Utf8.h"
 #include "styleconv/Messages.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace styleconv {
 namespace {
 
 using pattern::PatternSlip;
-
-// Rounded to so many parts of one, for people.
-std::string NumberText(double value, double parts) {
-    return platform::WideToValidUtf8(encoding::FormatNumber(std::round(value * parts) / parts));
-}
 
 std::string SlipText(const PatternSlip& slip) {
     switch (slip.kind) {
@@ -141,8 +133,8 @@ private:
         } else {
             Add(number, Severity::kWarning,
                 "the tile nearly closes: after " + std::to_string(family.rowCount) +
-                    " stacked lines the dashes are out of phase by " + NumberText(error, 1e6) +
-                    " drawing units, " + NumberText(error / family.offset * 100.0, 10.0) + " % of the shift",
+                    " stacked lines the dashes are out of phase by " + RoundedText(error, 1e6) +
+                    " drawing units, " + RoundedText(error / family.offset * 100.0, 10.0) + " % of the shift",
                 name);
         }
     }
