@@ -22,22 +22,6 @@ BlockSymbol::BlockSymbol(TylModel::SimpleSymbolDefinition& symbol,
     }
 }
 
-NamedLayer& BlockSymbol::LayerNamed(std::wstring_view name) {
-    if (lastLayer_ != nullptr && lastLayer_->name == name) {
-        return *lastLayer_;
-    }
-    const auto found = layersByName_.find(name);
-    if (found != layersByName_.end()) {
-        lastLayer_ = found->second;
-    } else {
-        NamedLayer& added = layers_.emplace_back();
-        added.name = name;
-        layersByName_.emplace(added.name, &added);
-        lastLayer_ = &added;
-    }
-    return *lastLayer_;
-}
-
 void BlockSymbol::Adopt(std::unique_ptr<TylModel::Parameter> parameter) {
     identifiers_.insert(parameter->GetIdentifier());
     symbol_.GetParameterDefinition().Adopt(parameter.release());

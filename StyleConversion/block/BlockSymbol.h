@@ -1,17 +1,14 @@
 // The symbol of the block under conversion, as the collectors see it.
 #pragma once
 
-#include "OxDb/OxCmColor.h"
-#include "OxDb/OxDbTypes.h"
+#include "StyleConversion/block/NamedLayers.h"
 #include "TylModel/TylModel.h"
 
 #include <cstddef>
-#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -24,18 +21,6 @@ struct TextHash {
 };
 
 using TextSet = std::unordered_set<std::wstring, TextHash, std::equal_to<>>;
-
-/// A layer that entities name: it is looked up once.
-struct NamedLayer {
-    std::wstring name;   // as entities spell it
-    std::wstring record; // as the layer spells it
-    OxCmColor color;
-    OxDb::LineWeight lineWeight = OxDb::kLnWt000;
-    bool isKnown = false; // with its own spelling; else it is to be looked up again
-    // Whether the symbol has the parameter.
-    bool hasColorParameter = false;
-    bool hasLineweightParameter = false;
-};
 
 /// The geometry of one entity: its own, and that of the shapes and texts in its linetype.
 struct EntityPath {
@@ -60,7 +45,7 @@ public:
     bool HasParameter(std::wstring_view identifier) const { return identifiers_.contains(identifier); }
 
     /// Not yet known the first time.
-    NamedLayer& LayerNamed(std::wstring_view name);
+    NamedLayer& LayerNamed(std::wstring_view name) { return layers_.Named(name); }
 
     /// Both append to the symbol, which then owns the object. A parameter's identifier is not looked for.
     void Adopt(std::unique_ptr<TylModel::Parameter> parameter);
@@ -78,10 +63,7 @@ private:
     TylModel::SimpleSymbolDefinition& symbol_;
     TextSet identifiers_;
     std::unordered_set<std::wstring_view> layersToIgnore_;
-    std::deque<NamedLayer> layers_;
-    std::unordered_map<std::wstring_view, NamedLayer*> layersByName_; // the names are in layers_
-    // Asked for last: an entity asks twice, and its neighbours often for the same.
-    NamedLayer* lastLayer_ = nullptr;
+    NamedLayers layers_;
     EntityPath path_;
 };
 

@@ -140,6 +140,11 @@ BezierChain DecomposeIntoBezier(const NurbsCurve& curve) {
     const bool rational = !curve.weights.empty();
     BezierChain chain;
     chain.degree = curve.degree;
+    const std::size_t spans = curve.controlPoints.size() - degree; // or fewer, where knots are repeated
+    chain.breaks.reserve(spans + 1);
+    if (degree < kCubicOrder) { // Beyond, the empty spans of a hostile curve would cost too much memory.
+        chain.points.reserve(spans * (degree + 1));
+    }
     chain.breaks.push_back(curve.knots[degree]);
     for (std::size_t span = degree; span < curve.controlPoints.size(); ++span) {
         if (!(curve.knots[span] < curve.knots[span + 1])) {
@@ -170,9 +175,11 @@ BezierStack::BezierStack(const BezierChain& chain)
 void BezierStack::Grow() {
     ++count_;
     if (depths_.size() < count_) {
-        depths_.resize(count_);
-        points_.resize(count_ * order_);
-        weights_.resize(IsRational(*chain_) ? count_ * order_ : 0);
+        constexpr std::size_t kUsualDepth = 8; // seldom more are needed
+        const std::size_t room = std::max(kUsualDepth, 2 * count_);
+        depths_.resize(room);
+        points_.resize(room * order_);
+        weights_.resize(IsRational(*chain_) ? room * order_ : 0);
     }
 }
 

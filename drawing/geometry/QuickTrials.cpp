@@ -95,15 +95,20 @@ std::optional<bool> QuickTrials::StaysNear(Point start, double from, double to) 
     }
     // Distances from the whole line, which are no larger than those from the segment; all times its length.
     double furthest = 0.0;
+    const double farSquare = far_ * squaredLength;
     const auto isNotFar = [&](const Cubic& part, double begin, double end, bool isLast) {
         const Polynomial across{Cross(along, part.constant - start), Cross(along, part.linear),
                                 Cross(along, part.square), Cross(along, part.cube)};
+        const double middle = across.At(0.5 * (begin + end)); // often enough, and quicker than extremes
+        if (middle * middle > farSquare) {
+            return false;
+        }
         furthest = std::max(furthest, LargestSquareAtExtremes(across, begin, end));
         if (!isLast) {
             const double joint = across.At(1.0);
             furthest = std::max(furthest, joint * joint);
         }
-        return furthest <= far_ * squaredLength;
+        return furthest <= farSquare;
     };
     if (!ForEachPart(stretch, isNotFar)) {
         return false;
