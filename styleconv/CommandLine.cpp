@@ -1,7 +1,11 @@
 #include "styleconv/CommandLine.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdio>
+#include <limits>
+#include <string_view>
+#include <utility>
 
 namespace styleconv {
 namespace {
@@ -12,13 +16,49 @@ void NameKind(CLI::Option& option, const std::string& kind) {
     }
 }
 
+// One value each time. Were more allowed at once, the words behind would be taken for values, too, and a
+// value in brackets for a list of them.
 void AllowAgain(CLI::Option& option, const std::string& kind) {
     NameKind(option, kind);
-    option.expected(1)->take_all();
+    option.expected(1)->take_all()->allow_extra_args(false);
 }
 
 std::string NotAsExpected(const std::string& expected, const std::string& found) {
     return "expected " + expected + ", found \"" + found + "\"";
+}
+
+// Decimal, and nothing before or behind it.
+bool ReadWholeNumber(const std::string& text, std::int64_t& number) {
+    const bool isNegative = text.starts_with('-');
+    const std::string_view digits = std::string_view(text).substr(isNegative ? 1 : 0);
+    number = 0;
+    for (const char c : digits) {
+        const int digit = c - '0';
+        if (digit < 0 || digit > 9 || number > (std::numeric_limits<std::int64_t>::max() - digit) / 10) {
+            return false;
+        }
+        number = number * 10 + digit;
+    }
+    number = isNegative ? -number : number;
+    return !digits.empty();
+}
+
+// The arguments, last first, as they are parsed. "--name=" is an empty name, and not the word that follows.
+std::vector<std::string> ReversedArguments(int argc, char** argv) {
+    std::vector<std::string> arguments;
+    bool optionsEnd = false;
+    for (int i = 1; i < argc; ++i) {
+        std::string argument = argv[i];
+        optionsEnd = optionsEnd || argument == "--";
+        if (!optionsEnd && argument.starts_with("--") && argument.find('=') == argument.size() - 1) {
+            argument.pop_back();
+            arguments.push_back(std::move(argument));
+            argument.clear();
+        }
+        arguments.push_back(std::move(argument));
+    }
+    std::reverse(arguments.begin(), arguments.end());
+    return arguments;
 }
 
 // What stands where a command should, if anything but options does.
@@ -56,7 +96,9 @@ void Command::AddFlag(const std::string& name, bool& value, const std::string& d
 
 void Command::AddText(const std::string& name, std::string& value, const std::string& kind,
                       const std::string& description) {
-    NameKind(*app_->add_option(name, value, description), kind);
+    CLI::Option& option = *app_->add_option(name, value, description);
+    NameKind(option, kind);
+    option.check([kind](const std::string& text) { return text.empty() ? NotAsExpected(kind, text) : ""; });
 }
 
 void Command::AddTexts(const std::string& name, std::vector<std::string>& values, const std::string& kind,
@@ -66,12 +108,14 @@ void Command::AddTexts(const std::string& name, std::vector<std::string>& values
 
 void Command::AddIntegers(const std::string& name, std::vector<std::int64_t>& values, const std::string& kind,
                           const std::string& description) {
-    CLI::Option& option = *app_->add_option(name, values, description);
-    AllowAgain(option, kind);
-    option.check([](const std::string& text) {
-        std::int64_t value = 0;
-        return CLI::detail::lexical_cast(text, value) ? "" : NotAsExpected("a whole number", text);
-    });
+    const auto read = [name, &values](const std::vector<std::string>& texts) {
+        for (const std::string& text : texts) {
+            if (!ReadWholeNumber(text, values.emplace_back())) {
+                throw CLI::ValidationError(name, NotAsExpected("a whole number", text));
+            }
+        }
+    };
+    AllowAgain(*app_->add_option_function<std::vector<std::string>>(name, read, description), kind);
 }
 
 void Command::AddChoice(const std::string& name, std::string& value, const std::vector<std::string>& choices,
@@ -80,6 +124,12 @@ void Command::AddChoice(const std::string& name, std::string& value, const std::
     if (!value.empty()) {
         option->capture_default_str();
     }
+}
+
+void Command::AddOnlyChoice(const std::string& name, const std::string& choice) {
+    app_->add_option_function<std::string>(name, [](const std::string&) {})
+        ->check(CLI::IsMember({choice}))
+        ->group("");
 }
 
 void Command::AddReader(const std::string& name, const TextReader& read, const std::string& kind,
@@ -120,7 +170,7 @@ std::vector<Command> CommandLine::Commands() {
 
 ExitStatus CommandLine::Parse(int argc, char** argv, Runner& run) {
     try {
-        app_->parse(argc, argv);
+        app_->parse(ReversedArguments(argc, argv));
     } catch (const CLI::ParseError& error) {
         return Explain(*app_, error);
     }

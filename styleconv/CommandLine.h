@@ -38,9 +38,10 @@ public:
     void AddFiles(std::vector<std::string>& paths, const std::string& description);
 
     void AddFlag(const std::string& name, bool& value, const std::string& description);
+    /// Not an empty one.
     void AddText(const std::string& name, std::string& value, const std::string& kind,
                  const std::string& description);
-    /// An option that may be given any number of times.
+    /// An option that may be given any number of times. Each time the value is one word, whatever it is.
     void AddTexts(const std::string& name, std::vector<std::string>& values, const std::string& kind,
                   const std::string& description);
     void AddIntegers(const std::string& name, std::vector<std::int64_t>& values, const std::string& kind,
@@ -48,6 +49,8 @@ public:
     /// One of `choices`. The help shows the value that it has before.
     void AddChoice(const std::string& name, std::string& value, const std::vector<std::string>& choices,
                    const std::string& description);
+    /// An option whose one value asks for what happens anyway. The help leaves it out.
+    void AddOnlyChoice(const std::string& name, const std::string& choice);
     void AddReader(const std::string& name, const TextReader& read, const std::string& kind,
                    const std::string& description);
 

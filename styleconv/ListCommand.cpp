@@ -77,6 +77,8 @@ void AddListCommand(CommandLine& line) {
                                       [options] { return List(*options); });
     command.AddFile(options->file, "A .lin, .pat, .shx or drawing .json file");
     AddOutputOption(command, options->output);
+    // For those who give it to every command.
+    command.AddOnlyChoice("--format", "json");
     AddCodePageOption(command, options->codePage);
 }
 

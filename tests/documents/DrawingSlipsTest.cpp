@@ -135,14 +135,17 @@ TEST(DrawingSlips, NothingOfWhatIsLeftOutStaysBehind) {
 
 // The colour of B's insert is asked for when B is converted.
 TEST(DrawingSlips, InsertsOfABlockThatIsLeftOutAreNoReferences) {
-    const std::string insert = R"({"type": "insert", "block": "b"})";
-    for (const std::string& wrong :
-         {R"({"name": "C", "entities": [)" + insert + "," + insert + R"(], "units": 99})",
-          R"({"name": "B", "entities": [)" + insert + "]}"}) {
+    const char* const another = R"({"name": "A", "entities": [{"type": "insert", "block": "b"}]})";
+    for (const char* const wrong :
+         {R"({"name": "C", "entities": [{"type": "insert", "block": "b"}], "units": 99})",
+          R"({"name": "B", "entities": [{"type": "insert", "block": "b"}]})"}) {
         documents::DrawingFault fault;
         documents::DrawingSlips slips;
-        const std::string text = Document(R"("blocks": [)" + BlockOf(kPoint) +
-                                          R"(, {"name": "A", "entities": [)" + insert + "]}, " + wrong + "]");
+        std::string blocks = BlockOf(kPoint);
+        for (const char* const block : {another, wrong}) {
+            blocks.append(", ").append(block);
+        }
+        const std::string text = Document(R"("blocks": [)" + blocks + "]");
         const auto drawing = documents::ReadDrawing(std::string_view(text), fault, &slips);
         ASSERT_NE(drawing, nullptr);
         EXPECT_EQ(slips.All().size(), 1U);

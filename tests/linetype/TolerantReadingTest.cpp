@@ -99,9 +99,9 @@ TEST_F(TolerantReading, DoubleBracketBehindATextWithoutStyleIsStillOne) {
 }
 
 TEST_F(TolerantReading, CharacterCodesInTextsAreTold) {
-    EXPECT_EQ(Elements("A,[\"20\\U+00b0\",ST]"), "text 20\\U+00b0 in Arial of 0 at nan 0 1 0 0;");
+    EXPECT_EQ(Elements(R"(A,["20\U+00b0",ST])"), "text 20\\U+00b0 in Arial of 0 at nan 0 1 0 0;");
     EXPECT_EQ(FaultKinds(), Kinds{LinFaultKind::kCharacterCodeInText});
-    Elements("A,[\"20\\U+00b\",ST]");
+    Elements(R"(A,["20\U+00b",ST])");
     EXPECT_TRUE(parser.faults().empty()) << "three digits are no code";
 }
 

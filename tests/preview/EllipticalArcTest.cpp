@@ -128,7 +128,8 @@ TEST(Outline, CurvesStayOnTheCircleTheyStandFor) {
     ForEachPiece(
         outline, [](Point, Point, bool) { ADD_FAILURE() << "an arc is no line"; },
         [&](Point a, Point b, Point c, Point d, bool) {
-            for (double t = 0; t <= 1; t += 0.01) {
+            for (int hundredth = 0; hundredth <= 100; ++hundredth) {
+                const double t = hundredth / 100.0;
                 const double u = 1 - t;
                 const Point at =
                     a * (u * u * u) + b * (3 * u * u * t) + c * (3 * u * t * t) + d * (t * t * t);

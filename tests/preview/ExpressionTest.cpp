@@ -97,8 +97,10 @@ TEST(Expression, ASumOfManyTermsIsRefused) {
 TEST(Expression, DefaultsThatMultiplyEndSoon) {
     ParameterScope scope;
     for (int i = 0; i < 60; ++i) {
-        const std::wstring next = L"%P" + std::to_wstring(i + 1) + L"%";
-        scope.Add(L"P" + std::to_wstring(i), next + L"+" + next);
+        const std::wstring next = std::to_wstring(i + 1);
+        std::wstring twice = L"%P";
+        twice.append(next).append(L"%+%P").append(next).append(L"%");
+        scope.Add(L"P" + std::to_wstring(i), twice);
     }
     scope.Add(L"P60", L"1");
     EXPECT_FALSE(NumberOf(L"%P0%", scope)); // would be 2 to the power of 60 terms

@@ -31,6 +31,7 @@ std::ptrdiff_t SlotOf(Operation operation) {
 template <class Field, class Object>
 Field FieldAt(const Object& object, std::size_t offset) {
     Field field;
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): a field may be a pointer, and its bytes are wanted
     std::memcpy(&field, reinterpret_cast<const char*>(&object) + offset, sizeof field);
     return field;
 }

@@ -23,7 +23,7 @@ TEST(CommandLine, WhatIsNoCommandIsNamed) {
 }
 
 TEST(CommandLine, WhatIsNoWholeNumberIsNamed) {
-    for (const std::string number : {"x", "6.5", "7a"}) {
+    for (const std::string number : {"x", "6.5", "7a", "", "0x41", "[65]", " 65", "99999999999999999999"}) {
         const ToolResult result = RunTool({"glyphs", "a.shx", "--number", "65", "--number=" + number});
         EXPECT_EQ(result.status, 2);
         EXPECT_EQ(result.errors, "styleconv: --number: expected a whole number, found \"" + number +
@@ -42,6 +42,32 @@ TEST(CommandLine, AnUnknownCommandOptionOrFormatIsWrong) {
         EXPECT_EQ(result.status, 2) << arguments.back();
         EXPECT_EQ(result.output, "") << arguments.back();
         EXPECT_NE(result.errors.find("Try \"styleconv --help\""), std::string::npos) << result.errors;
+    }
+}
+
+TEST(CommandLine, AnOptionTakesTheNextWordAndNoMore) {
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"patterns", "a.pat", "--name", "A", "B"},
+          {"patterns", "--name", "A", "a.pat", "b.pat"},
+          {"linetypes", "a.lin", "--shapes", "fonts", "more"},
+          {"glyphs", "a.shx", "--number", "65", "66"},
+          {"blocks", "a.json", "--ignore-layer", "0", "1"}}) {
+        const ToolResult result = RunTool(arguments);
+        EXPECT_EQ(result.status, 2) << arguments.back();
+        EXPECT_EQ(result.errors, "styleconv: The following argument was not expected: " + arguments.back() +
+                                     "\nTry \"styleconv --help\" or \"styleconv COMMAND --help\".\n");
+    }
+}
+
+TEST(CommandLine, APathOrKindOfAnOptionIsNotEmpty) {
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"patterns", "a.pat", "-o", ""},
+                                                      {"patterns", "a.pat", "--output", ""},
+                                                      {"patterns", "--output=", "a.pat"},
+                                                      {"linetypes", "a.lin", "--drawing="},
+                                                      {"list", "a.lin", "--code-page", ""}}) {
+        const ToolResult result = RunTool(arguments);
+        EXPECT_EQ(result.status, 2) << arguments[2];
+        EXPECT_NE(result.errors.find(", found \"\""), std::string::npos) << result.errors;
     }
 }
 

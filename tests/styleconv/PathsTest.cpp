@@ -47,15 +47,15 @@ public:
     // From below.
     ~Place() {
         std::error_code ignored;
-        for (auto path = made_.rbegin(); path != made_.rend(); ++path) {
-            fs::remove(Openable(*path), ignored);
+        for (; !made_.empty(); made_.pop_back()) {
+            fs::remove(Openable(made_.back()), ignored);
         }
     }
     Place(const Place&) = delete;
     Place& operator=(const Place&) = delete;
 
     std::string Write(const std::string& name, const std::string& bytes) {
-        const std::string path = Result(name);
+        std::string path = Result(name);
         std::ofstream(Openable(path), std::ios::binary) << bytes;
         return path;
     }

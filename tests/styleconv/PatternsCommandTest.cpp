@@ -99,6 +99,18 @@ TEST(PatternsCommand, APatternAskedForTwiceHasItsOriginTurnedTwice) {
     EXPECT_EQ(ValuesOf(result.output, "geometry"), (Texts{"M 1.0,0.0 h 10.0", "M 0.0,-1.0 h 10.0"}));
 }
 
+TEST(PatternsCommand, ANameIsTakenAsItStands) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*[A]\n0,0,0,0,1\n*A\n0,0,0,0,2\n*,x\n0,0,0,0,3\n");
+    EXPECT_EQ(ValuesOf(RunTool({"patterns", file, "--name", "[A]"}).output, "name"), Texts{"[A]"});
+    EXPECT_EQ(ValuesOf(RunTool({"patterns", file, "--name=[A]", "--name=A"}).output, "name"),
+              (Texts{"[A]", "A"}));
+    EXPECT_EQ(ValuesOf(RunTool({"patterns", "--name=", file}).output, "name"), Texts{""});
+    EXPECT_EQ(ValuesOf(RunTool({"patterns", "--name", "", file}).output, "name"), Texts{""});
+    EXPECT_EQ(RunTool({"patterns", file, "--name", "[A,A]"}).errors,
+              file + ": the file has no pattern named [A,A]\n");
+}
+
 TEST(PatternsCommand, AnUnknownNameIsAFault) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.pat", "*A\n0,0,0,0,1\n");
@@ -237,6 +249,14 @@ TEST(ListCommand, PrintsTheNamesOfPatternsOneALine) {
     EXPECT_EQ(result.output, "A\nNOTILE\nb\n");
     EXPECT_EQ(RunTool({"list", file, "-o", folder / "names"}).status, 0);
     EXPECT_EQ(folder.Read("names"), result.output);
+}
+
+TEST(ListCommand, TakesTheFormatThatEveryCommandTakes) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*A\n0,0,0,0,1\n");
+    EXPECT_EQ(RunTool({"list", file, "--format", "json"}).output, "A\n");
+    EXPECT_EQ(RunTool({"list", file, "--format", "svg"}).status, 2);
+    EXPECT_EQ(RunTool({"list", "--help"}).output.find("--format"), std::string::npos);
 }
 
 TEST(ListCommand, AFileWithoutPatternsIsAFault) {

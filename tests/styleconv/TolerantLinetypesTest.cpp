@@ -35,7 +35,7 @@ protected:
     // The names of the symbols, each followed by ";". Parts of a compound are named as it is.
     static std::string Names(const ToolResult& result) {
         std::string names;
-        const std::string key = "\"name\": \"";
+        const std::string key = R"("name": ")";
         for (std::size_t at = result.output.find(key); at != std::string::npos;
              at = result.output.find(key, at)) {
             at += key.size();
