@@ -13,6 +13,7 @@
 #include "styleconv/SymbolOutput.h"
 #include "styleconv/WorkLimits.h"
 
+#include <algorithm>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -53,6 +54,16 @@ bool Load(const InputFile& input, LoadedPatterns& loaded, const pattern::Pattern
 // it at once.
 using LeftOut = std::vector<Finding>*;
 
+std::string WhyItBecomesNothing(const std::vector<pattern::PatternLine>& lines) {
+    if (lines.empty()) {
+        return "has no lines";
+    }
+    const auto hasTile = [](const pattern::PatternLine& line) { return line.rowCount >= 0; };
+    return std::any_of(lines.begin(), lines.end(), hasTile)
+               ? "has a repeat tile too small to draw: its sides are shorter than 0.0001"
+               : "has no repeat tile: no rectangle of any size repeats its lines";
+}
+
 // Converts the pattern, or tells why it becomes nothing.
 std::unique_ptr<TylModel::SymbolDefinition> ConvertPattern(const InputFile& input, LoadedPatterns& loaded,
                                                            const std::string& name,
@@ -64,8 +75,7 @@ std::unique_ptr<TylModel::SymbolDefinition> ConvertPattern(const InputFile& inpu
         return symbol;
     }
     const std::size_t line = loaded.reading.headerLines.at(name).front();
-    const std::string reason =
-        lines.empty() ? "has no lines" : "has no repeat tile: no rectangle of any size repeats its lines";
+    const std::string reason = WhyItBecomesNothing(lines);
     if (leftOut != nullptr) {
         leftOut->push_back({input.Name(), line, Severity::kWarning, "the pattern " + reason + "; left out",
                             PatternItem(name)});

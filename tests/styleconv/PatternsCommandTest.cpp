@@ -190,6 +190,16 @@ TEST(PatternsCommand, AFileWhosePatternsAllLackATileIsAFault) {
                   file + ": none of the file's patterns can be converted\n");
 }
 
+TEST(PatternsCommand, APatternWhoseTileHasNextToNoSizeIsAFault) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*SMALL\n0,0,0,0,.00005,.00005\n*A\n0,0,0,0,1\n");
+    const ToolResult result = RunTool({"patterns", file, "--name", "SMALL"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, file +
+                                 ": line 1: pattern SMALL has a repeat tile too small to draw: its sides are "
+                                 "shorter than 0.0001\n");
+}
+
 TEST(PatternsCommand, AFileWithoutPatternsIsAFault) {
     const ScratchFolder folder;
     folder.Write("out.json", "old");
