@@ -4,11 +4,10 @@
 #include "OxDb/OxCmColor.h"
 #include "OxDb/OxDbTypes.h"
 
-#include <cstddef>
 #include <deque>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <unordered_map>
 
 namespace block {
 
@@ -23,24 +22,14 @@ struct NamedLayer {
     bool hasLineweightParameter = false;
 };
 
-/// Found by name. Where entities are on many layers by turns, memory that is not in the cache is what a
-/// search costs: it reads one slot before the layer itself.
 class NamedLayers {
 public:
     /// Not yet known the first time. Stays where it is.
     NamedLayer& Named(std::wstring_view name);
 
 private:
-    struct Slot {
-        std::size_t hash = 0;
-        NamedLayer* layer = nullptr; ///< null: free
-    };
-
-    Slot& SlotFor(std::wstring_view name, std::size_t hash);
-    void Grow();
-
     std::deque<NamedLayer> layers_;
-    std::vector<Slot> slots_; ///< a power of two of them, more than half of them free
+    std::unordered_map<std::wstring_view, NamedLayer*> byName_; // the names are in layers_
     // Asked for last: an entity asks twice, and its neighbours often for the same.
     NamedLayer* last_ = nullptr;
 };
