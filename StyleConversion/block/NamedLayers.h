@@ -24,7 +24,7 @@ struct NamedLayer {
 
 class NamedLayers {
 public:
-    /// Not yet known the first time. Stays where it is.
+    /// The layer of that name, not yet known the first time. It stays where it is.
     NamedLayer& Named(std::wstring_view name);
 
 private:

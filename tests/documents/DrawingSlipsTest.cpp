@@ -137,7 +137,8 @@ TEST(DrawingSlips, NothingOfWhatIsLeftOutStaysBehind) {
 TEST(DrawingSlips, InsertsOfABlockThatIsLeftOutAreNoReferences) {
     const char* const another = R"({"name": "A", "entities": [{"type": "insert", "block": "b"}]})";
     for (const char* const wrong :
-         {R"({"name": "C", "entities": [{"type": "insert", "block": "b"}], "units": 99})",
+         {R"({"name": "C", "entities": [{"type": "insert", "block": "b"}, {"type": "insert", "block": "b"}],
+              "units": 99})",
           R"({"name": "B", "entities": [{"type": "insert", "block": "b"}]})"}) {
         documents::DrawingFault fault;
         documents::DrawingSlips slips;
