@@ -1,12 +1,12 @@
-// Which symbols the library exports to its hosts. STYLECONVERSION_BUILD is defined while the library itself
-// is compiled, STYLECONVERSION_STATIC by programs that link its objects directly.
+// Which symbols the library exports. STYLECONVERSION_BUILD is defined while a shared library is compiled,
+// STYLECONVERSION_STATIC in a static one and in programs that link its objects.
 #pragma once
 
-#if defined(_WIN32)
+#if defined(STYLECONVERSION_STATIC)
+#define STYLECONVERSION_API
+#elif defined(_WIN32)
 #if defined(STYLECONVERSION_BUILD)
 #define STYLECONVERSION_API __declspec(dllexport)
-#elif defined(STYLECONVERSION_STATIC)
-#define STYLECONVERSION_API
 #else
 #define STYLECONVERSION_API __declspec(dllimport)
 #endif

@@ -7,6 +7,11 @@ set(prefix x86_64-w64-mingw32)
 set(CMAKE_CXX_COMPILER ${prefix}-g++-posix)
 set(CMAKE_C_COMPILER ${prefix}-gcc-posix)
 set(CMAKE_RC_COMPILER ${prefix}-windres)
+find_program(WINDOWS_COMPILER ${CMAKE_CXX_COMPILER})
+if(NOT WINDOWS_COMPILER)
+  message(FATAL_ERROR "${CMAKE_CXX_COMPILER}, which compiles for Windows, was not found: install the Debian package "
+    "g++-mingw-w64-x86-64-posix.")
+endif()
 
 set(CMAKE_FIND_ROOT_PATH /usr/${prefix} ${CMAKE_FIND_ROOT_PATH})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)

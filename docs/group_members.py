@@ -54,5 +54,16 @@ def explained(line):
     return line
 
 
+def with_file_comment(lines):
+    """A header's first line says what it is about: without that, functions and enumerations of no class have no page."""
+    if lines and lines[0].startswith("// "):
+        yield "/// @file"
+        while lines and lines[0].startswith("// "):
+            yield "/" + lines.pop(0)
+        yield ""
+    yield from lines
+
+
 if __name__ == "__main__":
-    print("\n".join(explained(line) for line in grouped(lines_of(sys.argv[1]))))
+    lines = list(with_file_comment(lines_of(sys.argv[1])))
+    print("\n".join(explained(line) for line in grouped(lines)))

@@ -1,7 +1,7 @@
 // Blocks of a drawing document, and the document as a whole.
 #include "documents/DrawingBlocks.h"
 
-#include "drawing/Database.h"
+#include "drawing/database/Database.h"
 
 namespace documents {
 
@@ -18,15 +18,15 @@ bool BlockNode::BeginObject(ReadState& state) {
     // The name may come behind the entities.
     block_.record = state.Target().MakeBlock();
     block_.ids.clear();
-    if (state.Slips() != nullptr) {
-        state.Slips()->BeginBlock();
+    if (state.Tolerated() != nullptr) {
+        state.Tolerated()->BeginBlock();
     }
     return ObjectNode::BeginObject(state);
 }
 
 void BlockNode::Abandon(ReadState& state) {
     state.Target().Discard(std::move(block_.record));
-    state.Slips()->EndBlock(Item());
+    state.Tolerated()->EndBlock(Item());
 }
 
 bool BlockNode::Finish(ReadState& state) {
@@ -38,8 +38,8 @@ bool BlockNode::Finish(ReadState& state) {
     if (state.Target().AddBlock(name_.Value(), data, std::move(block_.record)) == nullptr) {
         return RefuseName(state, "block", name_.Value());
     }
-    if (state.Slips() != nullptr) {
-        state.Slips()->EndBlock(Item());
+    if (state.Tolerated() != nullptr) {
+        state.Tolerated()->EndBlock(Item());
     }
     return true;
 }
@@ -51,8 +51,9 @@ bool BlockNode::SetDrawOrder(ReadState& state) {
     for (std::size_t i = 0; i < ids.size(); ++i) {
         if (const auto entity = block_.ids.find(ids[i]); entity != block_.ids.end()) {
             order.push_back(entity->second);
-        } else if (!state.RefuseSpare("expected the id of an entity of the block, found " + Shown(ids[i]),
-                                      ".drawOrder[" + std::to_string(i) + "]", "the id is skipped")) {
+        } else if (!state.RefuseSpare(diagnostics::Code::kInvalidValue,
+                                      {"the id of an entity of the block", Shown(ids[i])},
+                                      ".drawOrder[" + std::to_string(i) + "]", "the id")) {
             return false;
         }
     }

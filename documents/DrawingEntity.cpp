@@ -1,9 +1,10 @@
 // Entities of a drawing document.
 #include "documents/DrawingEntity.h"
 
-#include "drawing/CurveEntities.h"
-#include "drawing/SimpleEntities.h"
-#include "drawing/Texts.h"
+#include "drawing/database/BlockReference.h"
+#include "drawing/entities/CurveEntities.h"
+#include "drawing/entities/SimpleEntities.h"
+#include "drawing/entities/Texts.h"
 
 #include <numbers>
 
@@ -30,17 +31,17 @@ enum EntityType : std::size_t {
 
 } // namespace
 
-EntityNode::EntityNode(BlockInReading& block) : SplineObjectNode("an entity"), block_(block) {
+EntityNode::EntityNode(BlockInReading& block) : ObjectNode("an entity"), block_(block) {
     BindCommon("id", id_);
     BindCommon("layer", layer_);
     BindCommon("color", color_);
     BindCommon("lineWeight", lineWeight_);
     BindCommon("linetype", linetype_);
     BindGeometry();
-    BindSpline();
+    spline_.BindTo(*this);
     BindAreasAndTexts();
     AddTypes();
-    AddSplineType();
+    spline_.AddTypeTo(*this);
 }
 
 void EntityNode::BindGeometry() {
@@ -87,7 +88,7 @@ void EntityNode::AddTypes() {
     AddType("arc", {&center_, &radius_, &startAngle_, &endAngle_}, {&normal_});
     AddType("circle", {&center_, &radius_}, {});
     AddType("ellipse", {&center_, &majorAxis_, &radiusRatio_}, {&startAngle_, &endAngle_});
-    AddType("polyline", {&vertices_}, {&Closed(), &plinegen_});
+    AddType("polyline", {&vertices_}, {&spline_.Closed(), &plinegen_});
     AddType("hatch", {&loops_}, {&solid_, &pattern_, &hatchLines_});
     AddType("mpolygon", {&loops_}, {&fillColor_});
     AddType("text", {&position_, &height_, &text_}, {&rotation_, &style_, &horizontalMode_, &verticalMode_});
@@ -108,17 +109,17 @@ template <class T, class... Args>
 bool EntityNode::Add(ReadState& state, Args&&... args) {
     const T& added = block_.record->Add<T>(Properties(), std::forward<Args>(args)...);
     if (Has(id_) && !block_.ids.emplace(id_.Value(), added.objectId()).second) {
-        return state.RefuseSpare("expected an id that no other entity of the block has, found " +
-                                     Shown(id_.Value()),
-                                 PathOf(id_), "the id is skipped");
+        return state.RefuseSpare(diagnostics::Code::kInvalidValue,
+                                 {"an id that no other entity of the block has", Shown(id_.Value())},
+                                 PathOf(id_), "the id");
     }
     return true;
 }
 
-bool EntityNode::FinishType(ReadState& state, std::size_t type) {
-    switch (type) {
+bool EntityNode::Finish(ReadState& state) {
+    switch (Type()) {
     case kPolyline:
-        return Add<drawing::Polyline>(state, vertices_.Values(), Closed().Value(), plinegen_.Value());
+        return Add<drawing::Polyline>(state, vertices_.Values(), spline_.Closed().Value(), plinegen_.Value());
     case kSpline:
         return AddSpline(state);
     case kHatch:
@@ -128,18 +129,18 @@ bool EntityNode::FinishType(ReadState& state, std::size_t type) {
     case kText:
     case kAttributeDefinition:
     case kMText:
-        return AddText(state, type);
+        return AddText(state);
     case kInsert:
         return Add<drawing::BlockReference>(state, insertedBlock_.Value());
     case kOther:
         return Add<drawing::OtherEntity>(state, className_.Value());
     default:
-        return AddCurve(state, type);
+        return AddCurve(state);
     }
 }
 
-bool EntityNode::AddCurve(ReadState& state, std::size_t type) {
-    switch (type) {
+bool EntityNode::AddCurve(ReadState& state) {
+    switch (Type()) {
     case kPoint:
         return Add<drawing::Point>(state, position_.Point3d());
     case kLine:
@@ -159,8 +160,8 @@ bool EntityNode::AddCurve(ReadState& state, std::size_t type) {
                                                       radiusRatio_.Value(), startAngle_.Value(), endAngle});
 }
 
-bool EntityNode::AddText(ReadState& state, std::size_t type) {
-    if (type == kMText) {
+bool EntityNode::AddText(ReadState& state) {
+    if (Type() == kMText) {
         return Add<drawing::ParagraphText>(
             state, drawing::ParagraphTextData{location_.Point3d(), textHeight_.Value(), rotation_.Value(),
                                               contents_.Value(), style_.Value(), actualWidth_.Value(),
@@ -174,7 +175,7 @@ bool EntityNode::AddText(ReadState& state, std::size_t type) {
     data.style = style_.Value();
     data.horizontalMode = static_cast<OxDb::TextHorzMode>(horizontalMode_.Value());
     data.verticalMode = static_cast<OxDb::TextVertMode>(verticalMode_.Value());
-    if (type == kText) {
+    if (Type() == kText) {
         return Add<drawing::Text>(state, std::move(data));
     }
     return Add<drawing::AttributeDefinition>(state, std::move(data), tag_.Value(), prompt_.Value());
@@ -182,7 +183,7 @@ bool EntityNode::AddText(ReadState& state, std::size_t type) {
 
 bool EntityNode::AddSpline(ReadState& state) {
     drawing::SplineData data;
-    return TakeSpline(state, data) && Add<drawing::Spline>(state, std::move(data));
+    return spline_.Take(*this, state, data) && Add<drawing::Spline>(state, std::move(data));
 }
 
 bool EntityNode::AddHatch(ReadState& state) {
@@ -202,7 +203,7 @@ bool EntityNode::AddMPolygon(ReadState& state) {
     std::vector<drawing::PolylineLoop> loops;
     for (drawing::HatchLoop& loop : loops_.Values()) {
         if (!loop.polyline) {
-            return state.Refuse("a loop of a multi-polygon has no edges",
+            return state.Refuse(diagnostics::Code::kLoopOfEdges, {},
                                 ".loops[" + std::to_string(loops.size()) + "].edges");
         }
         loops.push_back(std::move(*loop.polyline));

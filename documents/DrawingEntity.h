@@ -3,7 +3,7 @@
 
 #include "documents/DrawingLoops.h"
 #include "documents/DrawingSplines.h"
-#include "drawing/Blocks.h"
+#include "drawing/database/Blocks.h"
 
 #include <string>
 #include <unordered_map>
@@ -17,13 +17,13 @@ struct BlockInReading {
 };
 
 /// One entity of any type; added to a block.
-class EntityNode : public SplineObjectNode {
+class EntityNode : public ObjectNode {
 public:
     explicit EntityNode(BlockInReading& block);
     std::string_view Part() const override { return "entity"; }
 
 protected:
-    bool FinishType(ReadState& state, std::size_t type) override;
+    bool Finish(ReadState& state) override;
 
 private:
     void BindGeometry();
@@ -33,8 +33,8 @@ private:
     drawing::EntityProperties Properties() const;
     template <class T, class... Args>
     bool Add(ReadState& state, Args&&... args);
-    bool AddCurve(ReadState& state, std::size_t type);
-    bool AddText(ReadState& state, std::size_t type);
+    bool AddCurve(ReadState& state);
+    bool AddText(ReadState& state);
     bool AddSpline(ReadState& state);
     bool AddHatch(ReadState& state);
     bool AddMPolygon(ReadState& state);
@@ -58,6 +58,7 @@ private:
     PointNode majorAxis_;
     NumberNode radiusRatio_;
 
+    SplineKeys spline_;
     VerticesNode vertices_;
     BooleanNode plinegen_;
 

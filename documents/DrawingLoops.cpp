@@ -18,7 +18,7 @@ drawing::BulgeVertex VerticesNode::Make(const TupleNode& tuple) {
     return {tuple.Point2d(), tuple[2]};
 }
 
-EdgeNode::EdgeNode(Edges& edges) : SplineObjectNode("an edge"), edges_(edges) {
+EdgeNode::EdgeNode(Edges& edges) : ObjectNode("an edge"), edges_(edges) {
     Bind("start", start_);
     Bind("end", end_);
     Bind("center", center_);
@@ -28,35 +28,34 @@ EdgeNode::EdgeNode(Edges& edges) : SplineObjectNode("an edge"), edges_(edges) {
     Bind("startAngle", startAngle_);
     Bind("endAngle", endAngle_);
     Bind("clockwise", clockwise_);
-    BindSpline();
+    spline_.BindTo(*this);
     AddType("line", {&start_, &end_}, {});
     AddType("arc", {&center_, &radius_, &startAngle_, &endAngle_}, {&clockwise_});
     AddType("ellipse", {&center_, &majorAxis_, &radiusRatio_, &startAngle_, &endAngle_}, {&clockwise_});
-    AddSplineType();
+    spline_.AddTypeTo(*this);
 }
 
-bool EdgeNode::FinishType(ReadState& state, std::size_t type) {
-    switch (type) {
+bool EdgeNode::Finish(ReadState& state) {
+    switch (Type()) {
     case kLineEdge:
-        edges_.push_back(std::make_unique<OxGeLineSeg2d>(start_.Point2d(), end_.Point2d()));
+        edges_.emplace_back(OxGeLineSeg2d(start_.Point2d(), end_.Point2d()));
         return true;
     case kArcEdge:
-        edges_.push_back(std::make_unique<OxGeCircArc2d>(
-            center_.Point2d(), radius_.Value(), startAngle_.Value(), endAngle_.Value(), clockwise_.Value()));
+        edges_.emplace_back(OxGeCircArc2d(center_.Point2d(), radius_.Value(), startAngle_.Value(),
+                                          endAngle_.Value(), clockwise_.Value()));
         return true;
     case kEllipseEdge:
-        edges_.push_back(std::make_unique<OxGeEllipArc2d>(center_.Point2d(), majorAxis_.Vector2d(),
-                                                          radiusRatio_.Value(), startAngle_.Value(),
-                                                          endAngle_.Value(), clockwise_.Value()));
+        edges_.emplace_back(OxGeEllipArc2d(center_.Point2d(), majorAxis_.Vector2d(), radiusRatio_.Value(),
+                                           startAngle_.Value(), endAngle_.Value(), clockwise_.Value()));
         return true;
     default:
         break;
     }
     drawing::SplineData data;
-    if (!TakeSpline(state, data)) {
+    if (!spline_.Take(*this, state, data)) {
         return false;
     }
-    edges_.push_back(drawing::BuildCurve(data));
+    edges_.emplace_back(drawing::BuildCurve(data));
     return true;
 }
 
@@ -75,8 +74,8 @@ bool LoopNode::Finish(ReadState& state) {
     loop.edges = std::move(edges_);
     edges_.clear();
     if (Has(vertices_) == Has(edgesNode_)) {
-        return state.Refuse(Has(vertices_) ? R"(expected either "vertices" or "edges", found both)"
-                                           : R"(expected "vertices" or "edges", found neither)");
+        return Has(vertices_) ? state.RefuseValue(R"(either "vertices" or "edges")", "both")
+                              : state.RefuseValue(R"("vertices" or "edges")", "neither");
     }
     if (Has(vertices_)) {
         loop.polyline = drawing::PolylineLoop{std::move(vertices_.Values()), vertices_.HasBulges()};
@@ -93,7 +92,7 @@ FamilyNode::FamilyNode(std::vector<drawing::HatchFamily>& families) : families_(
 }
 
 bool FamilyNode::Finish(ReadState& /*state*/) {
-    families_.push_back({angle_.Value(), base_.Point2d(), offset_.Vector2d(), std::move(dashes_.Values())});
+    families_.push_back({angle_.Value(), base_.Point2d(), offset_.Point2d(), std::move(dashes_.Values())});
     return true;
 }
 

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "documents/DrawingSplines.h"
-#include "documents/DrawingTypedObject.h"
-#include "drawing/Areas.h"
+#include "drawing/entities/Areas.h"
 
 #include <memory>
 #include <vector>
@@ -26,14 +25,14 @@ private:
 };
 
 /// One edge of a loop; added to a list.
-class EdgeNode : public SplineObjectNode {
+class EdgeNode : public ObjectNode {
 public:
-    using Edges = std::vector<std::unique_ptr<OxGeCurve2d>>;
+    using Edges = std::vector<drawing::HatchEdge>;
 
     explicit EdgeNode(Edges& edges);
 
 protected:
-    bool FinishType(ReadState& state, std::size_t type) override;
+    bool Finish(ReadState& state) override;
 
 private:
     Edges& edges_;
@@ -46,6 +45,7 @@ private:
     NumberNode startAngle_;
     NumberNode endAngle_;
     BooleanNode clockwise_;
+    SplineKeys spline_;
 };
 
 /// One loop; added to a list.

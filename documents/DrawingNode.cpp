@@ -1,7 +1,7 @@
 // Nodes of the drawing document, and the place that reading has got to.
 #include "documents/DrawingNode.h"
 
-#include "documents/ShownText.h"
+#include "diagnostics/ShownText.h"
 
 namespace documents {
 namespace {
@@ -16,26 +16,26 @@ bool IsWithinCharacter(std::string_view text, std::size_t position) {
 // A cut goes before a whole character.
 std::string Shortened(std::string_view text) {
     if (text.size() <= kShownBytes) {
-        return ShownText(text);
+        return diagnostics::ShownText(text);
     }
     std::size_t length = kShownBytes;
     while (length > 0 && IsWithinCharacter(text, length)) {
         --length;
     }
-    return ShownText(text.substr(0, length)) + "...";
+    return diagnostics::ShownText(text.substr(0, length)) + "...";
 }
 
 } // namespace
 
 std::string ShownEnd(std::string_view text) {
     if (text.size() <= kShownBytes) {
-        return ShownText(text);
+        return diagnostics::ShownText(text);
     }
     std::size_t start = text.size() - kShownBytes;
     while (start < text.size() && IsWithinCharacter(text, start)) {
         ++start;
     }
-    return "..." + ShownText(text.substr(start));
+    return "..." + diagnostics::ShownText(text.substr(start));
 }
 
 std::string Shown(const NumberToken& number) {
@@ -46,30 +46,36 @@ std::string Shown(std::string_view text) {
     return '"' + Shortened(text) + '"';
 }
 
-bool ReadState::Refuse(std::string what, std::string_view below) {
-    fault_.path = Path() + std::string(below);
-    if (!fault_.path.empty() && fault_.path.front() == '.') {
-        fault_.path.erase(0, 1);
+bool ReadState::Refuse(diagnostics::Code code, std::vector<std::string> subjects, std::string_view below) {
+    error_.path = Path() + std::string(below);
+    if (!error_.path.empty() && error_.path.front() == '.') {
+        error_.path.erase(0, 1);
     }
-    fault_.what = std::move(what);
+    error_.code = code;
+    error_.subjects = std::move(subjects);
     return false;
 }
 
+bool ReadState::RefuseValue(std::string expected, std::string found, std::string_view below) {
+    return Refuse(diagnostics::Code::kInvalidValue, {std::move(expected), std::move(found)}, below);
+}
+
 void ReadState::RefuseUnknownKey() {
-    Refuse("unknown key");
+    Refuse(diagnostics::Code::kUnknownKey, {});
     keyIsUnknown_ = true;
 }
 
-bool ReadState::RefuseSpare(std::string what, std::string_view below, std::string_view consequence) {
-    Refuse(std::move(what), below);
-    if (slips_ != nullptr) {
-        slips_->Add(fault_, consequence, {});
+bool ReadState::RefuseSpare(diagnostics::Code code, std::vector<std::string> subjects, std::string_view below,
+                            std::string_view part) {
+    Refuse(code, std::move(subjects), below);
+    if (tolerated_ != nullptr) {
+        tolerated_->Add(error_, part, {});
     }
-    return slips_ != nullptr;
+    return tolerated_ != nullptr;
 }
 
 void ReadState::LeaveOut(Node& part) {
-    slips_->Add(fault_, "the " + std::string(part.Part()) + " is left out", part.Item());
+    tolerated_->Add(error_, "the " + std::string(part.Part()), part.Item());
     part.Abandon(*this);
 }
 
@@ -86,14 +92,14 @@ bool ReadState::LeaveOutAround(std::size_t opened) {
     return false;
 }
 
-bool ReadState::ForgiveValue(const Node* node, bool isStart) {
-    if (slips_ == nullptr || node == nullptr) {
+bool ReadState::TolerateValue(const Node* node, bool isStart) {
+    if (tolerated_ == nullptr || node == nullptr) {
         return false;
     }
     const std::size_t opened = isStart ? 1 : 0;
     if (!node->Part().empty()) {
         // It has not begun, so its name is that of the one before it.
-        slips_->Add(fault_, "the " + std::string(node->Part()) + " is left out", {});
+        tolerated_->Add(error_, "the " + std::string(node->Part()), {});
         skippedLevels_ = opened;
         return true;
     }
@@ -103,13 +109,13 @@ bool ReadState::ForgiveValue(const Node* node, bool isStart) {
     if (depth_ == 0 || node->IsNeeded()) {
         return false;
     }
-    slips_->Add(fault_, "the value is skipped", {});
+    tolerated_->Add(error_, "the value", {});
     skippedLevels_ = opened;
     return true;
 }
 
-bool ReadState::ForgiveEnd(Node& node) {
-    if (slips_ == nullptr) {
+bool ReadState::TolerateEnd(Node& node) {
+    if (tolerated_ == nullptr) {
         return false;
     }
     if (!node.Part().empty()) {
@@ -119,30 +125,28 @@ bool ReadState::ForgiveEnd(Node& node) {
     return LeaveOutAround(0);
 }
 
-bool ReadState::ForgiveKey() {
-    if (slips_ == nullptr) {
+bool ReadState::TolerateKey() {
+    if (tolerated_ == nullptr) {
         return false;
     }
     // Of a key that is given twice, nobody can say which one counts; of a list of the document, the first.
     if (!keyIsUnknown_ && LeaveOutAround(0)) {
         return true;
     }
-    slips_->Add(fault_, "the key is skipped", {});
+    tolerated_->Add(error_, "the key", {});
     skipsNext_ = true;
     return true;
 }
 
-bool ReadState::ForgiveCut() {
-    if (slips_ == nullptr) {
+bool ReadState::TolerateCut() {
+    if (tolerated_ == nullptr) {
         return false;
     }
     bool isInBlock = false;
     for (std::size_t level = 0; level < depth_; ++level) {
         isInBlock = isInBlock || frames_[level].node->Part() == "block";
     }
-    slips_->Add(fault_,
-                isInBlock ? "the block and all that follows are left out" : "all that follows is left out",
-                {});
+    tolerated_->Add(error_, isInBlock ? "the block and all that follows" : "all that follows", {});
     for (std::size_t level = 0; level < depth_; ++level) {
         frames_[level].node->Abandon(*this);
     }
@@ -193,7 +197,7 @@ std::string ReadState::Path() const {
 }
 
 bool Node::RefuseKind(ReadState& state, std::string_view found) const {
-    return state.Refuse("expected " + Expected() + ", found " + std::string(found));
+    return state.RefuseValue(Expected(), std::string(found));
 }
 
 bool Node::Boolean(ReadState& state, bool value) {

@@ -1,8 +1,8 @@
 // What may stand at one place of a drawing document: nodes take the values as they are read, one by one.
 #pragma once
 
-#include "documents/DrawingFault.h"
-#include "documents/DrawingSlips.h"
+#include "documents/DrawingError.h"
+#include "documents/ToleratedErrors.h"
 
 #include <cstdint>
 #include <string>
@@ -36,29 +36,33 @@ std::string ShownEnd(std::string_view text);
 /// Where reading has got to, and what it refused or left out.
 class ReadState {
 public:
-    /// `slips` is null for a reading that forgives nothing.
-    ReadState(drawing::Database& database, DrawingSlips* slips) : database_(database), slips_(slips) {}
+    /// `tolerated` is null for a strict reading.
+    ReadState(drawing::Database& database, ToleratedErrors* tolerated)
+        : database_(database), tolerated_(tolerated) {}
 
     drawing::Database& Target() { return database_; }
 
-    /// Keeps the fault, at the place that reading has got to, or `below` it ("[3].name"). Always false.
-    bool Refuse(std::string what, std::string_view below = {});
-    const DrawingFault& Fault() const { return fault_; }
+    /// Keeps the error, at the place that reading has got to, or `below` it ("[3].name"). Always false.
+    bool Refuse(diagnostics::Code code, std::vector<std::string> subjects, std::string_view below = {});
+    /// Refuses a value that is not `expected`.
+    bool RefuseValue(std::string expected, std::string found, std::string_view below = {});
+    const DrawingError& Error() const { return error_; }
 
-    DrawingSlips* Slips() { return slips_; }
-    /// Refuses what can be missed by itself. A reading that forgives goes on, and the result is true.
-    bool RefuseSpare(std::string what, std::string_view below, std::string_view consequence);
+    ToleratedErrors* Tolerated() { return tolerated_; }
+    /// Refuses `part`, which can be missed by itself. A tolerant reading goes on, and the result is true.
+    bool RefuseSpare(diagnostics::Code code, std::vector<std::string> subjects, std::string_view below,
+                     std::string_view part);
     /// The key met last is none of its object's.
     void RefuseUnknownKey();
 
     /// After a value was refused, whose node may be null, or an object or array that is complete: leaves out
-    /// the smallest part that can be missed. False when there is none, or nothing is forgiven.
-    bool ForgiveValue(const Node* node, bool isStart);
-    bool ForgiveEnd(Node& node);
+    /// the smallest part that can be missed. False when there is none, or nothing is tolerated.
+    bool TolerateValue(const Node* node, bool isStart);
+    bool TolerateEnd(Node& node);
     /// The same after a key.
-    bool ForgiveKey();
+    bool TolerateKey();
     /// The text is no JSON from here on, and nothing more is read.
-    bool ForgiveCut();
+    bool TolerateCut();
     /// What comes next belongs to a part that is left out.
     bool IsSkipping() const { return skipsNext_ || skippedLevels_ > 0; }
     void SkipScalar() { skipsNext_ = false; }
@@ -75,7 +79,7 @@ public:
     /// Notes a key of the innermost object; false when it has no place.
     bool GoToKey(const std::string& key);
     /// The node of the value that comes next inside the innermost object or array; null when there is no
-    /// place for it (the fault is kept then).
+    /// place for it (the error is kept then).
     Node* NextInside();
 
 private:
@@ -94,8 +98,8 @@ private:
     bool LeaveOutAround(std::size_t opened);
 
     drawing::Database& database_;
-    DrawingSlips* slips_;
-    DrawingFault fault_;
+    ToleratedErrors* tolerated_;
+    DrawingError error_;
     bool keyIsUnknown_ = false;
     bool skipsNext_ = false;        // the next value
     std::size_t skippedLevels_ = 0; // objects and arrays that have to end before reading goes on

@@ -67,9 +67,9 @@ private:
 /// Receives the JSON parser's events.
 class EventReceiver : public nlohmann::json_sax<nlohmann::json> {
 public:
-    EventReceiver(drawing::Database& database, DrawingSlips* slips) : state_(database, slips) {}
+    EventReceiver(drawing::Database& database, ToleratedErrors* tolerated) : state_(database, tolerated) {}
 
-    const DrawingFault& Fault() const { return state_.Fault(); }
+    const DrawingError& Error() const { return state_.Error(); }
     /// After the parser gave up: whether what was read before is a drawing that may be kept.
     bool KeepsWhatWasRead() { return isCut_ && document_.EndCut(state_); }
 
@@ -100,7 +100,7 @@ public:
         return Start(false, [&](Node& node) { return node.BeginObject(state_); });
     }
     bool key(string_t& value) override {
-        return state_.IsSkipping() || state_.GoToKey(value) || state_.ForgiveKey();
+        return state_.IsSkipping() || state_.GoToKey(value) || state_.TolerateKey();
     }
     bool end_object() override { return End(); }
     bool start_array(std::size_t /*elements*/) override {
@@ -114,7 +114,7 @@ public:
             if (!state_.IsSkipping()) {
                 Next(); // the place is the number's own
             }
-            state_.Refuse("expected a number that is finite, found " + ShownEnd(lastToken));
+            state_.RefuseValue("a number that is finite", ShownEnd(lastToken));
         } else {
             // "[json.exception.parse_error.101] parse error at line 1, column 5: ..."
             // with what was read last, which may be of any length.
@@ -124,9 +124,9 @@ public:
             if (token != std::string::npos) {
                 text.replace(token, lastToken.size(), ShownEnd(lastToken));
             }
-            state_.Refuse("expected JSON, found an error at " + text);
+            state_.Refuse(diagnostics::Code::kInvalidJson, {std::move(text)});
         }
-        isCut_ = state_.ForgiveCut();
+        isCut_ = state_.TolerateCut();
         return false;
     }
 
@@ -141,7 +141,7 @@ private:
             return true;
         }
         Node* const node = Next();
-        return (node != nullptr && take(*node)) || state_.ForgiveValue(node, false);
+        return (node != nullptr && take(*node)) || state_.TolerateValue(node, false);
     }
     bool Number(const NumberToken& number) {
         return Scalar([&](Node& node) { return node.Number(state_, number); });
@@ -154,7 +154,7 @@ private:
         }
         Node* const node = Next();
         if (node == nullptr || !begin(*node)) {
-            return state_.ForgiveValue(node, true);
+            return state_.TolerateValue(node, true);
         }
         state_.Enter(*node, isArray);
         return true;
@@ -165,7 +165,7 @@ private:
             return true;
         }
         Node& node = state_.Leave();
-        return node.End(state_) || state_.ForgiveEnd(node);
+        return node.End(state_) || state_.TolerateEnd(node);
     }
 
     ReadState state_;
@@ -174,12 +174,12 @@ private:
 };
 
 template <class Iterator>
-std::unique_ptr<drawing::Database> Read(Iterator begin, Iterator end, DrawingFault& fault,
-                                        DrawingSlips* slips) {
+std::unique_ptr<drawing::Database> Read(Iterator begin, Iterator end, DrawingError& error,
+                                        ToleratedErrors* tolerated) {
     auto database = std::make_unique<drawing::Database>();
-    EventReceiver receiver(*database, slips);
+    EventReceiver receiver(*database, tolerated);
     if (!nlohmann::json::sax_parse(begin, end, &receiver) && !receiver.KeepsWhatWasRead()) {
-        fault = receiver.Fault();
+        error = receiver.Error();
         return nullptr;
     }
     return database;
@@ -187,19 +187,20 @@ std::unique_ptr<drawing::Database> Read(Iterator begin, Iterator end, DrawingFau
 
 } // namespace
 
-std::unique_ptr<drawing::Database> ReadDrawing(std::FILE* file, DrawingFault& fault, DrawingSlips* slips) {
+std::unique_ptr<drawing::Database> ReadDrawing(std::FILE* file, DrawingError& error,
+                                               ToleratedErrors* tolerated) {
     FileBytes bytes(file);
-    std::unique_ptr<drawing::Database> database = Read(FileIterator(bytes), FileIterator(), fault, slips);
+    std::unique_ptr<drawing::Database> database = Read(FileIterator(bytes), FileIterator(), error, tolerated);
     if (std::ferror(file) != 0) {
-        fault = {{}, "cannot be read to its end"};
+        error = {diagnostics::Code::kUnreadableFile, {"reading failed before its end"}};
         return nullptr;
     }
     return database;
 }
 
-std::unique_ptr<drawing::Database> ReadDrawing(std::string_view text, DrawingFault& fault,
-                                               DrawingSlips* slips) {
-    return Read(text.begin(), text.end(), fault, slips);
+std::unique_ptr<drawing::Database> ReadDrawing(std::string_view text, DrawingError& error,
+                                               ToleratedErrors* tolerated) {
+    return Read(text.begin(), text.end(), error, tolerated);
 }
 
 } // namespace documents

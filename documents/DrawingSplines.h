@@ -1,28 +1,28 @@
 // The keys of a spline, as an entity and as an edge of a hatch.
 #pragma once
 
-#include "documents/DrawingTypedObject.h"
-#include "drawing/SplineCurves.h"
+#include "documents/DrawingObject.h"
+#include "documents/DrawingValues.h"
+#include "drawing/entities/SplineCurves.h"
 
 namespace documents {
 
-/// An object one type of which is a spline.
-class SplineObjectNode : public TypedObjectNode {
-protected:
-    explicit SplineObjectNode(std::string_view kind) : TypedObjectNode(kind) {}
-
-    void BindSpline();
-    /// Adds the type "spline", after BindSpline.
-    void AddSplineType();
+/// The values of an object one type of which is a spline.
+class SplineKeys {
+public:
+    /// Gives the object the keys of a spline.
+    void BindTo(ObjectNode& object);
+    /// Gives the object the type "spline", after BindTo.
+    void AddTypeTo(ObjectNode& object) const;
     /// The data of an object of that type, which is either a spline through fit points or one from control
-    /// points.
-    bool TakeSpline(ReadState& state, drawing::SplineData& data);
+    /// points. False when the object is refused.
+    bool Take(const ObjectNode& object, ReadState& state, drawing::SplineData& data);
     /// Polylines have this key too.
-    BooleanNode& Closed() { return closed_; }
+    const BooleanNode& Closed() const { return closed_; }
 
 private:
-    bool TakeFitData(ReadState& state, drawing::SplineData& data);
-    bool TakeNurbsData(ReadState& state, drawing::SplineData& data);
+    bool TakeFitData(const ObjectNode& object, ReadState& state, drawing::SplineData& data);
+    bool TakeNurbsData(const ObjectNode& object, ReadState& state, drawing::SplineData& data);
 
     PointsNode fitPoints_;
     NumberNode fitTolerance_;

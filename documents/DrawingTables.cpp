@@ -2,14 +2,13 @@
 #include "documents/DrawingTables.h"
 
 #include "StyleConversion/platform/Utf8.h"
-#include "drawing/Database.h"
+#include "drawing/database/Database.h"
 
 namespace documents {
 
 bool RefuseName(ReadState& state, std::string_view kind, const std::wstring& name) {
-    return state.Refuse("expected a name that no other " + std::string(kind) + " has, found " +
-                            Shown(platform::WideToValidUtf8(name)),
-                        ".name");
+    return state.RefuseValue("a name that no other " + std::string(kind) + " has",
+                             Shown(platform::WideToValidUtf8(name)), ".name");
 }
 
 std::string ItemText(std::string_view kind, const std::wstring& name) {
@@ -39,7 +38,7 @@ DashNode::DashNode(std::vector<drawing::Dash>& dashes) : dashes_(dashes) {
 }
 
 bool DashNode::Finish(ReadState& state) {
-    if (!Has(shapeStyle_) && (Given() & ~std::uint64_t{1}) != 0) {
+    if (!Has(shapeStyle_) && HasOtherThan(length_)) {
         return RefuseMissing(state, shapeStyle_); // what else it has belongs to a shape or text
     }
     drawing::Dash dash;

@@ -3,7 +3,7 @@
 
 #include "documents/DrawingObject.h"
 #include "documents/DrawingValues.h"
-#include "drawing/Records.h"
+#include "drawing/database/Records.h"
 
 #include <vector>
 

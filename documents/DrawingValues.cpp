@@ -1,6 +1,7 @@
 // The plain values of a drawing document.
 #include "documents/DrawingValues.h"
 
+#include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/Utf8.h"
 
 #include <cmath>
@@ -8,25 +9,14 @@
 namespace documents {
 namespace {
 
-// The value of a hexadecimal digit, or -1.
-int HexDigit(char c) {
-    if (c >= '0' && c <= '9') {
-        return c - '0';
-    }
-    if (c >= 'a' && c <= 'f') {
-        return c - 'a' + 10;
-    }
-    return c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
-}
-
 bool ReadRgb(std::string_view text, OxCmColor& color) {
     if (text.size() != 7 || text[0] != '#') {
         return false;
     }
     std::array<std::uint8_t, 3> channels{};
     for (std::size_t channel = 0; channel < 3; ++channel) {
-        const int high = HexDigit(text[1 + 2 * channel]);
-        const int low = HexDigit(text[2 + 2 * channel]);
+        const int high = platform::HexDigitValue(text[1 + 2 * channel]);
+        const int low = platform::HexDigitValue(text[2 + 2 * channel]);
         if (high < 0 || low < 0) {
             return false;
         }
@@ -80,7 +70,7 @@ bool BooleanNode::Boolean(ReadState& /*state*/, bool value) {
 
 bool TextNode::String(ReadState& state, std::string& value) {
     if (value.find('\0') != std::string::npos) {
-        return state.Refuse("expected a string without the character U+0000, found " + Shown(value));
+        return state.RefuseValue("a string without the character U+0000", Shown(value));
     }
     value_ = platform::Utf8ToWide(value);
     return true;

@@ -108,7 +108,7 @@ public:
         json_.BeginList();
         GraphicJson graphic(json_);
         for (int i = 0; i < definition.GetGraphics().GetCount(); ++i) {
-            definition.GetGraphics().GetAt(i)->AcceptVisitor(graphic);
+            TylModel::AcceptVisitor(*definition.GetGraphics().GetAt(i), graphic);
         }
         json_.EndList();
         json_.Key("parameters");

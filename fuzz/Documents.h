@@ -2,7 +2,7 @@
 #pragma once
 
 #include "TylModel/TylModel.h"
-#include "drawing/Database.h"
+#include "drawing/database/Database.h"
 
 #include <cstddef>
 #include <memory>

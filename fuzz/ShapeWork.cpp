@@ -1,8 +1,6 @@
 #include "fuzz/ShapeWork.h"
 
-#include "StyleConversion/shx/ShapeFileFault.h"
 #include "StyleConversion/shx/ShxUtility.h"
-#include "fuzz/Inputs.h"
 
 #include <algorithm>
 
@@ -67,9 +65,8 @@ bool AllFitBudget(const ShapesInFile& file) {
 
 bool AllFitBudget(std::string_view shapeFile, const ShapeFilePolicy& policy) {
     ShapesInFile file;
-    ShapeFileFaultReport report;
-    const Stream stream = OpenBytes(shapeFile);
-    LoadShapeFile(stream.get(), file, kAllKinds, report, policy);
+    ShapeFileReport report;
+    LoadShapeFile(shapeFile, file, kAllKinds, report, policy);
     return AllFitBudget(file);
 }
 

@@ -1,23 +1,12 @@
 #include "preview/ColorValue.h"
 
+#include "StyleConversion/platform/Characters.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace preview {
 namespace {
-
-std::optional<unsigned> HexDigit(wchar_t c) {
-    if (c >= L'0' && c <= L'9') {
-        return static_cast<unsigned>(c - L'0');
-    }
-    if (c >= L'a' && c <= L'f') {
-        return static_cast<unsigned>(c - L'a') + 10;
-    }
-    if (c >= L'A' && c <= L'F') {
-        return static_cast<unsigned>(c - L'A') + 10;
-    }
-    return std::nullopt;
-}
 
 // The linear part of a channel of sRGB (IEC 61966-2-1).
 double Linear(std::uint8_t channel) {
@@ -36,22 +25,20 @@ std::optional<Color> ReadColor(std::wstring_view text) {
     }
     std::uint32_t bits = 0;
     for (const wchar_t c : text) {
-        const std::optional<unsigned> digit = HexDigit(c);
-        if (!digit) {
+        const int digit = platform::HexDigitValue(c);
+        if (digit < 0) {
             return std::nullopt;
         }
-        bits = bits << 4U | *digit;
+        bits = bits << 4U | static_cast<std::uint32_t>(digit);
     }
     const auto channel = [bits](unsigned shift) { return static_cast<std::uint8_t>(bits >> shift & 0xffU); };
     return Color{channel(24), channel(16), channel(8), channel(0)};
 }
 
 std::string ColorText(const Color& color) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
     std::string text = "#";
     for (const std::uint8_t channel : {color.red, color.green, color.blue}) {
-        text += kDigits[channel >> 4U];
-        text += kDigits[channel & 0xfU];
+        platform::AppendHexByte(text, channel);
     }
     return text;
 }

@@ -1,6 +1,7 @@
 #include "preview/Expression.h"
 
 #include "StyleConversion/encoding/NumberReader.h"
+#include "StyleConversion/platform/Characters.h"
 #include "preview/Limits.h"
 
 #include <cmath>
@@ -9,22 +10,10 @@
 namespace preview {
 namespace {
 
+using platform::WithoutBlanks;
+
 constexpr wchar_t kReference = L'%';
 constexpr wchar_t kQuote = L'\'';
-
-bool IsBlank(wchar_t c) {
-    return c == L' ' || (c >= L'\t' && c <= L'\r');
-}
-
-std::wstring_view WithoutBlanks(std::wstring_view text) {
-    while (!text.empty() && IsBlank(text.front())) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && IsBlank(text.back())) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
 
 // Longer than any number that a writer makes ("%.5f" of the largest double has 316 characters).
 constexpr std::size_t kLongestNumber = 400;

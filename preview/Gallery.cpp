@@ -109,7 +109,8 @@ bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol) {
     PictureStyle style;
     style.width = kPictureWidth;
     style.height = kPictureHeight;
-    style.idPrefix = "s" + std::to_string(added_);
+    style.idPrefix = 's';
+    style.idPrefix += std::to_string(added_);
     style.bindings = true;
     const Picture picture = DrawPicture(resolved, style);
     const std::string data = R"({"svg":)" + JsonString(PictureSvg(resolved, picture)) + R"(,"parameters":)" +

@@ -8,12 +8,11 @@
 #include "StyleConversion/encoding/IntegerConversion.h"
 
 #include <array>
+#include <numbers>
 #include <utility>
 
 namespace preview {
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 // Pixels that one repetition is to take, and that all that stands beside the line may take.
 constexpr double kShortestRepeat = 30;
@@ -227,7 +226,8 @@ void LinePicture::Use(const SampleLine::Spot& spot, bool turn, const std::string
     std::string transform = Translation(page_(spot.point));
     if (turn && spot.heading != 0.0) {
         transform += " rotate(";
-        AppendPixels(transform, -spot.heading * (180 / kPi)); // hundredths of a degree do as well
+        AppendPixels(transform,
+                     -spot.heading * (180 / std::numbers::pi)); // hundredths of a degree do as well
         transform += ')';
     }
     canvas_.svg.Open("use").Set("href", "#" + id).Set("transform", transform).Close();

@@ -43,8 +43,8 @@ void AppendPixels(std::string& text, double pixels) {
 
 std::string ExactNumber(double value) {
     std::string text;
-    for (const wchar_t* c = encoding::FormatNumber(value); *c != L'\0'; ++c) {
-        text += static_cast<char>(*c);
+    for (const wchar_t c : encoding::FormatNumber(value)) {
+        text += static_cast<char>(c);
     }
     return text;
 }

@@ -1,6 +1,7 @@
 #include "preview/PathReader.h"
 
 #include "StyleConversion/encoding/NumberReader.h"
+#include "StyleConversion/platform/Characters.h"
 
 #include <string>
 
@@ -30,8 +31,7 @@ public:
     bool AtEnd() const { return position_ == text_.size(); }
 
     void SkipBlanks() {
-        while (!AtEnd() &&
-               (text_[position_] == ' ' || (text_[position_] >= '\t' && text_[position_] <= '\r'))) {
+        while (!AtEnd() && platform::IsBlank(text_[position_])) {
             ++position_;
         }
     }

@@ -147,7 +147,7 @@ Member DefinitionReader::Read() {
     PartReader parts(*this, member);
     const auto& graphics = definition_.GetGraphics();
     for (int i = 0; i < graphics.GetCount(); ++i) {
-        graphics.GetAt(i)->AcceptVisitor(parts);
+        TylModel::AcceptVisitor(*graphics.GetAt(i), parts);
     }
     return member;
 }

@@ -176,7 +176,8 @@ bool SheetWriter::Add(TylModel::SymbolDefinition& symbol) {
     PictureStyle style;
     style.width = kSheetCard.width;
     style.height = kSheetCard.picture;
-    style.idPrefix = "s" + std::to_string(added_);
+    style.idPrefix = 's';
+    style.idPrefix += std::to_string(added_);
     std::string out = added_ == 0 ? Head() : std::string();
     const double x = static_cast<double>(added_ % columns_) * (kSheetCard.width + kGap) + kGap;
     const std::size_t row = added_ / columns_;

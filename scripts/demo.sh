@@ -1,15 +1,14 @@
 #!/usr/bin/env bash
 # Builds the tool and converts the example files, each to JSON and to a gallery. The results are in build/demo/.
-# A picture of one of the galleries goes to docs/gallery.png.
+# With --picture, it also takes the README's picture of one of the galleries, docs/gallery.png.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/packages.sh
+source scripts/steps.sh
 install_packages "${tool_packages[@]}"
 
-echo "Building styleconv"
-cmake -S . -B build/demo-tool -G Ninja -DCMAKE_BUILD_TYPE=Release \
-  -DSTYLECONVERSION_TESTS=OFF -DSTYLECONVERSION_BENCHMARKS=OFF >/dev/null
-cmake --build build/demo-tool --target styleconv >/dev/null
+step "Configure" cmake -S . -B build/demo-tool -G Ninja
+step "Build styleconv" cmake --build build/demo-tool --target styleconv
 tool=build/demo-tool/bin/styleconv
 
 results=build/demo
@@ -21,19 +20,23 @@ convert() {
   "$tool" "${@:2}" --format html -o "$results/$1.html"
 }
 
-for file in examples/patterns/*.pat; do
-  convert "$(basename "$file" .pat)" patterns "$file"
-done
-for file in examples/linetypes/*.lin; do
-  convert "$(basename "$file" .lin)-linetypes" linetypes "$file" \
-    --drawing examples/linetypes/styles.json --shapes examples/shapes
-done
-for file in examples/shapes/*.shx; do
-  convert "$(basename "$file" .shx)-glyphs" glyphs "$file"
-done
-for file in examples/drawings/*.json; do
-  convert "$(basename "$file" .json)-blocks" blocks "$file" --shapes examples/shapes
-done
+convert_all() {
+  local file
+  for file in examples/patterns/*.pat; do
+    convert "$(basename "$file" .pat)" patterns "$file"
+  done
+  for file in examples/linetypes/*.lin; do
+    convert "$(basename "$file" .lin)-linetypes" linetypes "$file" \
+      --drawing examples/linetypes/styles.json --shapes examples/shapes
+  done
+  for file in examples/shapes/*.shx; do
+    convert "$(basename "$file" .shx)-glyphs" glyphs "$file"
+  done
+  for file in examples/drawings/*.json; do
+    convert "$(basename "$file" .json)-blocks" blocks "$file" --shapes examples/shapes
+  done
+}
+step "Convert the examples" convert_all
 echo "The converted examples are in $results/; open a .html file in a browser to see its symbols:"
 ls "$results"
 
@@ -56,9 +59,7 @@ photograph() {
   return $status
 }
 
-if install_packages chromium fonts-dejavu-core && photograph "$results/complex-linetypes.html" docs/gallery.png; then
-  echo "A picture of a gallery is in docs/gallery.png."
-else
-  echo "The picture docs/gallery.png was left as it is: it takes the Debian package chromium, which is not here" \
-    "or does not run."
+if [ "${1-}" = --picture ]; then
+  install_packages chromium fonts-dejavu-core
+  step "Take a picture of a gallery" photograph "$results/complex-linetypes.html" docs/gallery.png
 fi

@@ -7,7 +7,8 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/packages.sh
-install_packages "${tool_packages[@]}" clang
+source scripts/steps.sh
+install_packages "${tool_packages[@]}" clang ccache
 
 seconds=${1:-600}
 if [ $# -gt 1 ]; then
@@ -16,8 +17,8 @@ else
   mapfile -t targets < <(ls fuzz/corpus)
 fi
 
-cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz --target "${targets[@]/#/fuzz_}"
+step "Configure" cmake --preset fuzz
+step "Build" cmake --build --preset fuzz --target "${targets[@]/#/fuzz_}"
 
 share=$((seconds / ${#targets[@]}))
 found=0

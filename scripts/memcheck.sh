@@ -3,12 +3,12 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/packages.sh
+source scripts/steps.sh
 install_packages "${tool_packages[@]}" valgrind
 
 # Unoptimised and without sanitizers, which valgrind cannot run.
-cmake -S . -B build/memcheck -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1" \
-  -DSTYLECONVERSION_TESTS=OFF -DSTYLECONVERSION_BENCHMARKS=OFF >/dev/null
-cmake --build build/memcheck --target styleconv
+step "Configure" cmake -S . -B build/memcheck -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g1"
+step "Build" cmake --build build/memcheck --target styleconv
 
 slips=build/memcheck/slips
 mkdir -p "$slips"

@@ -10,13 +10,13 @@ source scripts/packages.sh
 install_packages "${tool_packages[@]}" clang g++-mingw-w64-x86-64-posix
 
 work=build/msvc
-mkdir -p $work/include $work/styleconv
+mkdir -p $work/include $work/conversions
 # Headers of other projects, without those of Linux beside them.
 ln -sfn /usr/include/CLI $work/include/CLI
 ln -sfn /usr/include/nlohmann $work/include/nlohmann
 # What the build makes. The bytes of the font are many, and say nothing here.
 cmake "-DOUTPUT=$PWD/$work/GalleryFiles.cpp" "-DFOLDER=$PWD/preview/gallery" -P preview/EmbedFiles.cmake
-echo 'inline constexpr unsigned char kBuiltInFont[] = {0x00, 0xff};' >$work/styleconv/BuiltInFontBytes.h
+echo 'inline constexpr unsigned char kBuiltInFont[] = {0x00, 0xff};' >$work/conversions/BuiltInFontBytes.h
 
 # The stand-ins want to be read by g++: to what they ask for, clang gives g++'s answers.
 cat >$work/first.h <<'HEADER'
@@ -40,8 +40,8 @@ options+=(-nostdinc -isystem "$gcc_headers/c++" -isystem "$gcc_headers/c++/x86_6
 # Headers of the standard library and of other projects are read once. Behind them, nothing speaks of g++ any more, and
 # what only g++ and its like know is an error where it is used.
 {
-  git grep -hoE '^#include <([a-z_]+|CLI/CLI.hpp|nlohmann/json.hpp)>$' -- StyleConversion drawing documents preview \
-    styleconv examples/host | sort -u
+  git grep -hoE '^#include <([a-z_]+|CLI/CLI.hpp|nlohmann/json.hpp)>$' -- StyleConversion drawing diagnostics documents \
+    preview conversions styleconv examples/host | sort -u
   cat <<'HEADER'
 #undef __GNUC__
 #undef __GNUC_MINOR__
@@ -64,7 +64,7 @@ defined_for() {
     StyleConversion/interfaces/TylModel/*) echo -DTYLMODEL_BUILD ;;
     StyleConversion/*) echo -DSTYLECONVERSION_BUILD ;;
     drawing/*) echo -DOXDB_BUILD ;;
-    documents/* | preview/* | "$work"/*) echo -DSTYLECONVERSION_STATIC ;;
+    diagnostics/* | documents/* | preview/* | conversions/* | "$work"/*) echo -DSTYLECONVERSION_STATIC ;;
     styleconv/*) echo -DSTYLECONVERSION_STATIC '-DSTYLECONVERSION_VERSION="0"' ;;
   esac
 }
@@ -79,9 +79,9 @@ check() {
 }
 
 if [ $# -eq 0 ]; then
-  folders=(StyleConversion drawing documents preview styleconv examples/host)
+  folders=(StyleConversion drawing diagnostics documents preview conversions styleconv examples/host)
   mapfile -t sources < <(git ls-files "${folders[@]/%//*.cpp}" | grep -v '/posix/')
-  mapfile -t headers < <(git ls-files 'StyleConversion/interfaces/*.h' ':(glob)drawing/*.h' \
+  mapfile -t headers < <(git ls-files 'StyleConversion/interfaces/*.h' ':(glob)drawing/database/*.h' ':(glob)drawing/entities/*.h' \
     'StyleConversion/*Converter.h' StyleConversion/{Export,linetype/FontInfo,linetype/Services}.h)
   set -- "${sources[@]}" $work/GalleryFiles.cpp "${headers[@]}"
 fi

@@ -17,13 +17,19 @@ install_packages() {
     as_root=(sudo)
   fi
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y --no-install-recommends "${missing[@]}" \
-    >/dev/null
+  mkdir -p build/logs
+  local log=build/logs/packages.log
+  if ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -qq -y --no-install-recommends "${missing[@]}" >"$log" 2>&1; then
+    tail -n 30 "$log" >&2
+    echo "The packages could not be installed. The whole log is $PWD/$log" >&2
+    return 1
+  fi
 }
 
 # What the library and the tool are built with, and what the tests need beside it.
 tool_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
-test_packages=(libgtest-dev libbenchmark-dev ccache clang clang-format clang-tidy python3 python3-jsonschema)
+test_packages=(libgtest-dev libbenchmark-dev ccache clang clang-format clang-tidy clang-tools llvm python3 python3-jsonschema)
 # What an installed tree is looked at with.
 test_packages+=(pkgconf doxygen dpkg-dev file zsh fish)
 # What looks at pictures and opens the gallery, and a typeface for their texts.

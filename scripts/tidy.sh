@@ -3,12 +3,15 @@
 # tool, the tests, the fuzz targets and the benchmarks, whose libraries take it half an hour more.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+source scripts/packages.sh
+source scripts/steps.sh
+install_packages "${tool_packages[@]}" "${test_packages[@]}"
 
-cmake --preset tidy >/dev/null
+step "Configure" cmake --preset tidy
 
 case ${1-} in
-  "") folders='StyleConversion|drawing|documents|preview' ;;
-  --all) folders='StyleConversion|drawing|documents|preview|styleconv|tests|fuzz|benchmarks' ;;
+  "") folders='StyleConversion|drawing|diagnostics|documents|preview|conversions' ;;
+  --all) folders='StyleConversion|drawing|diagnostics|documents|preview|conversions|styleconv|tests|fuzz|benchmarks' ;;
   *) exec python3 scripts/tidy.py build/tidy "$@" ;;
 esac
 mapfile -t sources < <(git ls-files '*.cpp' | grep -E "^($folders)/" | grep -v '/windows/')

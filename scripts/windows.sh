@@ -3,8 +3,9 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/packages.sh
+source scripts/steps.sh
 install_packages "${tool_packages[@]}" "${test_packages[@]}" "${windows_packages[@]}"
 
-cmake --preset windows >/dev/null
-cmake --build --preset windows
-ctest --preset windows --progress
+step "Configure" cmake --preset windows
+step "Build" cmake --build --preset windows
+shown_step "Test" ctest --preset windows --progress

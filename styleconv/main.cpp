@@ -1,14 +1,10 @@
 // Starts styleconv: which commands there are, and what surrounds the one that runs.
 #include "StyleConversion/platform/Files.h"
-#include "styleconv/BlocksCommand.h"
-#include "styleconv/CheckCommand.h"
-#include "styleconv/GlyphsCommand.h"
-#include "styleconv/Interruption.h"
-#include "styleconv/LinetypesCommand.h"
-#include "styleconv/ListCommand.h"
-#include "styleconv/PatternsCommand.h"
-#include "styleconv/Progress.h"
-#include "styleconv/WorkLimits.h"
+#include "styleconv/commands/Commands.h"
+#include "styleconv/commands/Options.h"
+#include "styleconv/process/Interruption.h"
+#include "styleconv/process/Progress.h"
+#include "styleconv/process/WorkLimits.h"
 
 #include <csignal>
 #include <cstdio>
@@ -36,7 +32,7 @@ void AddCommands(CommandLine& line, LimitOptions& limits, bool& quiet) {
     AddCheckCommand(line);
     for (Command command : line.Commands()) {
         AddLimitOptions(command, limits);
-        command.AddFlag("--quiet", quiet, "Do not show how far the work has come");
+        command.AddFlag("--quiet", quiet, "Do not show progress");
     }
 }
 
@@ -76,7 +72,7 @@ ExitStatus RunSafely(int argc, char** argv) {
         return Run(argc, argv);
     } catch (const std::bad_alloc&) {
         ClearProgress();
-        std::fputs("styleconv: there is not enough memory\n", stderr);
+        std::fputs("styleconv: not enough memory\n", stderr);
     } catch (const std::exception& error) {
         ClearProgress();
         std::fprintf(stderr, "styleconv: %s\n", error.what());
@@ -103,7 +99,7 @@ int wmain(int argc, wchar_t** argv) {
         pointers.push_back(nullptr);
         return RunSafely(argc, pointers.data());
     } catch (const std::bad_alloc&) {
-        std::fputs("styleconv: there is not enough memory\n", stderr);
+        std::fputs("styleconv: not enough memory\n", stderr);
         return kInputFault;
     }
 }

@@ -1,7 +1,7 @@
 // Angles and directions in the plane, in radians.
 #pragma once
 
-#include "OxDb/OxGePoint.h"
+#include "StyleConversion/interfaces/HostNames.h"
 
 #include <cmath>
 
@@ -10,6 +10,10 @@ namespace block {
 inline constexpr double kHalfPi = 1.5707963267948966;
 inline constexpr double kPi = 3.141592653589793;
 inline constexpr double kTwoPi = 6.283185307179586;
+
+inline double Distance(OxGePoint2d from, OxGePoint2d to) {
+    return from.distanceTo(to);
+}
 
 /// The direction from one point to another, in (-pi/2, 3 pi/2]; for a vertical one, and for equal points,
 /// exactly pi/2 upward and -pi/2 otherwise.
@@ -28,7 +32,7 @@ inline double Sweep(double start, double end) {
 }
 
 inline OxGePoint2d PointOnCircle(const OxGePoint2d& center, double radius, double angle) {
-    return {center.x + radius * std::cos(angle), center.y + radius * std::sin(angle)};
+    return host::Point(center.x + radius * std::cos(angle), center.y + radius * std::sin(angle));
 }
 
 /// The direction of travel along a line, for steps from point to point.
@@ -37,7 +41,7 @@ public:
     explicit Direction(double angle) : cosine_(std::cos(angle)), sine_(std::sin(angle)) {}
 
     OxGePoint2d From(const OxGePoint2d& point, double length) const {
-        return {point.x + length * cosine_, point.y + length * sine_};
+        return host::Point(point.x + length * cosine_, point.y + length * sine_);
     }
 
 private:
@@ -61,7 +65,7 @@ struct ArcTravel {
 
 /// The plane point below a point of space.
 inline OxGePoint2d InPlane(const OxGePoint3d& point) {
-    return {point.x, point.y};
+    return host::Point(point.x, point.y);
 }
 
 } // namespace block

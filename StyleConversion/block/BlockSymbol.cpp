@@ -1,34 +1,41 @@
 #include "StyleConversion/block/BlockSymbol.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <utility>
+#include "StyleConversion/encoding/ValueForms.h"
 
 namespace block {
-namespace {
 
-// Characters up to which a path is copied: the copy is no longer than need be, and the storage serves the
-// next entity. Beyond, copying is what counts.
-constexpr std::size_t kLongPath = 65536;
-
-} // namespace
+NamedLayer& NamedLayers::Named(std::wstring_view name) {
+    if (last_ != nullptr && last_->name == name) {
+        return *last_;
+    }
+    const auto found = byName_.find(name);
+    if (found != byName_.end()) {
+        last_ = found->second;
+    } else {
+        NamedLayer& added = layers_.emplace_back();
+        added.name = name;
+        byName_.emplace(added.name, &added);
+        last_ = &added;
+    }
+    return *last_;
+}
 
 BlockSymbol::BlockSymbol(TylModel::SimpleSymbolDefinition& symbol,
                          const std::vector<std::wstring>& layersToIgnore)
     : symbol_(symbol), layersToIgnore_(layersToIgnore.begin(), layersToIgnore.end()) {
-    const auto& parameters = symbol.GetParameterDefinition();
-    for (std::int32_t i = 0; i < parameters.GetCount(); ++i) {
-        identifiers_.insert(parameters.GetAt(i)->GetIdentifier());
+    auto& parameters = host::Referred(symbol.GetParameterDefinition());
+    for (int i = 0; i < host::CountOf(parameters); ++i) {
+        identifiers_.insert(host::ItemAt(parameters, i).GetIdentifier());
     }
 }
 
 void BlockSymbol::Adopt(std::unique_ptr<TylModel::Parameter> parameter) {
     identifiers_.insert(parameter->GetIdentifier());
-    symbol_.GetParameterDefinition().Adopt(parameter.release());
+    host::Adopt(symbol_.GetParameterDefinition(), std::move(parameter));
 }
 
 void BlockSymbol::Adopt(std::unique_ptr<TylModel::GraphicElement> graphic) {
-    symbol_.GetGraphics().Adopt(graphic.release());
+    host::Adopt(symbol_.GetGraphics(), std::move(graphic));
 }
 
 void BlockSymbol::AdoptPointUsage(std::unique_ptr<TylModel::PointUsage> usage) {
@@ -41,13 +48,26 @@ EntityPath& BlockSymbol::StartPath() {
     return path_;
 }
 
-std::unique_ptr<TylModel::Path> BlockSymbol::MakePath() {
-    auto graphic = std::make_unique<TylModel::Path>();
-    if (path_.path.size() > kLongPath) {
-        graphic->SetGeometry(std::move(path_.path));
-    } else {
-        graphic->SetGeometry(path_.path);
+void BlockSymbol::AdoptStroke(const std::wstring& color, const std::wstring& lineWeight) {
+    auto& [path, shapes] = path_;
+    if (!shapes.empty()) {
+        path += L' ';
+        path += shapes;
     }
+    // Required: R7
+    if (path.empty()) {
+        return;
+    }
+    auto graphic = MakePath();
+    graphic->SetLineColor(color);
+    graphic->SetLineWeight(lineWeight);
+    graphic->SetLineWeightScalable(encoding::BooleanString(false));
+    Adopt(std::move(graphic));
+}
+
+std::unique_ptr<TylModel::Path> BlockSymbol::MakePath() const {
+    auto graphic = std::make_unique<TylModel::Path>();
+    graphic->SetGeometry(path_.path);
     return graphic;
 }
 

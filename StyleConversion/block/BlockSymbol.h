@@ -1,14 +1,16 @@
 // The symbol of the block under conversion, as the collectors see it.
 #pragma once
 
-#include "StyleConversion/block/NamedLayers.h"
-#include "TylModel/TylModel.h"
+#include "StyleConversion/interfaces/HostNames.h"
 
 #include <cstddef>
+#include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -21,6 +23,40 @@ struct TextHash {
 };
 
 using TextSet = std::unordered_set<std::wstring, TextHash, std::equal_to<>>;
+
+/// What the parameters of a block stand for, in the numbers of the symbol model.
+inline constexpr int kTextType = 0;
+inline constexpr int kAngleType = 5;
+inline constexpr int kLineColorType = 7;
+inline constexpr int kLineWeightType = 8;
+
+inline void SetDataType(TylModel::Parameter& parameter, int type) {
+    parameter.SetDataType(static_cast<TylModel::Parameter::DataType>(type));
+}
+
+/// A layer that entities of the block name, looked up in the drawing once.
+struct NamedLayer {
+    std::wstring name;              // as entities spell it
+    std::wstring record;            // as the layer spells it
+    std::optional<OxCmColor> color; // none before the layer has been found
+    int lineWeight = 0;
+    bool isKnown = false; // with its own spelling; else it is to be looked up again
+    // Whether the symbol has the parameter.
+    bool hasColorParameter = false;
+    bool hasLineweightParameter = false;
+};
+
+class NamedLayers {
+public:
+    /// The layer of that name, not yet known the first time. It stays where it is.
+    NamedLayer& Named(std::wstring_view name);
+
+private:
+    std::deque<NamedLayer> layers_;
+    std::unordered_map<std::wstring_view, NamedLayer*> byName_; // the names are in layers_
+    // Asked for last: an entity asks twice, and its neighbours often for the same.
+    NamedLayer* last_ = nullptr;
+};
 
 /// The geometry of one entity: its own, and that of the shapes and texts in its linetype.
 struct EntityPath {
@@ -56,8 +92,11 @@ public:
     EntityPath& StartPath();
     /// What was written since.
     EntityPath& CurrentPath() { return path_; }
-    /// A graphic of it: the path as it stands now, which is then no longer to be used.
-    std::unique_ptr<TylModel::Path> MakePath();
+    /// A graphic of it: the path as it stands now.
+    std::unique_ptr<TylModel::Path> MakePath() const;
+    /// The end of every entity that is stroked: puts the path of the shapes behind the entity's own and
+    /// appends a graphic in that colour and weight, where there is any geometry.
+    void AdoptStroke(const std::wstring& color, const std::wstring& lineWeight);
 
 private:
     TylModel::SimpleSymbolDefinition& symbol_;

@@ -14,11 +14,6 @@ inline constexpr double kCoarsestSampling = 1.0;
 /// Samples from which a spline is taken to be sampled too finely.
 inline constexpr int kManySamples = 1001;
 
-/// Characters of " L x,y" with numbers up to thousands; paths of many such pieces are given room beforehand,
-inline constexpr double kUsualPieceLength = 26.0;
-/// up to this many characters: what is longer grows as it may.
-inline constexpr double kLongestReservation = 1e9;
-
 /// Radians: angles beyond this are reduced by a division and not step by step.
 inline constexpr double kLongSweep = 1e6;
 

@@ -1,10 +1,10 @@
 // Objects of the drawing database that are open: closed exactly once, on every way out.
 #pragma once
 
-#include "OxDb/ErrorStatus.h"
-#include "OxDb/OxDbDatabase.h"
+#include "StyleConversion/interfaces/HostNames.h"
 
 #include <memory>
+#include <utility>
 
 namespace block {
 
@@ -31,9 +31,21 @@ public:
         return object_ != nullptr;
     }
 
+    /// Opens the object of that id for reading; false when there is none, or it is of another class.
+    bool Open(OxDbObjectId id) {
+        Close();
+        OxDbObject* opened = nullptr;
+        const Oxsys::ErrorStatus status = oxdbOpenOxDbObject(opened, id, host::kForRead, T::desc(), false);
+        if (status != Oxsys::eOk || opened == nullptr) {
+            return false;
+        }
+        object_ = &host::As<T>(*opened);
+        return true;
+    }
+
     void Close() {
         if (object_ != nullptr) {
-            object_->close();
+            static_cast<void>(object_->close());
             object_ = nullptr;
         }
     }
@@ -52,19 +64,45 @@ std::unique_ptr<Iterator> Accepted(Oxsys::ErrorStatus status, Iterator* iterator
     return std::unique_ptr<Iterator>(status == Oxsys::eOk ? iterator : nullptr);
 }
 
-/// The name of an entity's layer, released with this object.
-class LayerName {
+/// A text that the database has handed out, given back to it with this object.
+class HandedOutText {
 public:
-    explicit LayerName(const OxDbEntity& entity) : name_(entity.layer()) {}
-    ~LayerName() { oxutDelBuffer(name_); }
-    LayerName(const LayerName&) = delete;
-    LayerName& operator=(const LayerName&) = delete;
+    explicit HandedOutText(wchar_t* text = nullptr) : text_(text) {}
+    ~HandedOutText() { oxutDelBuffer(text_); }
+    HandedOutText(const HandedOutText&) = delete;
+    HandedOutText& operator=(const HandedOutText&) = delete;
 
-    /// Null when the entity gave none.
-    const wchar_t* Get() const { return name_; }
+    /// Where a call that hands out a text, once, stores it.
+    wchar_t*& Receive() { return text_; }
+    /// Null when there is none.
+    const wchar_t* Get() const { return text_; }
 
 private:
-    wchar_t* name_;
+    wchar_t* text_;
 };
+
+/// The name of an entity's layer.
+class LayerName : public HandedOutText {
+public:
+    explicit LayerName(OxDbEntity& entity) : HandedOutText(entity.layer()) {}
+};
+
+/// The linetype of an entity; none when it cannot be opened.
+class Linetype : public Opened<OxDbLinetypeTableRecord> {
+public:
+    explicit Linetype(OxDbEntity& entity) { Open(entity.linetypeId()); }
+};
+
+/// Opens the first reference of a block, its first insert; false when it has none or it cannot be opened.
+inline bool OpenFirstReference(OxDbBlockTableRecord& record, Opened<OxDbBlockReference>& reference) {
+    OxDbBlockReferenceIdIterator* created = nullptr;
+    const Oxsys::ErrorStatus status = record.newBlockReferenceIdIterator(created);
+    const auto iterator = Accepted(status, created);
+    if (iterator == nullptr) {
+        return false;
+    }
+    host::GoToFirst(*iterator);
+    return reference.Accept(iterator->getBlockReference(reference.Receive(), host::kForRead, false));
+}
 
 } // namespace block

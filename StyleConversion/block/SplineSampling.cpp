@@ -1,10 +1,12 @@
 #include "StyleConversion/block/SplineSampling.h"
 
-#include "OxDb/OxGeNurbCurve2d.h"
 #include "StyleConversion/block/Limits.h"
+#include "StyleConversion/interfaces/HostNames.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
+#include <utility>
 
 namespace block {
 namespace {
@@ -16,12 +18,12 @@ constexpr double kToleranceWithoutExtent = 0.001;
 constexpr double kKnotTolerance = 1e-9;
 constexpr double kIntervalTolerance = 1e-12;
 
-OxGePoint2dArray InPlane(const OxGePoint3dArray& points) {
-    OxGePoint2dArray flat(points.length());
-    for (const OxGePoint3d& point : points) {
-        flat.append({point.x, point.y});
+// The points below those of space.
+void Flatten(host::Points3d& points, host::Points2d& flat) {
+    for (int i = 0; i < host::LengthOf(points); ++i) {
+        const OxGePoint3d& point = host::ElementAt(points, i);
+        host::Append(flat, host::Point(point.x, point.y));
     }
-    return flat;
 }
 
 /// The curve of a spline, and how many points define it. Null when it cannot be read.
@@ -30,51 +32,44 @@ struct SplineCurve {
     int definingPoints = 0;
 };
 
-SplineCurve CurveThroughFitPoints(const OxDbSpline& spline) {
-    OxGePoint3dArray fitPoints;
-    int degree = 0;
-    double fitTolerance = 0.0;
-    bool tangentsExist = false;
-    OxGeVector3d start;
-    OxGeVector3d end;
-    if (spline.getFitData(fitPoints, degree, fitTolerance, tangentsExist, start, end) != Oxsys::eOk) {
+SplineCurve CurveThroughFitPoints(OxDbSpline& spline) {
+    host::FitData data;
+    if (!host::ReadFitData(spline, data)) {
         return {};
     }
-    const OxGePoint2dArray points = InPlane(fitPoints);
-    const OxGeTol tolerance;
-    auto curve = tangentsExist
-                     ? std::make_unique<OxGeNurbCurve2d>(points, OxGeVector2d{start.x, start.y},
-                                                         OxGeVector2d{end.x, end.y}, true, true, tolerance)
-                     : std::make_unique<OxGeNurbCurve2d>(points, tolerance);
-    return {std::move(curve), points.length()};
+    host::Points2d points;
+    Flatten(data.points, points);
+    std::unique_ptr<OxGeNurbCurve2d> curve;
+    if (data.tangentsExist) {
+        curve = host::CurveThrough(points, host::Vector(data.startTangent.x, data.startTangent.y),
+                                   host::Vector(data.endTangent.x, data.endTangent.y));
+    } else {
+        curve = host::CurveThrough(points);
+    }
+    return {std::move(curve), host::LengthOf(points)};
 }
 
-SplineCurve CurveFromControlPoints(const OxDbSpline& spline) {
-    int degree = 0;
-    bool rational = false;
-    bool closed = false;
-    bool periodic = false;
-    OxGePoint3dArray controlPoints;
-    OxGeDoubleArray knots;
-    OxGeDoubleArray weights;
-    double controlPointTolerance = 0.0;
-    double knotTolerance = 0.0;
-    if (spline.getNurbsData(degree, rational, closed, periodic, controlPoints, knots, weights,
-                            controlPointTolerance, knotTolerance) != Oxsys::eOk) {
+SplineCurve CurveFromControlPoints(OxDbSpline& spline) {
+    host::NurbsData data;
+    if (!host::ReadNurbsData(spline, data)) {
         return {};
     }
-    const OxGePoint2dArray points = InPlane(controlPoints);
-    const OxGeKnotVector knotVector(knots, kKnotTolerance);
-    auto curve = rational ? std::make_unique<OxGeNurbCurve2d>(degree, knotVector, points, weights, periodic)
-                          : std::make_unique<OxGeNurbCurve2d>(degree, knotVector, points, periodic);
-    if (closed) {
+    host::Points2d points;
+    Flatten(data.controlPoints, points);
+    std::unique_ptr<OxGeNurbCurve2d> curve;
+    if (data.rational) {
+        curve = host::CurveOf(data.degree, data.knots, kKnotTolerance, points, data.weights, data.periodic);
+    } else {
+        curve = host::CurveOf(data.degree, data.knots, kKnotTolerance, points, data.periodic);
+    }
+    if (data.closed) {
         curve->makeClosed();
     }
-    return {std::move(curve), points.length()};
+    return {std::move(curve), host::LengthOf(points)};
 }
 
 // How far the samples may be off the curve, in drawing units.
-double InitialTolerance(const OxGeNurbCurve2d& curve) {
+double InitialTolerance(OxGeNurbCurve2d& curve) {
     OxGePoint2d minimum;
     OxGePoint2d maximum;
     curve.boundBlock().getMinMaxPoints(minimum, maximum);
@@ -83,30 +78,36 @@ double InitialTolerance(const OxGeNurbCurve2d& curve) {
     return tolerance == 0.0 ? kToleranceWithoutExtent : tolerance;
 }
 
-OxGePoint2dArray Sample(const OxGeNurbCurve2d& curve, double tolerance) {
-    OxGeInterval interval(kIntervalTolerance);
-    curve.getInterval(interval);
-    OxGePoint2dArray points;
-    OxGeDoubleArray parameters;
-    curve.getSamplePoints(interval.lowerBound(), interval.upperBound(), tolerance, points, parameters);
-    return points;
+std::vector<OxGePoint2d> Sample(OxGeNurbCurve2d& curve, double tolerance) {
+    const host::ParameterRange range = host::ParametersOf(curve, kIntervalTolerance);
+    host::Points2d points;
+    host::Doubles parameters;
+    curve.getSamplePoints(range.lower, range.upper, tolerance, points, parameters);
+    const int count = host::LengthOf(points);
+    std::vector<OxGePoint2d> samples;
+    samples.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        samples.push_back(host::ElementAt(points, i));
+    }
+    return samples;
 }
 
 // Halves the tolerance while there are fewer samples than defining points, else doubles it while there are
 // very many. A curve of very many defining points could go back and forth between two tolerances for ever: it
 // gets the finer of the two.
-OxGePoint2dArray SampleEvenly(const OxGeNurbCurve2d& curve, int definingPoints) {
+std::vector<OxGePoint2d> SampleEvenly(OxGeNurbCurve2d& curve, int definingPoints) {
     double tolerance = InitialTolerance(curve);
     bool halved = false;
     bool doubled = false;
     for (;;) {
-        OxGePoint2dArray points = Sample(curve, tolerance);
-        const bool tooFew = points.length() < definingPoints;
+        std::vector<OxGePoint2d> points = Sample(curve, tolerance);
+        const auto count = static_cast<int>(points.size());
+        const bool tooFew = count < definingPoints;
         double next = tolerance;
         if (tooFew && tolerance > kFinestSampling) {
             next = tolerance * 0.5;
             halved = true;
-        } else if (points.length() >= kManySamples && tolerance < kCoarsestSampling && !halved) {
+        } else if (count >= kManySamples && tolerance < kCoarsestSampling && !halved) {
             next = tolerance * 2.0;
             doubled = true;
         }
@@ -122,11 +123,11 @@ OxGePoint2dArray SampleEvenly(const OxGeNurbCurve2d& curve, int definingPoints) 
 
 } // namespace
 
-OxGePoint2dArray SampleSpline(const OxDbSpline& spline) {
+std::vector<OxGePoint2d> SampleSpline(OxDbSpline& spline) {
     const SplineCurve source =
         spline.hasFitData() ? CurveThroughFitPoints(spline) : CurveFromControlPoints(spline);
-    if (source.curve == nullptr || !source.curve->isDefined()) {
-        return OxGePoint2dArray();
+    if (source.curve == nullptr) {
+        return {};
     }
     return SampleEvenly(*source.curve, source.definingPoints);
 }

@@ -1,4 +1,7 @@
 // "%.15g" by exact integer arithmetic, where the value's size allows it.
+//
+// A second way beside std::to_chars: by that alone, converting simple linetypes takes 20 to 37 % more
+// instructions.
 #include "StyleConversion/encoding/GeneralNumber.h"
 
 #include "StyleConversion/encoding/BinaryParts.h"

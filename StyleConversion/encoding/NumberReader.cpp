@@ -1,17 +1,13 @@
 #include "StyleConversion/encoding/NumberReader.h"
 
-#include <array>
+#include "StyleConversion/platform/Characters.h"
+
 #include <charconv>
-#include <cstdint>
 #include <limits>
 #include <system_error>
 
 namespace encoding {
 namespace {
-
-bool IsSpace(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
 
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
@@ -41,40 +37,11 @@ bool IsTooLarge(std::string_view number) {
     return position > 0;
 }
 
-// Reads digits with at most one point among them, where that is all there is and they are few. A double holds
-// up to 15 digits exactly, and the power of ten as well: the quotient is then rounded once, as it must be.
-// Nothing is used where the number is of another kind.
-NumberReading ReadFewDigits(std::string_view number) {
-    constexpr std::size_t kDigitsOfDouble = 15;
-    constexpr std::array<double, kDigitsOfDouble + 1> kPowersOfTen{
-        1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    std::uint64_t digits = 0;
-    std::size_t used = 0;
-    std::size_t point = number.size();
-    for (; used < number.size() && used <= kDigitsOfDouble + 1; ++used) {
-        if (IsDigit(number[used])) {
-            digits = digits * 10 + static_cast<std::uint64_t>(number[used] - '0');
-        } else if (number[used] == '.' && point == number.size()) {
-            point = used;
-        } else {
-            break;
-        }
-    }
-    const bool hasPoint = point < used;
-    const std::size_t count = used - (hasPoint ? 1 : 0);
-    const bool hasExponent = used < number.size() && (number[used] == 'e' || number[used] == 'E');
-    if (count == 0 || count > kDigitsOfDouble || hasExponent) {
-        return {};
-    }
-    const std::size_t decimals = hasPoint ? used - point - 1 : 0;
-    return {static_cast<double>(digits) / kPowersOfTen[decimals], used};
-}
-
 } // namespace
 
 NumberReading ReadNumber(std::string_view text) {
     std::size_t start = 0;
-    while (start < text.size() && IsSpace(text[start])) {
+    while (start < text.size() && platform::IsBlank(text[start])) {
         ++start;
     }
     bool negative = false;
@@ -88,9 +55,6 @@ NumberReading ReadNumber(std::string_view text) {
     if (!begins) {
         return {};
     }
-    if (const NumberReading few = ReadFewDigits(number); few.used != 0) {
-        return {negative ? -few.value : few.value, start + few.used};
-    }
     double value = 0.0;
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
     const auto length = static_cast<std::size_t>(end - number.data());
@@ -98,6 +62,16 @@ NumberReading ReadNumber(std::string_view text) {
         value = IsTooLarge(number.substr(0, length)) ? std::numeric_limits<double>::infinity() : 0.0;
     }
     return {negative ? -value : value, start + length};
+}
+
+NumberReading ScanNumber(std::string_view text) {
+    const NumberReading number = ReadNumber(text);
+    // A whole exponent would have been used.
+    constexpr std::string_view kMarks = "eE";
+    const bool hasExponent = text.substr(0, number.used).find_first_of(kMarks) != std::string_view::npos;
+    const bool isCutShort = number.used != 0 && !hasExponent && number.used < text.size() &&
+                            kMarks.find(text[number.used]) != std::string_view::npos;
+    return isCutShort ? NumberReading{} : number;
 }
 
 } // namespace encoding

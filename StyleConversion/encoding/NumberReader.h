@@ -19,4 +19,8 @@ struct NumberReading {
 /// its sign.
 NumberReading ReadNumber(std::string_view text);
 
+/// The same, but for an exponent that is not whole: it makes the text no number ("1e,", "1e+"), as it does
+/// for C's functions that scan.
+NumberReading ScanNumber(std::string_view text);
+
 } // namespace encoding

@@ -1,6 +1,7 @@
-// A piece of a path of blocks or patterns on its way to the path's end.
+// A piece of a path on its way to the path's end.
 #pragma once
 
+#include "StyleConversion/encoding/GeneralNumber.h"
 #include "StyleConversion/encoding/TrimmedNumber.h"
 
 #include <cstddef>
@@ -30,6 +31,11 @@ public:
     /// At most kNumbers in all, as Double2TrimmedString writes them.
     PathPiece& Number(double value) {
         end_ = WriteTrimmed(end_, value);
+        return *this;
+    }
+    /// The same, as WriteGeneral writes them.
+    PathPiece& General(double value) {
+        end_ = WriteGeneral(end_, value);
         return *this;
     }
     PathPiece& Pair(double x, double y) { return Number(x).Words(L",").Number(y); }

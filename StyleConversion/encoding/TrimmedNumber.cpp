@@ -87,7 +87,7 @@ wchar_t* WriteTrimmed(wchar_t* target, double value) {
                           .ptr;
     auto length = static_cast<std::size_t>(end - buffer);
     const std::size_t original = length;
-    // The scan does not stop at another digit: a zero further left still cuts the text there. That is wanted.
+    // Required: R1
     for (std::size_t back = 1; back < kDecimals && back <= original; ++back) {
         if (buffer[original - back] == '0') {
             length = original - back;
@@ -96,15 +96,9 @@ wchar_t* WriteTrimmed(wchar_t* target, double value) {
     return std::copy(buffer, buffer + length, target);
 }
 
-void AppendTrimmed(std::wstring& text, double value) {
-    wchar_t buffer[kLongestTrimmed];
-    text.append(buffer, static_cast<std::size_t>(WriteTrimmed(buffer, value) - buffer));
-}
-
 std::wstring Double2TrimmedString(double value) {
-    std::wstring text;
-    AppendTrimmed(text, value);
-    return text;
+    wchar_t buffer[kLongestTrimmed];
+    return std::wstring(buffer, WriteTrimmed(buffer, value));
 }
 
 } // namespace encoding

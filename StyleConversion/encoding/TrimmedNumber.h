@@ -14,9 +14,6 @@ constexpr std::size_t kLongestTrimmed = 1 + 309 + 1 + 5;
 /// "inf", "-inf", "nan" and "-nan". No locale changes the text.
 std::wstring Double2TrimmedString(double value);
 
-/// Appends what Double2TrimmedString returns.
-void AppendTrimmed(std::wstring& text, double value);
-
 /// Writes it, without a terminator, to where there is room for kLongestTrimmed characters. Returns its end.
 wchar_t* WriteTrimmed(wchar_t* target, double value);
 

@@ -2,6 +2,7 @@
 
 #include "StyleConversion/encoding/TrimmedNumber.h"
 #include "StyleConversion/encoding/Widening.h"
+#include "StyleConversion/platform/Characters.h"
 
 #include <charconv>
 
@@ -23,10 +24,9 @@ std::wstring Enclosed(wchar_t mark, std::wstring_view text) {
 } // namespace
 
 std::wstring ColorString(std::uint32_t trueColor) {
-    constexpr wchar_t kDigits[] = L"0123456789abcdef";
     std::wstring color = L"ff";
-    for (int shift = 20; shift >= 0; shift -= 4) {
-        color += kDigits[(trueColor >> shift) & 0xf];
+    for (const int shift : {16, 8, 0}) {
+        platform::AppendHexByte(color, static_cast<std::uint8_t>(trueColor >> shift));
     }
     return color;
 }

@@ -12,7 +12,8 @@ namespace encoding {
 std::wstring ColorString(std::uint32_t trueColor);
 
 /// A line weight code (hundredths of a millimetre) as twice its millimetres: 25 is "0.5". Codes below 0 (by
-/// layer, by block, default) and above 211 are "0.0". The doubling is the wanted output.
+/// layer, by block, default) and above 211 are "0.0".
+/// Required: R2
 std::wstring LineweightString(std::int32_t code);
 
 /// "%d" of `value`.

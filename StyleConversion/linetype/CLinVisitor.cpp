@@ -37,9 +37,9 @@ std::wstring QuotedContent(const std::wstring& characters) {
 
 } // namespace
 
-CLinVisitor::CLinVisitor(double scale, LinFaultLog* faultLog, const LinPolicy& policy)
+CLinVisitor::CLinVisitor(double scale, LinErrorLog* errorLog, const LinPolicy& policy)
     : results_(std::make_unique<std::vector<TylModel::SymbolDefinition*>>()), scale_(scale),
-      faultLog_(faultLog), policy_(policy) {}
+      errorLog_(errorLog), policy_(policy) {}
 
 CLinVisitor::~CLinVisitor() {
     DeleteResults();
@@ -81,10 +81,10 @@ void CLinVisitor::BeginLinetype(const LinetypeRecord& record, const std::string&
     if (record.name.empty()) {
         name_ = L"LINE_SYMBOL";
     } else if (AnsiToWide(record.name, name_) != kSuccess) {
-        Fail(LinFaultKind::kNameNotConvertible, {});
+        Fail(LinErrorKind::kNameNotConvertible, {});
     }
     if (AnsiToWide(description, description_) != kSuccess) {
-        Fail(LinFaultKind::kNameNotConvertible, {});
+        Fail(LinErrorKind::kNameNotConvertible, {});
     }
 }
 
@@ -100,9 +100,8 @@ void CLinVisitor::EndLinetype() {
     if (hasText_) {
         AddTextColorParameter(*simple_);
     }
-    repeat_.clear();
-    encoding::AppendNumber(repeat_, position_ * scale_);
-    AddLineUsage(*simple_).SetRepeat(repeat_);
+    const std::wstring repeat = encoding::FormatNumber(position_ * scale_);
+    AddLineUsage(*simple_).SetRepeat(repeat);
     simple_->SetName(name_);
 
     // Room first: nothing may fail between letting go of a symbol and keeping its address.
@@ -116,13 +115,14 @@ void CLinVisitor::EndLinetype() {
         results_->push_back(simple_.release());
         return;
     }
-    auto& members = compound_->GetSymbols();
-    for (std::int32_t i = members.GetCount() - 1; i >= 0; --i) {
-        members.GetAt(i)->GetSymbolDefinition()->GetLineUsage()->SetRepeat(repeat_);
+    auto& members = host::Referred(compound_->GetSymbols());
+    for (int i = host::CountOf(members) - 1; i >= 0; --i) {
+        auto& definition = host::Referred(host::ItemAt(members, i).GetSymbolDefinition());
+        host::Referred(definition.GetLineUsage()).SetRepeat(repeat);
     }
     auto dashes = std::make_unique<TylModel::SimpleSymbol>();
     dashes->AdoptSymbolDefinition(simple_.release());
-    members.Adopt(dashes.release());
+    host::Adopt(members, std::move(dashes));
     compound_->SetName(name_);
     if (!description_.empty()) {
         compound_->SetDescription(description_);
@@ -166,7 +166,7 @@ void CLinVisitor::Shape(const std::string& shapeName, const ElementTransform& tr
     const double x = ElementX(transform);
     const auto found = file.nameIndex.find(shapeName);
     if (found == file.nameIndex.end()) {
-        Fail(LinFaultKind::kShapeNotInFile, platform::AnsiToWide(shapeName));
+        Fail(LinErrorKind::kShapeNotInFile, platform::AnsiToWide(shapeName));
         return;
     }
     ShxPen pen;
@@ -177,7 +177,7 @@ void CLinVisitor::Shape(const std::string& shapeName, const ElementTransform& tr
     std::wstring path;
     const ShxUtility::ShxResult drawn = DrawShxShape(path, pen, file.shapes[found->second], file);
     if (drawn != ShxUtility::kSuccess) {
-        Fail(LinFaultKind::kShapeNotDrawn, platform::AnsiToWide(shapeName), drawn);
+        Fail(LinErrorKind::kShapeNotDrawn, platform::AnsiToWide(shapeName), drawn);
         return;
     }
     AddDrawnMember(path, transform, x);
@@ -205,7 +205,7 @@ void CLinVisitor::AddTrueTypeText(const std::string& text, const ElementTransfor
     element->SetFontName(font.typeface);
     std::wstring wide;
     if (AnsiToWide(text, wide) != kSuccess) {
-        Fail(LinFaultKind::kTextNotConvertible, {});
+        Fail(LinErrorKind::kTextNotConvertible, {});
         return;
     }
     const DecodedText decoded = DecodeControlCodes(wide, policy_.looseForm);
@@ -216,25 +216,25 @@ void CLinVisitor::AddTrueTypeText(const std::string& text, const ElementTransfor
     if (decoded.underlined) {
         element->SetUnderlined(yes);
     }
-    element->SetHorizontalAlignment(L"'Left'");
-    element->SetVerticalAlignment(L"'Baseline'");
+    element->SetHorizontalAlignment(std::wstring(L"'Left'"));
+    element->SetVerticalAlignment(std::wstring(L"'Baseline'"));
     const double size = font.textSize != 0.0 ? transform.scale * font.textSize : transform.scale;
-    element->SetHeight(NumberText(size * scale_));
-    element->SetTextColor(L"%TEXTCOLOR%");
+    element->SetHeight(encoding::FormatNumber(size * scale_));
+    element->SetTextColor(std::wstring(L"%TEXTCOLOR%"));
     const double x = ElementX(transform);
-    element->SetPositionY(NumberText(ElementY(transform)));
+    element->SetPositionY(encoding::FormatNumber(ElementY(transform)));
     if (HasFixedAngle(transform)) {
         SimpleSymbolDefinition& definition = AddMember(Compound(), name_);
         FixAngle(AddLineUsage(definition), transform.absoluteRotation, x);
-        definition.GetGraphics().Adopt(element.release());
+        host::Adopt(definition.GetGraphics(), std::move(element));
         AddTextColorParameter(definition);
         return;
     }
     if (transform.relativeRotation != 0.0) {
-        element->SetAngle(NumberText(transform.relativeRotation));
+        element->SetAngle(encoding::FormatNumber(transform.relativeRotation));
     }
-    element->SetPositionX(NumberText(x));
-    simple_->GetGraphics().Adopt(element.release());
+    element->SetPositionX(encoding::FormatNumber(x));
+    host::Adopt(simple_->GetGraphics(), std::move(element));
     hasText_ = true;
 }
 
@@ -242,27 +242,27 @@ void CLinVisitor::AddShxText(const std::string& text, const ElementTransform& tr
                              const ShapeFileMap& shapeFiles) {
     const auto found = shapeFiles.find(font.fileName);
     if (found == shapeFiles.end()) {
-        Fail(LinFaultKind::kFontNotLoaded, font.fileName);
+        Fail(LinErrorKind::kFontNotLoaded, font.fileName);
         return;
     }
     const ShxUtility::ShapesInFile& file = found->second;
     if (file.kind != ShxUtility::kFont && file.kind != ShxUtility::kUnifont) {
-        Fail(LinFaultKind::kNotAFont, font.fileName);
+        Fail(LinErrorKind::kNotAFont, font.fileName);
         return;
     }
     const std::vector<std::uint8_t>& information = file.fontInfo;
     if (information.size() <= (font.isVertical ? kModesByte : kHeightByte)) {
-        Fail(LinFaultKind::kFontWithoutInformation, font.fileName);
+        Fail(LinErrorKind::kFontWithoutInformation, font.fileName);
         return;
     }
     const auto height = static_cast<std::int8_t>(information[kHeightByte]);
     if (height == 0) {
-        Fail(LinFaultKind::kFontHeightZero, font.fileName);
+        Fail(LinErrorKind::kFontHeightZero, font.fileName);
         return;
     }
     std::wstring wide;
     if (AnsiToWide(text, wide) != kSuccess) {
-        Fail(LinFaultKind::kTextNotConvertible, {});
+        Fail(LinErrorKind::kTextNotConvertible, {});
         return;
     }
     const double x = ElementX(transform);
@@ -283,7 +283,7 @@ void CLinVisitor::AddShxText(const std::string& text, const ElementTransform& tr
         }
         const ShxUtility::ShxResult drawn = DrawShxShape(path, pen, *glyph, file);
         if (drawn != ShxUtility::kSuccess) {
-            Fail(LinFaultKind::kCharacterNotDrawn, std::wstring(1, character), drawn);
+            Fail(LinErrorKind::kCharacterNotDrawn, std::wstring(1, character), drawn);
             return;
         }
     }
@@ -304,13 +304,13 @@ void CLinVisitor::AddDrawnMember(const std::wstring& path, const ElementTransfor
     }
 }
 
-void CLinVisitor::Fail(LinFaultKind kind, const std::wstring& subject, std::int32_t shxResult) {
-    (policy_.faultsStayLocal ? linetypeFailed_ : failed_) = true;
-    if (faultLog_ != nullptr) {
+void CLinVisitor::Fail(LinErrorKind kind, const std::wstring& subject, ShxUtility::ShxResult shxResult) {
+    (policy_.errorsStayLocal ? linetypeFailed_ : failed_) = true;
+    if (errorLog_ != nullptr) {
         // The walk itself has gone well: no result code.
-        LinFault& fault = faultLog_->Add(kSuccess, kind);
-        fault.subject = subject;
-        fault.shxResult = shxResult;
+        LinError& error = errorLog_->Add(kSuccess, kind);
+        error.subject = subject;
+        error.shxResult = shxResult;
     }
 }
 

@@ -1,11 +1,10 @@
 // Builds one line symbol for each linetype that it is shown.
 #pragma once
 
-#include "StyleConversion/linetype/LinFaults.h"
+#include "StyleConversion/interfaces/HostNames.h"
+#include "StyleConversion/linetype/LinErrors.h"
 #include "StyleConversion/linetype/LinPolicy.h"
 #include "StyleConversion/linetype/LinStyleVisitor.h"
-
-#include "TylModel/TylModel.h"
 
 #include <cstdint>
 #include <memory>
@@ -19,12 +18,12 @@ namespace LineConverter {
 /// font that turns with the line is part of the dashes' symbol.
 ///
 /// An element that cannot be drawn is left out and marks the whole run as failed; where the policy keeps
-/// faults local, its linetype is left out and the run goes on. Operations may throw std::bad_alloc; nothing
+/// errors local, its linetype is left out and the run goes on. Operations may throw std::bad_alloc; nothing
 /// is lost then.
 class CLinVisitor final : public LinStyleVisitor {
 public:
-    /// `scale` multiplies every length. `faultLog` is borrowed, may be null, and is told why a run failed.
-    explicit CLinVisitor(double scale, LinFaultLog* faultLog = nullptr, const LinPolicy& policy = {});
+    /// `scale` multiplies every length. `errorLog` is borrowed, may be null, and is told why a run failed.
+    explicit CLinVisitor(double scale, LinErrorLog* errorLog = nullptr, const LinPolicy& policy = {});
     ~CLinVisitor() override;
 
     void Begin() override;
@@ -55,23 +54,23 @@ private:
     // The distance along the line, and to its left, at which an element is placed.
     double ElementX(const ElementTransform& transform) const;
     double ElementY(const ElementTransform& transform) const;
-    void Fail(LinFaultKind kind, const std::wstring& subject, std::int32_t shxResult = 0);
+    void Fail(LinErrorKind kind, const std::wstring& subject,
+              ShxUtility::ShxResult shxResult = ShxUtility::kSuccess);
 
     std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> results_;
     std::unique_ptr<TylModel::CompoundSymbolDefinition> compound_;
     std::unique_ptr<TylModel::SimpleSymbolDefinition> simple_;
     // Of one linetype; the storage serves the next one too.
     std::wstring dashPath_;
-    std::wstring repeat_;
     // Along the pattern, in the file's units.
     double position_ = 0.0;
     double scale_;
     std::wstring name_;
     std::wstring description_;
     bool failed_ = false;         // the run
-    bool linetypeFailed_ = false; // the linetype, where faults stay local
+    bool linetypeFailed_ = false; // the linetype, where errors stay local
     bool hasText_ = false;
-    LinFaultLog* faultLog_;
+    LinErrorLog* errorLog_;
     LinPolicy policy_;
 };
 

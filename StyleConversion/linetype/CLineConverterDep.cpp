@@ -77,8 +77,7 @@ std::FILE* CLineConverterDep::SearchHost(const wchar_t* name) const {
     }
     std::array<wchar_t, kPathBufferSize> path{};
     const Oxsys::ErrorStatus status =
-        services_->findFile(path.data(), static_cast<int>(path.size()), name, nullptr,
-                            OxDbHostApplicationServices::kCompiledShapeFile);
+        host::FindShapeFile(*services_, path.data(), static_cast<int>(path.size()), name);
     if (status != Oxsys::eOk || path.front() == 0) {
         return nullptr;
     }

@@ -3,7 +3,7 @@
 
 #include "StyleConversion/linetype/Services.h"
 
-#include "OxDb/OxDbHostApplicationServices.h"
+#include "StyleConversion/interfaces/HostNames.h"
 
 #include <string>
 #include <string_view>

@@ -2,7 +2,7 @@
 #include "StyleConversion/linetype/ControlCodes.h"
 
 #include "StyleConversion/linetype/LinLimits.h"
-#include "StyleConversion/linetype/LinNames.h"
+#include "StyleConversion/platform/Characters.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -10,8 +10,7 @@
 namespace LineConverter {
 namespace {
 
-// The empty set rather than the letter with stroke, which most fonts have in its place: the output is wanted
-// so.
+// Required: R35
 constexpr wchar_t kDiameterSign = 8709;
 constexpr wchar_t kDegreeSign = 176;
 constexpr wchar_t kPlusMinusSign = 177;
@@ -22,15 +21,6 @@ bool IsDigit(wchar_t c) {
 
 constexpr std::wstring_view kUnicodeMark = L"\\U+";
 constexpr std::size_t kUnicodeCodeLength = kUnicodeMark.size() + kUnicodeCodeDigits;
-
-// The digit's value, or -1.
-int HexValue(wchar_t c) {
-    const wchar_t upper = UpperCase(c);
-    if (IsDigit(upper)) {
-        return static_cast<int>(upper - L'0');
-    }
-    return upper >= L'A' && upper <= L'F' ? static_cast<int>(upper - L'A') + 10 : -1;
-}
 
 class Decoder {
 public:
@@ -68,7 +58,7 @@ private:
         if (IsDigit(text[0])) {
             return CharacterCode(text);
         }
-        switch (UpperCase(text[0])) {
+        switch (platform::AsciiUpper(text[0])) {
         case L'C':
             Emit(kDiameterSign);
             break;
@@ -105,7 +95,7 @@ private:
     void UnicodeCode(std::wstring_view text) {
         int code = 0;
         for (const wchar_t digit : text.substr(kUnicodeMark.size(), kUnicodeCodeDigits)) {
-            code = code * 16 + HexValue(digit);
+            code = code * 16 + platform::HexDigitValue(digit);
         }
         Emit(static_cast<wchar_t>(code));
     }
@@ -123,7 +113,8 @@ bool StartsWithUnicodeCode(std::wstring_view text) {
         return false;
     }
     const std::wstring_view digits = text.substr(kUnicodeMark.size(), kUnicodeCodeDigits);
-    return std::all_of(digits.begin(), digits.end(), [](wchar_t digit) { return HexValue(digit) >= 0; });
+    return std::all_of(digits.begin(), digits.end(),
+                       [](wchar_t digit) { return platform::HexDigitValue(digit) >= 0; });
 }
 
 DecodedText DecodeControlCodes(std::wstring_view text, bool readUnicodeCodes) {

@@ -1,8 +1,7 @@
 // Reads text styles from the host's working database.
 #include "StyleConversion/linetype/CLineConverterDep.h"
 
-#include "OxDb/OxDbDatabase.h"
-#include "OxDb/OxDbTextStyleTable.h"
+#include "StyleConversion/interfaces/HostNames.h"
 
 #include <memory>
 
@@ -10,7 +9,10 @@ namespace LineConverter {
 namespace {
 
 struct CloseObject {
-    void operator()(OxDbObject* object) const { object->close(); }
+    template <class T>
+    void operator()(T* object) const {
+        static_cast<void>(object->close());
+    }
 };
 template <class T>
 using Opened = std::unique_ptr<T, CloseObject>;
@@ -27,12 +29,12 @@ double SlantInDegrees(double radians) {
 
 Opened<OxDbTextStyleTableRecord> OpenStyle(OxDbDatabase& database, const wchar_t* styleName) {
     OxDbTextStyleTable* openedTable = nullptr;
-    if (database.getSymbolTable(openedTable, OxDb::kForRead) != Oxsys::eOk || openedTable == nullptr) {
+    if (database.getSymbolTable(openedTable, host::kForRead) != Oxsys::eOk || openedTable == nullptr) {
         return nullptr;
     }
     const Opened<OxDbTextStyleTable> table(openedTable);
     OxDbTextStyleTableRecord* record = nullptr;
-    if (table->getAt(styleName, record, OxDb::kForRead, false) != Oxsys::eOk) {
+    if (table->getAt(styleName, record, host::kForRead, false) != Oxsys::eOk) {
         return nullptr;
     }
     return Opened<OxDbTextStyleTableRecord>(record);
@@ -50,21 +52,17 @@ bool ReadText(std::wstring& text, Read read) {
     return true;
 }
 
-bool ReadFonts(const OxDbTextStyleTableRecord& record, FontInfo& info) {
-    std::int32_t characterSet = 0;
-    std::int32_t pitchAndFamily = 0;
+bool ReadFonts(OxDbTextStyleTableRecord& record, FontInfo& info) {
     return ReadText(info.bigFontFileName, [&](wchar_t*& text) { return record.bigFontFileName(text); }) &&
            ReadText(info.typeface,
-                    [&](wchar_t*& text) {
-                        return record.font(text, info.bold, info.italic, characterSet, pitchAndFamily);
-                    }) &&
+                    [&](wchar_t*& text) { return host::ReadFont(record, text, info.bold, info.italic); }) &&
            ReadText(info.fileName, [&](wchar_t*& text) { return record.fileName(text); });
 }
 
 } // namespace
 
 bool CLineConverterDep::GetFontInfoFromStyle(const wchar_t* styleName, FontInfo& info) {
-    OxDbDatabase* const database = services_ != nullptr ? services_->workingDatabase() : nullptr;
+    OxDbDatabase* const database = services_ != nullptr ? host::WorkingDatabase(*services_) : nullptr;
     if (database == nullptr) {
         return false;
     }
@@ -73,7 +71,7 @@ bool CLineConverterDep::GetFontInfoFromStyle(const wchar_t* styleName, FontInfo&
         return false;
     }
     FontInfo read;
-    read.flagBits = record->flagBits();
+    read.flagBits = static_cast<std::int32_t>(record->flagBits());
     read.isShapeFile = record->isShapeFile();
     read.isVertical = record->isVertical();
     read.obliquingAngle = SlantInDegrees(record->obliquingAngle());

@@ -1,13 +1,20 @@
-// Reads the texts and shapes of complex linetypes.
+// Dashes, the texts and shapes of complex linetypes, and how these are placed.
+#include "StyleConversion/linetype/LinElements.h"
+
 #include "StyleConversion/encoding/NumberReader.h"
 #include "StyleConversion/linetype/ControlCodes.h"
-#include "StyleConversion/linetype/LinParser.h"
+#include "StyleConversion/linetype/LinNames.h"
+#include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/CodePage.h"
 
 #include <algorithm>
+#include <memory>
+#include <string>
 
 namespace LineConverter {
 namespace {
+
+using encoding::TextCursor;
 
 constexpr double kDegreesPerGrad = 0.9;
 constexpr double kRadiansPerDegree = 0.017453292519943295;
@@ -21,7 +28,7 @@ double ToDegrees(double value, char unit) {
     case 'g':
         return value * kDegreesPerGrad;
     case 'r':
-        // A value in radians is multiplied by π/180, not divided: the output is wanted so.
+        // Required: R32
         return value * kRadiansPerDegree;
     default:
         return value;
@@ -46,169 +53,229 @@ double* FieldOf(ElementTransform& transform, char upperCaseLetter) {
     }
 }
 
-constexpr const wchar_t* kStandardStyle = L"STANDARD";
-
-} // namespace
-
-LinResult LinParser::ParseTextElement(const char*& cursor, ComplexElement& element) {
-    const char* const quote = platform::FindInMultiByte(cursor, '"');
-    if (quote == nullptr) {
-        return SyntaxError(LinFaultKind::kTextNotClosed, cursor);
+// A name without the blanks around it, where the form is loose. `rest` is the line from the name on.
+std::string_view NameIn(LinReading& reading, std::string_view name, std::string_view rest) {
+    if (!reading.policy.looseForm) {
+        return name;
     }
-    element.text.assign(cursor, quote);
-    NoteCharacterCodes(element.text, cursor);
-    cursor = quote + 1;
-    SkipBlanks(cursor);
-    if (*cursor == ']') {
-        // The "]" is used up here, and the caller wants another: a text without a style is refused, unless it
-        // is written with "]]". The outcome is wanted so.
-        element.styleName = kStandardStyle;
-        if (policy_.looseForm && cursor[1] != ']') {
-            Forgive(LinFaultKind::kStyleLeftOut, cursor);
-            return kSuccess;
-        }
-        ++cursor;
-        return kSuccess;
+    const std::string_view start = PastBlanks(name);
+    const std::string_view trimmed = WithoutTrailingBlanks(start);
+    if (trimmed.size() != name.size()) {
+        reading.Tolerate(LinErrorKind::kBlank,
+                         start.size() != name.size() ? rest : rest.substr(trimmed.size()));
     }
-    if (*cursor != ',') {
-        return SyntaxError(LinFaultKind::kTextNotFollowedByStyle, cursor);
-    }
-    if (StyleIsLeftOut(cursor)) {
-        element.styleName = kStandardStyle;
-    } else if (const LinResult result = ParseStyle(cursor, element); result != kSuccess) {
-        return result;
-    }
-    return ParseTransform(cursor, element.transform);
+    return trimmed;
 }
 
-// From the comma before the style to the mark behind it.
-LinResult LinParser::ParseStyle(const char*& cursor, ComplexElement& element) {
-    const char* const styleStart = ++cursor;
-    for (; *cursor != ',' && *cursor != ']'; ++cursor) {
-        if (*cursor == 0 || *cursor == '=') {
-            return SyntaxError(LinFaultKind::kStyleNameNotClosed, cursor);
-        }
-    }
-    if (cursor == styleStart) {
-        return SyntaxError(LinFaultKind::kStyleNameEmpty, cursor);
-    }
-    const std::string_view styleName = WithoutBlanks(styleStart, cursor);
-    if (const LinResult result = AnsiToWide(styleName, element.styleName); result != kSuccess) {
-        return Fault(result, LinFaultKind::kStyleNameNotConvertible);
-    }
-    MakeUpperCase(element.styleName);
-    return kSuccess;
-}
-
-// Whether nothing, or at once a field, stands behind the comma at `cursor`. Moves to the mark behind it, or
-// stays at the comma before the field.
-bool LinParser::StyleIsLeftOut(const char*& cursor) {
-    if (!policy_.looseForm) {
-        return false;
-    }
-    const char* const start = LinLineReader::PastBlanks(cursor + 1);
-    const bool isEmpty = *start == ',' || *start == ']';
-    const bool isField = *start != 0 && *LinLineReader::PastBlanks(start + 1) == '=';
-    if (isEmpty || isField) {
-        Forgive(LinFaultKind::kStyleLeftOut, start);
-        cursor = isEmpty ? start : cursor;
-    }
-    return isEmpty || isField;
-}
-
-LinResult LinParser::ParseShapeElement(const char*& cursor, ComplexElement& element) {
-    const char* const nameStart = cursor;
-    for (; *cursor != ','; ++cursor) {
-        if (*cursor == 0 || *cursor == ']') {
-            return SyntaxError(LinFaultKind::kShapeNameNotClosed, cursor);
-        }
-    }
-    element.shapeName = WithoutBlanks(nameStart, cursor);
-    std::transform(element.shapeName.begin(), element.shapeName.end(), element.shapeName.begin(),
-                   [](char c) { return UpperCase(c); });
-    const char* const fileStart = ++cursor;
-    for (; *cursor != ',' && *cursor != ']'; ++cursor) {
-        if (*cursor == 0) {
-            return SyntaxError(LinFaultKind::kShapeFileNotClosed, cursor);
-        }
-    }
-    if (cursor == fileStart) {
-        return SyntaxError(LinFaultKind::kShapeFileEmpty, cursor);
-    }
-    const std::string_view fileName = WithoutBlanks(fileStart, cursor);
-    if (fileName.empty()) {
-        return SyntaxError(LinFaultKind::kShapeFileEmpty, cursor);
-    }
-    if (const LinResult result = AnsiToWide(fileName, element.shapeFile); result != kSuccess) {
-        return Fault(result, LinFaultKind::kShapeFileNotConvertible);
-    }
-    MakeUpperCase(element.shapeFile);
-    return ParseTransform(cursor, element.transform);
-}
-
-void LinParser::NoteCharacterCodes(const std::string& text, const char* at) {
-    if (!policy_.looseForm || text.find("\\U+") == std::string::npos) {
+// Logs "\U+" codes, which only a loose form reads.
+void NoteCharacterCodes(LinReading& reading, std::string_view text, std::string_view rest) {
+    if (!reading.policy.looseForm || text.find("\\U+") == std::string_view::npos) {
         return;
     }
     const std::wstring wide = platform::AnsiToWide(text);
     for (std::size_t mark = wide.find(L'\\'); mark != std::wstring::npos; mark = wide.find(L'\\', mark + 1)) {
         if (StartsWithUnicodeCode(std::wstring_view(wide).substr(mark))) {
-            Forgive(LinFaultKind::kCharacterCodeInText, at);
+            reading.Tolerate(LinErrorKind::kCharacterCodeInText, rest);
             return;
         }
     }
 }
 
-LinResult LinParser::ParseTransform(const char*& cursor, ElementTransform& transform) {
-    while (*cursor == ',') {
-        ++cursor;
-        SkipBlanks(cursor);
-        if (policy_.looseForm && *cursor == ']') {
-            Forgive(LinFaultKind::kCommaBeforeBracket, cursor);
-            break;
-        }
-        if (const LinResult result = ParseTransformField(cursor, transform); result != kSuccess) {
-            return result;
-        }
-        SkipBlanks(cursor);
-    }
-    return kSuccess;
-}
-
-LinResult LinParser::ParseTransformField(const char*& cursor, ElementTransform& transform) {
-    char letter = UpperCase(*cursor);
-    if (letter == 'U' && policy_.looseForm) {
+// From the letter of a field to behind its value and unit.
+LinResult ReadTransformField(LinReading& reading, TextCursor& cursor, ElementTransform& transform) {
+    char letter = platform::AsciiUpper(cursor.Peek());
+    if (letter == 'U' && reading.policy.looseForm) {
         // "Upright": the angle to the line, kept readable. The last of it and "R" counts.
-        Forgive(LinFaultKind::kUprightRotation, cursor);
+        reading.Tolerate(LinErrorKind::kUprightRotation, cursor.Rest());
         letter = 'R';
     }
     double* const field = FieldOf(transform, letter);
     if (field == nullptr) {
-        return SyntaxError(LinFaultKind::kFieldUnknown, cursor);
+        return reading.SyntaxError(LinErrorKind::kFieldUnknown, cursor.Rest());
     }
     if (letter == 'A') {
         // Not the other way round: a rotation "R" behind an "A" leaves both set.
         transform.relativeRotation = 0.0;
     }
-    ++cursor;
-    SkipBlanks(cursor);
-    if (*cursor != '=') {
-        return SyntaxError(LinFaultKind::kFieldWithoutEqualsSign, cursor);
+    cursor.Skip();
+    reading.SkipBlanks(cursor);
+    if (cursor.Peek() != '=') {
+        return reading.SyntaxError(LinErrorKind::kFieldWithoutEqualsSign, cursor.Rest());
     }
-    ++cursor;
-    const encoding::NumberReading number = encoding::ReadNumber(cursor);
+    cursor.Skip();
+    const encoding::NumberReading number = encoding::ScanNumber(cursor.Rest());
     if (number.used == 0) {
-        return SyntaxError(LinFaultKind::kFieldNotANumber, cursor);
+        return reading.SyntaxError(LinErrorKind::kFieldNotANumber, cursor.Rest());
     }
     *field = number.value;
-    cursor += number.used;
-    if (IsUnit(*cursor)) {
+    cursor.Skip(number.used);
+    if (IsUnit(cursor.Peek())) {
         if (letter != 'A' && letter != 'R') {
-            return SyntaxError(LinFaultKind::kFieldTakesNoUnit, cursor);
+            return reading.SyntaxError(LinErrorKind::kFieldTakesNoUnit, cursor.Rest());
         }
-        *field = ToDegrees(*field, *cursor);
-        ++cursor;
+        *field = ToDegrees(*field, cursor.Peek());
+        cursor.Skip();
     }
+    return kSuccess;
+}
+
+// From behind a style or shape file to the "]".
+LinResult ReadTransform(LinReading& reading, TextCursor& cursor, ElementTransform& transform) {
+    while (cursor.Peek() == ',') {
+        cursor.Skip();
+        reading.SkipBlanks(cursor);
+        if (reading.policy.looseForm && cursor.Peek() == ']') {
+            reading.Tolerate(LinErrorKind::kCommaBeforeBracket, cursor.Rest());
+            break;
+        }
+        if (const LinResult result = ReadTransformField(reading, cursor, transform); result != kSuccess) {
+            return result;
+        }
+        reading.SkipBlanks(cursor);
+    }
+    return kSuccess;
+}
+
+// Whether nothing, or at once a field, stands behind the comma at the cursor. Moves to the mark behind it, or
+// stays at the comma before the field.
+bool IsStyleLeftOut(LinReading& reading, TextCursor& cursor) {
+    if (!reading.policy.looseForm) {
+        return false;
+    }
+    const std::string_view start = PastBlanks(cursor.Rest().substr(1));
+    const bool isEmpty = start.starts_with(',') || start.starts_with(']');
+    const bool isField = !start.empty() && PastBlanks(start.substr(1)).starts_with('=');
+    if (isEmpty || isField) {
+        reading.Tolerate(LinErrorKind::kStyleLeftOut, start);
+    }
+    if (isEmpty) {
+        cursor.Skip(cursor.Rest().size() - start.size());
+    }
+    return isEmpty || isField;
+}
+
+// From the comma before the style to the mark behind it.
+LinResult ReadStyle(LinReading& reading, TextCursor& cursor, ComplexElement& element) {
+    cursor.Skip();
+    const std::string_view rest = cursor.Rest();
+    const std::string_view name = cursor.TakeUpTo(",]=");
+    if (cursor.AtEnd() || cursor.Peek() == '=') {
+        return reading.SyntaxError(LinErrorKind::kStyleNameNotClosed, cursor.Rest());
+    }
+    if (name.empty()) {
+        return reading.SyntaxError(LinErrorKind::kStyleNameEmpty, cursor.Rest());
+    }
+    if (const LinResult result = AnsiToWide(NameIn(reading, name, rest), element.styleName);
+        result != kSuccess) {
+        return reading.Error(result, LinErrorKind::kStyleNameNotConvertible);
+    }
+    MakeUpperCase(element.styleName);
+    return kSuccess;
+}
+
+// From behind the opening quote to the "]".
+LinResult ReadText(LinReading& reading, TextCursor& cursor, ComplexElement& element) {
+    const std::string_view rest = cursor.Rest();
+    const std::size_t quote = platform::FindInMultiByte(rest, '"');
+    if (quote == std::string_view::npos) {
+        return reading.SyntaxError(LinErrorKind::kTextNotClosed, rest);
+    }
+    element.text = rest.substr(0, quote);
+    NoteCharacterCodes(reading, element.text, rest);
+    cursor.Skip(quote + 1);
+    reading.SkipBlanks(cursor);
+    if (cursor.Peek() == ']') {
+        // Required: R34
+        element.styleName = kStandardStyle;
+        if (reading.policy.looseForm && !cursor.Rest().substr(1).starts_with(']')) {
+            reading.Tolerate(LinErrorKind::kStyleLeftOut, cursor.Rest());
+            return kSuccess;
+        }
+        cursor.Skip();
+        return kSuccess;
+    }
+    if (cursor.Peek() != ',') {
+        return reading.SyntaxError(LinErrorKind::kTextNotFollowedByStyle, cursor.Rest());
+    }
+    if (IsStyleLeftOut(reading, cursor)) {
+        element.styleName = kStandardStyle;
+    } else if (const LinResult result = ReadStyle(reading, cursor, element); result != kSuccess) {
+        return result;
+    }
+    return ReadTransform(reading, cursor, element.transform);
+}
+
+// From behind the "[" to the "]".
+LinResult ReadShape(LinReading& reading, TextCursor& cursor, ComplexElement& element) {
+    std::string_view rest = cursor.Rest();
+    const std::string_view shapeName = cursor.TakeUpTo(",]");
+    if (cursor.Peek() != ',') {
+        return reading.SyntaxError(LinErrorKind::kShapeNameNotClosed, cursor.Rest());
+    }
+    element.shapeName = NameIn(reading, shapeName, rest);
+    std::transform(element.shapeName.begin(), element.shapeName.end(), element.shapeName.begin(),
+                   [](char c) { return platform::AsciiUpper(c); });
+    cursor.Skip();
+    rest = cursor.Rest();
+    const std::string_view fileName = cursor.TakeUpTo(",]");
+    if (cursor.AtEnd()) {
+        return reading.SyntaxError(LinErrorKind::kShapeFileNotClosed, cursor.Rest());
+    }
+    if (fileName.empty()) {
+        return reading.SyntaxError(LinErrorKind::kShapeFileEmpty, cursor.Rest());
+    }
+    const std::string_view trimmed = NameIn(reading, fileName, rest);
+    if (trimmed.empty()) {
+        return reading.SyntaxError(LinErrorKind::kShapeFileEmpty, cursor.Rest());
+    }
+    if (const LinResult result = AnsiToWide(trimmed, element.shapeFile); result != kSuccess) {
+        return reading.Error(result, LinErrorKind::kShapeFileNotConvertible);
+    }
+    MakeUpperCase(element.shapeFile);
+    return ReadTransform(reading, cursor, element.transform);
+}
+
+// From the "[" to behind the "]".
+LinResult ReadComplexElement(LinReading& reading, TextCursor& cursor, LinElement& element) {
+    element.complex = std::make_unique<ComplexElement>();
+    cursor.Skip();
+    reading.SkipBlanks(cursor);
+    const bool isText = cursor.Peek() == '"';
+    if (isText) {
+        cursor.Skip();
+    }
+    const LinResult result =
+        isText ? ReadText(reading, cursor, *element.complex) : ReadShape(reading, cursor, *element.complex);
+    if (result != kSuccess) {
+        return result;
+    }
+    element.kind = isText ? kText : kShape;
+    if (cursor.Peek() != ']') {
+        // Behind a "]" already, a text went without a style.
+        return reading.SyntaxError(cursor.Previous() == ']' ? LinErrorKind::kTextWithoutStyle
+                                                            : LinErrorKind::kElementNotClosed,
+                                   cursor.Rest());
+    }
+    cursor.Skip();
+    return kSuccess;
+}
+
+} // namespace
+
+LinResult ReadElement(LinReading& reading, TextCursor& cursor, LinElement& element) {
+    if (PastBlanks(cursor.Rest()).starts_with('[')) {
+        reading.SkipBlanks(cursor);
+    }
+    if (cursor.Peek() == '[') {
+        return ReadComplexElement(reading, cursor, element);
+    }
+    const encoding::NumberReading number = encoding::ScanNumber(cursor.Rest());
+    if (number.used == 0) {
+        return reading.SyntaxError(LinErrorKind::kDashNotANumber, cursor.Rest());
+    }
+    element.kind = kDash;
+    element.length = number.value;
+    cursor.Skip(number.used);
     return kSuccess;
 }
 

@@ -18,11 +18,11 @@ constexpr std::size_t kPathPartBufferSize = 256;
 /// a directory, a name and two extensions with room to spare. A longer path is not tried.
 constexpr std::size_t kPathBufferSize = 1542;
 
-/// Bytes of a linetype's name that a fault keeps: the longest that a strict reading finds.
-constexpr std::size_t kLongestNameInFault = kLineBufferSize - 2;
+/// Bytes of a linetype's name that an error keeps: the longest that a strict reading finds.
+constexpr std::size_t kLongestNameInError = kLineBufferSize - 2;
 
-/// Bytes of a line's text that a fault keeps.
-constexpr std::size_t kLongestTextInFault = kLineBufferSize - 1;
+/// Bytes of a line's text that an error keeps.
+constexpr std::size_t kLongestTextInError = kLineBufferSize - 1;
 
 /// The most decimal digits that follow "%%" as one character code.
 constexpr std::size_t kCharacterCodeDigits = 3;

@@ -1,6 +1,7 @@
 // Names in linetype files: narrow to wide, upper case, and their order.
 #include "StyleConversion/linetype/LinNames.h"
 
+#include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/CodePage.h"
 
 #include <algorithm>
@@ -10,18 +11,14 @@
 namespace LineConverter {
 namespace {
 
-constexpr std::uint32_t kFirstSurrogate = 0xD800;
-constexpr std::uint32_t kFirstLowSurrogate = 0xDC00;
-constexpr std::uint32_t kFirstSupplementary = 0x10000;
-
 bool IsSupplementary(wchar_t c) {
-    return static_cast<std::uint32_t>(c) >= kFirstSupplementary;
+    return static_cast<std::uint32_t>(c) >= platform::kFirstSupplementary;
 }
 
 // The first of the character's one or two UTF-16 units.
 std::uint32_t FirstUnit(wchar_t c) {
     const auto code = static_cast<std::uint32_t>(c);
-    return code < kFirstSupplementary ? code : kFirstSurrogate + ((code - kFirstSupplementary) >> 10);
+    return IsSupplementary(c) ? platform::HighSurrogateOf(code) : code;
 }
 
 // Two supplementary characters with the same first unit sort by the second, which is by their codes.
@@ -40,7 +37,7 @@ LinResult AnsiToWide(std::string_view narrow, std::wstring& wide) {
         return kSuccess;
     }
     try {
-        platform::AnsiToWide(narrow, wide);
+        platform::ThreadAnsiToWide(narrow, wide);
     } catch (const std::bad_alloc&) {
         return kOutOfMemory;
     }
@@ -49,22 +46,14 @@ LinResult AnsiToWide(std::string_view narrow, std::wstring& wide) {
 
 void MakeUpperCase(std::wstring& text) {
     for (wchar_t& c : text) {
-        c = UpperCase(c);
+        c = platform::AsciiUpper(c);
     }
 }
 
 std::wstring ToUtf16Units(std::wstring_view text) {
     std::wstring units;
     units.reserve(text.size());
-    for (const wchar_t c : text) {
-        if (IsSupplementary(c)) {
-            const std::uint32_t offset = static_cast<std::uint32_t>(c) - kFirstSupplementary;
-            units += static_cast<wchar_t>(FirstUnit(c));
-            units += static_cast<wchar_t>(kFirstLowSurrogate + (offset & 0x3FF));
-        } else {
-            units += c;
-        }
-    }
+    platform::ForEachUtf16Unit(text, [&units](std::uint16_t unit) { units += static_cast<wchar_t>(unit); });
     return units;
 }
 

@@ -9,17 +9,12 @@
 
 namespace LineConverter {
 
+/// The text style of texts that name none.
+inline constexpr const wchar_t* kStandardStyle = L"STANDARD";
+
 /// Converts bytes in the code page in force. kCannotConvert when text becomes nothing, kOutOfMemory when
 /// memory runs out; an empty text is converted to an empty one.
 LinResult AnsiToWide(std::string_view narrow, std::wstring& wide);
-
-/// `c` in upper case where it is one of a to z.
-constexpr char UpperCase(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-constexpr wchar_t UpperCase(wchar_t c) {
-    return c >= L'a' && c <= L'z' ? static_cast<wchar_t>(c - L'a' + L'A') : c;
-}
 
 /// Turns a to z into upper case, in place, and no other letters.
 void MakeUpperCase(std::wstring& text);

@@ -1,15 +1,16 @@
 // How far a linetype file may stray from its form and still be read.
 #pragma once
 
+#include "StyleConversion/linetype/LinResult.h"
 #include "StyleConversion/shx/ShapeFilePolicy.h"
 
 namespace LineConverter {
 
-/// By default nothing is forgiven, and the first fault ends a reading. Whatever else is forgiven is told to
-/// the fault log: a reading that forgives and finds nothing to tell gives what a strict one gives.
+/// By default nothing is tolerated, and the first error ends a reading. Whatever else is tolerated goes to
+/// the error log: a tolerant reading that logs nothing gives what a strict one gives.
 struct LinPolicy {
-    /// A fault loses its linetype and no other.
-    bool faultsStayLocal = false;
+    /// An error loses its linetype and no other.
+    bool errorsStayLocal = false;
     /// A line is one line, however long.
     bool linesOfAnyLength = false;
     /// Forms that people write and whose meaning is plain: blanks around marks, a lower-case alignment
@@ -21,6 +22,11 @@ struct LinPolicy {
     /// Of the shape files that linetypes name.
     ShxUtility::ShapeFilePolicy shapeFiles;
 };
+
+/// Whether a result ends everything.
+constexpr bool EndsReading(const LinPolicy& policy, LinResult result) {
+    return result != kSuccess && (!policy.errorsStayLocal || result == kOutOfMemory);
+}
 
 inline constexpr LinPolicy kTolerantLinPolicy{true, true, true, true, ShxUtility::kTolerantShapeFilePolicy};
 

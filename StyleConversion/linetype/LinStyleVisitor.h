@@ -1,19 +1,11 @@
 // What a walk over parsed linetypes calls.
 #pragma once
 
-#include "StyleConversion/linetype/FontInfo.h"
-#include "StyleConversion/linetype/LinNames.h"
-#include "StyleConversion/linetype/LinetypeRecord.h"
-#include "StyleConversion/shx/ShxUtility.h"
+#include "StyleConversion/linetype/LinetypeFile.h"
 
-#include <map>
 #include <string>
 
 namespace LineConverter {
-
-/// The text styles and SHX files of a linetype file, by name in upper case.
-using FontInfoMap = std::map<std::wstring, FontInfo, Utf16Less>;
-using ShapeFileMap = std::map<std::wstring, ShxUtility::ShapesInFile, Utf16Less>;
 
 /// Is shown linetypes in file order and each one's elements in pattern order. Lengths are in the file's
 /// units; everything is borrowed and lives until the walk ends.

@@ -1,20 +1,71 @@
-// Shows the linetypes of a file to a visitor.
-#include "StyleConversion/linetype/LinParser.h"
+// One call of the visitor for each element.
+#include "StyleConversion/linetype/LinWalk.h"
+
+#include <cstddef>
 
 namespace LineConverter {
+namespace {
 
-LinResult LinParser::Accept(LinStyleVisitor& visitor) {
+void ShowDash(double length, LinStyleVisitor& visitor) {
+    if (length < 0) {
+        visitor.Gap(-length);
+    } else if (length > 0) {
+        visitor.Dash(length);
+    } else {
+        visitor.Dot();
+    }
+}
+
+// False where its file is missing or a font.
+bool ShowShape(const LinetypeFile& file, const ComplexElement& shape, LinStyleVisitor& visitor) {
+    const auto found = file.shapeFiles.find(shape.shapeFile);
+    if (found == file.shapeFiles.end() || found->second.kind != ShxUtility::kShapes) {
+        return false;
+    }
+    visitor.Shape(shape.shapeName, shape.transform, found->second);
+    return true;
+}
+
+void ShowText(const LinetypeFile& file, const ComplexElement& text, LinStyleVisitor& visitor) {
+    if (const auto found = file.fontInfos.find(text.styleName); found != file.fontInfos.end()) {
+        visitor.Text(text.text, text.transform, found->second, file.shapeFiles);
+    }
+}
+
+LinResult ShowElement(const LinetypeFile& file, const LinElement& element, LinStyleVisitor& visitor,
+                      LinErrorLog& errors) {
+    switch (element.kind) {
+    case kDash:
+        ShowDash(element.length, visitor);
+        return kSuccess;
+    case kShape:
+        if (!ShowShape(file, *element.complex, visitor)) {
+            errors.Add(kShapeFileNotLoaded, LinErrorKind::kNotAShapeFile).subject =
+                element.complex->shapeFile;
+            return kShapeFileNotLoaded;
+        }
+        return kSuccess;
+    case kText:
+        ShowText(file, *element.complex, visitor);
+        return kSuccess;
+    case kNone:
+        return kSuccess;
+    }
+    return kSuccess;
+}
+
+} // namespace
+
+LinResult Walk(const LinetypeFile& file, LinStyleVisitor& visitor, LinErrorLog& errors) {
     LinResult result = kSuccess;
     visitor.Begin();
-    for (std::size_t linetype = 0; linetype < linetypes_.size(); ++linetype) {
-        const LinetypeRecord& record = linetypes_[linetype];
-        faultLog_.EnterPlace({policy_.faultsStayLocal ? HeaderLine(linetype) : 0, &record, 0});
-        visitor.BeginLinetype(record, record.description, static_cast<int>(record.elements.size()));
+    for (const LinetypeRecord& linetype : file.linetypes) {
+        errors.EnterPlace({linetype.line, &linetype, 0});
+        visitor.BeginLinetype(linetype, linetype.description, static_cast<int>(linetype.elements.size()));
         std::size_t number = 0;
-        for (const LinElement& element : record.elements) {
-            faultLog_.EnterPlace({ElementLine(linetype, number), &record, number + 1});
-            ++number;
-            if (!WalkElement(element, visitor)) {
+        for (const LinElement& element : linetype.elements) {
+            errors.EnterPlace({element.line, &linetype, ++number});
+            if (ShowElement(file, element, visitor, errors) != kSuccess) {
                 result = kShapeFileNotLoaded;
             }
         }
@@ -22,37 +73,6 @@ LinResult LinParser::Accept(LinStyleVisitor& visitor) {
     }
     visitor.End();
     return result;
-}
-
-bool LinParser::WalkElement(const LinElement& element, LinStyleVisitor& visitor) {
-    switch (element.kind) {
-    case kDash:
-        if (element.length < 0) {
-            visitor.Gap(-element.length);
-        } else if (element.length > 0) {
-            visitor.Dash(element.length);
-        } else {
-            visitor.Dot();
-        }
-        return true;
-    case kShape: {
-        const auto found = shapeFiles_.find(element.complex->shapeFile);
-        if (found == shapeFiles_.end() || found->second.kind != ShxUtility::kShapes) {
-            Fault(kShapeFileNotLoaded, LinFaultKind::kNotAShapeFile, element.complex->shapeFile);
-            return false;
-        }
-        visitor.Shape(element.complex->shapeName, element.complex->transform, found->second);
-        return true;
-    }
-    case kText:
-        if (const auto found = fontInfos_.find(element.complex->styleName); found != fontInfos_.end()) {
-            visitor.Text(element.complex->text, element.complex->transform, found->second, shapeFiles_);
-        }
-        return true;
-    case kNone:
-        return true;
-    }
-    return true;
 }
 
 } // namespace LineConverter

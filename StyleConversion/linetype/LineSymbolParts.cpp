@@ -11,6 +11,11 @@ namespace {
 using TylModel::Parameter;
 using TylModel::SimpleSymbolDefinition;
 
+// What the parameters stand for, in the numbers of the symbol model.
+constexpr int kLineColorType = 7;
+constexpr int kLineWeightType = 8;
+constexpr int kTextColorType = 23;
+
 // The strings of a parameter, made once: every linetype has two of them.
 struct ParameterStrings {
     std::wstring identifier;
@@ -19,32 +24,31 @@ struct ParameterStrings {
     std::wstring defaultValue;
 };
 
-void AddParameter(SimpleSymbolDefinition& definition, const ParameterStrings& strings,
-                  Parameter::DataType type) {
+void AddParameter(SimpleSymbolDefinition& definition, const ParameterStrings& strings, int type) {
     auto parameter = std::make_unique<Parameter>();
     parameter->SetIdentifier(strings.identifier);
     parameter->SetDisplayName(strings.displayName);
     parameter->SetDescription(strings.description);
     parameter->SetDefaultValue(strings.defaultValue);
-    parameter->SetDataType(type);
-    definition.GetParameterDefinition().Adopt(parameter.release());
+    parameter->SetDataType(static_cast<Parameter::DataType>(type));
+    host::Adopt(definition.GetParameterDefinition(), std::move(parameter));
 }
 
 } // namespace
 
 void AddLineColorParameter(SimpleSymbolDefinition& definition) {
     static const ParameterStrings strings{L"LINECOLOR", L"Line &Color", L"Line Color", L"ff000000"};
-    AddParameter(definition, strings, Parameter::kLineColor);
+    AddParameter(definition, strings, kLineColorType);
 }
 
 void AddLineWeightParameter(SimpleSymbolDefinition& definition) {
     static const ParameterStrings strings{L"LINEWEIGHT", L"Line &Thickness", L"Line Thickness", L"0.0"};
-    AddParameter(definition, strings, Parameter::kLineWeight);
+    AddParameter(definition, strings, kLineWeightType);
 }
 
 void AddTextColorParameter(SimpleSymbolDefinition& definition) {
     static const ParameterStrings strings{L"TEXTCOLOR", L"&Text Color", L"Text Color", L"ff000000"};
-    AddParameter(definition, strings, Parameter::kTextColor);
+    AddParameter(definition, strings, kTextColorType);
 }
 
 void AddLinePath(SimpleSymbolDefinition& definition, const std::wstring& geometry) {
@@ -56,7 +60,7 @@ void AddLinePath(SimpleSymbolDefinition& definition, const std::wstring& geometr
     path->SetLineColor(lineColor);
     path->SetLineWeight(lineWeight);
     path->SetLineWeightScalable(no);
-    definition.GetGraphics().Adopt(path.release());
+    host::Adopt(definition.GetGraphics(), std::move(path));
 }
 
 SimpleSymbolDefinition& AddMember(TylModel::CompoundSymbolDefinition& compound, const std::wstring& name) {
@@ -65,23 +69,19 @@ SimpleSymbolDefinition& AddMember(TylModel::CompoundSymbolDefinition& compound, 
     definition->SetName(name);
     SimpleSymbolDefinition& adopted = *definition;
     member->AdoptSymbolDefinition(definition.release());
-    compound.GetSymbols().Adopt(member.release());
+    host::Adopt(compound.GetSymbols(), std::move(member));
     return adopted;
 }
 
 TylModel::LineUsage& AddLineUsage(SimpleSymbolDefinition& definition) {
     definition.AdoptLineUsage(std::make_unique<TylModel::LineUsage>().release());
-    return *definition.GetLineUsage();
+    return host::Referred(definition.GetLineUsage());
 }
 
 void FixAngle(TylModel::LineUsage& usage, double angle, double startOffset) {
-    usage.SetAngle(NumberText(angle));
-    usage.SetAngleControl(L"'FromAngle'");
-    usage.SetStartOffset(NumberText(startOffset));
-}
-
-std::wstring NumberText(double value) {
-    return encoding::FormatNumber(value);
+    usage.SetAngle(encoding::FormatNumber(angle));
+    usage.SetAngleControl(std::wstring(L"'FromAngle'"));
+    usage.SetStartOffset(encoding::FormatNumber(startOffset));
 }
 
 } // namespace LineConverter

@@ -1,7 +1,7 @@
 // The parts that line symbols are put together from.
 #pragma once
 
-#include "TylModel/TylModel.h"
+#include "StyleConversion/interfaces/HostNames.h"
 
 #include <memory>
 #include <string>
@@ -27,8 +27,5 @@ TylModel::LineUsage& AddLineUsage(TylModel::SimpleSymbolDefinition& definition);
 /// Lets a usage hold an angle against the drawing instead of the line (degrees), `startOffset` along the
 /// line.
 void FixAngle(TylModel::LineUsage& usage, double angle, double startOffset);
-
-/// "%.15g" of the value.
-std::wstring NumberText(double value);
 
 } // namespace LineConverter

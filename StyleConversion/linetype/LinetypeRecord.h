@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <limits>
 #include <memory>
-#include <memory_resource>
 #include <string>
 #include <vector>
 
@@ -48,6 +47,8 @@ struct ComplexElement {
 /// One element of a pattern. Most of them are dashes, and so a dash is small.
 struct LinElement {
     LinElementKind kind = kNone;
+    /// Where it stands in the file, from 1.
+    std::uint32_t line = 0;
     /// Of a dash: positive drawn, negative a gap, 0 a dot.
     double length = 0.0;
     /// Of a shape or text, also while it is still being read; null of a dash.
@@ -55,16 +56,14 @@ struct LinElement {
 };
 
 struct LinetypeRecord {
-    /// The elements come from `memory`, which is borrowed.
-    explicit LinetypeRecord(std::pmr::memory_resource* memory = std::pmr::get_default_resource())
-        : elements(memory) {}
-
+    /// Where the header stands in the file, from 1.
+    std::uint32_t line = 0;
     /// The header's bytes between the "*" and the first comma, as written.
     std::string name;
     /// The header's bytes after that comma; empty where there is none.
     std::string description;
     /// In pattern order.
-    std::pmr::vector<LinElement> elements;
+    std::vector<LinElement> elements;
 };
 
 } // namespace LineConverter

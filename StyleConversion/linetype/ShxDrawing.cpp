@@ -30,19 +30,12 @@ constexpr std::array<Substitutes, 3> kSubstitutes{{
 
 ShxUtility::ShxResult DrawShxShape(std::wstring& path, ShxPen& pen, const Shape& shape,
                                    const ShapesInFile& file) {
-    ShxUtility::ShapeInstructions instructions;
-    // Two-byte subshape numbers are read as one byte here even in a unifont file: the output is wanted so.
-    const ShxUtility::ShxResult decoded = ShxUtility::DecodeShape(
-        instructions, shape.data.data(), static_cast<std::uint16_t>(shape.data.size()), ShxUtility::kShapes);
-    if (decoded != ShxUtility::kSuccess) {
-        return decoded;
-    }
-    double scale = pen.scale;
-    ShxUtility::PositionStack positionStack;
-    std::vector<std::uint16_t> activeSubshapes;
-    bool penDown = true;
-    return ShxUtility::DrawShape(path, pen.x, pen.y, scale, positionStack, activeSubshapes, penDown,
-                                 instructions, file, pen.rotation, pen.vertical);
+    const double scale = pen.scale;
+    // Required: R31
+    const ShxUtility::ShxResult result =
+        ShxUtility::DrawGlyph(file, shape.number, ShxUtility::kShapes, pen, path);
+    pen.scale = scale;
+    return result;
 }
 
 const Shape* FindGlyph(const ShapesInFile& file, wchar_t character) {

@@ -7,19 +7,10 @@
 
 namespace LineConverter {
 
-/// Where and how a shape is drawn. Drawing moves the point to where the pen ended.
-struct ShxPen {
-    double x = 0.0;
-    double y = 0.0;
-    /// Path units per shape unit.
-    double scale = 1.0;
-    /// Degrees, counter-clockwise.
-    double rotation = 0.0;
-    bool vertical = false;
-};
+struct ShxPen : ShxUtility::GlyphPen {};
 
-/// Appends the path of one shape of `file`, with a pen of its own but for the point. After a failure `path`
-/// and the point are no more than a part of it.
+/// Appends the path of one shape of `file` as linetypes draw it: the point goes on to the next shape, the
+/// scale does not. After a failure `path` and the point are no more than a part of it.
 ShxUtility::ShxResult DrawShxShape(std::wstring& path, ShxPen& pen, const ShxUtility::Shape& shape,
                                    const ShxUtility::ShapesInFile& file);
 

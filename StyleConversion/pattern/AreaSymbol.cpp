@@ -2,6 +2,7 @@
 #include "StyleConversion/pattern/AreaSymbol.h"
 
 #include "StyleConversion/encoding/TrimmedNumber.h"
+#include "StyleConversion/interfaces/HostNames.h"
 #include "StyleConversion/pattern/LinePath.h"
 #include "StyleConversion/pattern/PatternLimits.h"
 #include "StyleConversion/platform/CodePage.h"
@@ -15,6 +16,10 @@ namespace {
 
 using TylModel::SimpleSymbolDefinition;
 using TylModel::SymbolDefinition;
+
+// What the parameters stand for, in the numbers of the symbol model.
+constexpr int kAngleType = 5;
+constexpr int kFillColorType = 6;
 
 const std::wstring kHatchColor = L"HATCHCOLOR";
 const std::wstring kHatchColorReference = L"%HATCHCOLOR%";
@@ -62,30 +67,25 @@ bool IsDrawnBefore(const PatternLine& first, const PatternLine& second) {
 
 void AdoptParameter(SimpleSymbolDefinition& definition, const std::wstring& identifier,
                     const std::wstring& defaultValue, const std::wstring& displayName,
-                    const std::wstring& description, TylModel::Parameter::DataType type) {
+                    const std::wstring& description, int type) {
     auto parameter = std::make_unique<TylModel::Parameter>();
     parameter->SetIdentifier(identifier);
     parameter->SetDefaultValue(defaultValue);
     parameter->SetDisplayName(displayName);
     parameter->SetDescription(description);
-    parameter->SetDataType(type);
-    definition.GetParameterDefinition().Adopt(parameter.release());
+    parameter->SetDataType(static_cast<TylModel::Parameter::DataType>(type));
+    host::Adopt(definition.GetParameterDefinition(), std::move(parameter));
 }
 
 void AdoptUsage(SimpleSymbolDefinition& definition, const Tile& tile) {
     auto usage = std::make_unique<TylModel::AreaUsage>();
-    std::wstring text = kHatchAngleReference; // whose storage does for the others too
+    std::wstring angle = kHatchAngleReference;
     if (tile.angle != 0) {
-        text += L'+';
-        encoding::AppendTrimmed(text, tile.angle);
+        angle += L'+' + encoding::Double2TrimmedString(tile.angle);
     }
-    usage->SetAngle(text);
-    text.clear();
-    encoding::AppendTrimmed(text, tile.width);
-    usage->SetRepeatX(text);
-    text.clear();
-    encoding::AppendTrimmed(text, tile.height);
-    usage->SetRepeatY(text);
+    usage->SetAngle(angle);
+    usage->SetRepeatX(encoding::Double2TrimmedString(tile.width));
+    usage->SetRepeatY(encoding::Double2TrimmedString(tile.height));
     definition.AdoptAreaUsage(usage.release());
 }
 
@@ -95,9 +95,9 @@ std::unique_ptr<SimpleSymbolDefinition> MakeDefinition(const std::wstring& name,
     definition->SetName(name);
     AdoptUsage(*definition, tile);
     AdoptParameter(*definition, kHatchColor, kHatchColorDefault, kHatchColorDisplayName,
-                   kHatchColorDescription, TylModel::Parameter::kFillColor);
+                   kHatchColorDescription, kFillColorType);
     AdoptParameter(*definition, kHatchAngle, kHatchAngleDefault, kHatchAngleDisplayName,
-                   kHatchAngleDescription, TylModel::Parameter::kAngle);
+                   kHatchAngleDescription, kAngleType);
     return definition;
 }
 
@@ -105,7 +105,7 @@ void AdoptPath(SimpleSymbolDefinition& definition, const std::wstring& geometry)
     auto path = std::make_unique<TylModel::Path>();
     path->SetGeometry(geometry);
     path->SetLineColor(kHatchColorReference);
-    definition.GetGraphics().Adopt(path.release());
+    host::Adopt(definition.GetGraphics(), std::move(path));
 }
 
 std::unique_ptr<SymbolDefinition>
@@ -115,7 +115,7 @@ MakeCompound(const std::wstring& name, std::vector<std::unique_ptr<SimpleSymbolD
     for (std::unique_ptr<SimpleSymbolDefinition>& definition : definitions) {
         auto symbol = std::make_unique<TylModel::SimpleSymbol>();
         symbol->AdoptSymbolDefinition(definition.release());
-        compound->GetSymbols().Adopt(symbol.release());
+        host::Adopt(compound->GetSymbols(), std::move(symbol));
     }
     return compound;
 }
@@ -155,9 +155,8 @@ void AreaSymbolBuilder::Take(PatternLine& line) {
     previous_ = tile;
 }
 
-// A family whose angle and tile are all but 0 comes here before there is a group: its path will have no
-// symbol to go to, which is wanted. The blank is written even behind an empty path, but not for a family that
-// draws nothing.
+// The blank is written even behind an empty path, but not for a family that draws nothing.
+// Required: R36
 void AreaSymbolBuilder::JoinGroup(PatternLine& line) {
     path_ += L' ';
     const std::size_t start = path_.size();

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "StyleConversion/pattern/PatternLine.h"
-#include "TylModel/SymbolDefinition.h"
+#include "TylModel/TylModel.h"
 
 #include <memory>
 #include <string>
@@ -25,7 +25,8 @@ public:
     /// the ANSI code page.
     ///
     /// Sorts `lines`, and turns the origins of those that it draws in their own frame: another symbol made
-    /// from the same lines differs, which is wanted.
+    /// from the same lines differs.
+    /// Required: R37
     std::unique_ptr<TylModel::SymbolDefinition> Build(const std::string& name,
                                                       std::vector<PatternLine>& lines);
 

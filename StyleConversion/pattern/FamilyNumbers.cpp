@@ -3,26 +3,13 @@
 
 #include "StyleConversion/encoding/NumberReader.h"
 #include "StyleConversion/pattern/PatternLimits.h"
+#include "StyleConversion/platform/Characters.h"
 
 #include <algorithm>
 #include <cstddef>
 
 namespace pattern {
 namespace {
-
-bool IsBlank(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-std::string_view WithoutBlanks(std::string_view text) {
-    while (!text.empty() && IsBlank(text.front())) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && IsBlank(text.back())) {
-        text.remove_suffix(1);
-    }
-    return text;
-}
 
 void Append(FamilyNumbers& numbers, std::size_t index, double value) {
     if (index < numbers.leading.size()) {
@@ -43,15 +30,15 @@ void ReserveDashes(FamilyNumbers& numbers, std::size_t count) {
 }
 
 // One of each kind will do for a line.
-void AddSlip(std::vector<PatternSlip>& slips, PatternSlip::Kind kind, std::string_view text) {
-    if (std::any_of(slips.begin(), slips.end(),
-                    [&](const PatternSlip& known) { return known.kind == kind; })) {
+void AddError(std::vector<PatternError>& errors, PatternError::Kind kind, std::string_view text) {
+    if (std::any_of(errors.begin(), errors.end(),
+                    [&](const PatternError& known) { return known.kind == kind; })) {
         return;
     }
-    PatternSlip slip;
-    slip.kind = kind;
-    slip.text = text.substr(0, kLongestLine);
-    slips.push_back(std::move(slip));
+    PatternError error;
+    error.kind = kind;
+    error.subject = text.substr(0, kLongestLine);
+    errors.push_back(std::move(error));
 }
 
 } // namespace
@@ -70,31 +57,32 @@ FamilyNumbers ReadNumbers(std::string_view line) {
     return numbers;
 }
 
-FamilyNumbers ReadNumbersLoosely(std::string_view line, std::vector<PatternSlip>& slips) {
+FamilyNumbers ReadNumbersLoosely(std::string_view line, std::vector<PatternError>& errors) {
     FamilyNumbers numbers;
     const std::size_t remark = line.find(';');
     if (remark != std::string_view::npos) {
-        AddSlip(slips, PatternSlip::Kind::kRemarkBehind, line.substr(remark));
+        AddError(errors, PatternError::Kind::kRemarkBehind, line.substr(remark));
         line = line.substr(0, remark);
     }
     const std::size_t count = CountPieces(line);
     ReserveDashes(numbers, count);
     if (count < numbers.leading.size()) {
-        AddSlip(slips, PatternSlip::Kind::kTooFewNumbers, line);
+        AddError(errors, PatternError::Kind::kTooFewNumbers, line);
     }
     for (std::size_t i = 0; i < count; ++i) {
         const std::string_view piece = line.substr(0, line.find(','));
         const encoding::NumberReading reading = encoding::ReadNumber(piece);
-        const std::string_view behind = WithoutBlanks(piece.substr(reading.used));
+        const std::string_view behind = platform::WithoutBlanks(piece.substr(reading.used));
         if (reading.used == 0 && behind.empty()) {
-            AddSlip(slips, PatternSlip::Kind::kEmptyNumber, {});
+            AddError(errors, PatternError::Kind::kEmptyNumber, {});
             if (i >= numbers.leading.size()) {
                 break;
             }
         } else if (!behind.empty()) {
-            AddSlip(slips,
-                    reading.used == 0 ? PatternSlip::Kind::kNotANumber : PatternSlip::Kind::kTextBehindNumber,
-                    WithoutBlanks(piece));
+            AddError(errors,
+                     reading.used == 0 ? PatternError::Kind::kNotANumber
+                                       : PatternError::Kind::kTextBehindNumber,
+                     platform::WithoutBlanks(piece));
         }
         Append(numbers, i, reading.value);
         line.remove_prefix(std::min(line.size(), piece.size() + 1));

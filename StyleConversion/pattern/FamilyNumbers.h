@@ -1,7 +1,7 @@
 // The numbers on the line of a family, as text has them.
 #pragma once
 
-#include "StyleConversion/pattern/PatternSlip.h"
+#include "StyleConversion/pattern/PatternError.h"
 
 #include <array>
 #include <string_view>
@@ -22,7 +22,7 @@ FamilyNumbers ReadNumbers(std::string_view line);
 
 /// The same without a remark behind the numbers, and with a dash list that ends at an empty number. Adds what
 /// is not as it should be.
-FamilyNumbers ReadNumbersLoosely(std::string_view line, std::vector<PatternSlip>& slips);
+FamilyNumbers ReadNumbersLoosely(std::string_view line, std::vector<PatternError>& errors);
 
 /// Multiplies all but the angle.
 void ScaleLengths(FamilyNumbers& numbers, double factor);

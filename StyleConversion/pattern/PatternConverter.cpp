@@ -4,6 +4,8 @@
 #include "StyleConversion/pattern/AreaSymbol.h"
 #include "StyleConversion/pattern/PatternFile.h"
 #include "StyleConversion/platform/CodePage.h"
+#include "StyleConversion/platform/FileBytes.h"
+#include "StyleConversion/platform/Files.h"
 
 #include <utility>
 
@@ -16,8 +18,13 @@ void PatternConverter::LoadFile() {
     if (!descriptions_.empty()) {
         return;
     }
+    // A file that cannot be opened has no patterns; one that cannot be read to its end has those read before.
+    std::string bytes;
+    if (const platform::OwnedFile stream{platform::OpenForReading(fileName_.c_str())}) {
+        static_cast<void>(platform::ReadToEnd(stream.get(), bytes));
+    }
     pattern::PatternFile file;
-    pattern::ReadPatternFile(fileName_, file);
+    pattern::ParsePatternFile(bytes, file);
     descriptions_ = std::move(file.descriptions);
     patterns_ = std::move(file.patterns);
 }

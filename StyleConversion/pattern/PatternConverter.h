@@ -2,7 +2,7 @@
 #pragma once
 
 #include "StyleConversion/Export.h"
-#include "TylModel/SymbolDefinition.h"
+#include "TylModel/TylModel.h"
 
 #include <map>
 #include <string>
@@ -16,7 +16,7 @@ struct PatternLine;
 ///
 /// The file is read by the first operation that needs it and kept; later changes of the file are not seen.
 /// As long as a reading finds no pattern, the next operation reads again. A file that cannot be opened has no
-/// patterns, and a line of more than 127 characters ends the reading: the patterns before it stay.
+/// patterns, and the reading ends behind the first 127 characters of a line that is longer.
 ///
 /// Symbols are simple symbols with an area usage, or compounds of such where the families of lines of a
 /// pattern need different tiles. Their geometry is in the units of the file, angles are degrees
@@ -24,7 +24,13 @@ struct PatternLine;
 /// again from the same converter turns the origins of its lines again, and so gives other geometry, unless
 /// all its lines run at 0 degrees or lie in upright tiles.
 ///
-/// No operation throws but std::bad_alloc. A converter is used by one thread at a time.
+/// The default of HATCHCOLOR is the one colour with "0x" before its digits: "0xff000000".
+///
+/// Bytes of the file become wide by the ANSI code page: the system's on Windows, elsewhere that of
+/// platform::SetAnsiCodePage. File names are wide on Windows and UTF-8 on other systems.
+///
+/// No operation throws but std::bad_alloc. A converter is used by one thread at a time; converters on
+/// two threads do not disturb each other.
 class PatternConverter {
 public:
     /// Keeps the name and touches no file.

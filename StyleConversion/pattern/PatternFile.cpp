@@ -3,14 +3,11 @@
 
 #include "StyleConversion/encoding/NumberReader.h"
 #include "StyleConversion/pattern/FamilyNumbers.h"
-#include "StyleConversion/pattern/LineCursor.h"
 #include "StyleConversion/pattern/PatternLimits.h"
-#include "StyleConversion/platform/Files.h"
+#include "StyleConversion/pattern/TextModeLines.h"
+#include "StyleConversion/platform/Characters.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
-#include <memory>
 
 namespace pattern {
 namespace {
@@ -39,7 +36,7 @@ std::string UpperCaseLetters(std::string_view text) {
     std::string letters;
     for (const char c : text) {
         if (c != ' ' && c != '\t') {
-            letters += static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
+            letters += platform::AsciiUpper(c);
         }
     }
     return letters;
@@ -63,8 +60,6 @@ bool GiveTheSame(const FamilyNumbers& first, const FamilyNumbers& second) {
            MakePatternLine(FamilyNumbers(first)).dashes == MakePatternLine(FamilyNumbers(second)).dashes;
 }
 
-constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
-
 // Takes the lines of a file one after another.
 class PatternFileParser {
 public:
@@ -87,10 +82,10 @@ public:
         }
     }
 
-    void AddSlip(PatternSlip::Kind kind, std::size_t number, bool changes, std::string text = {}) {
+    void AddError(PatternError::Kind kind, std::size_t number, bool changes, std::string text = {}) {
         if (reading_ != nullptr) {
             const std::string name = current_ != nullptr ? current_->first.substr(0, kLongestLine) : "";
-            reading_->slips.push_back({kind, number, name, std::move(text), changes});
+            reading_->errors.push_back({kind, number, name, std::move(text), changes});
         }
     }
 
@@ -105,7 +100,7 @@ private:
             reading_->headerLines[current_->first].push_back(number);
         }
         if (hasRemark) {
-            AddSlip(PatternSlip::Kind::kRemarkBehind, number, ParseHeader(text).name != current_->first);
+            AddError(PatternError::Kind::kRemarkBehind, number, ParseHeader(text).name != current_->first);
         }
     }
 
@@ -132,12 +127,12 @@ private:
         // Before the first header a family of zeros is no harm.
         const bool isFamily = current_ != nullptr;
         if (rest.starts_with('*')) {
-            AddSlip(PatternSlip::Kind::kIndentedHeader, number, true);
+            AddError(PatternError::Kind::kIndentedHeader, number, true);
         } else if (!rest.empty() && rest.front() != ';') {
             return line; // blanks before a number count for nothing anyway
         } else if (isFamily) {
-            AddSlip(rest.empty() ? PatternSlip::Kind::kBlankLine : PatternSlip::Kind::kIndentedRemark, number,
-                    true);
+            AddError(rest.empty() ? PatternError::Kind::kBlankLine : PatternError::Kind::kIndentedRemark,
+                     number, true);
         }
         return rest;
     }
@@ -145,11 +140,11 @@ private:
     FamilyNumbers NumbersOf(std::string_view line, std::size_t number) {
         FamilyNumbers numbers;
         if (policy_.looseForm) {
-            std::vector<PatternSlip> slips;
-            numbers = ReadNumbersLoosely(line, slips);
-            const bool changes = !slips.empty() && !GiveTheSame(numbers, ReadNumbers(line));
-            for (PatternSlip& slip : slips) {
-                AddSlip(slip.kind, number, changes, std::move(slip.text));
+            std::vector<PatternError> errors;
+            numbers = ReadNumbersLoosely(line, errors);
+            const bool changes = !errors.empty() && !GiveTheSame(numbers, ReadNumbers(line));
+            for (PatternError& error : errors) {
+                AddError(error.kind, number, changes, std::move(error.subject));
             }
         } else {
             numbers = ReadNumbers(line);
@@ -163,7 +158,7 @@ private:
     // Prose before the first header is no harm.
     void NoteFamilyWithoutHeader(std::string_view line, std::size_t number) {
         if (policy_.looseForm && line.find(',') != line.npos && encoding::ReadNumber(line).used != 0) {
-            AddSlip(PatternSlip::Kind::kFamilyWithoutHeader, number, true);
+            AddError(PatternError::Kind::kFamilyWithoutHeader, number, true);
         }
     }
 
@@ -180,7 +175,7 @@ private:
         const bool differs = policy_.wantedUnit != Unit::kNone && policy_.wantedUnit != unit;
         factor_ = !differs ? 1.0 : unit == Unit::kInch ? kMillimetresPerInch : 1.0 / kMillimetresPerInch;
         if (differs) {
-            AddSlip(PatternSlip::Kind::kScaled, number, true);
+            AddError(PatternError::Kind::kScaled, number, true);
         }
     }
 
@@ -191,19 +186,6 @@ private:
     Patterns::value_type* current_ = nullptr; // null before the first header
 };
 
-struct CloseFile {
-    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
-};
-
-// False when an error of the device ends the reading; what came before it is there.
-bool ReadBytes(std::FILE* file, std::string& bytes) {
-    std::array<char, 65536> block; // not initialised: filled by the reading
-    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file)) {
-        bytes.append(block.data(), count);
-    }
-    return std::ferror(file) == 0;
-}
-
 } // namespace
 
 void ParsePatternFile(std::string_view bytes, PatternFile& file, PatternReading* reading,
@@ -213,33 +195,26 @@ void ParsePatternFile(std::string_view bytes, PatternFile& file, PatternReading*
         *reading = {};
     }
     PatternFileParser parser(file, reading, policy);
-    const bool hasMark = policy.looseForm && bytes.starts_with(kByteOrderMark);
-    LineCursor cursor(bytes.substr(hasMark ? kByteOrderMark.size() : 0));
+    const bool hasMark = policy.looseForm && platform::StartsWithByteOrderMark(bytes);
+    TextModeLines lines(hasMark ? platform::WithoutByteOrderMark(bytes) : bytes);
     const std::size_t longest = policy.linesOfAnyLength ? bytes.size() : kLongestLine;
     std::string_view line;
-    LineCursor::Step step = cursor.Next(longest, line);
+    TextModeLines::Step step = lines.Next(longest, line);
     if (hasMark && line.starts_with('*')) {
-        parser.AddSlip(PatternSlip::Kind::kByteOrderMark, 1, true);
+        parser.AddError(PatternError::Kind::kByteOrderMark, 1, true);
     }
-    for (; step == LineCursor::Step::kLine; step = cursor.Next(longest, line)) {
-        if (cursor.GetLineLength() > kLongestLine) {
-            parser.AddSlip(PatternSlip::Kind::kLongLine, cursor.GetLineNumber(), true);
+    for (; step == TextModeLines::Step::kLine; step = lines.Next(longest, line)) {
+        if (lines.GetLineLength() > kLongestLine) {
+            parser.AddError(PatternError::Kind::kLongLine, lines.GetLineNumber(), true);
         }
-        parser.TakeLine(line, cursor.GetLineNumber());
+        parser.TakeLine(line, lines.GetLineNumber());
     }
-    if (reading != nullptr && step == LineCursor::Step::kTooLong) {
+    if (step == TextModeLines::Step::kTooLong) {
+        parser.TakeLine(line, lines.GetLineNumber());
+    }
+    if (reading != nullptr && step == TextModeLines::Step::kTooLong) {
         reading->end = PatternReading::End::kLineTooLong;
-        reading->endLine = cursor.GetLineNumber();
-    }
-}
-
-void ReadPatternFile(const std::wstring& fileName, PatternFile& file, PatternReading* reading) {
-    const std::unique_ptr<std::FILE, CloseFile> stream(platform::OpenForReading(fileName.c_str()));
-    std::string bytes;
-    const bool complete = stream != nullptr && ReadBytes(stream.get(), bytes);
-    ParsePatternFile(bytes, file, reading);
-    if (reading != nullptr && !complete) {
-        reading->end = stream == nullptr ? PatternReading::End::kNotOpened : PatternReading::End::kReadFailed;
+        reading->endLine = lines.GetLineNumber();
     }
 }
 

@@ -1,9 +1,9 @@
 // Reads pattern files: bytes -> lines -> patterns.
 #pragma once
 
+#include "StyleConversion/pattern/PatternError.h"
 #include "StyleConversion/pattern/PatternLine.h"
 #include "StyleConversion/pattern/PatternPolicy.h"
-#include "StyleConversion/pattern/PatternSlip.h"
 
 #include <cstddef>
 #include <map>
@@ -26,14 +26,14 @@ struct PatternFile {
 /// Where the parts of a pattern file stood and where its reading ended: for messages, not for converting.
 /// Lines are counted from 1.
 struct PatternReading {
-    enum class End { kEndOfFile, kNotOpened, kReadFailed, kLineTooLong };
+    enum class End { kEndOfFile, kLineTooLong };
 
     End end = End::kEndOfFile;
     std::size_t endLine = 0;                                     // the line that was too long, else 0
     std::map<std::string, std::vector<std::size_t>> headerLines; // keyed by name: each of its headers
     std::map<std::string, std::vector<std::size_t>> familyLines; // keyed by name: each family, in file order
     std::vector<std::size_t> linesBeforeHeaders;                 // family lines that belong to no pattern
-    std::vector<PatternSlip> slips;                              // under a policy that forgives
+    std::vector<PatternError> errors;                            // under a tolerant policy
     Unit unit = Unit::kNone;                                     // of the last "%UNITS=" of a remark
     std::size_t unitLine = 0;                                    // its line
 };
@@ -42,9 +42,5 @@ struct PatternReading {
 /// that is too long; what was read before it stays. `reading`, where it is not null, is filled as well.
 void ParsePatternFile(std::string_view bytes, PatternFile& file, PatternReading* reading = nullptr,
                       const PatternPolicy& policy = {});
-
-/// The same from a file on disk. One that cannot be opened has no patterns; one that cannot be read to its
-/// end has those read before.
-void ReadPatternFile(const std::wstring& fileName, PatternFile& file, PatternReading* reading = nullptr);
 
 } // namespace pattern

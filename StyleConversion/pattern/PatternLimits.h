@@ -5,8 +5,8 @@
 
 namespace pattern {
 
-/// Characters in the longest line that is read; the reading ends at a longer one. Readers of the format have
-/// always used a buffer of 128 characters that also holds the terminator.
+/// Characters in the longest line that is read. So many of a longer one count as a line, and the reading ends
+/// there. Readers of the format have always used a buffer of 128 characters that also holds the terminator.
 inline constexpr std::size_t kLongestLine = 127;
 
 inline constexpr double kMillimetresPerInch = 25.4;

@@ -7,8 +7,8 @@ namespace pattern {
 
 enum class Unit : std::uint8_t { kNone, kMillimetre, kInch };
 
-/// By default nothing is forgiven. Whatever else is, is told to the reading: one that forgives and has
-/// nothing to tell gives what a strict one gives.
+/// By default nothing is tolerated. Whatever is goes to the reading's errors: a tolerant reading without any
+/// gives what a strict one gives.
 struct PatternPolicy {
     /// A long line does not end the reading.
     bool linesOfAnyLength = false;

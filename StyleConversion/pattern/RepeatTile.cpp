@@ -27,6 +27,9 @@ int FirstNearInteger(double step, int first, int last) {
 
 // Finds the multiples of a step that may be nearly whole numbers, several at a time. It works on the
 // fraction of the step in units of 2^-32, where unsigned arithmetic drops whole numbers by itself.
+//
+// A second way beside the plain search: without it, converting patterns of which a third of the families are
+// searched for to the end takes 17 % more instructions.
 class NearIntegerSieve {
 public:
     static constexpr int kBlock = 16;

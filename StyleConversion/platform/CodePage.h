@@ -1,16 +1,14 @@
 // Narrow text to wide text and back, through the system's ANSI code page.
 #pragma once
 
+#include "StyleConversion/platform/AnsiCodePage.h"
+
+#include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 
 namespace platform {
-
-/// Chooses the code page of the process, by a name that iconv knows ("UTF-8", "WINDOWS-1252", "SHIFT_JIS").
-/// False, and no change, for an unknown name. UTF-8 is in force until a page is chosen; where the system
-/// itself has an ANSI code page, that one is, and names of the system's own pages choose another. Not to be
-/// called while another thread converts.
-bool SetAnsiCodePage(const std::string& name);
 
 /// Converts bytes of the code page in force. Bytes that it does not define are kept so that WideToAnsi gives
 /// them back where the system allows it: as U+DC80 to U+DCFF under UTF-8, as the character of the byte's own
@@ -18,12 +16,35 @@ bool SetAnsiCodePage(const std::string& name);
 std::wstring AnsiToWide(std::string_view narrow);
 /// The same into a string whose storage is used again.
 void AnsiToWide(std::string_view narrow, std::wstring& wide);
+/// The same by the calling thread's ANSI code page, where the system has one for each thread and the process
+/// has chosen none.
+void ThreadAnsiToWide(std::string_view narrow, std::wstring& wide);
 
 /// Converts to bytes of the code page in force; "?" stands for a character that it cannot express.
 std::string WideToAnsi(std::wstring_view wide);
 
-/// The first `sought` (an ASCII character) in the zero-terminated `text` that is a character of its own and
-/// not the second byte of a double-byte character of the code page in force; null when there is none.
-const char* FindInMultiByte(const char* text, char sought);
+/// Converts bytes of one code page by its name, whatever page is in force: for files that name their own.
+class PageDecoder {
+public:
+    /// `name` as for SetAnsiCodePage.
+    explicit PageDecoder(const std::string& name);
+    ~PageDecoder();
+    PageDecoder(const PageDecoder&) = delete;
+    PageDecoder& operator=(const PageDecoder&) = delete;
+
+    /// Whether the system knows the page. If not, ToWide reads UTF-8.
+    bool IsKnown() const;
+    /// Bytes that the page does not define become what AnsiToWide makes of them.
+    std::wstring ToWide(std::string_view narrow) const;
+
+private:
+    struct Page;
+    std::unique_ptr<Page> page_;
+};
+
+/// The position of the first `sought` (an ASCII character) in `text`, which holds no NUL, that is a character
+/// of its own and not the second byte of a double-byte character of the code page in force; npos when there
+/// is none.
+std::size_t FindInMultiByte(std::string_view text, char sought);
 
 } // namespace platform

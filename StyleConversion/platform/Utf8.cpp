@@ -1,5 +1,7 @@
 #include "StyleConversion/platform/Utf8.h"
 
+#include "StyleConversion/platform/Characters.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -7,7 +9,6 @@ namespace platform {
 namespace {
 
 constexpr std::uint32_t kReplacement = 0xfffd;
-constexpr std::uint32_t kLastCodePoint = 0x10ffff;
 // Where undecodable bytes are kept: the byte's number above this, all of them lone low surrogates.
 constexpr std::uint32_t kEscapedByte = 0xdc00;
 
@@ -36,7 +37,7 @@ Decoded DecodeAt(std::string_view bytes, std::size_t position) {
         smallest = 0x800;
     } else if (lead >= 0xf0 && lead < 0xf5) {
         length = 4;
-        smallest = 0x10000;
+        smallest = kFirstSupplementary;
     } else {
         return {};
     }
@@ -50,8 +51,7 @@ Decoded DecodeAt(std::string_view bytes, std::size_t position) {
         }
         codePoint = (codePoint << 6) | (at(i) & 0x3fU);
     }
-    const bool surrogate = codePoint >= 0xd800 && codePoint < 0xe000;
-    if (codePoint < smallest || codePoint > kLastCodePoint || surrogate) {
+    if (codePoint < smallest || codePoint > kLastCodePoint || IsSurrogate(codePoint)) {
         return {};
     }
     return {codePoint, length};
@@ -60,9 +60,9 @@ Decoded DecodeAt(std::string_view bytes, std::size_t position) {
 // Writes the one or two units of a character, and returns where the next one goes.
 wchar_t* WriteCodePoint(wchar_t* target, std::uint32_t codePoint) {
     if constexpr (sizeof(wchar_t) == 2) {
-        if (codePoint >= 0x10000) {
-            *target++ = static_cast<wchar_t>(0xd7c0 + (codePoint >> 10));
-            *target++ = static_cast<wchar_t>(0xdc00 + (codePoint & 0x3ff));
+        if (codePoint >= kFirstSupplementary) {
+            *target++ = static_cast<wchar_t>(HighSurrogateOf(codePoint));
+            *target++ = static_cast<wchar_t>(LowSurrogateOf(codePoint));
             return target;
         }
     }
@@ -77,7 +77,7 @@ void AppendUtf8(std::string& bytes, std::uint32_t codePoint) {
     } else if (codePoint < 0x800) {
         append(0xc0 | (codePoint >> 6));
         append(0x80 | (codePoint & 0x3f));
-    } else if (codePoint < 0x10000) {
+    } else if (codePoint < kFirstSupplementary) {
         append(0xe0 | (codePoint >> 12));
         append(0x80 | ((codePoint >> 6) & 0x3f));
         append(0x80 | (codePoint & 0x3f));
@@ -93,11 +93,11 @@ void AppendUtf8(std::string& bytes, std::uint32_t codePoint) {
 // wchar_t.
 std::uint32_t NextCodePoint(std::wstring_view wide, std::size_t& position) {
     const auto unit = static_cast<std::uint32_t>(wide[position++]);
-    if (unit >= 0xd800 && unit < 0xdc00 && position < wide.size()) {
+    if (IsHighSurrogate(unit) && position < wide.size()) {
         const auto next = static_cast<std::uint32_t>(wide[position]);
-        if (next >= 0xdc00 && next < 0xe000) {
+        if (IsLowSurrogate(next)) {
             ++position;
-            return 0x10000 + ((unit - 0xd800) << 10) + (next - 0xdc00);
+            return JoinSurrogates(unit, next);
         }
     }
     return unit;
@@ -108,7 +108,7 @@ void Encode(std::string& bytes, std::wstring_view wide, bool keepBytes) {
         const std::uint32_t codePoint = NextCodePoint(wide, position);
         if (keepBytes && codePoint >= kEscapedByte + 0x80 && codePoint <= kEscapedByte + 0xff) {
             bytes += static_cast<char>(codePoint - kEscapedByte);
-        } else if ((codePoint >= 0xd800 && codePoint < 0xe000) || codePoint > kLastCodePoint) {
+        } else if (IsSurrogate(codePoint) || codePoint > kLastCodePoint) {
             AppendUtf8(bytes, kReplacement);
         } else {
             AppendUtf8(bytes, codePoint);

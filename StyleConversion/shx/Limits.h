@@ -15,14 +15,15 @@ inline constexpr std::size_t kLongestVersion = 1024;
 /// Bytes that a version text has at least: a digit, a full stop, a digit, and the 0x1A.
 inline constexpr std::size_t kShortestVersion = 4;
 
-/// Bytes of font information: the buffer that it is read into. A longer one is refused.
+/// Bytes of font information: the buffer that it is read into.
+/// Required: R30
 inline constexpr std::size_t kLongestFontInfo = 1024;
 
 /// Bytes of font information that every font has: above, below, modes.
 inline constexpr std::size_t kShortestFontInfo = 3;
 
-/// Positions that a program can have saved at a time. The stack has a fourth slot that is never filled: a
-/// fourth push is refused, and that is wanted.
+/// Positions that a program can have saved at a time. The stack has a fourth slot that is never filled.
+/// Required: R25
 inline constexpr std::uint32_t kUsablePositions = 3;
 
 /// Draw calls within one another: the shape itself, a subshape with a 16-bit number (from the top level of a

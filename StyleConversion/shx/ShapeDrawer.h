@@ -124,8 +124,8 @@ ShxResult ShapeDrawer<Sink>::Pop() {
     return kSuccess;
 }
 
-// The list of active subshapes does not hold the shape that the caller draws, so a shape that names itself is
-// drawn once more before it is refused; that is wanted.
+// The list of active subshapes does not hold the shape that the caller draws.
+// Required: R26
 template <typename Sink>
 ShxResult ShapeDrawer<Sink>::DrawSubshape(std::uint16_t number) {
     std::vector<std::uint16_t>& active = state_.activeSubshapes;
@@ -139,7 +139,7 @@ ShxResult ShapeDrawer<Sink>::DrawSubshape(std::uint16_t number) {
     }
     const CharArray& program = file_.shapes[found->second].data;
     ShapeInstructions instructions;
-    // A subshape's own subshapes have one-byte numbers in every kind of file; that is wanted.
+    // Required: R27
     ShxResult result =
         DecodeShape(instructions, program.data(), static_cast<std::uint16_t>(program.size()), kShapes);
     if (result == kSuccess) {
@@ -182,7 +182,7 @@ void ShapeDrawer<Sink>::Arc(double start, double end, double radius) {
     ArcPiece(start, end, scaled, std::fabs(sweep) > 180.0 ? 1 : 0, sweep < 0.0 ? 1 : 0);
 }
 
-// Whether the pen is down does not matter to arcs; that is wanted.
+// Required: R28
 template <typename Sink>
 void ShapeDrawer<Sink>::ArcPiece(double start, double end, double radius, int largeArc, int sweep) {
     sink_.MoveTo(state_.x, state_.y);

@@ -7,20 +7,22 @@
 #include <cstddef>
 #include <iterator>
 #include <string>
+#include <string_view>
 
 namespace ShxUtility {
 namespace {
 
 // Appends the bytes up to the terminator to `name`; false at the end of the file. A name is not held to the
 // entry's length: that is looked at when it has been read.
-bool ReadName(ShapeStream& stream, std::string& name) {
-    for (int byte = stream.ReadByte(); byte != 0; byte = stream.ReadByte()) {
-        if (byte == EOF) {
-            return false;
+bool ReadName(encoding::ByteCursor& cursor, std::string& name) {
+    std::uint8_t byte = 0;
+    while (cursor.Read(byte)) {
+        if (byte == 0) {
+            return true;
         }
         name.push_back(static_cast<char>(byte));
     }
-    return true;
+    return false;
 }
 
 // False where the number is there already. Numbers mostly ascend, so the end is the place to try first.
@@ -34,56 +36,54 @@ ShxResult ReadProgram(ShapeReading& reading, ShapesInFile& out, std::size_t leng
     Shape& shape = out.shapes.back();
     const std::size_t position = out.shapes.size() - 1;
     if (!IndexNumber(out, shape.number, position)) {
-        return reading.Fail(ShapeFileFault::NumberTwice, start);
+        return reading.Fail(ShapeFileError::NumberTwice, start);
     }
     if (!shape.name.empty()) {
         reading.nameHint = std::next(out.nameIndex.try_emplace(reading.nameHint, shape.name, position));
     }
     shape.data.Resize(length);
-    if (reading.stream.Read(shape.data.data(), length) != length) {
-        return reading.FailHere(ShapeFileFault::ProgramCutShort);
-    }
-    return kSuccess;
+    const std::string_view program = reading.cursor.Take(length);
+    std::copy(program.begin(), program.end(), shape.data.data());
+    return program.size() == length ? kSuccess : reading.FailHere(ShapeFileError::ProgramCutShort);
 }
 
 ShxResult ReadFontInfo(ShapeReading& reading, ShapesInFile& out, std::size_t length, ShapeFileKind kind,
                        std::uint64_t start) {
     if (!out.fontInfo.empty()) {
-        return reading.Fail(ShapeFileFault::FontInfoTwice, start);
+        return reading.Fail(ShapeFileError::FontInfoTwice, start);
     }
     if (length < kShortestFontInfo) {
-        return reading.Fail(ShapeFileFault::FontInfoTooShort, start);
+        return reading.Fail(ShapeFileError::FontInfoTooShort, start);
     }
     if (kind == kShapes) {
         out.kind = kFont;
     }
-    std::uint8_t bytes[kLongestFontInfo];
     const std::size_t wanted = std::min(length, kLongestFontInfo);
-    const std::size_t got = reading.stream.Read(bytes, wanted);
-    if (got != wanted) {
-        return reading.FailHere(ShapeFileFault::FontInfoCutShort);
+    const std::string_view bytes = reading.cursor.Take(wanted);
+    if (bytes.size() != wanted) {
+        return reading.FailHere(ShapeFileError::FontInfoCutShort);
     }
-    if (got != length) {
-        return reading.Fail(ShapeFileFault::FontInfoTooLong, start);
+    if (wanted != length) {
+        return reading.Fail(ShapeFileError::FontInfoTooLong, start);
     }
-    out.fontInfo.insert(out.fontInfo.end(), bytes, bytes + length);
+    out.fontInfo.insert(out.fontInfo.end(), bytes.begin(), bytes.end());
     return kSuccess;
 }
 
 } // namespace
 
-ShxResult ReadEntry(ShapeReading& reading, ShapesInFile& out, std::uint16_t number, std::uint16_t length,
-                    ShapeFileKind kind, std::uint64_t start) {
+ShxResult ReadShapeEntry(ShapeReading& reading, ShapesInFile& out, std::uint16_t number, std::uint16_t length,
+                         ShapeFileKind kind, std::uint64_t start) {
     reading.report.shapeNumber = number;
     Shape& shape = out.shapes.emplace_back();
     shape.number = number;
-    const std::uint64_t nameStart = reading.stream.Offset();
-    if (!ReadName(reading.stream, shape.name)) {
-        return reading.FailHere(ShapeFileFault::NameCutShort);
+    const std::uint64_t nameStart = reading.cursor.Offset();
+    if (!ReadName(reading.cursor, shape.name)) {
+        return reading.FailHere(ShapeFileError::NameCutShort);
     }
-    const std::uint64_t used = reading.stream.Offset() - nameStart;
+    const std::uint64_t used = reading.cursor.Offset() - nameStart;
     if (used >= length) {
-        return reading.Fail(ShapeFileFault::NameFillsEntry, start);
+        return reading.Fail(ShapeFileError::NameFillsEntry, start);
     }
     const std::size_t rest = length - static_cast<std::size_t>(used);
     const ShxResult result =

@@ -3,7 +3,7 @@
 
 namespace ShxUtility {
 
-/// By default nothing is forgiven. What is forgiven is in the report of a reading.
+/// By default nothing is tolerated. What was tolerated is in the report of a reading.
 struct ShapeFilePolicy {
     /// The eleven bytes at the beginning may name any maker; the last four are "-86 ".
     bool anyMaker = false;

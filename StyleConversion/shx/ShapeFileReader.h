@@ -1,36 +1,32 @@
-// Reads shape files from a stream.
+// Reads shape files.
 #pragma once
 
+#include "StyleConversion/shx/ShapeFilePolicy.h"
+#include "StyleConversion/shx/ShapeFileReport.h"
 #include "StyleConversion/shx/ShapesInFile.h"
 #include "StyleConversion/shx/ShxResult.h"
 
 #include <cstdint>
 #include <cstdio>
+#include <string_view>
 
 namespace ShxUtility {
 
-/// Reads a whole file from the current position of `stream`, which the caller opened in binary mode and
-/// closes.
+/// Reads a whole file from its bytes. Bytes behind its end are not looked at.
 ///
 /// `acceptedKinds` is a mask of ShapeFileKind bits; the bit of kFont accepts every "shapes " file, as whether
 /// it is a font shows only later. `out` gives up its indexes and font information, but not its shapes:
-/// entries are appended behind those that it has.
+/// entries are appended behind those that it has. `report`, reset first, says where reading stopped, and why.
 ///
-/// After a failure `out` and the position of the stream are what the entries read so far made of them: drop
-/// both. Returns kSuccess, kNoStream, kMalformed (also where the stream's end-of-file indicator is set at the
-/// end), kKindNotAccepted, kOutOfMemory or kUnsupported.
+/// After a failure `out` is what the entries read so far made of it: drop it. Returns kSuccess, kMalformed,
+/// kKindNotAccepted, kOutOfMemory or kUnsupported.
+ShxResult LoadShapeFile(std::string_view bytes, ShapesInFile& out, std::uint32_t acceptedKinds,
+                        ShapeFileReport& report, const ShapeFilePolicy& policy = {});
+ShxResult LoadShapeFile(std::string_view bytes, ShapesInFile& out, std::uint32_t acceptedKinds);
+
+/// The same from the current position of `stream`, which the caller opened in binary mode and closes. On
+/// success it stands behind what was read, as far as it can be positioned. kMalformed also where its
+/// end-of-file indicator is set already, and kNoStream where there is no stream.
 ShxResult LoadShapeFile(std::FILE* stream, ShapesInFile& out, std::uint32_t acceptedKinds);
-
-/// Reads the header up to its version and sets the kind and isVersion10 of `out`. The kind is set also where
-/// it is then refused; a refused file's version is not read.
-ShxResult ReadFileHeader(std::FILE* stream, ShapesInFile& out, std::uint32_t acceptedKinds);
-
-/// Reads one entry: its name, a zero byte, and its program, `length` bytes together. Appends a shape to
-/// `out`, which stays there after a failure, and enters it in the indexes.
-///
-/// A number that is known already is kMalformed. Number 0 is the font information: its bytes go to
-/// `out.fontInfo`, and in a file of `kind` kShapes the kind of `out` becomes kFont.
-ShxResult ReadShapeEntry(std::FILE* stream, ShapesInFile& out, std::uint16_t number, std::uint16_t length,
-                         ShapeFileKind kind);
 
 } // namespace ShxUtility

@@ -4,7 +4,6 @@
 #include "StyleConversion/shx/Limits.h"
 
 #include <cstddef>
-#include <cstring>
 #include <string_view>
 
 namespace ShxUtility {
@@ -12,17 +11,16 @@ namespace {
 
 // Of the signature of any maker.
 constexpr std::string_view kSignatureEnd = "-86 ";
-constexpr int kVersionEnd = 0x1a;
+constexpr std::uint8_t kVersionEnd = 0x1a;
 
 ShxResult ReadMagic(ShapeReading& reading) {
-    char magic[kSignature.size()];
-    if (reading.stream.Read(magic, kSignature.size()) != kSignature.size()) {
-        return reading.FailHere(ShapeFileFault::MagicCutShort);
+    const std::string_view magic = reading.cursor.Take(kSignature.size());
+    if (magic.size() < kSignature.size()) {
+        return reading.FailHere(ShapeFileError::MagicCutShort);
     }
-    if (std::memcmp(magic, kSignature.data(), kSignature.size()) != 0) {
-        const std::string_view found(magic, kSignature.size());
-        if (!reading.policy.anyMaker || !found.ends_with(kSignatureEnd)) {
-            return reading.Fail(ShapeFileFault::MagicWrong, 0);
+    if (magic != kSignature) {
+        if (!reading.policy.anyMaker || !magic.ends_with(kSignatureEnd)) {
+            return reading.Fail(ShapeFileError::MagicWrong, 0);
         }
         reading.report.otherMaker = true;
     }
@@ -30,16 +28,16 @@ ShxResult ReadMagic(ShapeReading& reading) {
 }
 
 ShxResult ReadKind(ShapeReading& reading, ShapesInFile& out) {
-    const std::uint64_t start = reading.stream.Offset();
+    const std::uint64_t start = reading.cursor.Offset();
     char word[kLongestKindWord];
     std::size_t length = 0;
     do {
         if (length == kLongestKindWord) {
-            return reading.Fail(ShapeFileFault::KindTooLong, start);
+            return reading.Fail(ShapeFileError::KindTooLong, start);
         }
-        const int byte = reading.stream.ReadByte();
-        if (byte == EOF) {
-            return reading.FailHere(ShapeFileFault::KindCutShort);
+        std::uint8_t byte = 0;
+        if (!reading.cursor.Read(byte)) {
+            return reading.FailHere(ShapeFileError::KindCutShort);
         }
         word[length++] = static_cast<char>(byte);
     } while (word[length - 1] != ' ');
@@ -50,10 +48,11 @@ ShxResult ReadKind(ShapeReading& reading, ShapesInFile& out) {
     } else if (kind == "unifont ") {
         out.kind = kUnifont;
     } else if (kind == "bigfont ") {
+        // Required: R29
         out.kind = kBigfont;
-        return reading.Fail(ShapeFileFault::KindBigfont, start);
+        return reading.Fail(ShapeFileError::KindBigfont, start);
     } else {
-        return reading.Fail(ShapeFileFault::KindUnknown, start);
+        return reading.Fail(ShapeFileError::KindUnknown, start);
     }
     return kSuccess;
 }
@@ -65,17 +64,16 @@ bool IsAccepted(ShapeFileKind kind, std::uint32_t acceptedKinds) {
 }
 
 ShxResult ReadVersion(ShapeReading& reading, ShapesInFile& out) {
-    const std::uint64_t start = reading.stream.Offset();
+    const std::uint64_t start = reading.cursor.Offset();
     char text[kShortestVersion] = {};
     std::size_t length = 0;
-    int byte = 0;
+    std::uint8_t byte = 0;
     while (byte != kVersionEnd) {
         if (length == kLongestVersion) {
-            return reading.Fail(ShapeFileFault::VersionTooLong, start);
+            return reading.Fail(ShapeFileError::VersionTooLong, start);
         }
-        byte = reading.stream.ReadByte();
-        if (byte == EOF) {
-            return reading.FailHere(ShapeFileFault::VersionCutShort);
+        if (!reading.cursor.Read(byte)) {
+            return reading.FailHere(ShapeFileError::VersionCutShort);
         }
         if (length < kShortestVersion) {
             text[length] = static_cast<char>(byte);
@@ -85,7 +83,7 @@ ShxResult ReadVersion(ShapeReading& reading, ShapesInFile& out) {
     const bool known =
         length >= kShortestVersion && text[0] == '1' && text[1] == '.' && (text[2] == '0' || text[2] == '1');
     if (!known) {
-        return reading.Fail(ShapeFileFault::VersionUnknown, start);
+        return reading.Fail(ShapeFileError::VersionUnknown, start);
     }
     out.isVersion10 = text[2] == '0';
     return kSuccess;
@@ -93,18 +91,18 @@ ShxResult ReadVersion(ShapeReading& reading, ShapesInFile& out) {
 
 } // namespace
 
-ShxResult ReadHeader(ShapeReading& reading, ShapesInFile& out, std::uint32_t acceptedKinds) {
+ShxResult ReadFileHeader(ShapeReading& reading, ShapesInFile& out, std::uint32_t acceptedKinds) {
     ShxResult result = ReadMagic(reading);
     if (result != kSuccess) {
         return result;
     }
-    const std::uint64_t kindOffset = reading.stream.Offset();
+    const std::uint64_t kindOffset = reading.cursor.Offset();
     result = ReadKind(reading, out);
     if (result != kSuccess) {
         return result;
     }
     if (!IsAccepted(out.kind, acceptedKinds)) {
-        return reading.Fail(ShapeFileFault::KindNotAccepted, kindOffset);
+        return reading.Fail(ShapeFileError::KindNotAccepted, kindOffset);
     }
     return ReadVersion(reading, out);
 }

@@ -12,7 +12,8 @@ namespace ShxUtility {
 /// What every shape file begins with.
 inline constexpr std::string_view kSignature = "Vorlanx-86 ";
 
-/// ReadFileHeader from a stream that is there.
-ShxResult ReadHeader(ShapeReading& reading, ShapesInFile& out, std::uint32_t acceptedKinds);
+/// Reads the header up to its version and sets the kind and isVersion10 of `out`. The kind is set also where
+/// it is then refused; a refused file's version is not read.
+ShxResult ReadFileHeader(ShapeReading& reading, ShapesInFile& out, std::uint32_t acceptedKinds);
 
 } // namespace ShxUtility

@@ -36,8 +36,7 @@ struct PositionStack {
 /// subshape's program (kMalformed), kOutOfMemory, kPositionStackFull, kPositionStackEmpty,
 /// kRecursiveSubshape, kSubshapeNotFound or kUnknownInstruction.
 ///
-/// The path is written through the formatters' shared buffer: not on two threads at once. Subshapes nest at
-/// most 257 deep; how often they are drawn is not bounded.
+/// Subshapes nest at most 257 deep; how often they are drawn is not bounded.
 ShxResult DrawShape(std::wstring& path, double& x, double& y, double& scale, PositionStack& positionStack,
                     std::vector<std::uint16_t>& activeSubshapes, bool& penDown,
                     const ShapeInstructions& instructions, const ShapesInFile& file, double rotation,

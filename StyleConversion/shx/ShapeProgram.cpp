@@ -1,23 +1,38 @@
-// Decodes shape programs: one handler for each code.
+// Decodes shape programs: a loop with one flat switch, and one handler for each code with operands.
 #include "StyleConversion/shx/ShapeProgram.h"
 
+#include "StyleConversion/encoding/ByteCursor.h"
 #include "StyleConversion/encoding/IntegerConversion.h"
 #include "StyleConversion/shx/BulgeArc.h"
-#include "StyleConversion/shx/ProgramCursor.h"
 #include "StyleConversion/shx/ShapesInFile.h"
 
-#include <algorithm>
 #include <new>
+#include <string_view>
 
 namespace ShxUtility {
 namespace {
 
+// What a program's byte stands for where it is not above the last of these: then it is a vector.
+enum class ShapeCode : std::uint8_t {
+    End = 0,
+    PenDown = 1,
+    PenUp = 2,
+    DivideScale = 3,
+    MultiplyScale = 4,
+    PushPosition = 5,
+    PopPosition = 6,
+    Subshape = 7,
+    Displacement = 8,
+    Displacements = 9,
+    OctantArc = 10,
+    FractionalArc = 11,
+    BulgeArc = 12,
+    BulgeArcs = 13,
+    VerticalOnly = 14,
+};
+
 constexpr double kDegreesPerOctant = 45.0;
 constexpr int kOctants = 8;
-
-// Instructions to make room for at first. No program has more of them than bytes, and few have more than
-// this.
-constexpr std::uint16_t kMostReserved = 128;
 
 struct Displacement {
     double x;
@@ -46,23 +61,33 @@ int OffsetDegrees(std::uint8_t offset) {
     return static_cast<std::uint8_t>(encoding::ToInt32(offset * kDegreesPerOctant / 256.0 + 0.5));
 }
 
+encoding::ByteCursor CursorOf(const std::uint8_t* bytes, std::uint16_t length) {
+    return encoding::ByteCursor(bytes == nullptr
+                                    ? std::string_view()
+                                    : std::string_view(reinterpret_cast<const char*>(bytes), length));
+}
+
+// Handlers refuse a program that ends within a code's operands as kMalformed, beside what they say.
 class ShapeDecoder {
 public:
-    ShapeDecoder(ShapeInstructions& out, const std::uint8_t* bytes, std::uint16_t length, std::int32_t kind)
-        : out_(out), cursor_(bytes, length), kind_(kind) {}
+    ShapeDecoder(ShapeInstructions& out, encoding::ByteCursor cursor, std::int32_t kind)
+        : out_(out), cursor_(cursor), kind_(kind) {}
 
     ShxResult Decode();
 
 private:
-    ShxResult DecodeCode(std::uint8_t code);
-    ShxResult Factor(ShapeOp op);
-    ShxResult SubshapeNumber();
-    ShxResult Displaced();
-    ShxResult ManyDisplaced();
-    ShxResult OctantArc();
-    ShxResult FractionalArc();
-    ShxResult OneBulgeArc();
-    ShxResult ManyBulgeArcs();
+    ShxResult DecodeByte(std::uint8_t byte);
+    ShxResult DecodeVector(std::uint8_t byte);
+    ShxResult DecodeFactor(ShapeOp op);
+    ShxResult DecodeSubshape();
+    ShxResult DecodeDisplacement();
+    ShxResult DecodeDisplacements();
+    ShxResult DecodeOctantArc();
+    ShxResult DecodeFractionalArc();
+    ShxResult DecodeBulgeArc();
+    ShxResult DecodeBulgeArcs();
+
+    bool ReadPair(std::int8_t& dx, std::int8_t& dy) { return cursor_.Read(dx) && cursor_.Read(dy); }
 
     ShxResult Emit(ShapeOp op, double x = 0.0, double y = 0.0, double radius = 0.0) {
         out_.push_back({x, y, radius, verticalOnly_, op});
@@ -75,71 +100,71 @@ private:
     }
 
     ShapeInstructions& out_;
-    ProgramCursor cursor_;
+    encoding::ByteCursor cursor_;
     std::int32_t kind_;
-    // Code 14 was just read: what follows it is for vertical drawing.
+    // The code before was VerticalOnly: what follows it is for vertical drawing.
     bool verticalOnly_ = false;
 };
 
 ShxResult ShapeDecoder::Decode() {
     std::uint8_t byte = 0;
-    while (cursor_.Read(byte)) {
-        if (byte == 0) {
-            return kSuccess;
-        }
-        if (byte == 14) {
+    while (cursor_.Read(byte) && byte != static_cast<std::uint8_t>(ShapeCode::End)) {
+        if (byte == static_cast<std::uint8_t>(ShapeCode::VerticalOnly)) {
             verticalOnly_ = true;
             continue;
         }
-        if (byte > 14) {
-            const int length = byte >> 4;
-            const Displacement direction = kVectorDirections[byte & 15];
-            Emit(ShapeOp::Move, length * direction.x, length * direction.y);
-        } else {
-            const ShxResult result = DecodeCode(byte);
-            if (result != kSuccess) {
-                return result;
-            }
+        if (const ShxResult result = DecodeByte(byte); result != kSuccess) {
+            return result;
         }
         verticalOnly_ = false;
     }
     return kSuccess;
 }
 
-// Codes 1 to 13.
-ShxResult ShapeDecoder::DecodeCode(std::uint8_t code) {
-    switch (code) {
-    case 1:
+ShxResult ShapeDecoder::DecodeByte(std::uint8_t byte) {
+    switch (static_cast<ShapeCode>(byte)) {
+    case ShapeCode::PenDown:
         return Emit(ShapeOp::PenDown);
-    case 2:
+    case ShapeCode::PenUp:
         return Emit(ShapeOp::PenUp);
-    case 3:
-        return Factor(ShapeOp::DivideScale);
-    case 4:
-        return Factor(ShapeOp::MultiplyScale);
-    case 5:
+    case ShapeCode::DivideScale:
+        return DecodeFactor(ShapeOp::DivideScale);
+    case ShapeCode::MultiplyScale:
+        return DecodeFactor(ShapeOp::MultiplyScale);
+    case ShapeCode::PushPosition:
         return Emit(ShapeOp::PushPosition);
-    case 6:
+    case ShapeCode::PopPosition:
         return Emit(ShapeOp::PopPosition);
-    case 7:
-        return SubshapeNumber();
-    case 8:
-        return Displaced();
-    case 9:
-        return ManyDisplaced();
-    case 10:
-        return OctantArc();
-    case 11:
-        return FractionalArc();
-    case 12:
-        return OneBulgeArc();
+    case ShapeCode::Subshape:
+        return DecodeSubshape();
+    case ShapeCode::Displacement:
+        return DecodeDisplacement();
+    case ShapeCode::Displacements:
+        return DecodeDisplacements();
+    case ShapeCode::OctantArc:
+        return DecodeOctantArc();
+    case ShapeCode::FractionalArc:
+        return DecodeFractionalArc();
+    case ShapeCode::BulgeArc:
+        return DecodeBulgeArc();
+    case ShapeCode::BulgeArcs:
+        return DecodeBulgeArcs();
     default:
-        return ManyBulgeArcs();
+        return DecodeVector(byte);
     }
 }
 
-// Codes 3 and 4: one unsigned byte, not 0.
-ShxResult ShapeDecoder::Factor(ShapeOp op) {
+// A vector byte, 15 to 255. Operands: none; its high four bits are a length, its low four a direction.
+// Effect: a displacement of that length; the byte 15 is one of length 0. Refuses nothing.
+ShxResult ShapeDecoder::DecodeVector(std::uint8_t byte) {
+    const int length = byte >> 4;
+    const Displacement direction = kVectorDirections[byte & 15];
+    return Emit(ShapeOp::Move, length * direction.x, length * direction.y);
+}
+
+// Codes 3 and 4. Operand: a factor, one unsigned byte. Effect: divides, or multiplies, the scale from here
+// on. Refuses the factor 0.
+ShxResult ShapeDecoder::DecodeFactor(ShapeOp op) {
     std::uint8_t factor = 0;
     if (!cursor_.Read(factor) || factor == 0) {
         return kMalformed;
@@ -147,8 +172,9 @@ ShxResult ShapeDecoder::Factor(ShapeOp op) {
     return Emit(op, factor);
 }
 
-// Code 7: the number, of one byte or of two with the high one first.
-ShxResult ShapeDecoder::SubshapeNumber() {
+// Code 7. Operand: a shape's number, one byte, or in a "unifont " file two with the high one first. Effect:
+// draws that shape. Refuses, as kUnsupported, a kind of file that has no form for the number.
+ShxResult ShapeDecoder::DecodeSubshape() {
     std::uint8_t high = 0;
     std::uint8_t low = 0;
     switch (kind_) {
@@ -169,21 +195,22 @@ ShxResult ShapeDecoder::SubshapeNumber() {
     return Emit(ShapeOp::Subshape, high * 256 + low);
 }
 
-// Code 8: one displacement.
-ShxResult ShapeDecoder::Displaced() {
+// Code 8. Operands: dx, dy, two signed bytes. Effect: a displacement. Refuses nothing more.
+ShxResult ShapeDecoder::DecodeDisplacement() {
     std::int8_t dx = 0;
     std::int8_t dy = 0;
-    if (!cursor_.ReadPair(dx, dy)) {
+    if (!ReadPair(dx, dy)) {
         return kMalformed;
     }
     return Emit(ShapeOp::Move, dx, dy);
 }
 
-// Code 9: displacements up to (0, 0).
-ShxResult ShapeDecoder::ManyDisplaced() {
+// Code 9. Operands: pairs dx, dy of signed bytes up to (0, 0). Effect: a displacement for each pair before
+// that. Refuses pairs without that end.
+ShxResult ShapeDecoder::DecodeDisplacements() {
     std::int8_t dx = 0;
     std::int8_t dy = 0;
-    while (cursor_.ReadPair(dx, dy)) {
+    while (ReadPair(dx, dy)) {
         if (dx == 0 && dy == 0) {
             return kSuccess;
         }
@@ -192,28 +219,31 @@ ShxResult ShapeDecoder::ManyDisplaced() {
     return kMalformed;
 }
 
-// Code 10: radius, not 0, and octants.
-ShxResult ShapeDecoder::OctantArc() {
+// Code 10. Operands: a radius, an unsigned byte, and an octant byte. Effect: an arc from and to multiples of
+// 45 degrees. Refuses the radius 0.
+ShxResult ShapeDecoder::DecodeOctantArc() {
     std::uint8_t radius = 0;
     std::uint8_t octantByte = 0;
     if (!cursor_.Read(radius) || radius == 0 || !cursor_.Read(octantByte)) {
         return kMalformed;
     }
     const Octants octants(octantByte);
-    // A clockwise full circle is drawn counter-clockwise; that is wanted.
+    // Required: R22
     const bool clockwise = octants.clockwise && octants.span != kOctants;
     const int end = octants.start + (clockwise ? -octants.span : octants.span);
     return Emit(ShapeOp::Arc, octants.start * kDegreesPerOctant, end * kDegreesPerOctant, radius);
 }
 
-// Code 11: start offset, end offset, radius of two bytes with the high one first, octants.
-ShxResult ShapeDecoder::FractionalArc() {
+// Code 11. Operands: start offset and end offset in 256ths of an octant, a radius of two bytes with the high
+// one first, an octant byte. Effect: an arc that begins and ends between octants. Refuses a radius whose low
+// byte is 0.
+ShxResult ShapeDecoder::DecodeFractionalArc() {
     std::uint8_t startOffset = 0;
     std::uint8_t endOffset = 0;
     std::uint8_t high = 0;
     std::uint8_t low = 0;
     std::uint8_t octantByte = 0;
-    // A radius that is a multiple of 256 is refused, not only zero; that is wanted.
+    // Required: R23
     if (!cursor_.Read(startOffset) || !cursor_.Read(endOffset) || !cursor_.Read(high) || !cursor_.Read(low) ||
         low == 0 || !cursor_.Read(octantByte)) {
         return kMalformed;
@@ -221,31 +251,33 @@ ShxResult ShapeDecoder::FractionalArc() {
     const Octants octants(octantByte);
     const int startDegrees = OffsetDegrees(startOffset);
     const int endDegrees = OffsetDegrees(endOffset);
-    // The octant in which the arc ends counts in the span where the arc ends inside of it. Both offsets are
-    // added in either direction; that is wanted.
+    // The octant in which the arc ends counts in the span where the arc ends inside of it.
+    // Required: R24
     const int wholeOctants = octants.span - (endDegrees != 0 ? 1 : 0);
     const int end = octants.start + (octants.clockwise ? -wholeOctants : wholeOctants);
     return Emit(ShapeOp::Arc, octants.start * kDegreesPerOctant + startDegrees,
                 end * kDegreesPerOctant + endDegrees, high * 256 + low);
 }
 
-// Code 12: displacement and bulge.
-ShxResult ShapeDecoder::OneBulgeArc() {
+// Code 12. Operands: dx, dy and a bulge, three signed bytes. Effect: an arc, or a displacement where the
+// bulge or the displacement is 0. Refuses nothing more.
+ShxResult ShapeDecoder::DecodeBulgeArc() {
     std::int8_t dx = 0;
     std::int8_t dy = 0;
     std::int8_t bulge = 0;
-    if (!cursor_.ReadPair(dx, dy) || !cursor_.Read(bulge)) {
+    if (!ReadPair(dx, dy) || !cursor_.Read(bulge)) {
         return kMalformed;
     }
     return EmitBulgeArc(dx, dy, bulge);
 }
 
-// Code 13: displacements, each with its bulge, up to (0, 0), which has none.
-ShxResult ShapeDecoder::ManyBulgeArcs() {
+// Code 13. Operands: dx, dy and a bulge again and again, up to the pair (0, 0), which has no bulge. Effect:
+// as of code 12 for each. Refuses arcs without that end.
+ShxResult ShapeDecoder::DecodeBulgeArcs() {
     std::int8_t dx = 0;
     std::int8_t dy = 0;
     std::int8_t bulge = 0;
-    while (cursor_.ReadPair(dx, dy)) {
+    while (ReadPair(dx, dy)) {
         if (dx == 0 && dy == 0) {
             return kSuccess;
         }
@@ -262,10 +294,7 @@ ShxResult ShapeDecoder::ManyBulgeArcs() {
 ShxResult DecodeShape(ShapeInstructions& out, const std::uint8_t* bytes, std::uint16_t length,
                       std::int32_t kind) {
     try {
-        if (out.empty()) {
-            out.reserve(std::min(length, kMostReserved));
-        }
-        return ShapeDecoder(out, bytes, length, kind).Decode();
+        return ShapeDecoder(out, CursorOf(bytes, length), kind).Decode();
     } catch (const std::bad_alloc&) {
         return kOutOfMemory;
     }

@@ -1,31 +1,30 @@
-// What the parts of the file reader share: the stream, and the report on where it stopped.
+// What the parts of the file reader share: the bytes, and the report on where reading stopped.
 #pragma once
 
-#include "StyleConversion/shx/ShapeFileFault.h"
-#include "StyleConversion/shx/ShapeStream.h"
+#include "StyleConversion/encoding/ByteCursor.h"
+#include "StyleConversion/shx/ShapeFilePolicy.h"
+#include "StyleConversion/shx/ShapeFileReport.h"
 #include "StyleConversion/shx/ShapesInFile.h"
 #include "StyleConversion/shx/ShxResult.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
 #include <map>
 #include <string>
+#include <string_view>
 
 namespace ShxUtility {
 
-/// The result that a fault gives.
-constexpr ShxResult ResultOf(ShapeFileFault fault) {
-    switch (fault) {
-    case ShapeFileFault::None:
+/// The result that an error gives.
+constexpr ShxResult ResultOf(ShapeFileError error) {
+    switch (error) {
+    case ShapeFileError::None:
         return kSuccess;
-    case ShapeFileFault::NoStream:
-        return kNoStream;
-    case ShapeFileFault::OutOfMemory:
+    case ShapeFileError::OutOfMemory:
         return kOutOfMemory;
-    case ShapeFileFault::KindBigfont:
+    case ShapeFileError::KindBigfont:
         return kUnsupported;
-    case ShapeFileFault::KindNotAccepted:
+    case ShapeFileError::KindNotAccepted:
         return kKindNotAccepted;
     default:
         return kMalformed;
@@ -33,29 +32,30 @@ constexpr ShxResult ResultOf(ShapeFileFault fault) {
 }
 
 /// Two bytes, the low one first.
-inline std::uint16_t LittleEndian(const std::uint8_t* bytes) {
-    return static_cast<std::uint16_t>(bytes[0] | bytes[1] << 8);
+inline std::uint16_t LittleEndian(std::string_view bytes) {
+    return static_cast<std::uint16_t>(static_cast<std::uint8_t>(bytes[0]) |
+                                      static_cast<std::uint8_t>(bytes[1]) << 8);
 }
 
 struct ShapeReading {
-    ShapeReading(std::FILE* file, ShapesInFile& out, ShapeFileFaultReport& faultReport,
+    ShapeReading(std::string_view bytes, ShapesInFile& out, ShapeFileReport& fileReport,
                  const ShapeFilePolicy& readingPolicy = {})
-        : stream(file), report(faultReport), policy(readingPolicy), nameHint(out.nameIndex.end()) {
-        report = ShapeFileFaultReport{};
+        : cursor(bytes), report(fileReport), policy(readingPolicy), nameHint(out.nameIndex.end()) {
+        report = ShapeFileReport{};
     }
 
-    /// Reports `fault` at `offset` and returns its result.
-    ShxResult Fail(ShapeFileFault fault, std::uint64_t offset) {
-        report.fault = fault;
+    /// Reports `error` at `offset` and returns its result.
+    ShxResult Fail(ShapeFileError error, std::uint64_t offset) {
+        report.error = error;
         report.offset = offset;
-        return ResultOf(fault);
+        return ResultOf(error);
     }
 
     /// The same where reading stands.
-    ShxResult FailHere(ShapeFileFault fault) { return Fail(fault, stream.Offset()); }
+    ShxResult FailHere(ShapeFileError error) { return Fail(error, cursor.Offset()); }
 
-    ShapeStream stream;
-    ShapeFileFaultReport& report;
+    encoding::ByteCursor cursor;
+    ShapeFileReport& report;
     ShapeFilePolicy policy;
     /// Where the next name is looked for first: behind the last one, as names often come in order.
     std::map<std::string, std::size_t>::iterator nameHint;

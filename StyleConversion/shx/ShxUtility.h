@@ -1,9 +1,11 @@
 // Shape files and shape fonts: reading them, and drawing their shapes as paths.
 //
-// LoadShapeFile -> ShapesInFile -> DecodeShape -> ShapeInstructions -> DrawShape -> path text
+// LoadShapeFile -> ShapesInFile -> DrawGlyph -> path text
+// DrawGlyph: DecodeShape -> ShapeInstructions -> ShapeDrawer -> sink
 #pragma once
 
 #include "StyleConversion/shx/CharArray.h"
+#include "StyleConversion/shx/GlyphDrawing.h"
 #include "StyleConversion/shx/ShapeFileReader.h"
 #include "StyleConversion/shx/ShapeInterpreter.h"
 #include "StyleConversion/shx/ShapeProgram.h"

@@ -4,10 +4,10 @@
 #include "WrittenNumbers.h"
 
 #include "StyleConversion/block/BlockConverter.h"
-#include "drawing/Areas.h"
-#include "drawing/CurveEntities.h"
-#include "drawing/Database.h"
-#include "drawing/SimpleEntities.h"
+#include "drawing/database/Database.h"
+#include "drawing/entities/Areas.h"
+#include "drawing/entities/CurveEntities.h"
+#include "drawing/entities/SimpleEntities.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -5,7 +5,7 @@
 #include "StyleConversion/block/BlockConverter.h"
 #include "documents/DrawingReader.h"
 #include "documents/SymbolsDocument.h"
-#include "drawing/Database.h"
+#include "drawing/database/Database.h"
 
 #include <cstdio>
 #include <memory>
@@ -49,7 +49,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     const double start = ProcessorTime();
-    documents::DrawingFault fault;
+    documents::DrawingError fault;
     const auto database = documents::ReadDrawing(file, fault);
     std::fclose(file);
     if (database == nullptr) {

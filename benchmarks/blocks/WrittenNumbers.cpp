@@ -34,7 +34,7 @@ public:
 std::vector<double> NumbersOf(TylModel::SimpleSymbolDefinition& symbol) {
     NumberCollector collector;
     for (std::int32_t i = 0; i < symbol.GetGraphics().GetCount(); ++i) {
-        symbol.GetGraphics().GetAt(i)->AcceptVisitor(collector);
+        AcceptVisitor(*symbol.GetGraphics().GetAt(i), collector);
     }
     return collector.numbers;
 }
@@ -57,7 +57,7 @@ double TimeOfTrimmedFormatting(const std::vector<double>& numbers) {
     std::wstring text;
     const double start = ProcessorTime();
     for (const double number : numbers) {
-        encoding::AppendTrimmed(text, number);
+        text += encoding::Double2TrimmedString(number);
     }
     return ProcessorTime() - start;
 }

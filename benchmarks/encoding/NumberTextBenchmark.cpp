@@ -37,12 +37,10 @@ void FloorFixed(benchmark::State& state) {
 
 void Trimmed(benchmark::State& state) {
     const std::vector<double> values = Coordinates(state.range(0) != 0);
-    std::wstring text;
+    wchar_t text[encoding::kLongestTrimmed];
     for (auto _ : state) {
         for (const double value : values) {
-            text.clear();
-            encoding::AppendTrimmed(text, value);
-            benchmark::DoNotOptimize(text.data());
+            benchmark::DoNotOptimize(encoding::WriteTrimmed(text, value));
         }
     }
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kCount));

@@ -49,7 +49,9 @@ HatchLoop RingLoop(std::size_t count) {
     for (std::size_t index = 0; index < count; ++index) {
         vertices[index].point = points[index];
     }
-    return geometry::LoopFromVertices(vertices);
+    HatchLoop loop;
+    loop.polyline = geometry::PolylineLoop{std::move(vertices), false};
+    return loop;
 }
 
 HatchFamily Family(double spacing) {
@@ -75,14 +77,21 @@ void HatchOfAPolygon(benchmark::State& state) {
 BENCHMARK(HatchOfAPolygon)->Arg(4)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 void HatchOfACircle(benchmark::State& state) {
-    const geometry::ArcEdge circle{{3, 4}, kRadius, 0.0, 2.0 * std::numbers::pi, false};
+    const OxGeCircArc2d circle{{3, 4}, kRadius, 0.0, 2.0 * std::numbers::pi, false};
     Run(state, {HatchLoop{{circle}}}, Family(2.0 * kRadius / 100000));
 }
 BENCHMARK(HatchOfACircle)->Unit(benchmark::kMillisecond);
 
 void HatchOfASpline(benchmark::State& state) {
     const auto count = static_cast<std::size_t>(state.range(0));
-    Run(state, {HatchLoop{{geometry::SplineEdge{RingCurve(count)}}}}, Family(2.0 * kRadius / 100000));
+    const NurbsCurve curve = RingCurve(count);
+    const OxGeKnotVector knots(static_cast<int>(curve.knots.size()), curve.knots.data());
+    OxGePoint2dArray points;
+    for (const Point& point : curve.controlPoints) {
+        points.append(point);
+    }
+    const auto edge = std::make_shared<const OxGeNurbCurve2d>(curve.degree, knots, points);
+    Run(state, {HatchLoop{{edge}}}, Family(2.0 * kRadius / 100000));
 }
 BENCHMARK(HatchOfASpline)->Arg(16)->Arg(1000)->Unit(benchmark::kMillisecond);
 

@@ -152,18 +152,21 @@ void DrawAll(const ShapesInFile& file) {
     }
 }
 
-// The library's own formatters over their buffer: no path, no drawing.
+// The library's own formatters, one command at a time: no path, no drawing.
 void FormatAll(const std::vector<Command>& commands) {
+    std::wstring text;
     for (const Command& command : commands) {
         const double* const numbers = command.numbers;
+        text.clear();
         if (command.letter == 'M') {
-            sink = static_cast<std::size_t>(encoding::FormatMove(numbers[0], numbers[1])[2]);
+            encoding::AppendMove(text, numbers[0], numbers[1]);
         } else if (command.letter == 'l') {
-            sink = static_cast<std::size_t>(encoding::FormatRelativeLine(numbers[0], numbers[1])[2]);
+            encoding::AppendRelativeLine(text, numbers[0], numbers[1]);
         } else if (command.letter == 'A') {
-            sink = static_cast<std::size_t>(
-                encoding::FormatArc(numbers[0], command.largeArc, command.sweep, numbers[1], numbers[2])[2]);
+            encoding::AppendArc(text, numbers[0], command.largeArc != 0, command.sweep != 0, numbers[1],
+                                numbers[2]);
         }
+        sink = text.size();
     }
 }
 

@@ -1,3 +1,2 @@
 include("${CMAKE_CURRENT_LIST_DIR}/HeaderLibrary.cmake")
-header_library(nlohmann_json::nlohmann_json nlohmann)
-set(nlohmann_json_FOUND TRUE)
+header_library(nlohmann_json::nlohmann_json nlohmann nlohmann_json_FOUND)

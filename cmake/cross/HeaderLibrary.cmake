@@ -1,11 +1,16 @@
-# header_library(target folder): an imported target for a library of headers alone that this system has for itself.
-# Its folder is linked into the build folder: all of the system's include folder must not be seen when another system
-# is compiled for.
-function(header_library target folder)
+# header_library(target folder found): an imported target for a library of headers alone that this system has for
+# itself; found says whether it has. Its folder is linked into the build folder: all of the system's include folder must
+# not be seen when another system is compiled for.
+function(header_library target folder found)
+  find_path(${folder}_PARENT ${folder} PATHS /usr/include NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
+  if(NOT ${folder}_PARENT)
+    set(${found} FALSE PARENT_SCOPE)
+    return()
+  endif()
+  set(${found} TRUE PARENT_SCOPE)
   if(TARGET ${target})
     return()
   endif()
-  find_path(${folder}_PARENT ${folder} PATHS /usr/include NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
   set(headers "${PROJECT_BINARY_DIR}/headers")
   file(MAKE_DIRECTORY "${headers}")
   if(NOT EXISTS "${headers}/${folder}")

@@ -11,66 +11,8 @@ namespace geometry {
 
 namespace {
 
-/// Between() at one fraction, which is judged once.
-class Divider {
-public:
-    explicit Divider(double fraction)
-        : isNear_(fraction <= 0.5), share_(isNear_ ? fraction : 1.0 - fraction) {}
-
-    template <class Work>
-    void Do(Work work) const {
-        if (isNear_) {
-            work([share = share_](Point a, Point b) { return OnTheWay(a, b, share); });
-        } else {
-            work([share = share_](Point a, Point b) { return OnTheWayBack(a, b, share); });
-        }
-    }
-
-private:
-    bool isNear_;
-    double share_;
-};
-
-constexpr std::size_t kCubicOrder = 4;
-
-/// The two below for a cubic that is not rational: most curves are, and loops cost more than the sums in
-/// them.
-void KeepBeforeInCubic(Point* points, double fraction) {
-    Divider(fraction).Do([&](const auto& between) {
-        points[3] = between(points[2], points[3]);
-        points[2] = between(points[1], points[2]);
-        points[1] = between(points[0], points[1]);
-        points[3] = between(points[2], points[3]);
-        points[2] = between(points[1], points[2]);
-        points[3] = between(points[2], points[3]);
-    });
-}
-
-void KeepAfterInCubic(Point* points, double fraction) {
-    Divider(fraction).Do([&](const auto& between) {
-        points[0] = between(points[0], points[1]);
-        points[1] = between(points[1], points[2]);
-        points[2] = between(points[2], points[3]);
-        points[0] = between(points[0], points[1]);
-        points[1] = between(points[1], points[2]);
-        points[0] = between(points[0], points[1]);
-    });
-}
-
 /// In place, the control points of the part before `fraction`.
 void KeepBefore(Point* points, double* weights, std::size_t order, double fraction) {
-    if (weights == nullptr && order == kCubicOrder) {
-        KeepBeforeInCubic(points, fraction);
-        return;
-    }
-    if (weights == nullptr) { // The same without a question at each point.
-        for (std::size_t round = 1; round < order; ++round) {
-            for (std::size_t index = order - 1; index >= round; --index) {
-                points[index] = Between(points[index - 1], points[index], fraction);
-            }
-        }
-        return;
-    }
     for (std::size_t round = 1; round < order; ++round) {
         for (std::size_t index = order - 1; index >= round; --index) {
             Blend(points, weights, index - 1, index, index, fraction);
@@ -80,18 +22,6 @@ void KeepBefore(Point* points, double* weights, std::size_t order, double fracti
 
 /// In place, the control points of the part after `fraction`.
 void KeepAfter(Point* points, double* weights, std::size_t order, double fraction) {
-    if (weights == nullptr && order == kCubicOrder) {
-        KeepAfterInCubic(points, fraction);
-        return;
-    }
-    if (weights == nullptr) {
-        for (std::size_t round = 1; round < order; ++round) {
-            for (std::size_t index = 0; index + round < order; ++index) {
-                points[index] = Between(points[index], points[index + 1], fraction);
-            }
-        }
-        return;
-    }
     for (std::size_t round = 1; round < order; ++round) {
         for (std::size_t index = 0; index + round < order; ++index) {
             Blend(points, weights, index, index + 1, index, fraction);
@@ -142,7 +72,8 @@ BezierChain DecomposeIntoBezier(const NurbsCurve& curve) {
     chain.degree = curve.degree;
     const std::size_t spans = curve.controlPoints.size() - degree; // or fewer, where knots are repeated
     chain.breaks.reserve(spans + 1);
-    if (degree < kCubicOrder) { // Beyond, the empty spans of a hostile curve would cost too much memory.
+    constexpr std::size_t kUsualDegree = 3;
+    if (degree <= kUsualDegree) { // Beyond, the empty spans of a hostile curve would cost too much memory.
         chain.points.reserve(spans * (degree + 1));
     }
     chain.breaks.push_back(curve.knots[degree]);
@@ -204,10 +135,6 @@ void BezierStack::HalveTop() {
     depths_[count_ - 1] = depth;
     Grow();
     depths_[count_ - 1] = depth;
-    if (order_ == kCubicOrder && !IsRational(*chain_)) {
-        HalveTopOfCubic();
-        return;
-    }
     // The lower copy becomes the second half while the upper one becomes the first.
     Point* const upperPoints = TopPointData();
     Point* const lowerPoints = upperPoints - order_;
@@ -228,25 +155,6 @@ void BezierStack::HalveTop() {
             lowerWeights[kept] = upperWeights[order_ - 1];
         }
     }
-}
-
-/// The same, with the triangle of points written out.
-void BezierStack::HalveTopOfCubic() {
-    Point* const first = TopPointData();
-    Point* const second = first - kCubicOrder;
-    const Point a = Between(second[0], second[1], 0.5);
-    const Point b = Between(second[1], second[2], 0.5);
-    const Point c = Between(second[2], second[3], 0.5);
-    const Point ab = Between(a, b, 0.5);
-    const Point bc = Between(b, c, 0.5);
-    const Point middle = Between(ab, bc, 0.5);
-    first[0] = second[0];
-    first[1] = a;
-    first[2] = ab;
-    first[3] = middle;
-    second[0] = middle;
-    second[1] = bc;
-    second[2] = c;
 }
 
 void BezierStack::Pop() {

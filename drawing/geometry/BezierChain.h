@@ -70,7 +70,6 @@ public:
 private:
     /// One more place on the stack, filled by the caller.
     void Grow();
-    void HalveTopOfCubic();
     Point* TopPointData() { return points_.data() + (count_ - 1) * order_; }
     double* TopWeightData() {
         return IsRational(*chain_) ? weights_.data() + (count_ - 1) * order_ : nullptr;

@@ -219,23 +219,6 @@ Status FamilyHatcher::AddLine(Point start, Point end) {
 
 } // namespace
 
-HatchLoop LoopFromVertices(const std::vector<BulgeVertex>& vertices) {
-    HatchLoop loop;
-    if (vertices.size() < 2) {
-        return loop;
-    }
-    for (std::size_t index = 0; index < vertices.size(); ++index) {
-        const BulgeVertex& from = vertices[index];
-        const Point to = vertices[(index + 1) % vertices.size()].point;
-        if (from.bulge == 0.0) {
-            loop.edges.emplace_back(LineEdge{from.point, to});
-        } else {
-            loop.edges.emplace_back(BulgeEdge{from.point, to, from.bulge});
-        }
-    }
-    return loop;
-}
-
 Status EvaluateHatch(const std::vector<HatchLoop>& loops, const std::vector<HatchFamily>& families,
                      std::size_t most, std::vector<HatchLine>& lines) {
     lines.clear();

@@ -1,69 +1,37 @@
 // Hatch lines: families of parallel dashed lines, cut to an area.
 #pragma once
 
-#include "drawing/geometry/NurbsCurve.h"
+#include "OxDb/OxGeNurbCurve2d.h"
+#include "drawing/geometry/BulgeVertex.h"
+#include "drawing/geometry/Status.h"
 
+#include <cstddef>
+#include <memory>
+#include <optional>
 #include <variant>
 #include <vector>
 
 namespace geometry {
 
-struct LineEdge {
-    Point start;
-    Point end;
+/// An edge is one of the interface's curves, of which the ends and the sense count as they are: an arc runs
+/// from its start angle up to its end angle, by end - start plus 2 pi when negative; a full turn when the two
+/// are 2 pi apart (within 1e-9). A spline cannot be copied and is shared; it is not null, and leaves a gap
+/// when it is not defined.
+using HatchEdge =
+    std::variant<OxGeLineSeg2d, OxGeCircArc2d, OxGeEllipArc2d, std::shared_ptr<const OxGeNurbCurve2d>>;
+
+/// The closed line over the vertices; the last bulge belongs to the segment back to the first.
+struct PolylineLoop {
+    std::vector<BulgeVertex> vertices;
+    bool hasBulges = false; ///< false: a hatch hands out no bulges at all
 };
 
-/// An arc from start to end; `bulge` is the tangent of a quarter of its included angle, positive when it runs
-/// counter-clockwise, 0 for a straight line.
-struct BulgeEdge {
-    Point start;
-    Point end;
-    double bulge = 0.0;
-};
-
-/// An arc of a circle. Angles in radians, measured from +x in the direction of travel: the point at angle t
-/// is center + radius (cos t, sin t), or center + radius (cos t, -sin t) when clockwise. It runs from
-/// startAngle up to endAngle, by end - start plus 2 pi when negative; a full turn when the two are 2 pi apart
-/// (within 1e-9).
-struct ArcEdge {
-    Point center;
-    double radius = 0.0;
-    double startAngle = 0.0;
-    double endAngle = 0.0;
-    bool clockwise = false;
-};
-
-/// An arc of an ellipse: as ArcEdge, the point at t being center + majorAxis cos t + minorAxis sin t, with
-/// minorAxis = radiusRatio times majorAxis turned by +90 degrees (by -90 when clockwise).
-struct EllipseEdge {
-    Point center;
-    Vector majorAxis;
-    double radiusRatio = 1.0;
-    double startAngle = 0.0;
-    double endAngle = 0.0;
-    bool clockwise = false;
-};
-
-struct SplineEdge {
-    NurbsCurve curve;
-};
-
-using HatchEdge = std::variant<LineEdge, BulgeEdge, ArcEdge, EllipseEdge, SplineEdge>;
-
-/// Edges in order. Where an edge does not end at the start of the next (after the last: the first), a
-/// straight line joins them, so that a loop always closes. Edges may run backward.
+/// Edges in order, or a polyline. Where an edge does not end at the start of the next (after the last: the
+/// first), a straight line joins them, so that a loop always closes. Edges may run backward.
 struct HatchLoop {
     std::vector<HatchEdge> edges;
+    std::optional<PolylineLoop> polyline = std::nullopt; ///< set: no edge counts
 };
-
-/// A vertex of a polyline loop; the bulge belongs to the segment that leaves it.
-struct BulgeVertex {
-    Point point;
-    double bulge = 0.0;
-};
-
-/// The closed loop over the vertices; the last bulge belongs to the segment back to the first.
-HatchLoop LoopFromVertices(const std::vector<BulgeVertex>& vertices);
 
 /// One family of parallel lines: line k goes through base + k * offset at `angle` (radians, counter-clockwise
 /// from +x), k any whole number; offset is in drawing axes. Dashes run along each line from that very point
@@ -76,6 +44,7 @@ struct HatchFamily {
     std::vector<double> dashes;
 };
 
+/// A piece of a hatch line, from one end to the other.
 struct HatchLine {
     Point start;
     Point end;

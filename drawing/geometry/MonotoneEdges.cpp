@@ -1,6 +1,8 @@
 // Cutting boundary edges where they turn back across the lines of a family, and crossing what is left.
 #include "drawing/geometry/MonotoneEdges.h"
 
+#include "drawing/geometry/NurbCurveData.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -34,16 +36,19 @@ double Sweep(double startAngle, double endAngle) {
 class BoundaryBuilder {
 public:
     explicit BoundaryBuilder(const HatchFrame& frame) : frame_(frame) {}
-
-    void Add(const LineEdge& edge);
-    void Add(const BulgeEdge& edge);
-    void Add(const ArcEdge& edge);
-    void Add(const EllipseEdge& edge);
-    void Add(const SplineEdge& edge);
-    void CloseLoop();
     MonotoneBoundary Take() { return std::move(boundary_); }
 
+    void Add(const HatchLoop& loop);
+
 private:
+    void Add(const OxGeLineSeg2d& edge);
+    void Add(const OxGeCircArc2d& edge);
+    void Add(const OxGeEllipArc2d& edge);
+    void Add(const std::shared_ptr<const OxGeNurbCurve2d>& edge);
+    void Add(const PolylineLoop& polyline);
+    void AddEllipse(Point center, Vector majorAxis, double ratio, double startAngle, double endAngle);
+    void AddBulge(Point start, Point end, double bulge);
+    void CloseLoop();
     double Level(Point point) const { return SnappedLevel(RawLevel(frame_, point)); }
     void ConnectTo(Point start);
     void AddStraight(Point start, Point end);
@@ -79,54 +84,82 @@ void BoundaryBuilder::AddStraight(Point start, Point end) {
     current_ = end;
 }
 
-void BoundaryBuilder::Add(const LineEdge& edge) {
-    ConnectTo(edge.start);
-    AddStraight(edge.start, edge.end);
+void BoundaryBuilder::Add(const HatchLoop& loop) {
+    if (loop.polyline) {
+        Add(*loop.polyline);
+    } else {
+        for (const HatchEdge& edge : loop.edges) {
+            std::visit([this](const auto& curve) { Add(curve); }, edge);
+        }
+    }
+    CloseLoop();
 }
 
-void BoundaryBuilder::Add(const BulgeEdge& edge) {
-    ConnectTo(edge.start);
-    const double bulge = edge.bulge;
-    const Vector chord = edge.end - edge.start;
-    if (bulge == 0.0 || edge.start == edge.end) {
-        AddStraight(edge.start, edge.end);
+void BoundaryBuilder::Add(const OxGeLineSeg2d& edge) {
+    ConnectTo(edge.startPoint());
+    AddStraight(edge.startPoint(), edge.endPoint());
+}
+
+void BoundaryBuilder::Add(const PolylineLoop& polyline) {
+    const std::vector<BulgeVertex>& vertices = polyline.vertices;
+    for (std::size_t index = 0; index < vertices.size() && vertices.size() > 1; ++index) {
+        const BulgeVertex& from = vertices[index];
+        AddBulge(from.point, vertices[(index + 1) % vertices.size()].point, from.bulge);
+    }
+}
+
+void BoundaryBuilder::AddBulge(Point start, Point end, double bulge) {
+    ConnectTo(start);
+    const Vector chord = end - start;
+    if (bulge == 0.0 || start == end) {
+        AddStraight(start, end);
         return;
     }
-    const Point middle = Between(edge.start, edge.end, 0.5);
+    const Point middle = Between(start, end, 0.5);
     if (std::fabs(bulge) < kFlatBulge) {
         const double square = bulge * bulge;
         const Point apex = middle - (bulge / (1.0 - square)) * TurnedLeft(chord);
         const BezierChain chain{
-            2, {0.0, 1.0}, {edge.start, apex, edge.end}, {1.0, (1.0 - square) / (1.0 + square), 1.0}};
+            2, {0.0, 1.0}, {start, apex, end}, {1.0, (1.0 - square) / (1.0 + square), 1.0}};
         AddChain(chain);
         return;
     }
     // The angle counts from the start, in the sense of travel.
     const Point center = middle + ((1.0 - bulge * bulge) / (4.0 * bulge)) * TurnedLeft(chord);
-    const Vector toStart = edge.start - center;
+    const Vector toStart = start - center;
     const Vector ahead = (bulge > 0.0 ? 1.0 : -1.0) * TurnedLeft(toStart);
-    AddConic({center, toStart, ahead}, 0.0, 4.0 * std::atan(std::fabs(bulge)), edge.start, edge.end);
+    AddConic({center, toStart, ahead}, 0.0, 4.0 * std::atan(std::fabs(bulge)), start, end);
 }
 
-void BoundaryBuilder::Add(const ArcEdge& edge) {
-    Add(EllipseEdge{edge.center, {edge.radius, 0.0}, 1.0, edge.startAngle, edge.endAngle, edge.clockwise});
+void BoundaryBuilder::Add(const OxGeCircArc2d& edge) {
+    AddEllipse(edge.center(), {edge.radius(), 0.0}, edge.isClockWise() ? -1.0 : 1.0, edge.startAng(),
+               edge.endAng());
 }
 
-void BoundaryBuilder::Add(const EllipseEdge& edge) {
-    const double ratio = edge.clockwise ? -edge.radiusRatio : edge.radiusRatio;
-    const ConicArc conic{edge.center, edge.majorAxis, ratio * TurnedLeft(edge.majorAxis)};
-    const double startAngle = std::fmod(edge.startAngle, kFullTurn);
-    const double sweep = Sweep(edge.startAngle, edge.endAngle);
-    const Point start = ConicPoint(conic, startAngle);
-    const Point end = sweep == kFullTurn ? start : ConicPoint(conic, startAngle + sweep);
+void BoundaryBuilder::Add(const OxGeEllipArc2d& edge) {
+    const OxGeVector2d axis = edge.majorAxis();
+    AddEllipse(edge.center(), {axis.x, axis.y}, edge.isClockWise() ? -edge.radiusRatio() : edge.radiusRatio(),
+               edge.startAng(), edge.endAng());
+}
+
+/// `ratio` is negative for an arc that runs clockwise.
+void BoundaryBuilder::AddEllipse(Point center, Vector majorAxis, double ratio, double startAngle,
+                                 double endAngle) {
+    const ConicArc conic{center, majorAxis, ratio * TurnedLeft(majorAxis)};
+    const double first = std::fmod(startAngle, kFullTurn);
+    const double sweep = Sweep(startAngle, endAngle);
+    const Point start = ConicPoint(conic, first);
+    const Point end = sweep == kFullTurn ? start : ConicPoint(conic, first + sweep);
     ConnectTo(start);
-    AddConic(conic, startAngle, sweep, start, end);
+    AddConic(conic, first, sweep, start, end);
 }
 
-void BoundaryBuilder::Add(const SplineEdge& edge) {
-    const BezierChain chain = DecomposeIntoBezier(edge.curve);
-    ConnectTo(chain.points.front());
-    AddChain(chain);
+void BoundaryBuilder::Add(const std::shared_ptr<const OxGeNurbCurve2d>& edge) {
+    if (edge->data() != nullptr) {
+        const BezierChain chain = DecomposeIntoBezier(edge->data()->curve);
+        ConnectTo(chain.points.front());
+        AddChain(chain);
+    }
 }
 
 /// Cut at the angles where the level is greatest or least: phase plus whole half turns.
@@ -223,10 +256,7 @@ LevelWave MakeLevelWave(const ConicArc& conic, const HatchFrame& frame) {
 MonotoneBoundary MakeMonotoneBoundary(const std::vector<HatchLoop>& loops, const HatchFrame& frame) {
     BoundaryBuilder builder(frame);
     for (const HatchLoop& loop : loops) {
-        for (const HatchEdge& edge : loop.edges) {
-            std::visit([&](const auto& shape) { builder.Add(shape); }, edge);
-        }
-        builder.CloseLoop();
+        builder.Add(loop);
     }
     return builder.Take();
 }

@@ -1,17 +1,14 @@
-// Points and vectors of the plane.
+// Arithmetic of points and vectors of the plane.
 #pragma once
+
+#include "OxDb/OxGePoint.h"
 
 #include <cmath>
 
 namespace geometry {
 
-/// A point, or a vector, in drawing units. Plain data: nothing is checked here.
-struct Point {
-    double x = 0.0;
-    double y = 0.0;
-
-    friend bool operator==(const Point&, const Point&) = default;
-};
+/// The interface's point, in drawing units. Nothing is checked here.
+using Point = OxGePoint2d;
 
 /// The same pair of numbers where it means a direction or a displacement.
 using Vector = Point;

@@ -24,7 +24,7 @@ constexpr double kProved = 0.999;
 constexpr double kRefuted = 0.97;
 
 /// Halvings after which an undecided piece counts as refuted.
-constexpr int kDeepest = 40;
+constexpr int kDeepestHalving = 40;
 
 /// How often the longest step is narrowed down: to 1/16 of its length.
 constexpr int kNarrowings = 4;
@@ -198,7 +198,7 @@ bool Sampler::StaysNear(const Chord& chord) {
         }
         if (isProved) {
             stack_.Pop();
-        } else if (first > refuted_ || last > refuted_ || stack_.TopDepth() == kDeepest) {
+        } else if (first > refuted_ || last > refuted_ || stack_.TopDepth() == kDeepestHalving) {
             return false;
         } else {
             stack_.HalveTop();

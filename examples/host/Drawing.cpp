@@ -1,6 +1,6 @@
 #include "Drawing.h"
 
-#include <drawing/SimpleEntities.h>
+#include <drawing/entities/SimpleEntities.h>
 
 #include <cstddef>
 

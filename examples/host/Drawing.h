@@ -1,7 +1,7 @@
 // The drawing that this application has open.
 #pragma once
 
-#include <drawing/Database.h>
+#include <drawing/database/Database.h>
 
 #include <memory>
 

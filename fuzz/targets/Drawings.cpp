@@ -1,6 +1,6 @@
 // A drawing document to symbols.
 #include "documents/DrawingReader.h"
-#include "drawing/HostServices.h"
+#include "drawing/database/HostServices.h"
 #include "fuzz/Documents.h"
 #include "fuzz/Fuzzing.h"
 #include "fuzz/Inputs.h"
@@ -79,7 +79,7 @@ bool TakesLittleWork(std::string_view text) {
 }
 
 std::unique_ptr<drawing::Database> Read(std::string_view text, std::string& fault) {
-    documents::DrawingFault found;
+    documents::DrawingError found;
     auto database = documents::ReadDrawing(text, found);
     Require((database == nullptr) == !found.Text().empty(), "a fault with every refusal");
     fault = found.Text();
@@ -99,7 +99,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto database = Read(text, fault);
     if (!database) {
         const fuzzing::Stream file = fuzzing::OpenBytes(text);
-        documents::DrawingFault again;
+        documents::DrawingError again;
         Require(!documents::ReadDrawing(file.get(), again) && again.Text() == fault,
                 "a file to be refused as its text is");
         return 0;

@@ -30,14 +30,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(result >= 0 && result <= LineConverter::kShapeFileNotLoaded &&
                 result != LineConverter::kOutOfMemory && result != LineConverter::kCannotOpen,
             "a result of reading what is there");
-    Require((result == LineConverter::kSuccess) == parser.faults().empty(), "a fault with every failure");
+    Require((result == LineConverter::kSuccess) == parser.errorLog().errors().empty(),
+            "an error with every failure");
 
     auto* const converted = LineConverter::Convert(path.c_str(), &services, &services, 2.0);
     auto* const again = LineConverter::Convert(path.c_str(), &services, &services, 2.0);
     Require((converted != nullptr) == (again != nullptr), "the same result twice");
     Require(converted == nullptr || result == LineConverter::kSuccess,
             "no symbols from a file that is refused");
-    Require(converted == nullptr || converted->size() == parser.linetypes().size(),
+    Require(converted == nullptr || converted->size() == parser.file().linetypes.size(),
             "a symbol for every linetype");
     const fuzzing::Symbols symbols = fuzzing::Owned(converted);
     const std::string document = fuzzing::TextOf(symbols);

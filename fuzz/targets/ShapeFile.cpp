@@ -1,9 +1,7 @@
 // A shape file to glyphs.
-#include "StyleConversion/shx/ShapeFileFault.h"
 #include "StyleConversion/shx/ShxUtility.h"
 #include "documents/GlyphsDocument.h"
 #include "fuzz/Fuzzing.h"
-#include "fuzz/Inputs.h"
 #include "fuzz/ShapeWork.h"
 
 #include <nlohmann/json.hpp>
@@ -14,25 +12,16 @@ namespace {
 using namespace ShxUtility;
 using fuzzing::Require;
 
-ShxResult Load(std::string_view bytes, ShapesInFile& file, ShapeFileFaultReport& report) {
-    const fuzzing::Stream stream = fuzzing::OpenBytes(bytes);
-    return LoadShapeFile(stream.get(), file, kAllKinds, report);
-}
-
 documents::Glyph Draw(const ShapesInFile& file, const Shape& shape) {
     documents::Glyph glyph;
     glyph.number = shape.number;
-    ShapeInstructions instructions;
-    glyph.result = DecodeShape(instructions, shape.data.data(), static_cast<std::uint16_t>(shape.data.size()),
-                               file.kind);
-    if (glyph.result == kSuccess) {
-        double scale = 1.0;
-        PositionStack stack;
-        std::vector<std::uint16_t> active;
-        bool penDown = true;
-        glyph.result = DrawShape(glyph.path, glyph.endX, glyph.endY, scale, stack, active, penDown,
-                                 instructions, file, 30.0, shape.number % 2 == 0);
-    }
+    GlyphPen pen;
+    pen.rotation = 30.0;
+    pen.vertical = shape.number % 2 == 0;
+    // The font information is no glyph.
+    glyph.result = shape.number == 0 ? kSuccess : DrawGlyph(file, shape.number, file.kind, pen, glyph.path);
+    glyph.endX = pen.x;
+    glyph.endY = pen.y;
     return glyph;
 }
 
@@ -61,10 +50,10 @@ std::string GlyphsOf(const ShapesInFile& file) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view bytes = fuzzing::Text(data, size);
     ShapesInFile file;
-    ShapeFileFaultReport report;
-    const ShxResult result = Load(bytes, file, report);
-    Require((result == kSuccess) == (report.fault == ShapeFileFault::None), "a fault with every failure");
-    Require(report.offset <= size, "a fault within the file");
+    ShapeFileReport report;
+    const ShxResult result = LoadShapeFile(bytes, file, kAllKinds, report);
+    Require((result == kSuccess) == (report.error == ShapeFileError::None), "an error with every failure");
+    Require(report.offset <= size, "an error within the file");
     Require(file.numberIndex.size() <= file.shapes.size() && file.nameIndex.size() <= file.shapes.size(),
             "indexes of the shapes only");
     if (result != kSuccess || !fuzzing::AllFitBudget(file)) {
@@ -72,6 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const std::string glyphs = GlyphsOf(file);
     ShapesInFile again;
-    Require(Load(bytes, again, report) == kSuccess && GlyphsOf(again) == glyphs, "the same result twice");
+    Require(LoadShapeFile(bytes, again, kAllKinds, report) == kSuccess && GlyphsOf(again) == glyphs,
+            "the same result twice");
     return 0;
 }

@@ -27,18 +27,18 @@ std::string Converted(drawing::Database& database) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text = fuzzing::Text(data, size);
-    documents::DrawingFault strictFault;
+    documents::DrawingError strictFault;
     const auto strict = documents::ReadDrawing(text, strictFault);
-    documents::DrawingFault fault;
-    documents::DrawingSlips slips;
-    const auto tolerant = documents::ReadDrawing(text, fault, &slips);
+    documents::DrawingError fault;
+    documents::ToleratedErrors tolerated;
+    const auto tolerant = documents::ReadDrawing(text, fault, &tolerated);
     Require((tolerant == nullptr) == !fault.Text().empty(), "a fault with every refusal");
-    Require(strict == nullptr || (tolerant != nullptr && slips.All().empty()),
+    Require(strict == nullptr || (tolerant != nullptr && tolerated.All().empty()),
             "nothing left out of a document that is right");
-    Require(strict != nullptr || tolerant == nullptr || !slips.All().empty(), "a word of what is left out");
-    for (const documents::DrawingSlip& slip : slips.All()) {
-        Require(!slip.fault.what.empty() && !slip.consequence.empty() && slip.count > 0,
-                "words for every slip");
+    Require(strict != nullptr || tolerant == nullptr || !tolerated.All().empty(),
+            "a word of what is left out");
+    for (const diagnostics::Diagnostic& error : tolerated.All()) {
+        Require(!diagnostics::SentenceOf(error).empty() && error.count > 0, "words for every error");
     }
     if (tolerant == nullptr || MayRepeat(text)) {
         return 0;

@@ -1,4 +1,4 @@
-// A pattern file, read by the policy that forgives, to symbols.
+// A pattern file, read tolerantly, to symbols.
 //
 // Input: the pattern file. One that begins with ";mm" or ";in" is scaled to that unit.
 #include "StyleConversion/pattern/AreaSymbol.h"
@@ -13,7 +13,7 @@ namespace {
 
 using fuzzing::Require;
 
-std::string Converted(std::string_view bytes, const pattern::PatternPolicy& policy, bool& hasSlips) {
+std::string Converted(std::string_view bytes, const pattern::PatternPolicy& policy, bool& hasErrors) {
     pattern::PatternFile file;
     pattern::PatternReading reading;
     pattern::ParsePatternFile(bytes, file, &reading, policy);
@@ -28,7 +28,7 @@ std::string Converted(std::string_view bytes, const pattern::PatternPolicy& poli
             symbols.push_back(std::move(symbol));
         }
     }
-    hasSlips = !reading.slips.empty() || reading.end != pattern::PatternReading::End::kEndOfFile;
+    hasErrors = !reading.errors.empty() || reading.end != pattern::PatternReading::End::kEndOfFile;
     std::string document = fuzzing::TextOf(symbols);
     fuzzing::RequireDocument(document, symbols.size());
     return document;
@@ -40,17 +40,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view bytes = fuzzing::Text(data, size);
     fuzzing::ChooseCodePage(bytes);
     pattern::PatternPolicy policy = pattern::kTolerantPatternPolicy;
-    bool hasSlips = false;
-    bool strictHasSlips = false;
-    const std::string document = Converted(bytes, policy, hasSlips);
-    Require(Converted(bytes, policy, hasSlips) == document, "the same document twice");
-    if (!hasSlips) {
-        Require(Converted(bytes, {}, strictHasSlips) == document,
-                "the same document from a file without slips");
+    bool hasErrors = false;
+    bool strictHasErrors = false;
+    const std::string document = Converted(bytes, policy, hasErrors);
+    Require(Converted(bytes, policy, hasErrors) == document, "the same document twice");
+    if (!hasErrors) {
+        Require(Converted(bytes, {}, strictHasErrors) == document,
+                "the same document from a file without errors");
     }
     if (bytes.starts_with(";mm") || bytes.starts_with(";in")) {
         policy.wantedUnit = bytes.starts_with(";mm") ? pattern::Unit::kMillimetre : pattern::Unit::kInch;
-        Converted(bytes, policy, hasSlips);
+        Converted(bytes, policy, hasErrors);
     }
     return 0;
 }

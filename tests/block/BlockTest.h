@@ -3,11 +3,12 @@
 
 #include "StyleConversion/block/BlockConverter.h"
 #include "TylModel/TylModel.h"
-#include "drawing/Areas.h"
-#include "drawing/CurveEntities.h"
-#include "drawing/Database.h"
-#include "drawing/SimpleEntities.h"
-#include "drawing/Texts.h"
+#include "drawing/database/BlockReference.h"
+#include "drawing/database/Database.h"
+#include "drawing/entities/Areas.h"
+#include "drawing/entities/CurveEntities.h"
+#include "drawing/entities/SimpleEntities.h"
+#include "drawing/entities/Texts.h"
 
 #include <gtest/gtest.h>
 #include <memory>

@@ -1,7 +1,10 @@
 // Shapes and texts at the dashes of linetypes.
+#include "StyleConversion/block/ShapeFileSource.h"
 #include "StyleConversion/encoding/NumberReader.h"
+#include "StyleConversion/shx/ShxUtility.h"
 #include "tests/block/BlockTest.h"
 #include "tests/block/ShapeFolder.h"
+#include "tests/support/MemoryFile.h"
 #include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ShapeProgramBuilder.h"
 
@@ -465,6 +468,42 @@ TEST_F(DashShapes, ShapeOfADotIsDrawnAtTheDot) {
     const std::vector<Stroke> strokes = StrokesFrom(path, path.rfind(L" M ") + 1);
     ASSERT_EQ(strokes.size(), 1U);
     ExpectStroke(strokes[0], 0, 2, 1, kPi / 2);
+}
+
+// Shape 130 goes two units up, and only "lib.shx" is there.
+class ShapesAtHand : public block::ShapeFileSource {
+public:
+    ShapesAtHand() {
+        shapes_.kind = ShxUtility::kShapes;
+        const auto program = ShapeProgramBuilder().Vector(2, 4).End();
+        const auto file = test_support::FileOf(ShapeFileBuilder::Shapes().Shape(130, "UP", program).Text());
+        EXPECT_EQ(ShxUtility::LoadShapeFile(file.get(), shapes_, ShxUtility::kAllKinds),
+                  ShxUtility::kSuccess);
+    }
+    const ShxUtility::ShapesInFile* Find(const wchar_t* name) override {
+        return std::wstring(name) == L"lib.shx" ? &shapes_ : nullptr;
+    }
+
+private:
+    ShxUtility::ShapesInFile shapes_;
+};
+
+TEST_F(DashShapes, AProgramsOwnSourceGoesBeforeTheHostServices) {
+    ShapesAtHand source;
+    database.AddLinetype(L"SHAPED", {Dashes({1})[0], ShapeDash(-1)});
+    block.Add<drawing::Line>(Dashed(L"SHAPED"), OxGePoint3d{}, OxGePoint3d{3, 0, 0});
+    BlockConverter converter(&database);
+    const auto path = [&converter] {
+        const Symbol symbol(static_cast<TylModel::SimpleSymbolDefinition*>(converter.Convert(L"B")));
+        return static_cast<const TylModel::Path&>(*symbol->GetGraphics().GetAt(0)).GetGeometry();
+    };
+    {
+        const block::ShapeFilesInUse inUse(source);
+        const std::uint64_t searches = folder.Searches();
+        EXPECT_EQ(path(), kLine + std::wstring(L" M 2,0 l 0,2 "));
+        EXPECT_EQ(folder.Searches(), searches);
+    }
+    EXPECT_EQ(path(), kLine + std::wstring(L" M 2,0 l 1,0 "));
 }
 
 } // namespace

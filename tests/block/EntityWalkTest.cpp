@@ -1,4 +1,5 @@
 // The way from a block to its graphics: names, order, layers, classes, the point usage.
+#include "StyleConversion/block/EntityClass.h"
 #include "tests/block/BlockTest.h"
 
 namespace blocktest {
@@ -248,6 +249,19 @@ TEST_F(EntityWalk, ClassesAreTriedInAFixedOrder) {
     block.Add<KnownInTurn<drawing::Text, 10>>(Solid(), drawing::TextData{});
     block.Add<KnownInTurn<drawing::ParagraphText, 11>>(Solid(), drawing::ParagraphTextData{});
     EXPECT_EQ(Convert()->GetGraphics().GetCount(), 11);
+}
+
+TEST(EntityClass, DashesAreForLinesPolylinesSplinesArcsAndCircles) {
+    using block::EntityClass;
+    for (const EntityClass dashed : {EntityClass::kLine, EntityClass::kPolyline, EntityClass::kSpline,
+                                     EntityClass::kArc, EntityClass::kCircle}) {
+        EXPECT_TRUE(block::HasDashes(dashed));
+    }
+    for (const EntityClass solid :
+         {EntityClass::kPoint, EntityClass::kEllipse, EntityClass::kHatch, EntityClass::kMPolygon,
+          EntityClass::kText, EntityClass::kMText, EntityClass::kNotDrawn}) {
+        EXPECT_FALSE(block::HasDashes(solid));
+    }
 }
 
 TEST_F(EntityWalk, EveryEntityStartsAPathOfItsOwn) {

@@ -72,8 +72,7 @@ protected:
         solid.loops.emplace_back();
         solid.loops.back().polyline = triangle;
         solid.loops.emplace_back();
-        solid.loops.back().edges.push_back(
-            std::make_unique<OxGeLineSeg2d>(OxGePoint2d{0, 0}, OxGePoint2d{1, 2}));
+        solid.loops.back().edges.push_back(OxGeLineSeg2d({0, 0}, {1, 2}));
         block.Add<drawing::Hatch>(byLayer, std::move(solid));
         drawing::HatchData lines;
         lines.lines = std::vector<drawing::HatchLine>{{{0, 0}, {1, 0}}, {{0, 1}, {1, 1}}};

@@ -11,19 +11,19 @@ using Texts = std::vector<std::wstring>;
 
 constexpr double kPi = 3.141592653589793;
 
-using Edge = std::unique_ptr<OxGeCurve2d>;
+using Edge = drawing::HatchEdge;
 
 Edge Segment(const OxGePoint2d& start, const OxGePoint2d& end) {
-    return std::make_unique<OxGeLineSeg2d>(start, end);
+    return OxGeLineSeg2d(start, end);
 }
 
 Edge Arc(const OxGePoint2d& center, double radius, double start, double end, bool clockwise = false) {
-    return std::make_unique<OxGeCircArc2d>(center, radius, start, end, clockwise);
+    return OxGeCircArc2d(center, radius, start, end, clockwise);
 }
 
 Edge Ellipse(const OxGePoint2d& center, const OxGeVector2d& major, double ratio, double start, double end,
              bool clockwise = false) {
-    return std::make_unique<OxGeEllipArc2d>(center, major, ratio, start, end, clockwise);
+    return OxGeEllipArc2d(center, major, ratio, start, end, clockwise);
 }
 
 template <class... Edges>
@@ -190,7 +190,7 @@ Edge SplineEdge() {
     points.append({0, 0});
     points.append({1, 1});
     points.append({2, 0});
-    return std::make_unique<OxGeNurbCurve2d>(points);
+    return std::make_shared<const OxGeNurbCurve2d>(points);
 }
 
 TEST_F(SolidHatch, SplineEdgeIsSkippedAndTheFirstEdgeIsTheFirstWritten) {

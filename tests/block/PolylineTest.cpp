@@ -2,6 +2,10 @@
 #include "tests/block/BlockTest.h"
 #include "tests/block/CirclePoints.h"
 
+#include <algorithm>
+#include <cmath>
+#include <sstream>
+
 namespace blocktest {
 namespace {
 
@@ -39,11 +43,10 @@ TEST_F(PolylineSegments, EachSegmentStartsThePattern) {
         L"M 0.0,0.0 L 0.5,0.0 M 0.75,0.0 L 1.25,0.0 M 1.5,0.0 L 2.0,0.0 M 2.0,0.0 L 2.0,0.25 L 2.0,0.5");
 }
 
-TEST_F(PolylineSegments, LinetypeGenerationWithoutDashesOrWithoutALengthDrawsSegments) {
-    database.AddLinetype(L"NONE", Dashes({1, -1}), 0.0);
+TEST_F(PolylineSegments, LinetypeGenerationWithoutDashesDrawsSegments) {
     const std::wstring expected = L"M 0.0,0.0 L 1.0,0.0 M 1.0,0.0 L 1.0,1.0";
     const Vertices vertices{{{0, 0}}, {{1, 0}}, {{1, 1}}};
-    for (const wchar_t* const linetype : {L"Continuous", L"NOWHERE", L"NONE"}) {
+    for (const wchar_t* const linetype : {L"Continuous", L"NOWHERE"}) {
         block.Add<drawing::Polyline>(Dashed(linetype), vertices, false, true);
     }
     for (const std::wstring& path : Geometries()) {
@@ -197,6 +200,79 @@ TEST_F(PolylineWalk, CoincidentSegmentsAreNoPartOfIt) {
               L"M 0.0,0.0 L 1.0,0.0 M 2.0,0.0 L 3.0,0.0 L 3.0,1.0 M 3.0,2.0 L 3.0,3.0");
 }
 
+TEST_F(PolylineWalk, RestOfAGapThatAVertexCutsIsNoRoundOfThePattern) {
+    // 1 = 10 x 0.1 but for the rounding. The third gap ends at the vertex, or as little before it as doubles
+    // differ there: its rest is gone at once, and the dots go on.
+    const std::wstring path = Path({0, -0.1}, {{{0, 0}}, {{0.3, 0}}, {{0.3, 0.7}}});
+    EXPECT_NE(path.find(L" M 0.3,0.0 L 0.3,0.0 M 0.3,0.1 L 0.3,0.1 M 0.3,0.2 L 0.3,0.2"), path.npos) << path;
+}
+
+TEST_F(PolylineWalk, GapOrDashByItselfGoesOnBehindAVertex) {
+    // 4.3 is 42 x 0.1 and all but 0.1, which the leads share, of the dash with the first dash's length.
+    const Vertices vertices{{{0, 0}}, {{1.8, 0}}, {{1.8, 2.5}}};
+    EXPECT_NE(Path({-0.1}, vertices).find(L" M 1.8,0.05 M 1.8,0.15 M 1.8,0.25"), std::wstring::npos);
+    database.AddLinetype(L"DASH", Dashes({0.1}));
+    block.Add<drawing::Polyline>(Dashed(L"DASH"), vertices, false, true);
+    EXPECT_NE(Geometries().back().find(L" L 1.8,0.1 L 1.8,0.2 L 1.8,0.3"), std::wstring::npos);
+}
+
+// The longest of the pieces that a path of absolute moves and lines draws.
+double LongestPiece(const std::wstring& path) {
+    std::wistringstream words(path);
+    wchar_t command = 0;
+    wchar_t comma = 0;
+    double x = 0;
+    double y = 0;
+    double longest = 0;
+    for (double fromX = 0, fromY = 0; words >> command >> x >> comma >> y; fromX = x, fromY = y) {
+        if (command == L'L') {
+            longest = std::max(longest, std::hypot(x - fromX, y - fromY));
+        }
+    }
+    return longest;
+}
+
+TEST_F(PolylineWalk, NoSideOfARectangleTurnsSolid) {
+    // In metres, so that the millimetres that come out are whole but for the leads. Nothing drawn is longer
+    // than the lead, half of what the pattern leaves over, or the dash.
+    database.SetInsunits(OxDb::kUnitsMeters);
+    for (int spacing = 50; spacing <= 1200; spacing += 50) { // millimetres
+        const double length = spacing / 1000.0;
+        const std::wstring name = L"_" + std::to_wstring(spacing);
+        database.AddLinetype(L"DOT" + name, Dashes({0, -length}));
+        database.AddLinetype(L"GAP" + name, Dashes({-length}));
+        database.AddLinetype(L"DASH" + name, Dashes({length}));
+        for (int width = 3; width <= 27; width += 3) {
+            for (int height = 2; height <= 26; height += 6) {
+                const Vertices rectangle{
+                    {{0, 0}}, {{width / 10.0, 0}}, {{width / 10.0, height / 10.0}}, {{0, height / 10.0}}};
+                for (const wchar_t* const kind : {L"DOT", L"GAP", L"DASH"}) {
+                    block.Add<drawing::Polyline>(Dashed(kind + name), rectangle, true, true);
+                }
+            }
+        }
+    }
+    std::size_t index = 0;
+    const std::vector<std::wstring> paths = Geometries();
+    for (int spacing = 50; spacing <= 1200; spacing += 50) {
+        for (int width = 300; width <= 2700; width += 300) {
+            for (int height = 200; height <= 2600; height += 600) {
+                for (const bool dash : {false, false, true}) {
+                    const std::wstring& path = paths.at(index++);
+                    const int around = 2 * (width + height);
+                    const bool none = around < spacing;
+                    // Where the pattern fits but for the rounding, one repetition more or less is left over.
+                    const double rest = none ? around : around % spacing == 0 ? spacing : around % spacing;
+                    const double lead = (dash && !none ? rest + spacing : rest) / 2.0;
+                    EXPECT_LE(LongestPiece(path), std::max(lead, dash ? spacing : 0.0) + 0.1)
+                        << spacing << " round " << width << " by " << height << ", dash " << dash;
+                }
+            }
+        }
+    }
+    EXPECT_EQ(index, paths.size());
+}
+
 TEST_F(PolylineWalk, LinetypeOfDotsOnlyDrawsTheRestSolid) {
     // With a length of 1 that its one dot does not have: 3.5 = 3 x 1 + 0.5, the lead is 0.25, and the dot
     // behind it is a whole round of the pattern that gets nowhere.
@@ -227,6 +303,14 @@ TEST_F(PolylineWalk, CountsOfRepetitionsThatDoNotFitWrapAndEnd) {
     for (const std::wstring& path : Geometries()) {
         EXPECT_EQ(path, L"M 0.0,0.0 L 8.07374,0.0 M 10.0,0.0");
     }
+}
+
+TEST_F(PolylineWalk, DashesWithoutAPatternLengthAreWalked) {
+    // 6 / 0 gives -2^31 repetitions, of no length each: the lead is (1 + 6) / 2, then the pattern goes on
+    // with its gap. With two dashes the count of entries is 0 and no lead-out comes.
+    database.AddLinetype(L"NONE", Dashes({1, -0.5}), 0.0);
+    block.Add<drawing::Polyline>(Dashed(L"NONE"), Vertices{{{0, 0}}, {{3, 0}}, {{3, 3}}}, false, true);
+    EXPECT_EQ(Geometry(), L"M 0.0,0.0 L 3.0,0.0 L 3.0,0.5 M 3.0,1.0 L 3.0,2.0 M 3.0,2.5 L 3.0,3.0");
 }
 
 TEST_F(PolylineWalk, LengthsThatAreNotFiniteEnd) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "StyleConversion/platform/Files.h"
-#include "drawing/HostServices.h"
+#include "drawing/database/HostServices.h"
 
 #include <cstdio>
 #include <filesystem>

@@ -579,8 +579,7 @@ class Converter:
         out = ["", ""]
         linetype = self.linetype(entity)
         segments = self.segments(entity)
-        if (entity.get("plinegen") and linetype is not None and len(linetype.dashes) >= 1 and
-                linetype.pattern_length != 0):
+        if entity.get("plinegen") and linetype is not None and len(linetype.dashes) >= 1:
             self.walk(linetype, segments, out)
         else:
             for segment in segments:
@@ -602,6 +601,7 @@ class Converter:
         cur = None
         idle = 0
         is_lead = True
+        is_rest = False
         solid = False
         for segment in segments:
             is_line = segment[0] == "line"
@@ -638,9 +638,10 @@ class Converter:
                 # A round of the pattern that gets nowhere.
                 if left != before:
                     idle = 0
-                elif not is_lead:
+                elif not is_lead and not is_rest:
                     idle += 1
                     solid = idle >= dashes
+                is_rest = False
                 counter = wrap32(counter - 1)
                 is_lead = counter == 0
                 if is_lead:
@@ -649,6 +650,8 @@ class Converter:
                     index = (index + 1) % dashes
                     remaining = linetype.length(index)
             if left > 0:
+                is_rest = True
+                idle = 0
                 if solid:
                     out[0] += " L " + self.point(b) if is_line else self.arc_piece(
                         radius, radius, 0.0, left / radius >= PI, clockwise, b)

@@ -8,7 +8,7 @@
 
 /// The drawing of a document, or null with the fault's text in `fault`.
 inline std::unique_ptr<drawing::Database> ReadDocument(const std::string& text, std::string& fault) {
-    documents::DrawingFault found;
+    documents::DrawingError found;
     std::unique_ptr<drawing::Database> database = documents::ReadDrawing(std::string_view(text), found);
     fault = database ? std::string() : found.Text();
     return database;

@@ -1,5 +1,5 @@
 // Hatches of a drawing: loops and the lines of patterns. (The cutting itself is tested with the geometry.)
-#include "drawing/Areas.h"
+#include "drawing/entities/Areas.h"
 #include "tests/drawing/OpenedObjects.h"
 
 #include <cmath>
@@ -54,22 +54,19 @@ TEST_F(Hatches, AFamilyIsCutToAPolylineLoop) {
 
 TEST_F(Hatches, EveryKindOfEdgeBoundsTheArea) {
     // Half discs of radius 1 around the origin, closed by a straight edge, each with another kind of arc.
-    const auto lineThrough = [this](std::unique_ptr<OxGeCurve2d> arc) {
+    const auto lineThrough = [this](const drawing::HatchEdge& arc) {
         drawing::HatchData data;
         data.loops.resize(1);
-        data.loops[0].edges.push_back(std::make_unique<OxGeLineSeg2d>(OxGePoint2d{-1, 0}, OxGePoint2d{1, 0}));
-        data.loops[0].edges.push_back(std::move(arc));
+        data.loops[0].edges.push_back(OxGeLineSeg2d({-1, 0}, {1, 0}));
+        data.loops[0].edges.push_back(arc);
         data.pattern = {{0.0, {0.0, 0.5}, {0.0, 10.0}, {}}};
         const std::vector<drawing::HatchLine> lines = LinesOf(Add(std::move(data)));
         return lines.size() == 1 ? lines[0] : drawing::HatchLine();
     };
     const double x = std::sqrt(0.75);
-    ExpectLine(lineThrough(std::make_unique<OxGeCircArc2d>(OxGePoint2d{}, 1.0, 0.0, pi, false)), {-x, 0.5},
-               {x, 0.5});
-    ExpectLine(lineThrough(std::make_unique<OxGeCircArc2d>(OxGePoint2d{}, 1.0, pi, 2 * pi, true)), {-x, 0.5},
-               {x, 0.5});
-    ExpectLine(lineThrough(std::make_unique<OxGeEllipArc2d>(OxGePoint2d{}, OxGeVector2d{0.0, 2.0}, 0.5,
-                                                            -pi / 2, pi / 2, false)),
+    ExpectLine(lineThrough(OxGeCircArc2d({}, 1.0, 0.0, pi, false)), {-x, 0.5}, {x, 0.5});
+    ExpectLine(lineThrough(OxGeCircArc2d({}, 1.0, pi, 2 * pi, true)), {-x, 0.5}, {x, 0.5});
+    ExpectLine(lineThrough(OxGeEllipArc2d({}, {0.0, 2.0}, 0.5, -pi / 2, pi / 2, false)),
                {-std::sqrt(1 - 0.0625), 0.5}, {std::sqrt(1 - 0.0625), 0.5});
     drawing::NurbsData parabola;
     parabola.degree = 2;

@@ -1,5 +1,5 @@
 // Blocks: iteration, draw order, references.
-#include "drawing/SimpleEntities.h"
+#include "drawing/entities/SimpleEntities.h"
 #include "tests/drawing/OpenedObjects.h"
 
 #include <vector>

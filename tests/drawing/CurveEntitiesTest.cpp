@@ -1,6 +1,6 @@
 // Lines, arcs, circles, ellipses, polylines and splines of a drawing.
-#include "drawing/CurveEntities.h"
-#include "drawing/SimpleEntities.h"
+#include "drawing/entities/CurveEntities.h"
+#include "drawing/entities/SimpleEntities.h"
 #include "tests/drawing/OpenedObjects.h"
 
 #include <cmath>

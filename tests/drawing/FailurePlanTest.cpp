@@ -1,8 +1,8 @@
 // Single calls that are told to fail.
-#include "drawing/Areas.h"
-#include "drawing/CurveEntities.h"
-#include "drawing/HostServices.h"
-#include "drawing/SimpleEntities.h"
+#include "drawing/database/HostServices.h"
+#include "drawing/entities/Areas.h"
+#include "drawing/entities/CurveEntities.h"
+#include "drawing/entities/SimpleEntities.h"
 #include "tests/drawing/OpenedObjects.h"
 
 #include <functional>

@@ -1,6 +1,6 @@
 // The file search of the model's host services.
-#include "drawing/HostServices.h"
-#include "drawing/Database.h"
+#include "drawing/database/HostServices.h"
+#include "drawing/database/Database.h"
 
 #include <array>
 #include <filesystem>

@@ -2,9 +2,10 @@
 #pragma once
 
 #include "OxDb/OxDb.h"
-#include "drawing/CurveEntities.h"
-#include "drawing/Database.h"
-#include "drawing/SimpleEntities.h"
+#include "drawing/database/BlockReference.h"
+#include "drawing/database/Database.h"
+#include "drawing/entities/CurveEntities.h"
+#include "drawing/entities/SimpleEntities.h"
 
 #include <gtest/gtest.h>
 #include <string>

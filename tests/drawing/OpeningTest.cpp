@@ -1,5 +1,5 @@
 // Opening and closing, and what is counted.
-#include "drawing/SimpleEntities.h"
+#include "drawing/entities/SimpleEntities.h"
 #include "tests/drawing/OpenedObjects.h"
 
 namespace {

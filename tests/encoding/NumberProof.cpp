@@ -57,8 +57,7 @@ bool IsPrintfs(double value, std::wstring& trimmed) {
         return false;
     }
     length = static_cast<std::size_t>(std::snprintf(expected.data(), expected.size(), "%.5f", value));
-    trimmed.clear();
-    encoding::AppendTrimmed(trimmed, value);
+    trimmed = encoding::Double2TrimmedString(value);
     return IsSame(trimmed, trimmed.size(), expected.data(), TrimmedLength(expected.data(), length));
 }
 

@@ -14,7 +14,9 @@
 
 namespace {
 
+using encoding::NumberReading;
 using encoding::ReadNumber;
+using encoding::ScanNumber;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
@@ -61,6 +63,19 @@ TEST(NumberReader, UsesNothingWhereThereIsNoNumber) {
           ".e5", "inf", "-inf", "nan", "NaN(1)", "infinity", "x1",  ",1",  "--1", "\x85"}) {
         EXPECT_EQ(ReadNumber(text).used, 0U) << text;
         EXPECT_EQ(ReadNumber(text).value, 0.0) << text;
+    }
+}
+
+TEST(NumberReader, AScannedNumberHasAWholeExponentOrNone) {
+    for (const char* const text : {"1e", "1E", "1e,", "1e+", "-1.5e-,", " 2e+x", "1eE5", "x", ""}) {
+        EXPECT_EQ(ScanNumber(text).used, 0U) << text;
+    }
+    const Row rows[] = {
+        {"1e3", 1000.0, 3}, {"1E-1e", 0.1, 4}, {" 2x", 2.0, 2}, {"1.", 1.0, 2}, {"1,e", 1.0, 1}};
+    for (const Row& row : rows) {
+        const NumberReading reading = ScanNumber(row.text);
+        EXPECT_EQ(reading.value, row.value) << row.text;
+        EXPECT_EQ(reading.used, row.used) << row.text;
     }
 }
 

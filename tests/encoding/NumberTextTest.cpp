@@ -126,7 +126,7 @@ TEST(NumberText, DoesNotFollowTheLocale) {
     for (const char* name : {"de_DE.UTF-8", "C.UTF-8", "fr_FR.UTF-8"}) {
         std::setlocale(LC_ALL, name);
         EXPECT_EQ(encoding::Double2TrimmedString(1234567.25), L"1234567.25");
-        EXPECT_STREQ(encoding::FormatNumber(1234567.25), L"1234567.25");
+        EXPECT_EQ(encoding::FormatNumber(1234567.25), L"1234567.25");
     }
     std::setlocale(LC_ALL, before.c_str());
 }

@@ -32,12 +32,4 @@ TEST(TrimmedNumber, IsRoundedAsTheExactBinaryValue) {
     EXPECT_EQ(encoding::Double2TrimmedString(2.000005), L"2.0");
 }
 
-TEST(TrimmedNumber, IsAppendedBehindWhatStandsThere) {
-    std::wstring text = L"M ";
-    encoding::AppendTrimmed(text, 1.5);
-    text += L',';
-    encoding::AppendTrimmed(text, -1e15);
-    EXPECT_EQ(text, L"M 1.5,-1000000000000000.0");
-}
-
 } // namespace

@@ -120,7 +120,7 @@ TEST(FailedAllocations, OfReadingADrawingReachTheCaller) {
     }
     const std::string text = faults::SmallDrawing();
     EXPECT_GE(FailEach([&] {
-                  documents::DrawingFault fault;
+                  documents::DrawingError fault;
                   const auto database = documents::ReadDrawing(std::string_view(text), fault);
                   EXPECT_NE(database, nullptr) << fault.Text();
               }),

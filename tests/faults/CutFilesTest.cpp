@@ -96,11 +96,11 @@ TEST(CutFiles, PatternsAreThoseBeforeTheCut) {
 TEST(CutFiles, DrawingsAreRefused) {
     const std::string text = faults::SmallDrawing();
     for (std::size_t size = 0; size < text.size(); ++size) {
-        documents::DrawingFault fault;
+        documents::DrawingError fault;
         EXPECT_EQ(documents::ReadDrawing(std::string_view(text).substr(0, size), fault), nullptr) << size;
         EXPECT_FALSE(fault.Text().empty()) << size;
     }
-    documents::DrawingFault fault;
+    documents::DrawingError fault;
     EXPECT_NE(documents::ReadDrawing(std::string_view(text), fault), nullptr) << fault.Text();
 }
 

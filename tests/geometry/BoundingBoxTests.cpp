@@ -9,9 +9,7 @@
 
 namespace {
 
-using geometry::BoundingBox;
-using geometry::Box;
-using geometry::Point;
+using namespace geometry;
 using geometrytests::ClampedKnots;
 using geometrytests::MakeCurve;
 

@@ -9,8 +9,7 @@
 
 namespace geometrytests {
 
-using geometry::NurbsCurve;
-using geometry::Point;
+using namespace geometry;
 
 NurbsCurve MakeCurve(int degree, const std::vector<double>& knots, const std::vector<Point>& points,
                      const std::vector<double>& weights) {

@@ -11,11 +11,7 @@
 
 namespace {
 
-using geometry::HatchFamily;
-using geometry::HatchLine;
-using geometry::HatchLoop;
-using geometry::Point;
-using geometry::Vector;
+using namespace geometry;
 using geometrytests::ExpectLines;
 using geometrytests::Lines;
 using geometrytests::Rectangle;

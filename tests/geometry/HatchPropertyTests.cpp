@@ -11,11 +11,7 @@
 
 namespace {
 
-using geometry::HatchFamily;
-using geometry::HatchLine;
-using geometry::HatchLoop;
-using geometry::Point;
-using geometry::Vector;
+using namespace geometry;
 using geometrytests::Lines;
 using geometrytests::Polygon;
 using geometrytests::RandomBetween;
@@ -68,10 +64,10 @@ TEST(HatchProperties, LengthTimesSpacingIsTheArea) {
 
 TEST(HatchProperties, CircleAndEllipseAreasComeOut) {
     const double spacing = 0.001;
-    const HatchLoop circle{{geometry::ArcEdge{{3, -2}, 2, 1, 1 + 2 * std::numbers::pi, false}}};
+    const HatchLoop circle{{OxGeCircArc2d{{3, -2}, 2, 1, 1 + 2 * std::numbers::pi, false}}};
     EXPECT_NEAR(TotalLength(Lines({circle}, {Solid(0.3, {0, 0}, spacing)})) * spacing, 4 * std::numbers::pi,
                 1e-4);
-    const HatchLoop ellipse{{geometry::EllipseEdge{{3, -2}, {2, 1}, 0.4, 1, 1 + 2 * std::numbers::pi, true}}};
+    const HatchLoop ellipse{{OxGeEllipArc2d{{3, -2}, {2, 1}, 0.4, 1, 1 + 2 * std::numbers::pi, true}}};
     EXPECT_NEAR(TotalLength(Lines({ellipse}, {Solid(0.3, {0, 0}, spacing)})) * spacing, 2 * std::numbers::pi,
                 1e-4);
 }

@@ -1,6 +1,7 @@
 // Hatch areas that the geometry tests share.
 #include "tests/geometry/HatchSamples.h"
 
+#include "drawing/geometry/NurbCurveData.h"
 #include "tests/geometry/CurveSamples.h"
 
 #include <gtest/gtest.h>
@@ -11,18 +12,34 @@
 
 namespace geometrytests {
 
-using geometry::HatchFamily;
-using geometry::HatchLine;
-using geometry::HatchLoop;
-using geometry::Point;
-using geometry::Vector;
+using namespace geometry;
+
+HatchLoop LoopOver(std::vector<geometry::BulgeVertex> vertices) {
+    HatchLoop loop;
+    loop.polyline = geometry::PolylineLoop{std::move(vertices), true};
+    return loop;
+}
+
+geometry::HatchEdge EdgeAlong(const geometry::NurbsCurve& curve) {
+    const OxGeKnotVector knots(static_cast<int>(curve.knots.size()), curve.knots.data());
+    OxGePoint2dArray points;
+    for (const Point& point : curve.controlPoints) {
+        points.append(point);
+    }
+    OxGeDoubleArray weights;
+    for (const double weight : curve.weights) {
+        weights.append(weight);
+    }
+    return weights.isEmpty() ? std::make_shared<const OxGeNurbCurve2d>(curve.degree, knots, points)
+                             : std::make_shared<const OxGeNurbCurve2d>(curve.degree, knots, points, weights);
+}
 
 HatchLoop Polygon(const std::vector<Point>& corners) {
     std::vector<geometry::BulgeVertex> vertices(corners.size());
     for (std::size_t index = 0; index < corners.size(); ++index) {
         vertices[index].point = corners[index];
     }
-    return geometry::LoopFromVertices(vertices);
+    return LoopOver(std::move(vertices));
 }
 
 HatchLoop Rectangle(double left, double bottom, double right, double top) {
@@ -55,24 +72,26 @@ Point RandomPoint(std::mt19937_64& random) {
 geometry::HatchEdge RandomEdge(std::mt19937_64& random) {
     const double start = RandomBetween(random, -7, 7);
     const double end = start + RandomBetween(random, 0, 2 * std::numbers::pi);
-    switch (random() % 6) {
+    switch (random() % 4) {
     case 0:
-        return geometry::LineEdge{RandomPoint(random), RandomPoint(random)};
+        return OxGeLineSeg2d{RandomPoint(random), RandomPoint(random)};
     case 1:
-        return geometry::BulgeEdge{RandomPoint(random), RandomPoint(random), RandomBetween(random, -2, 2)};
-    case 2:
-        return geometry::BulgeEdge{RandomPoint(random), RandomPoint(random),
-                                   RandomBetween(random, -0.02, 0.02)};
-    case 3:
-        return geometry::ArcEdge{RandomPoint(random), RandomBetween(random, 0.5, 8), start, end,
-                                 random() % 2 == 0};
-    case 4:
-        return geometry::EllipseEdge{
-            RandomPoint(random), RandomPoint(random), RandomBetween(random, 0.1, 1.5), start, end,
-            random() % 2 == 0};
-    default:
-        return geometry::SplineEdge{RandomCurve(random)};
+        return OxGeCircArc2d{RandomPoint(random), RandomBetween(random, 0.5, 8), start, end,
+                             random() % 2 == 0};
+    case 2: {
+        const Point center = RandomPoint(random);
+        const Point major = RandomPoint(random);
+        return OxGeEllipArc2d{center, {major.x, major.y}, RandomBetween(random, 0.1, 1.5), start,
+                              end,    random() % 2 == 0};
     }
+    default:
+        return EdgeAlong(RandomCurve(random));
+    }
+}
+
+geometry::BulgeVertex RandomVertex(std::mt19937_64& random) {
+    const double most = random() % 2 == 0 ? 2 : 0.02;
+    return {RandomPoint(random), random() % 4 == 0 ? 0.0 : RandomBetween(random, -most, most)};
 }
 
 /// The points of an edge, as its definition says.
@@ -86,46 +105,47 @@ struct Tessellator {
             points.push_back(center + std::cos(angle) * major + std::sin(angle) * minor);
         }
     }
-    void operator()(const geometry::LineEdge& edge) {
-        points.push_back(edge.start);
-        points.push_back(edge.end);
+    void operator()(const OxGeLineSeg2d& edge) {
+        points.push_back(edge.startPoint());
+        points.push_back(edge.endPoint());
     }
     /// Turned about the chord's ends: the angle between chord and the way to a point of the arc is that of
     /// half the arc that lies between, so points are found without the centre.
-    void operator()(const geometry::BulgeEdge& edge) {
-        const Vector chord = edge.end - edge.start;
-        const double half = 2.0 * std::atan(edge.bulge);
+    void Bulge(Point from, Point to, double bulge) {
+        const Vector chord = to - from;
+        const double half = 2.0 * std::atan(bulge);
         for (int step = 0; step <= chords; ++step) {
             const double part = static_cast<double>(step) / chords;
             const double reach = half == 0.0 ? part : std::sin(half * part) / std::sin(half);
             const double turn = half * (part - 1.0);
-            points.push_back(edge.start +
-                             reach * Vector{std::cos(turn) * chord.x - std::sin(turn) * chord.y,
-                                            std::sin(turn) * chord.x + std::cos(turn) * chord.y});
+            points.push_back(from + reach * Vector{std::cos(turn) * chord.x - std::sin(turn) * chord.y,
+                                                   std::sin(turn) * chord.x + std::cos(turn) * chord.y});
         }
     }
-    void operator()(const geometry::ArcEdge& edge) {
-        Arc(edge.center, {edge.radius, 0}, {0, edge.clockwise ? -edge.radius : edge.radius}, edge.startAngle,
-            edge.endAngle - edge.startAngle);
+    void operator()(const OxGeCircArc2d& edge) {
+        const double radius = edge.radius();
+        Arc(edge.center(), {radius, 0}, {0, edge.isClockWise() ? -radius : radius}, edge.startAng(),
+            edge.endAng() - edge.startAng());
     }
-    void operator()(const geometry::EllipseEdge& edge) {
-        const double minor = edge.clockwise ? -edge.radiusRatio : edge.radiusRatio;
-        Arc(edge.center, edge.majorAxis, minor * Vector{-edge.majorAxis.y, edge.majorAxis.x}, edge.startAngle,
-            edge.endAngle - edge.startAngle);
+    void operator()(const OxGeEllipArc2d& edge) {
+        const Vector major = {edge.majorAxis().x, edge.majorAxis().y};
+        const double minor = edge.isClockWise() ? -edge.radiusRatio() : edge.radiusRatio();
+        Arc(edge.center(), major, minor * Vector{-major.y, major.x}, edge.startAng(),
+            edge.endAng() - edge.startAng());
     }
-    void operator()(const geometry::SplineEdge& edge) {
-        const geometry::Interval interval = geometry::ParameterInterval(edge.curve);
-        std::vector<double> knots = edge.curve.knots;
+    void operator()(const std::shared_ptr<const OxGeNurbCurve2d>& edge) {
+        const geometry::NurbsCurve& curve = edge->data()->curve;
+        const geometry::Interval interval = geometry::ParameterInterval(curve);
+        std::vector<double> knots = curve.knots;
         knots.erase(std::unique(knots.begin(), knots.end()), knots.end());
         for (std::size_t knot = 0; knot + 1 < knots.size(); ++knot) {
             if (knots[knot] < interval.start || knots[knot + 1] > interval.end) {
                 continue;
             }
             for (int step = 0; step <= chords; ++step) {
-                points.push_back(
-                    Evaluate(edge.curve,
-                             step == chords ? knots[knot + 1]
-                                            : knots[knot] + (knots[knot + 1] - knots[knot]) * step / chords));
+                points.push_back(Evaluate(
+                    curve, step == chords ? knots[knot + 1]
+                                          : knots[knot] + (knots[knot + 1] - knots[knot]) * step / chords));
             }
         }
     }
@@ -134,8 +154,13 @@ struct Tessellator {
 } // namespace
 
 HatchLoop RandomLoop(std::mt19937_64& random) {
-    HatchLoop loop;
     const std::size_t count = 1 + random() % 6;
+    if (random() % 3 == 0) {
+        std::vector<geometry::BulgeVertex> vertices(count + 1);
+        std::generate(vertices.begin(), vertices.end(), [&] { return RandomVertex(random); });
+        return LoopOver(std::move(vertices));
+    }
+    HatchLoop loop;
     for (std::size_t index = 0; index < count; ++index) {
         loop.edges.push_back(RandomEdge(random));
     }
@@ -146,6 +171,12 @@ std::vector<Point> Tessellated(const HatchLoop& loop, int chordsPerCurve) {
     Tessellator tessellator{chordsPerCurve, {}};
     for (const geometry::HatchEdge& edge : loop.edges) {
         std::visit(tessellator, edge);
+    }
+    const std::vector<geometry::BulgeVertex> vertices =
+        loop.polyline ? loop.polyline->vertices : std::vector<geometry::BulgeVertex>();
+    for (std::size_t index = 0; index < vertices.size(); ++index) {
+        tessellator.Bulge(vertices[index].point, vertices[(index + 1) % vertices.size()].point,
+                          vertices[index].bulge);
     }
     return tessellator.points;
 }

@@ -2,11 +2,18 @@
 #pragma once
 
 #include "drawing/geometry/Hatch.h"
+#include "drawing/geometry/NurbsCurve.h"
 
 #include <random>
 #include <vector>
 
 namespace geometrytests {
+
+/// A loop over vertices.
+geometry::HatchLoop LoopOver(std::vector<geometry::BulgeVertex> vertices);
+
+/// An edge along a curve that is not periodic.
+geometry::HatchEdge EdgeAlong(const geometry::NurbsCurve& curve);
 
 /// A straight-sided loop.
 geometry::HatchLoop Polygon(const std::vector<geometry::Point>& corners);

@@ -11,16 +11,7 @@
 
 namespace {
 
-using geometry::ArcEdge;
-using geometry::BulgeEdge;
-using geometry::EllipseEdge;
-using geometry::HatchFamily;
-using geometry::HatchLine;
-using geometry::HatchLoop;
-using geometry::LineEdge;
-using geometry::LoopFromVertices;
-using geometry::Point;
-using geometry::SplineEdge;
+using namespace geometry;
 using geometrytests::ClampedKnots;
 using geometrytests::ExpectLines;
 using geometrytests::Lines;
@@ -150,7 +141,7 @@ TEST(Hatch, CircleIsCutExactly) {
     const std::vector<HatchLine> expected = {LevelLine(-3, -4, 4), LevelLine(0, -5, 5), LevelLine(3, -4, 4)};
     for (const double start : {0.0, 1.0, -9.0, 100.0}) {
         for (const bool clockwise : {false, true}) {
-            const ArcEdge circle{{0, 0}, 5, start, start + 2 * kPi, clockwise};
+            const OxGeCircArc2d circle{{0, 0}, 5, start, start + 2 * kPi, clockwise};
             ExpectLines(Lines({HatchLoop{{circle}}}, {Level(3)}), expected, 1e-14);
         }
     }
@@ -158,57 +149,62 @@ TEST(Hatch, CircleIsCutExactly) {
 
 TEST(Hatch, LineThatTouchesACircleDrawsNothing) {
     const std::vector<HatchLine> expected = {LevelLine(0, -5, 5)};
-    ExpectLines(Lines({HatchLoop{{ArcEdge{{0, 0}, 5, 0, 2 * kPi, false}}}}, {Level(5)}), expected, 1e-14);
+    ExpectLines(Lines({HatchLoop{{OxGeCircArc2d{{0, 0}, 5, 0, 2 * kPi, false}}}}, {Level(5)}), expected,
+                1e-14);
 }
 
 TEST(Hatch, CircleWithAnglesCountedDownIsStillFull) {
     const std::vector<HatchLine> expected = {LevelLine(0, -5, 5)};
-    ExpectLines(Lines({HatchLoop{{ArcEdge{{0, 0}, 5, 2 * kPi, 0, false}}}}, {Level(5)}), expected, 1e-14);
+    ExpectLines(Lines({HatchLoop{{OxGeCircArc2d{{0, 0}, 5, 2 * kPi, 0, false}}}}, {Level(5)}), expected,
+                1e-14);
 }
 
 TEST(Hatch, ArcRunsInItsSense) {
     // From angle 0 over a quarter turn, and back along the chord: above the chord, or (clockwise) below it.
-    const HatchLoop above{{ArcEdge{{0, 0}, 5, 0, kPi / 2, false}}};
+    const HatchLoop above{{OxGeCircArc2d{{0, 0}, 5, 0, kPi / 2, false}}};
     ExpectLines(Lines({above}, {{0.0, {0, 3}, {0, 50}, {}}}), {LevelLine(3, 2, 4)}, 1e-14);
-    const HatchLoop below{{ArcEdge{{0, 0}, 5, 0, kPi / 2, true}}};
+    const HatchLoop below{{OxGeCircArc2d{{0, 0}, 5, 0, kPi / 2, true}}};
     ExpectLines(Lines({below}, {{0.0, {0, -3}, {0, 50}, {}}}), {LevelLine(-3, 2, 4)}, 1e-14);
 }
 
 TEST(Hatch, ArcWhoseEndAngleIsSmallerRunsThroughZero) {
     // From 270 degrees over 0 to 90 degrees: the right half.
-    const HatchLoop half{{ArcEdge{{0, 0}, 5, 1.5 * kPi, 0.5 * kPi, false}}};
+    const HatchLoop half{{OxGeCircArc2d{{0, 0}, 5, 1.5 * kPi, 0.5 * kPi, false}}};
     ExpectLines(Lines({half}, {{0.0, {0, 3}, {0, 50}, {}}}), {LevelLine(3, 0, 4)}, 1e-14);
 }
 
 TEST(Hatch, EllipseIsCutExactly) {
-    const EllipseEdge lying{{1, 0}, {10, 0}, 0.5, 0, 2 * kPi, false};
+    const OxGeEllipArc2d lying{{1, 0}, {10, 0}, 0.5, 0, 2 * kPi, false};
     ExpectLines(Lines({HatchLoop{{lying}}}, {Level(3)}),
                 {LevelLine(-3, -7, 9), LevelLine(0, -9, 11), LevelLine(3, -7, 9)}, 1e-13);
-    const EllipseEdge standing{{0, 0}, {0, 10}, 0.5, 0, 2 * kPi, true};
+    const OxGeEllipArc2d standing{{0, 0}, {0, 10}, 0.5, 0, 2 * kPi, true};
     ExpectLines(Lines({HatchLoop{{standing}}}, {Level(6)}),
                 {LevelLine(-6, -4, 4), LevelLine(0, -5, 5), LevelLine(6, -4, 4)}, 1e-13);
 }
 
 TEST(Hatch, EllipticArcCountsItsAnglesFromTheMajorAxis) {
     // A quarter from the tip of the major axis (0, 10) to the left: the minor axis is (-5, 0).
-    const HatchLoop quarter{{EllipseEdge{{0, 0}, {0, 10}, 0.5, 0, kPi / 2, false}}};
+    const HatchLoop quarter{{OxGeEllipArc2d{{0, 0}, {0, 10}, 0.5, 0, kPi / 2, false}}};
     ExpectLines(Lines({quarter}, {{0.0, {0, 6}, {0, 50}, {}}}), {LevelLine(6, -4, -2)}, 1e-13);
-    const HatchLoop other{{EllipseEdge{{0, 0}, {0, 10}, 0.5, 0, kPi / 2, true}}};
+    const HatchLoop other{{OxGeEllipArc2d{{0, 0}, {0, 10}, 0.5, 0, kPi / 2, true}}};
     ExpectLines(Lines({other}, {{0.0, {0, 6}, {0, 50}, {}}}), {LevelLine(6, 2, 4)}, 1e-13);
 }
 
 TEST(Hatch, BulgeOneIsTheHalfCircleToTheRightOfTheWay) {
     const std::vector<HatchLine> lower = {LevelLine(-3, -4, 4)};
-    ExpectLines(Lines({LoopFromVertices({{{-5, 0}, 1.0}, {{5, 0}, 0.0}})}, {{0.0, {0, -3}, {0, 50}, {}}}),
-                lower, 1e-14);
+    ExpectLines(
+        Lines({geometrytests::LoopOver({{{-5, 0}, 1.0}, {{5, 0}, 0.0}})}, {{0.0, {0, -3}, {0, 50}, {}}}),
+        lower, 1e-14);
     const std::vector<HatchLine> upper = {LevelLine(3, -4, 4)};
-    ExpectLines(Lines({LoopFromVertices({{{-5, 0}, -1.0}, {{5, 0}, 0.0}})}, {{0.0, {0, 3}, {0, 50}, {}}}),
-                upper, 1e-14);
+    ExpectLines(
+        Lines({geometrytests::LoopOver({{{-5, 0}, -1.0}, {{5, 0}, 0.0}})}, {{0.0, {0, 3}, {0, 50}, {}}}),
+        upper, 1e-14);
 }
 
 TEST(Hatch, LastBulgeBelongsToTheWayBack) {
     const std::vector<HatchLine> expected = {LevelLine(-3, -4, 4), LevelLine(0, -5, 5), LevelLine(3, -4, 4)};
-    ExpectLines(Lines({LoopFromVertices({{{-5, 0}, 1.0}, {{5, 0}, 1.0}})}, {Level(3)}), expected, 1e-14);
+    ExpectLines(Lines({geometrytests::LoopOver({{{-5, 0}, 1.0}, {{5, 0}, 1.0}})}, {Level(3)}), expected,
+                1e-14);
 }
 
 TEST(Hatch, FlatBulgesAreCutExactly) {
@@ -219,15 +215,16 @@ TEST(Hatch, FlatBulgesAreCutExactly) {
         const double height = 0.75 * sagitta;
         const double down = 0.25 * sagitta; // from the top
         const double half = std::sqrt(down * (2 * radius - down));
-        ExpectLines(
-            Lines({LoopFromVertices({{{-1, 0}, bulge}, {{1, 0}, 0.0}})}, {{0.0, {0, height}, {0, 1}, {}}}),
-            {LevelLine(height, -half, half)}, 1e-9);
+        ExpectLines(Lines({geometrytests::LoopOver({{{-1, 0}, bulge}, {{1, 0}, 0.0}})},
+                          {{0.0, {0, height}, {0, 1}, {}}}),
+                    {LevelLine(height, -half, half)}, 1e-9);
     }
 }
 
 TEST(Hatch, SplineEdgeIsCutAtItsRoots) {
     // x = 10 t, y = 20 t (1 - t); y = 3.75 at t = 1/4 and 3/4. The way back is the gap that closes the loop.
-    const HatchLoop loop{{SplineEdge{MakeCurve(2, ClampedKnots(2, 3), {{0, 0}, {5, 10}, {10, 0}})}}};
+    const HatchLoop loop{
+        {geometrytests::EdgeAlong(MakeCurve(2, ClampedKnots(2, 3), {{0, 0}, {5, 10}, {10, 0}}))}};
     ExpectLines(Lines({loop}, {{0.0, {0, 3.75}, {0, 50}, {}}}), {LevelLine(3.75, 2.5, 7.5)}, 1e-13);
     // 2 units apart along y; the top at y = 5 is touched by no line.
     const std::vector<HatchLine> lines = Lines({loop}, {{0.0, {0, 1}, {0, 2}, {}}});
@@ -236,31 +233,34 @@ TEST(Hatch, SplineEdgeIsCutAtItsRoots) {
 }
 
 TEST(Hatch, LineThatTouchesTheTopOfASplineDrawsNothing) {
-    const HatchLoop loop{{SplineEdge{MakeCurve(2, ClampedKnots(2, 3), {{0, 0}, {5, 10}, {10, 0}})}}};
+    const HatchLoop loop{
+        {geometrytests::EdgeAlong(MakeCurve(2, ClampedKnots(2, 3), {{0, 0}, {5, 10}, {10, 0}}))}};
     ExpectLines(Lines({loop}, {Level(5)}), {LevelLine(0, 0, 10)}, 0.0);
 }
 
 TEST(Hatch, RationalCircleIsCutLikeACircle) {
     const std::vector<HatchLine> expected = {LevelLine(-0.6, -0.8, 0.8), LevelLine(0, -1, 1),
                                              LevelLine(0.6, -0.8, 0.8)};
-    ExpectLines(Lines({HatchLoop{{SplineEdge{geometrytests::UnitCircle()}}}}, {Level(0.6)}), expected, 1e-14);
+    ExpectLines(Lines({HatchLoop{{geometrytests::EdgeAlong(geometrytests::UnitCircle())}}}, {Level(0.6)}),
+                expected, 1e-14);
 }
 
 TEST(Hatch, EdgesThatRunBackwardMakeTheSameArea) {
     const HatchLoop ordered{
-        {LineEdge{{0, 0}, {10, 0}}, LineEdge{{10, 0}, {10, 10}}, LineEdge{{10, 10}, {0, 0}}}};
+        {OxGeLineSeg2d{{0, 0}, {10, 0}}, OxGeLineSeg2d{{10, 0}, {10, 10}}, OxGeLineSeg2d{{10, 10}, {0, 0}}}};
     const HatchLoop mixed{
-        {LineEdge{{0, 0}, {10, 0}}, LineEdge{{10, 10}, {10, 0}}, LineEdge{{10, 10}, {0, 0}}}};
+        {OxGeLineSeg2d{{0, 0}, {10, 0}}, OxGeLineSeg2d{{10, 10}, {10, 0}}, OxGeLineSeg2d{{10, 10}, {0, 0}}}};
     ExpectLines(Lines({mixed}, {Level(1.3)}), Lines({ordered}, {Level(1.3)}));
 }
 
 TEST(Hatch, GapsBetweenEdgesAreClosedByStraightLines) {
-    const HatchLoop loop{{LineEdge{{0, 0}, {10, 0}}, LineEdge{{10, 10}, {0, 10}}}};
+    const HatchLoop loop{{OxGeLineSeg2d{{0, 0}, {10, 0}}, OxGeLineSeg2d{{10, 10}, {0, 10}}}};
     ExpectLines(Lines({loop}, {Level(2.5)}), Lines({Rectangle(0, 0, 10, 10)}, {Level(2.5)}), 0.0);
 }
 
 TEST(Hatch, LoopOfSeveralClosedEdgesHatchesEach) {
-    const HatchLoop loop{{ArcEdge{{0, 0}, 5, 0, 2 * kPi, false}, ArcEdge{{20, 0}, 5, 0, 2 * kPi, true}}};
+    const HatchLoop loop{
+        {OxGeCircArc2d{{0, 0}, 5, 0, 2 * kPi, false}, OxGeCircArc2d{{20, 0}, 5, 0, 2 * kPi, true}}};
     ExpectLines(Lines({loop}, {{0.0, {0, 3}, {0, 50}, {}}}), {LevelLine(3, -4, 4), LevelLine(3, 16, 24)},
                 1e-13);
 }
@@ -271,7 +271,7 @@ TEST(Hatch, NothingToHatchGivesNoLines) {
     EXPECT_TRUE(Lines({HatchLoop{}}, {Level(1)}).empty());
     EXPECT_TRUE(Lines({Polygon({{1, 1}})}, {Level(1)}).empty());
     EXPECT_TRUE(Lines({Polygon({{1, 1}, {5, 5}})}, {Level(1)}).empty());
-    EXPECT_TRUE(Lines({HatchLoop{{ArcEdge{{0, 0}, 0, 0, 2 * kPi, false}}}}, {Level(1)}).empty());
+    EXPECT_TRUE(Lines({HatchLoop{{OxGeCircArc2d{{0, 0}, 0, 0, 2 * kPi, false}}}}, {Level(1)}).empty());
     EXPECT_TRUE(Lines({Rectangle(0.1, 0.1, 0.9, 0.9)}, {Level(1)}).empty());
 }
 

@@ -11,12 +11,8 @@
 
 namespace {
 
-using geometry::EvaluateHatch;
-using geometry::HatchFamily;
-using geometry::HatchLine;
-using geometry::HatchLoop;
-using geometry::Point;
-using geometry::Status;
+using namespace geometry;
+using geometrytests::LoopOver;
 using geometrytests::Polygon;
 using geometrytests::Rectangle;
 
@@ -104,21 +100,22 @@ TEST(HostileHatch, NumbersThatAreNotFiniteAreRefusedWhereverTheyStand) {
             EXPECT_EQ(Evaluate(square, family), Status::kNotFinite);
         }
         const std::vector<geometry::HatchEdge> edges = {
-            geometry::LineEdge{{bad, 0}, {1, 1}},
-            geometry::LineEdge{{0, 0}, {1, bad}},
-            geometry::BulgeEdge{{0, 0}, {1, 1}, bad},
-            geometry::BulgeEdge{{0, 0}, {bad, 1}, 0.5},
-            geometry::ArcEdge{{0, bad}, 1, 0, 1, false},
-            geometry::ArcEdge{{0, 0}, bad, 0, 1, false},
-            geometry::ArcEdge{{0, 0}, 1, bad, 1, false},
-            geometry::ArcEdge{{0, 0}, 1, 0, bad, false},
-            geometry::EllipseEdge{{0, 0}, {bad, 0}, 1, 0, 1, false},
-            geometry::EllipseEdge{{0, 0}, {1, 0}, bad, 0, 1, false},
-            geometry::EllipseEdge{{0, 0}, {1, 0}, 1, bad, 1, false},
+            OxGeLineSeg2d{{bad, 0}, {1, 1}},
+            OxGeLineSeg2d{{0, 0}, {1, bad}},
+            OxGeCircArc2d{{0, bad}, 1, 0, 1, false},
+            OxGeCircArc2d{{0, 0}, bad, 0, 1, false},
+            OxGeCircArc2d{{0, 0}, 1, bad, 1, false},
+            OxGeCircArc2d{{0, 0}, 1, 0, bad, false},
+            OxGeEllipArc2d{{0, 0}, {bad, 0}, 1, 0, 1, false},
+            OxGeEllipArc2d{{0, 0}, {1, 0}, bad, 0, 1, false},
+            OxGeEllipArc2d{{0, 0}, {1, 0}, 1, bad, 1, false},
         };
         for (const geometry::HatchEdge& edge : edges) {
             EXPECT_EQ(Evaluate({HatchLoop{{edge}}}, good), Status::kNotFinite);
         }
+        EXPECT_EQ(Evaluate({LoopOver({{{0, 0}, bad}, {{1, 1}, 0}})}, good), Status::kNotFinite);
+        EXPECT_EQ(Evaluate({LoopOver({{{0, 0}, 0.5}, {{bad, 1}, 0}})}, good), Status::kNotFinite);
+        EXPECT_EQ(Evaluate({LoopOver({{{0, 0}, 0.5}, {{1, bad}, 0}})}, good), Status::kNotFinite);
     }
 }
 
@@ -126,8 +123,8 @@ TEST(HostileHatch, NumbersTooLargeAreRefused) {
     const HatchFamily good{0.0, {0, 0}, {0, 1}, {}};
     EXPECT_EQ(Evaluate({Rectangle(0, 0, 1e308, 10)}, good), Status::kOutOfRange);
     EXPECT_EQ(Evaluate({Rectangle(0, 0, 10, 10)}, {0.0, {1e308, 0}, {0, 1}, {}}), Status::kOutOfRange);
-    EXPECT_EQ(Evaluate({HatchLoop{{geometry::BulgeEdge{{0, 0}, {1, 1}, 1e308}}}}, good), Status::kOutOfRange);
-    EXPECT_EQ(Evaluate({HatchLoop{{geometry::EllipseEdge{{0, 0}, {1e60, 0}, 1e60, 0, 1, false}}}}, good),
+    EXPECT_EQ(Evaluate({LoopOver({{{0, 0}, 1e308}, {{1, 1}, 0}})}, good), Status::kOutOfRange);
+    EXPECT_EQ(Evaluate({HatchLoop{{OxGeEllipArc2d{{0, 0}, {1e60, 0}, 1e60, 0, 1, false}}}}, good),
               Status::kOutOfRange);
 }
 
@@ -189,18 +186,17 @@ TEST(HostileHatch, RandomNumbersOfAnySizeEnd) {
     for (int round = 0; round < 3000; ++round) {
         std::vector<HatchLoop> loops(1 + random() % 2);
         for (HatchLoop& loop : loops) {
-            loop.edges.emplace_back(geometry::LineEdge{{any(), any()}, {any(), any()}});
-            loop.edges.emplace_back(geometry::BulgeEdge{{any(), any()}, {any(), any()}, any()});
+            loop.edges.emplace_back(OxGeLineSeg2d{{any(), any()}, {any(), any()}});
+            loop.edges.emplace_back(OxGeCircArc2d{{any(), any()}, any(), any(), any(), random() % 2 == 0});
             loop.edges.emplace_back(
-                geometry::ArcEdge{{any(), any()}, any(), any(), any(), random() % 2 == 0});
-            loop.edges.emplace_back(geometry::EllipseEdge{
-                {any(), any()}, {any(), any()}, any(), any(), any(), random() % 2 == 0});
+                OxGeEllipArc2d{{any(), any()}, {any(), any()}, any(), any(), any(), random() % 2 == 0});
             geometry::NurbsCurve curve;
             if (MakeNurbsCurve(2, {0, 0, 0, 1, 1, 1}, {{any(), any()}, {any(), any()}, {any(), any()}},
                                {1, std::fabs(any()), 1}, false, curve) == Status::kOk) {
-                loop.edges.emplace_back(geometry::SplineEdge{curve});
+                loop.edges.push_back(geometrytests::EdgeAlong(curve));
             }
         }
+        loops.push_back(LoopOver({{{any(), any()}, any()}, {{any(), any()}, any()}}));
         HatchFamily family{any(), {any(), any()}, {any(), any()}, {any(), any()}};
         std::vector<HatchLine> lines;
         if (EvaluateHatch(loops, {family}, kMillion, lines) == Status::kOk) {

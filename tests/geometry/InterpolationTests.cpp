@@ -11,13 +11,7 @@
 
 namespace {
 
-using geometry::EndTangents;
-using geometry::Evaluate;
-using geometry::InterpolateThroughPoints;
-using geometry::NurbsCurve;
-using geometry::Point;
-using geometry::Status;
-using geometry::Vector;
+using namespace geometry;
 
 NurbsCurve Through(const std::vector<Point>& points, const std::optional<EndTangents>& tangents = {}) {
     NurbsCurve curve;

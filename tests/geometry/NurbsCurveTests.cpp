@@ -10,13 +10,7 @@
 
 namespace {
 
-using geometry::Evaluate;
-using geometry::Interval;
-using geometry::MakeNurbsCurve;
-using geometry::NurbsCurve;
-using geometry::ParameterInterval;
-using geometry::Point;
-using geometry::Status;
+using namespace geometry;
 using geometrytests::ClampedKnots;
 using geometrytests::MakeCurve;
 

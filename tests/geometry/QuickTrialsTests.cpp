@@ -10,9 +10,7 @@
 
 namespace {
 
-using geometry::BezierChain;
-using geometry::Point;
-using geometry::QuickTrials;
+using namespace geometry;
 using geometrytests::ClampedKnots;
 using geometrytests::MakeCurve;
 using geometrytests::RandomBetween;

@@ -13,11 +13,7 @@
 
 namespace {
 
-using geometry::CurveSample;
-using geometry::Interval;
-using geometry::NurbsCurve;
-using geometry::Point;
-using geometry::SamplePoints;
+using namespace geometry;
 using geometrytests::ClampedKnots;
 using geometrytests::MakeCurve;
 

@@ -1,5 +1,5 @@
-"""Every header that a host names can be included first, in C++20 and without a warning, and pkg-config tells all that
-it needs: headers_test.py PREFIX COMPILER HOST-SOURCES"""
+"""Every header that a host names can be included first, in C++17 and C++20 and without a warning, and pkg-config tells
+all that it needs: headers_test.py PREFIX COMPILER HOST-SOURCES"""
 import concurrent.futures
 import glob
 import os
@@ -23,9 +23,13 @@ def pkg_config(option):
 
 def errors(header):
     name = header.removeprefix("StyleConversion/interfaces/")
-    command = [compiler, "-std=c++20", "-Wall", "-Wextra", "-Wpedantic", "-Werror", "-fsyntax-only", "-x", "c++", "-"]
-    return subprocess.run(command + pkg_config("--cflags"), input=f"#include <{name}>\n", text=True,
-                          capture_output=True).stderr
+    found = ""
+    for standard in ("c++17", "c++20"):
+        command = [compiler, f"-std={standard}", "-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Wshadow", "-Werror",
+                   "-fsyntax-only", "-x", "c++", "-"]
+        found += subprocess.run(command + pkg_config("--cflags"), input=f"#include <{name}>\n", text=True,
+                                capture_output=True).stderr
+    return found
 
 
 with concurrent.futures.ThreadPoolExecutor(2) as threads:
@@ -35,5 +39,5 @@ if found:
 
 with tempfile.TemporaryDirectory() as folder:
     # Linked without being run: the libraries may want a sanitizer's runtime, which pkg-config does not know.
-    subprocess.run([compiler, "-std=c++20", "-o", os.path.join(folder, "host"), "-Wl,--allow-shlib-undefined",
+    subprocess.run([compiler, "-std=c++17", "-o", os.path.join(folder, "host"), "-Wl,--allow-shlib-undefined",
                     *glob.glob(host + "/*.cpp"), *pkg_config("--cflags"), *pkg_config("--libs")], check=True)

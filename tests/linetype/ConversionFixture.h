@@ -11,8 +11,8 @@ namespace linetypetest {
 
 class ConversionFixture : public ParserFixture {
 protected:
-    ConversionFixture() : objectsBefore_(TylModel::CountLiveObjects()) {}
-    ~ConversionFixture() override { EXPECT_EQ(TylModel::CountLiveObjects(), objectsBefore_); }
+    ConversionFixture() : objectsBefore_(CountModelObjects()) {}
+    ~ConversionFixture() override { EXPECT_EQ(CountModelObjects(), objectsBefore_); }
 
     /// The symbols of a text, each as SymbolText has it and with a line's end; "failed" when the visitor
     /// failed.
@@ -20,7 +20,7 @@ protected:
         if (const LineConverter::LinResult result = Parse(text); result != LineConverter::kSuccess) {
             return "result " + std::to_string(result);
         }
-        LineConverter::CLinVisitor visitor(scale, &parser.faultLog());
+        LineConverter::CLinVisitor visitor(scale, &parser.errorLog());
         if (const LineConverter::LinResult result = parser.Accept(visitor);
             result != LineConverter::kSuccess) {
             return "result " + std::to_string(result);
@@ -40,7 +40,7 @@ protected:
                ", simple X {path M 0,0 L 4,0 ; params LINECOLOR LINEWEIGHT; line repeat=4}]\n";
     }
 
-    LineConverter::LinFaultKind LastFault() const { return parser.faults().back().kind; }
+    LineConverter::LinErrorKind LastError() const { return parser.errors().back().kind; }
 
 private:
     long objectsBefore_;

@@ -6,9 +6,10 @@
 
 #include "StyleConversion/linetype/LinStyleVisitor.h"
 #include "StyleConversion/linetype/LineConverter.h"
+#include "tests/support/ReadSymbol.h"
 
-#include "drawing/Database.h"
-#include "drawing/HostServices.h"
+#include "drawing/database/Database.h"
+#include "drawing/database/HostServices.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
@@ -22,7 +23,7 @@ using Symbols = std::vector<TylModel::SymbolDefinition*>;
 
 class Convert : public testing::Test {
 protected:
-    Convert() : objectsBefore_(TylModel::CountLiveObjects()) {
+    Convert() : objectsBefore_(CountModelObjects()) {
         drawing::TextStyleData style;
         style.fileName = L"txt.shx";
         database.AddTextStyle(L"Standard", style);
@@ -32,7 +33,7 @@ protected:
         host.setWorkingDatabase(&database);
     }
     ~Convert() override {
-        EXPECT_EQ(TylModel::CountLiveObjects(), objectsBefore_);
+        EXPECT_EQ(CountModelObjects(), objectsBefore_);
         EXPECT_TRUE(database.IsEverythingClosed());
     }
 
@@ -44,7 +45,7 @@ protected:
             return "null";
         }
         for (TylModel::SymbolDefinition* const symbol : *owned) {
-            names += platform::WideToAnsi(symbol->GetName()) + ";";
+            names += platform::WideToAnsi(Read(*symbol).name) + ";";
             delete symbol;
         }
         return names;

@@ -3,7 +3,7 @@
 
 #include "StyleConversion/linetype/CLineConverterDep.h"
 
-#include "drawing/HostServices.h"
+#include "drawing/database/HostServices.h"
 
 #include <filesystem>
 #include <fstream>

@@ -5,8 +5,6 @@
 #include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Files.h"
 
-#include <cstring>
-
 namespace linetypetest {
 
 std::string fileContent;
@@ -47,12 +45,16 @@ void AnsiToWide(std::string_view narrow, std::wstring& wide) {
     wide = AnsiToWide(narrow);
 }
 
+void ThreadAnsiToWide(std::string_view narrow, std::wstring& wide) {
+    AnsiToWide(narrow, wide);
+}
+
 std::string WideToAnsi(std::wstring_view /*wide*/) {
     return {};
 }
 
-const char* FindInMultiByte(const char* text, char sought) {
-    return std::strchr(text, sought);
+std::size_t FindInMultiByte(std::string_view text, char sought) {
+    return text.find(sought);
 }
 
 std::FILE* OpenForReading(const wchar_t* /*path*/) {

@@ -46,23 +46,23 @@ protected:
 
 TEST_F(FailingPlatform, FilesAreRead) {
     EXPECT_EQ(Parse("*X\nA,1\n"), kSuccess);
-    EXPECT_EQ(parser.linetypes().size(), 1U);
+    EXPECT_EQ(parser.file().linetypes.size(), 1U);
 }
 
 TEST_F(FailingPlatform, StyleNameWithoutAWideFormIsFour) {
     EXPECT_EQ(Parse("*X\nA,[\"A\",?]\n"), 4);
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kStyleNameNotConvertible);
+    EXPECT_EQ(parser.errorLog().errors()[0].kind, LinErrorKind::kStyleNameNotConvertible);
 }
 
 TEST_F(FailingPlatform, ShapeFileWithoutAWideFormIsFour) {
     EXPECT_EQ(Parse("*X\nA,[A,?]\n"), 4);
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kShapeFileNotConvertible);
+    EXPECT_EQ(parser.errorLog().errors()[0].kind, LinErrorKind::kShapeFileNotConvertible);
 }
 
 TEST_F(FailingPlatform, FileThatCannotBeClosedIsSeven) {
     closingFails = true;
     EXPECT_EQ(Parse("*X\nA,1\n"), 7);
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kFileNotClosed);
+    EXPECT_EQ(parser.errorLog().errors()[0].kind, LinErrorKind::kFileNotClosed);
     EXPECT_EQ(Parse(""), 7);
 }
 

@@ -3,8 +3,8 @@
 #include "StyleConversion/linetype/CLineConverterDep.h"
 #include "StyleConversion/linetype/LinLimits.h"
 
-#include "drawing/Database.h"
-#include "drawing/HostServices.h"
+#include "drawing/database/Database.h"
+#include "drawing/database/HostServices.h"
 
 #include <filesystem>
 #include <memory>

@@ -77,6 +77,7 @@ INSTANTIATE_TEST_SUITE_P(
         ElementCase{"[m,marks.shx,U=1]", "result 3"}, ElementCase{"[m,marks.shx,z=1]", "result 3"},
         ElementCase{"[m,marks.shx,@=1]", "result 3"}, ElementCase{"[m,marks.shx,\xE9=1]", "result 3"},
         ElementCase{"[m,marks.shx,A=nan]", "result 3"}, ElementCase{"[m,marks.shx,S=1", "result 3"},
+        ElementCase{"[m,marks.shx,S=1e]", "result 3"}, ElementCase{"[m,marks.shx,A=1e-d]", "result 3"},
         ElementCase{"[m,marks.shx,S=1,]", "result 3"}));
 
 // 100 grads are 90 degrees; a value in radians is multiplied by π/180.

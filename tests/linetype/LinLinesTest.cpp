@@ -6,7 +6,7 @@
 namespace linetypetest {
 namespace {
 
-using LineConverter::LinFaultKind;
+using LineConverter::LinErrorKind;
 
 class LinLines : public ParserFixture {
 protected:
@@ -30,9 +30,9 @@ TEST_F(LinLines, HeaderOf1023BytesIsOneLine) {
 TEST_F(LinLines, ByteBeyond1023IsALineOfItsOwn) {
     // The 1,024th byte is then the pattern line.
     EXPECT_EQ(Walk(Header(1024) + "\nA,1\n"), "result 3");
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kAlignmentMissing);
-    EXPECT_EQ(parser.faults()[0].line, 1U);
-    EXPECT_EQ(parser.faults()[0].column, 1024U);
+    EXPECT_EQ(parser.errors()[0].kind, LinErrorKind::kAlignmentMissing);
+    EXPECT_EQ(parser.errors()[0].line, 1U);
+    EXPECT_EQ(parser.errors()[0].column, 1024U);
     // And a pattern may stand there.
     EXPECT_EQ(Walk(Header(1023) + "A,1\n"), Named(1022));
 }
@@ -56,8 +56,8 @@ TEST_F(LinLines, PieceThatEndsInACommaContinuesInTheNextPiece) {
 
 TEST_F(LinLines, LineNumbersCountLinesAndNotPieces) {
     EXPECT_EQ(Walk(std::string(3000, 'x') + "\n*X\nA,x\n"), "result 3");
-    EXPECT_EQ(parser.faults()[0].line, 3U);
-    EXPECT_EQ(parser.faults()[0].column, 3U);
+    EXPECT_EQ(parser.errors()[0].line, 3U);
+    EXPECT_EQ(parser.errors()[0].column, 3U);
 }
 
 TEST_F(LinLines, CarriageReturnsAndOtherBlanksAtTheEndAreDropped) {

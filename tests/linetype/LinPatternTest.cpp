@@ -7,7 +7,7 @@ namespace linetypetest {
 namespace {
 
 using LineConverter::kSyntaxError;
-using LineConverter::LinFaultKind;
+using LineConverter::LinErrorKind;
 
 class LinPattern : public ParserFixture {};
 
@@ -78,17 +78,17 @@ TEST_P(LinPatternTable, Reads) {
     EXPECT_EQ(Elements(GetParam().pattern), GetParam().elements);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Dashes, LinPatternTable,
-    testing::Values(PatternCase{"A,.5,-.25", "dash 0.5;gap 0.25;"}, PatternCase{"S,.5", "dash 0.5;"},
-                    PatternCase{"A,0", "dot;"}, PatternCase{"A,-0", "dot;"},
-                    PatternCase{"A,1e1,-2E-1,+3", "dash 10;gap 0.2;dash 3;"},
-                    PatternCase{"A, 1,\t2", "dash 1;dash 2;"},
-                    // An exponent that is not whole is no part of the number, and ends the pattern.
-                    PatternCase{"A,1e,2", "dash 1;"}, PatternCase{"A,1 ,2", "dash 1;"},
-                    PatternCase{"A,1x,2", "dash 1;"}, PatternCase{"A,1]", "dash 1;"},
-                    PatternCase{"A,1.2.3,4", "dash 1.2;"}, PatternCase{"A,0x10", "dot;"},
-                    PatternCase{"A,1e999,-1e999,1e-999", "dash inf;gap inf;dot;"}));
+INSTANTIATE_TEST_SUITE_P(Dashes, LinPatternTable,
+                         testing::Values(PatternCase{"A,.5,-.25", "dash 0.5;gap 0.25;"},
+                                         PatternCase{"S,.5", "dash 0.5;"}, PatternCase{"A,0", "dot;"},
+                                         PatternCase{"A,-0", "dot;"},
+                                         PatternCase{"A,1e1,-2E-1,+3", "dash 10;gap 0.2;dash 3;"},
+                                         PatternCase{"A, 1,\t2", "dash 1;dash 2;"},
+                                         PatternCase{"A,1e2x,2", "dash 100;"},
+                                         PatternCase{"A,1 ,2", "dash 1;"}, PatternCase{"A,1x,2", "dash 1;"},
+                                         PatternCase{"A,1]", "dash 1;"},
+                                         PatternCase{"A,1.2.3,4", "dash 1.2;"}, PatternCase{"A,0x10", "dot;"},
+                                         PatternCase{"A,1e999,-1e999,1e-999", "dash inf;gap inf;dot;"}));
 
 INSTANTIATE_TEST_SUITE_P(Refused, LinPatternTable,
                          testing::Values(PatternCase{"A,.5,,.5", "result 3"}, PatternCase{"B,.5", "result 3"},
@@ -97,7 +97,10 @@ INSTANTIATE_TEST_SUITE_P(Refused, LinPatternTable,
                                          PatternCase{"A ,.5", "result 3"}, PatternCase{"A,x", "result 3"},
                                          PatternCase{"A,inf", "result 3"}, PatternCase{"A,nan", "result 3"},
                                          PatternCase{"A,-", "result 3"}, PatternCase{"A,]", "result 3"},
-                                         PatternCase{"A,", "result 3"}, PatternCase{"A,1,", "result 3"}));
+                                         // An exponent without digits makes it no number.
+                                         PatternCase{"A,1e,2,-1", "result 3"},
+                                         PatternCase{"A,1,2E+", "result 3"}, PatternCase{"A,", "result 3"},
+                                         PatternCase{"A,1,", "result 3"}));
 
 TEST_F(LinPattern, CommaAtTheEndOfALineContinuesThePattern) {
     EXPECT_EQ(Elements("A,.5,-.25,\n.5"), "dash 0.5;gap 0.25;dash 0.5;");
@@ -110,26 +113,26 @@ TEST_F(LinPattern, ContinuationTakesTheNextLineWhateverItIs) {
 
 TEST_F(LinPattern, CommaAtTheEndOfTheFileIsASyntaxError) {
     EXPECT_EQ(Walk("*X\nA,1,"), "result 3");
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kPatternNotContinued);
+    EXPECT_EQ(parser.errors()[0].kind, LinErrorKind::kPatternNotContinued);
 }
 
 TEST_F(LinPattern, HeaderAtTheEndOfTheFileIsASyntaxError) {
     EXPECT_EQ(Parse("*X"), kSyntaxError);
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kPatternMissing);
+    EXPECT_EQ(parser.errors()[0].kind, LinErrorKind::kPatternMissing);
     EXPECT_EQ(Parse("*X\n\n;\n"), kSyntaxError);
 }
 
 TEST_F(LinPattern, FailureTellsLineColumnLinetypeAndElement) {
     EXPECT_EQ(Parse("; one\r\n*GOOD\r\nA,1\r\n*BAD,description\r\n  A,.5,\r\n  -.25,,7\r\n"), kSyntaxError);
-    ASSERT_EQ(parser.faults().size(), 1U);
-    const LineConverter::LinFault& fault = parser.faults()[0];
-    EXPECT_EQ(fault.kind, LinFaultKind::kDashNotANumber);
-    EXPECT_EQ(fault.result, kSyntaxError);
-    EXPECT_EQ(fault.line, 6U);
-    EXPECT_EQ(fault.column, 8U);
-    EXPECT_EQ(fault.lineText, "-.25,,7");
-    EXPECT_EQ(fault.linetype, "BAD");
-    EXPECT_EQ(fault.element, 3U);
+    ASSERT_EQ(parser.errors().size(), 1U);
+    const LineConverter::LinError& error = parser.errors()[0];
+    EXPECT_EQ(error.kind, LinErrorKind::kDashNotANumber);
+    EXPECT_EQ(error.result, kSyntaxError);
+    EXPECT_EQ(error.line, 6U);
+    EXPECT_EQ(error.column, 8U);
+    EXPECT_EQ(error.lineText, "-.25,,7");
+    EXPECT_EQ(error.linetype, "BAD");
+    EXPECT_EQ(error.element, 3U);
 }
 
 TEST_F(LinPattern, ClearForgetsEverything) {
@@ -137,7 +140,7 @@ TEST_F(LinPattern, ClearForgetsEverything) {
     EXPECT_EQ(parser.linetypes().size(), 1U);
     parser.Clear();
     EXPECT_TRUE(parser.linetypes().empty());
-    EXPECT_TRUE(parser.faults().empty());
+    EXPECT_TRUE(parser.errors().empty());
     // Names of the failed file are not resolved for the next one.
     EXPECT_EQ(Walk("*X\nA,1\n"), "begin;linetype X||1;dash 1;end linetype;end;");
     EXPECT_TRUE(styles.asked.empty());

@@ -1,6 +1,8 @@
 // Text styles and SHX files that a linetype file names, and every result code.
 #include "ParserFixture.h"
 
+#include "StyleConversion/linetype/LinParser.h"
+
 #include <new>
 
 namespace linetypetest {
@@ -24,12 +26,13 @@ TEST_F(LinResolution, FileThatNamesNothingNeedsNobody) {
 }
 
 TEST_F(LinResolution, FileThatCannotBeOpenedIsTwo) {
-    EXPECT_EQ(parser.Parse(folder.Path("none.lin")), 2);
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kFileNotOpened);
+    LinParser missing(&styles, &files);
+    EXPECT_EQ(missing.Parse(folder.Path("none.lin")), 2);
+    EXPECT_EQ(missing.errorLog().errors()[0].kind, LinErrorKind::kFileNotOpened);
 }
 
 TEST_F(LinResolution, DirectoryCannotBeOpened) {
-    EXPECT_EQ(parser.Parse(folder.Path("")), 2);
+    EXPECT_EQ(LinParser(&styles, &files).Parse(folder.Path("")), 2);
 }
 
 TEST_F(LinResolution, TextWithoutAnyoneWhoKnowsStylesIsFive) {
@@ -39,11 +42,11 @@ TEST_F(LinResolution, TextWithoutAnyoneWhoKnowsStylesIsFive) {
 TEST_F(LinResolution, UnknownStyleIsFive) {
     EXPECT_EQ(Parse("*X\nA,1,[\"A\",other]\n"), 5);
     EXPECT_TRUE(parser.fontInfos().empty());
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kStyleUnknown);
-    EXPECT_EQ(parser.faults()[0].subject, L"OTHER");
-    EXPECT_EQ(parser.faults()[0].line, 2U);
-    EXPECT_EQ(parser.faults()[0].linetype, "X");
-    EXPECT_EQ(parser.faults()[0].element, 2U);
+    EXPECT_EQ(parser.errors()[0].kind, LinErrorKind::kStyleUnknown);
+    EXPECT_EQ(parser.errors()[0].subject, L"OTHER");
+    EXPECT_EQ(parser.errors()[0].line, 2U);
+    EXPECT_EQ(parser.errors()[0].linetype, "X");
+    EXPECT_EQ(parser.errors()[0].element, 2U);
 }
 
 TEST_F(LinResolution, BaseServicesKnowNothing) {
@@ -67,24 +70,24 @@ TEST_F(LinResolution, StyleWithAnShxFontNeedsAFileToo) {
 
 TEST_F(LinResolution, ShapeFileThatIsNotFoundIsSix) {
     EXPECT_EQ(Parse("\n*X\nA,1,\n[M,none]\n"), 6);
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kShapeFileNotFound);
-    EXPECT_EQ(parser.faults()[0].subject, L"NONE");
-    EXPECT_EQ(parser.faults()[0].line, 4U);
+    EXPECT_EQ(parser.errors()[0].kind, LinErrorKind::kShapeFileNotFound);
+    EXPECT_EQ(parser.errors()[0].subject, L"NONE");
+    EXPECT_EQ(parser.errors()[0].line, 4U);
     EXPECT_TRUE(parser.shapeFiles().empty());
 }
 
 TEST_F(LinResolution, DamagedShapeFileIsSix) {
     files.files[L"MARKS.SHX"].pop_back();
     EXPECT_EQ(Parse(kWithShape), 6);
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kShapeFileNotLoaded);
-    EXPECT_EQ(parser.faults()[0].shxResult, ShxUtility::kMalformed);
+    EXPECT_EQ(parser.errors()[0].kind, LinErrorKind::kShapeFileNotLoaded);
+    EXPECT_EQ(parser.errors()[0].shxResult, ShxUtility::kMalformed);
     EXPECT_TRUE(parser.shapeFiles().empty());
 }
 
 TEST_F(LinResolution, ShapesAreNotTakenFromAUnifont) {
     files.files[L"MARKS.SHX"] = UnifontFile({{65, "MARK", UnitStroke()}});
     EXPECT_EQ(Parse(kWithShape), 6);
-    EXPECT_EQ(parser.faults()[0].shxResult, ShxUtility::kKindNotAccepted);
+    EXPECT_EQ(parser.errors()[0].shxResult, ShxUtility::kKindNotAccepted);
 }
 
 TEST_F(LinResolution, TextsAreTakenFromAUnifont) {
@@ -120,10 +123,10 @@ TEST_F(LinResolution, FilesAreLoadedOnceEachInTheOrderOfTheirNames) {
     EXPECT_EQ(parser.shapeFiles().size(), 2U);
 }
 
-TEST_F(LinResolution, FirstFaultInTheOrderOfNamesEndsTheParse) {
+TEST_F(LinResolution, FirstErrorInTheOrderOfNamesEndsTheParse) {
     EXPECT_EQ(Parse("*X\nA,[\"A\",zz],[\"A\",yy],[M,none]\n"), 5);
-    EXPECT_EQ(parser.faults().size(), 1U);
-    EXPECT_EQ(parser.faults()[0].subject, L"YY");
+    EXPECT_EQ(parser.errors().size(), 1U);
+    EXPECT_EQ(parser.errors()[0].subject, L"YY");
     EXPECT_TRUE(files.asked.empty());
 }
 
@@ -156,7 +159,7 @@ TEST_F(LinResolution, ExceptionInsideTheParseIsOne) {
 }
 
 TEST_F(LinResolution, UnresolvedFileCanBeReadForItsNames) {
-    EXPECT_EQ(parser.Read(folder.Write("test.lin", "*X\nA,[\"A\",none],[M,none]\n*Y\nA,1\n")), kSuccess);
+    EXPECT_EQ(parser.Read("*X\nA,[\"A\",none],[M,none]\n*Y\nA,1\n"), kSuccess);
     EXPECT_EQ(parser.linetypes().size(), 2U);
     EXPECT_TRUE(styles.asked.empty());
 }

@@ -4,7 +4,7 @@
 namespace linetypetest {
 namespace {
 
-using LineConverter::LinFaultKind;
+using LineConverter::LinErrorKind;
 
 class LinWalk : public ParserFixture {};
 
@@ -19,12 +19,12 @@ TEST_F(LinWalk, ShapeInAFontIsLeftOutAndReportedAndTheWalkGoesOn) {
     EXPECT_EQ(
         Walk("*X\nA,1,[MARK,marks.shx],2\n*Y\nA,3\n"),
         "begin;linetype X||3;dash 1;dash 2;end linetype;linetype Y||1;dash 3;end linetype;end;result 6");
-    ASSERT_EQ(parser.faults().size(), 1U);
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kNotAShapeFile);
-    EXPECT_EQ(parser.faults()[0].subject, L"MARKS.SHX");
-    EXPECT_EQ(parser.faults()[0].linetype, "X");
-    EXPECT_EQ(parser.faults()[0].element, 2U);
-    EXPECT_EQ(parser.faults()[0].line, 2U);
+    ASSERT_EQ(parser.errors().size(), 1U);
+    EXPECT_EQ(parser.errors()[0].kind, LinErrorKind::kNotAShapeFile);
+    EXPECT_EQ(parser.errors()[0].subject, L"MARKS.SHX");
+    EXPECT_EQ(parser.errors()[0].linetype, "X");
+    EXPECT_EQ(parser.errors()[0].element, 2U);
+    EXPECT_EQ(parser.errors()[0].line, 2U);
 }
 
 TEST_F(LinWalk, ShapeInAUnifontThatATextNeedsIsLeftOut) {
@@ -33,22 +33,21 @@ TEST_F(LinWalk, ShapeInAUnifontThatATextNeedsIsLeftOut) {
               "begin;linetype X||2;text A in TXT.SHX of 1 at nan 0 1 0 0;end linetype;end;result 6");
 }
 
-TEST_F(LinWalk, FaultsOfLaterLinetypesHaveTheirOwnLines) {
+TEST_F(LinWalk, ErrorsOfLaterLinetypesHaveTheirOwnLines) {
     files.files[L"MARKS.SHX"] = ShapesFile({FontInformation(8, 2, 0), {130, "MARK", UnitStroke()}});
     Walk("*X\nA,1,2\n*Y\nA,3,\n-1,\n[MARK,marks.shx]\n");
-    ASSERT_EQ(parser.faults().size(), 1U);
-    EXPECT_EQ(parser.faults()[0].line, 6U);
-    EXPECT_EQ(parser.faults()[0].linetype, "Y");
-    EXPECT_EQ(parser.faults()[0].element, 3U);
+    ASSERT_EQ(parser.errors().size(), 1U);
+    EXPECT_EQ(parser.errors()[0].line, 6U);
+    EXPECT_EQ(parser.errors()[0].linetype, "Y");
+    EXPECT_EQ(parser.errors()[0].element, 3U);
 }
 
 TEST_F(LinWalk, UnresolvedElementsAreSkipped) {
-    ASSERT_EQ(parser.Read(folder.Write("test.lin", "*X\nA,1,[\"A\",ST]\n")), LineConverter::kSuccess);
+    ASSERT_EQ(parser.Read("*X\nA,1,[\"A\",ST]\n"), LineConverter::kSuccess);
     RecordingVisitor visitor;
     EXPECT_EQ(parser.Accept(visitor), LineConverter::kSuccess);
     EXPECT_EQ(visitor.record, "begin;linetype X||2;dash 1;end linetype;end;");
-    parser.Clear();
-    ASSERT_EQ(parser.Read(folder.Write("test.lin", "*X\nA,1,[M,marks.shx]\n")), LineConverter::kSuccess);
+    ASSERT_EQ(parser.Read("*X\nA,1,[M,marks.shx]\n"), LineConverter::kSuccess);
     EXPECT_EQ(parser.Accept(visitor), LineConverter::kShapeFileNotLoaded);
 }
 

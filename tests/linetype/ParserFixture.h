@@ -4,9 +4,9 @@
 #include "FakeServices.h"
 #include "RecordingVisitor.h"
 #include "ShapeBytes.h"
-#include "StyleConversion/linetype/LinParser.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "TestFile.h"
+#include "TestParser.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -17,7 +17,8 @@ namespace linetypetest {
 /// TICK).
 class ParserFixture : public testing::Test {
 protected:
-    explicit ParserFixture(const LineConverter::LinPolicy& policy = {}) : parser(&styles, &files, policy) {
+    explicit ParserFixture(const LineConverter::LinPolicy& policy = {})
+        : shapeFiles(files), parser(&styles, &shapeFiles, policy) {
         // The files here are UTF-8, and some systems have another page of their own.
         platform::SetAnsiCodePage("UTF-8");
         styles.AddTrueType(L"ST", L"Arial");
@@ -27,10 +28,7 @@ protected:
         files.files[L"MARKS.SHX"] = ShapesFile({{130, "MARK", UnitStroke()}, {131, "TICK", UnitStroke()}});
     }
 
-    LineConverter::LinResult Parse(std::string_view text) {
-        parser.Clear();
-        return parser.Parse(folder.Write("test.lin", text));
-    }
+    LineConverter::LinResult Parse(std::string_view text) { return parser.Parse(text); }
 
     /// What a walk shows, or "result N" when the text cannot be read.
     std::string Walk(std::string_view text) {
@@ -57,7 +55,8 @@ protected:
     TestFolder folder;
     FakeStyles styles;
     FakeFiles files;
-    LineConverter::LinParser parser;
+    LineConverter::HostShapeFiles shapeFiles;
+    TestParser parser;
 };
 
 } // namespace linetypetest

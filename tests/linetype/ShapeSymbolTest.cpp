@@ -4,7 +4,7 @@
 namespace linetypetest {
 namespace {
 
-using LineConverter::LinFaultKind;
+using LineConverter::LinErrorKind;
 
 class ShapeSymbol : public ConversionFixture {
 protected:
@@ -85,32 +85,32 @@ TEST_F(ShapeSymbol, StateOfOneLinetypeIsNotTheNextOnes) {
 
 TEST_F(ShapeSymbol, ShapeThatTheFileLacksFailsTheConversion) {
     EXPECT_EQ(Convert("*W\nA,1\n*X\nA,4,[NONE,marks.shx]\n*Y\nA,1\n"), "failed");
-    ASSERT_EQ(parser.faults().size(), 1U);
-    EXPECT_EQ(parser.faults()[0].kind, LinFaultKind::kShapeNotInFile);
-    EXPECT_EQ(parser.faults()[0].subject, L"NONE");
-    EXPECT_EQ(parser.faults()[0].linetype, "X");
-    EXPECT_EQ(parser.faults()[0].element, 2U);
-    EXPECT_EQ(parser.faults()[0].line, 4U);
+    ASSERT_EQ(parser.errors().size(), 1U);
+    EXPECT_EQ(parser.errors()[0].kind, LinErrorKind::kShapeNotInFile);
+    EXPECT_EQ(parser.errors()[0].subject, L"NONE");
+    EXPECT_EQ(parser.errors()[0].linetype, "X");
+    EXPECT_EQ(parser.errors()[0].element, 2U);
+    EXPECT_EQ(parser.errors()[0].line, 4U);
 }
 
 TEST_F(ShapeSymbol, ShapeWithALowerCaseNameIsNeverFound) {
     EXPECT_EQ(ConvertPattern("4,[lower,marks.shx]"), "failed");
-    EXPECT_EQ(LastFault(), LinFaultKind::kShapeNotInFile);
+    EXPECT_EQ(LastError(), LinErrorKind::kShapeNotInFile);
 }
 
 TEST_F(ShapeSymbol, ShapeThatCannotBeDecodedOrDrawnFailsTheConversion) {
     EXPECT_EQ(ConvertPattern("4,[CUT,marks.shx]"), "failed");
-    EXPECT_EQ(LastFault(), LinFaultKind::kShapeNotDrawn);
-    EXPECT_EQ(parser.faults()[0].shxResult, ShxUtility::kMalformed);
+    EXPECT_EQ(LastError(), LinErrorKind::kShapeNotDrawn);
+    EXPECT_EQ(parser.errors()[0].shxResult, ShxUtility::kMalformed);
     EXPECT_EQ(ConvertPattern("4,[LOOP,marks.shx]"), "failed");
-    EXPECT_EQ(parser.faults()[0].shxResult, ShxUtility::kRecursiveSubshape);
+    EXPECT_EQ(parser.errors()[0].shxResult, ShxUtility::kRecursiveSubshape);
 }
 
 TEST_F(ShapeSymbol, EveryFailedElementIsKept) {
     EXPECT_EQ(ConvertPattern("4,[NONE,marks.shx],[MARK,marks.shx],[CUT,marks.shx]"), "failed");
-    ASSERT_EQ(parser.faults().size(), 2U);
-    EXPECT_EQ(parser.faults()[0].element, 2U);
-    EXPECT_EQ(parser.faults()[1].element, 4U);
+    ASSERT_EQ(parser.errors().size(), 2U);
+    EXPECT_EQ(parser.errors()[0].element, 2U);
+    EXPECT_EQ(parser.errors()[1].element, 4U);
 }
 
 TEST_F(ShapeSymbol, FailureIsForgottenByTheNextRun) {

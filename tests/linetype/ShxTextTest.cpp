@@ -4,7 +4,7 @@
 namespace linetypetest {
 namespace {
 
-using LineConverter::LinFaultKind;
+using LineConverter::LinErrorKind;
 
 class ShxText : public ConversionFixture {
 protected:
@@ -147,39 +147,39 @@ TEST_F(ShxText, SubshapesOfUnifontsHaveOneByteNumbersHere) {
     files.files[L"TXT.SHX"] = UnifontFile(
         {FontInformation(10, 2, 0), {65, "A", Bytes({0x50, 0})}, {66, "B", Bytes({7, 0, 65, 0})}});
     EXPECT_EQ(ConvertPattern("4,[\"B\",STANDARD]"), "failed");
-    EXPECT_EQ(parser.faults()[0].shxResult, ShxUtility::kSubshapeNotFound);
+    EXPECT_EQ(parser.errors()[0].shxResult, ShxUtility::kSubshapeNotFound);
 }
 
 TEST_F(ShxText, FontOfHeightZeroFailsTheConversion) {
     files.files[L"TXT.SHX"] = ShapesFile({FontInformation(0, 2, 0), {65, "A", Bytes({0x50, 0})}});
     EXPECT_EQ(ConvertPattern("4,[\"A\",STANDARD]"), "failed");
-    EXPECT_EQ(LastFault(), LinFaultKind::kFontHeightZero);
-    EXPECT_EQ(parser.faults()[0].subject, L"TXT.SHX");
-    EXPECT_EQ(parser.faults()[0].linetype, "X");
-    EXPECT_EQ(parser.faults()[0].element, 2U);
+    EXPECT_EQ(LastError(), LinErrorKind::kFontHeightZero);
+    EXPECT_EQ(parser.errors()[0].subject, L"TXT.SHX");
+    EXPECT_EQ(parser.errors()[0].linetype, "X");
+    EXPECT_EQ(parser.errors()[0].element, 2U);
 }
 
 TEST_F(ShxText, UnifontWithoutInformationFailsTheConversion) {
     files.files[L"TXT.SHX"] = UnifontFile({{65, "A", Bytes({0x50, 0})}});
     EXPECT_EQ(ConvertPattern("4,[\"A\",STANDARD]"), "failed");
-    EXPECT_EQ(LastFault(), LinFaultKind::kFontWithoutInformation);
+    EXPECT_EQ(LastError(), LinErrorKind::kFontWithoutInformation);
 }
 
 TEST_F(ShxText, ShapeLibraryIsNoFont) {
     files.files[L"TXT.SHX"] = ShapesFile({{65, "A", Bytes({0x50, 0})}});
     EXPECT_EQ(ConvertPattern("4,[\"A\",STANDARD]"), "failed");
-    EXPECT_EQ(LastFault(), LinFaultKind::kNotAFont);
+    EXPECT_EQ(LastError(), LinErrorKind::kNotAFont);
 }
 
 TEST_F(ShxText, CharacterThatCannotBeDrawnDropsTheWholeText) {
     UseFont({{67, "C", Bytes({8, 1})}});
     EXPECT_EQ(ConvertPattern("4,[\"ACA\",STANDARD]"), "failed");
-    EXPECT_EQ(LastFault(), LinFaultKind::kCharacterNotDrawn);
-    EXPECT_EQ(parser.faults()[0].subject, L"C");
+    EXPECT_EQ(LastError(), LinErrorKind::kCharacterNotDrawn);
+    EXPECT_EQ(parser.errors()[0].subject, L"C");
 }
 
 TEST_F(ShxText, FontThatIsNotLoadedFailsTheConversion) {
-    LineConverter::CLinVisitor visitor(1.0, &parser.faultLog());
+    LineConverter::CLinVisitor visitor(1.0, &parser.errorLog());
     visitor.Begin();
     LineConverter::LinetypeRecord record;
     visitor.BeginLinetype(record, record.description, 1);
@@ -188,7 +188,7 @@ TEST_F(ShxText, FontThatIsNotLoadedFailsTheConversion) {
     visitor.Text("A", {}, font, {});
     visitor.EndLinetype();
     EXPECT_EQ(visitor.TakeResults(), nullptr);
-    EXPECT_EQ(LastFault(), LinFaultKind::kFontNotLoaded);
+    EXPECT_EQ(LastError(), LinErrorKind::kFontNotLoaded);
 }
 
 } // namespace

@@ -60,7 +60,7 @@ TEST_F(SimpleSymbol, LinetypeWithoutANameIsCalledLineSymbol) {
     const std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> symbols(visitor.TakeResults());
     ASSERT_EQ(symbols->size(), 1U);
     const std::unique_ptr<TylModel::SymbolDefinition> symbol(symbols->front());
-    EXPECT_EQ(symbol->GetName(), L"LINE_SYMBOL");
+    EXPECT_EQ(Read(*symbol).name, L"LINE_SYMBOL");
 }
 
 TEST_F(SimpleSymbol, ResultsAreTakenOnceAndLeaveAnEmptyVector) {
@@ -103,16 +103,14 @@ TEST_F(SimpleSymbol, ParametersHaveTheirTextsInTheirOrder) {
     parser.Accept(visitor);
     const std::unique_ptr<std::vector<TylModel::SymbolDefinition*>> symbols(visitor.TakeResults());
     const std::unique_ptr<TylModel::SymbolDefinition> symbol(symbols->front());
-    const auto& parameters =
-        dynamic_cast<TylModel::SimpleSymbolDefinition&>(*symbol).GetParameterDefinition();
-    ASSERT_EQ(parameters.GetCount(), 3);
-    for (std::int32_t i = 0; i < 3; ++i) {
-        const TylModel::Parameter& parameter = *parameters.GetAt(i);
-        EXPECT_EQ(parameter.GetIdentifier(), expected[i].identifier);
-        EXPECT_EQ(parameter.GetDisplayName(), expected[i].displayName);
-        EXPECT_EQ(parameter.GetDescription(), expected[i].description);
-        EXPECT_EQ(parameter.GetDefaultValue(), expected[i].defaultValue);
-        EXPECT_EQ(static_cast<int>(parameter.GetDataType()), expected[i].dataType);
+    const std::vector<ReadParameter> parameters = Read(*symbol).parameters;
+    ASSERT_EQ(parameters.size(), 3U);
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(parameters[i].identifier, expected[i].identifier);
+        EXPECT_EQ(parameters[i].displayName, expected[i].displayName);
+        EXPECT_EQ(parameters[i].description, expected[i].description);
+        EXPECT_EQ(parameters[i].defaultValue, expected[i].defaultValue);
+        EXPECT_EQ(parameters[i].dataType, expected[i].dataType);
     }
 }
 

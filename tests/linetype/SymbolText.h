@@ -2,8 +2,7 @@
 #pragma once
 
 #include "StyleConversion/platform/CodePage.h"
-
-#include "TylModel/TylModel.h"
+#include "tests/support/ReadSymbol.h"
 
 #include <string>
 #include <vector>
@@ -14,81 +13,86 @@ namespace linetypetest {
 /// "simple NAME {path M 0,0 ; params LINECOLOR LINEWEIGHT; line repeat=1}" and
 /// "compound NAME (DESCRIPTION) [simple …, simple …]". The colours and weight of a path are shown only where
 /// they are not those of every path of a line symbol.
-class SymbolText : private TylModel::ISymbolDefinitionVisitor, private TylModel::IGraphicElementVisitor {
+class SymbolText {
 public:
     static std::string Of(TylModel::SymbolDefinition& definition) {
         SymbolText text;
-        definition.AcceptVisitor(text);
+        text.Add(Read(definition));
         return text.text_;
     }
 
 private:
-    void VisitSimpleSymbolDefinition(TylModel::SimpleSymbolDefinition& definition) override {
-        Header("simple ", definition);
+    void Add(const ReadSymbol& symbol) {
+        Header(symbol.isCompound ? "compound " : "simple ", symbol);
+        if (symbol.isCompound) {
+            AddMembers(symbol);
+            return;
+        }
         text_ += " {";
-        for (std::int32_t i = 0; i < definition.GetGraphics().GetCount(); ++i) {
-            definition.GetGraphics().GetAt(i)->AcceptVisitor(*this);
+        for (const ReadGraphic& graphic : symbol.graphics) {
+            graphic.path ? Add(*graphic.path) : Add(*graphic.text);
         }
         text_ += "params";
-        for (std::int32_t i = 0; i < definition.GetParameterDefinition().GetCount(); ++i) {
-            Add(" ", definition.GetParameterDefinition().GetAt(i)->GetIdentifier());
+        for (const ReadParameter& parameter : symbol.parameters) {
+            Add(" ", parameter.identifier);
         }
-        if (const TylModel::LineUsage* const usage = definition.GetLineUsage()) {
+        if (symbol.line) {
             text_ += "; line";
-            Add(" angle=", usage->GetAngle());
-            Add(" control=", usage->GetAngleControl());
-            Add(" repeat=", usage->GetRepeat());
-            Add(" start=", usage->GetStartOffset());
+            Add(" angle=", symbol.line->angle);
+            Add(" control=", symbol.line->angleControl);
+            Add(" repeat=", symbol.line->repeat);
+            Add(" start=", symbol.line->startOffset);
         }
-        if (definition.GetPointUsage() != nullptr || definition.GetAreaUsage() != nullptr) {
+        if (symbol.point || symbol.area) {
             text_ += "; another usage";
         }
         text_ += "}";
     }
 
-    void VisitCompoundSymbolDefinition(TylModel::CompoundSymbolDefinition& definition) override {
-        Header("compound ", definition);
+    void AddMembers(const ReadSymbol& symbol) {
         text_ += " [";
-        for (std::int32_t i = 0; i < definition.GetSymbols().GetCount(); ++i) {
-            text_ += i > 0 ? ", " : "";
-            definition.GetSymbols().GetAt(i)->GetSymbolDefinition()->AcceptVisitor(*this);
+        const char* separator = "";
+        for (const ReadSymbol& member : symbol.members) {
+            text_ += separator;
+            Add(member);
+            separator = ", ";
         }
         text_ += "]";
     }
 
-    void VisitPath(TylModel::Path& path) override {
-        text_ += "path " + platform::WideToAnsi(path.GetGeometry());
-        if (path.GetLineColor() != L"%LINECOLOR%" || path.GetLineWeight() != L"%LINEWEIGHT%" ||
-            path.GetLineWeightScalable() != L"false" || !path.GetFillColor().empty()) {
-            Add("color=", path.GetLineColor());
-            Add(" weight=", path.GetLineWeight());
-            Add(" scalable=", path.GetLineWeightScalable());
-            Add(" fill=", path.GetFillColor());
+    void Add(const ReadPath& path) {
+        text_ += "path " + platform::WideToAnsi(path.geometry);
+        if (path.lineColor != L"%LINECOLOR%" || path.lineWeight != L"%LINEWEIGHT%" ||
+            path.lineWeightScalable != L"false" || !path.fillColor.empty()) {
+            Add("color=", path.lineColor);
+            Add(" weight=", path.lineWeight);
+            Add(" scalable=", path.lineWeightScalable);
+            Add(" fill=", path.fillColor);
         }
         text_ += "; ";
     }
 
-    void VisitText(TylModel::Text& text) override {
-        Add("text ", text.GetContent());
-        Add(" font=", text.GetFontName());
-        Add(" height=", text.GetHeight());
-        Add(" angle=", text.GetAngle());
-        Add(" x=", text.GetPositionX());
-        Add(" y=", text.GetPositionY());
-        Add(" ", text.GetHorizontalAlignment());
-        Add(" ", text.GetVerticalAlignment());
-        Add(" ", text.GetTextColor());
-        Add(" bold=", text.GetBold());
-        Add(" italic=", text.GetItalic());
-        Add(" underlined=", text.GetUnderlined());
-        Add(" overlined=", text.GetOverlined());
+    void Add(const ReadText& text) {
+        Add("text ", text.content);
+        Add(" font=", text.fontName);
+        Add(" height=", text.height);
+        Add(" angle=", text.angle);
+        Add(" x=", text.x);
+        Add(" y=", text.y);
+        Add(" ", text.horizontal);
+        Add(" ", text.vertical);
+        Add(" ", text.color);
+        Add(" bold=", text.bold);
+        Add(" italic=", text.italic);
+        Add(" underlined=", text.underlined);
+        Add(" overlined=", text.overlined);
         text_ += "; ";
     }
 
-    void Header(const char* kind, const TylModel::SymbolDefinition& definition) {
-        text_ += kind + platform::WideToAnsi(definition.GetName());
-        Add(" (", definition.GetDescription());
-        text_ += definition.GetDescription().empty() ? "" : ")";
+    void Header(const char* kind, const ReadSymbol& symbol) {
+        text_ += kind + platform::WideToAnsi(symbol.name);
+        Add(" (", symbol.description);
+        text_ += symbol.description.empty() ? "" : ")";
     }
 
     void Add(const char* label, const std::wstring& value) {

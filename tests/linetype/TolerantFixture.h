@@ -1,4 +1,4 @@
-// A linetype parser that forgives what can be forgiven, over a text.
+// A tolerant linetype parser over a text.
 #pragma once
 
 #include "ParserFixture.h"
@@ -10,15 +10,15 @@ namespace linetypetest {
 
 class TolerantFixture : public ParserFixture {
 protected:
-    using LinFaultKind = LineConverter::LinFaultKind;
-    using Kinds = std::vector<LinFaultKind>;
+    using LinErrorKind = LineConverter::LinErrorKind;
+    using Kinds = std::vector<LinErrorKind>;
 
     TolerantFixture() : ParserFixture(LineConverter::kTolerantLinPolicy) {}
 
     /// What a strict reading shows.
     std::string StrictWalk(std::string_view text) {
-        LineConverter::LinParser strict(&styles, &files);
-        const LineConverter::LinResult result = strict.Parse(folder.Write("strict.lin", text));
+        TestParser strict(&styles, &shapeFiles);
+        const LineConverter::LinResult result = strict.Parse(text);
         if (result != LineConverter::kSuccess) {
             return "result " + std::to_string(result);
         }
@@ -37,18 +37,18 @@ protected:
         return names;
     }
 
-    Kinds FaultKinds() const {
+    Kinds ErrorKinds() const {
         Kinds kinds;
-        for (const LineConverter::LinFault& fault : parser.faults()) {
-            kinds.push_back(fault.kind);
+        for (const LineConverter::LinError& error : parser.errors()) {
+            kinds.push_back(error.kind);
         }
         return kinds;
     }
 
-    /// Whether all faults of the last reading were forgiven.
-    bool AllForgiven() const {
-        for (const LineConverter::LinFault& fault : parser.faults()) {
-            if (!fault.forgiven) {
+    /// Whether all errors of the last reading were tolerated.
+    bool AllTolerated() const {
+        for (const LineConverter::LinError& error : parser.errors()) {
+            if (!error.tolerated) {
                 return false;
             }
         }

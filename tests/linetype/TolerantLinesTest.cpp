@@ -7,7 +7,7 @@
 namespace linetypetest {
 namespace {
 
-using LineConverter::LinFaultKind;
+using LineConverter::LinErrorKind;
 
 constexpr std::size_t kLongestPiece = LineConverter::kLineBufferSize - 1;
 
@@ -27,7 +27,7 @@ TEST_F(TolerantLines, LineOfAnyLengthIsOneLine) {
     ASSERT_EQ(Parse("*X\n" + Dashes(100000) + "\n*Y\nA,1\n"), LineConverter::kSuccess);
     ASSERT_EQ(parser.linetypes().size(), 2U);
     EXPECT_EQ(parser.linetypes()[0].elements.size(), 100000U);
-    EXPECT_EQ(FaultKinds(), Kinds{LinFaultKind::kLineTooLong});
+    EXPECT_EQ(ErrorKinds(), Kinds{LinErrorKind::kLineTooLong});
     EXPECT_EQ(Names("*" + std::string(5000, 'N') + "\nA,1\n"), std::string(5000, 'N') + ";");
 }
 
@@ -35,34 +35,34 @@ TEST_F(TolerantLines, LongLineIsToldWhereAStrictReadingTakesItApart) {
     // 1,023 bytes without the line's end, and 1,025.
     EXPECT_EQ(Dashes(511).size(), kLongestPiece);
     Parse("*X\n" + Dashes(511) + "\n");
-    EXPECT_TRUE(parser.faults().empty());
+    EXPECT_TRUE(parser.errors().empty());
     Parse("*X\n" + Dashes(512) + "\n");
-    EXPECT_EQ(FaultKinds(), Kinds{LinFaultKind::kLineTooLong});
+    EXPECT_EQ(ErrorKinds(), Kinds{LinErrorKind::kLineTooLong});
     Parse("*X\nA,1" + std::string(3000, ' ') + "\n");
-    EXPECT_TRUE(parser.faults().empty()) << "blanks are no loss";
+    EXPECT_TRUE(parser.errors().empty()) << "blanks are no loss";
     Parse(std::string(3000, '-') + "\n*X\nA,1\n");
-    EXPECT_TRUE(parser.faults().empty()) << "nor is prose";
+    EXPECT_TRUE(parser.errors().empty()) << "nor is prose";
     Parse(std::string(kLongestPiece, '-') + "*Y\n*X\nA,1\n");
-    EXPECT_EQ(FaultKinds(), Kinds{LinFaultKind::kLineTooLong}) << "a strict reading finds a header there";
+    EXPECT_EQ(ErrorKinds(), Kinds{LinErrorKind::kLineTooLong}) << "a strict reading finds a header there";
 }
 
 TEST_F(TolerantLines, ByteOrderMarkIsSkippedAndToldWhereItHidesAHeader) {
     EXPECT_EQ(Names("\xEF\xBB\xBF*X\nA,1\n"), "X;");
-    EXPECT_EQ(FaultKinds(), Kinds{LinFaultKind::kByteOrderMark});
+    EXPECT_EQ(ErrorKinds(), Kinds{LinErrorKind::kByteOrderMark});
     EXPECT_EQ(Names("\xEF\xBB\xBF; pipes\n*X\nA,1\n"), "X;");
-    EXPECT_TRUE(parser.faults().empty());
+    EXPECT_TRUE(parser.errors().empty());
 }
 
-TEST_F(TolerantLines, ProseBetweenLinetypesIsNoFault) {
+TEST_F(TolerantLines, ProseBetweenLinetypesIsNoError) {
     EXPECT_EQ(Names("Linetypes of the water works\n\n*X\nA,1\nAnd another\n*Y\nA,1\n"), "X;Y;");
-    EXPECT_TRUE(parser.faults().empty());
+    EXPECT_TRUE(parser.errors().empty());
 }
 
 TEST_F(TolerantLines, WhatWasMeantToBeReadIsTold) {
     EXPECT_EQ(Names("*X\nA,1\nA,2\n *Y\nA,3\n*,no name\nA,4\n*\n"), "X;");
-    EXPECT_EQ(FaultKinds(), (Kinds{LinFaultKind::kPatternWithoutHeader, LinFaultKind::kHeaderIndented,
-                                   LinFaultKind::kPatternWithoutHeader, LinFaultKind::kHeaderWithoutName,
-                                   LinFaultKind::kPatternWithoutHeader, LinFaultKind::kHeaderWithoutName}));
+    EXPECT_EQ(ErrorKinds(), (Kinds{LinErrorKind::kPatternWithoutHeader, LinErrorKind::kHeaderIndented,
+                                   LinErrorKind::kPatternWithoutHeader, LinErrorKind::kHeaderWithoutName,
+                                   LinErrorKind::kPatternWithoutHeader, LinErrorKind::kHeaderWithoutName}));
 }
 
 // Each deletion touches one line's text or joins two lines: the linetypes of no more than those are lost.

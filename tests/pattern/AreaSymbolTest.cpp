@@ -57,48 +57,39 @@ TEST_F(AreaSymbol, JoinsFamiliesOfOneTileIntoOnePath) {
 TEST_F(AreaSymbol, GivesEachDefinitionItsTwoParameters) {
     std::vector<PatternLine> lines = {ParsePatternLine("0,0,0,0,1"), ParsePatternLine("90,0,0,0,1")};
     const Symbol symbol = BuildAreaSymbol("P", lines);
-    const std::vector<TylModel::SimpleSymbolDefinition*> definitions = SimpleDefinitions(symbol);
+    const std::vector<ReadSymbol> definitions = SimpleDefinitions(symbol);
     ASSERT_EQ(definitions.size(), 2U);
-    for (const TylModel::SimpleSymbolDefinition* const definition : definitions) {
-        const auto& parameters = definition->GetParameterDefinition();
-        ASSERT_EQ(parameters.GetCount(), 2);
-        const TylModel::Parameter& color = *parameters.GetAt(0);
-        EXPECT_EQ(color.GetIdentifier(), L"HATCHCOLOR");
-        EXPECT_EQ(color.GetDefaultValue(), L"0xff000000");
-        EXPECT_EQ(color.GetDisplayName(), L"&Hatch Color");
-        EXPECT_EQ(color.GetDescription(), L"Color for the hatch style");
-        EXPECT_EQ(static_cast<int>(color.GetDataType()), 6);
-        const TylModel::Parameter& angle = *parameters.GetAt(1);
-        EXPECT_EQ(angle.GetIdentifier(), L"HATCHANGLE");
-        EXPECT_EQ(angle.GetDefaultValue(), L"0.0");
-        EXPECT_EQ(angle.GetDisplayName(), L"Hatch &Color");
-        EXPECT_EQ(angle.GetDescription(), L"Rotation angle for the hatch style");
-        EXPECT_EQ(static_cast<int>(angle.GetDataType()), 5);
+    for (const ReadSymbol& definition : definitions) {
+        ASSERT_EQ(definition.parameters.size(), 2U);
+        const ReadParameter& color = definition.parameters[0];
+        EXPECT_EQ(color.identifier, L"HATCHCOLOR");
+        EXPECT_EQ(color.defaultValue, L"0xff000000");
+        EXPECT_EQ(color.displayName, L"&Hatch Color");
+        EXPECT_EQ(color.description, L"Color for the hatch style");
+        EXPECT_EQ(color.dataType, 6);
+        const ReadParameter& angle = definition.parameters[1];
+        EXPECT_EQ(angle.identifier, L"HATCHANGLE");
+        EXPECT_EQ(angle.defaultValue, L"0.0");
+        EXPECT_EQ(angle.displayName, L"Hatch &Color");
+        EXPECT_EQ(angle.description, L"Rotation angle for the hatch style");
+        EXPECT_EQ(angle.dataType, 5);
     }
 }
-
-class OnlyPath : public TylModel::IGraphicElementVisitor {
-public:
-    void VisitPath(TylModel::Path& found) override { path = &found; }
-    void VisitText(TylModel::Text& /*text*/) override {}
-    const TylModel::Path* path = nullptr;
-};
 
 TEST_F(AreaSymbol, DrawsInTheHatchColorAndSetsNothingElse) {
     std::vector<PatternLine> lines = {ParsePatternLine("0,0,0,0,1")};
     const Symbol symbol = BuildAreaSymbol("P", lines);
-    const TylModel::SimpleSymbolDefinition& definition = *SimpleDefinitions(symbol).front();
-    ASSERT_EQ(definition.GetGraphics().GetCount(), 1);
-    OnlyPath visitor;
-    definition.GetGraphics().GetAt(0)->AcceptVisitor(visitor);
-    ASSERT_NE(visitor.path, nullptr);
-    EXPECT_EQ(visitor.path->GetLineColor(), L"%HATCHCOLOR%");
-    EXPECT_EQ(visitor.path->GetFillColor(), L"");
-    EXPECT_EQ(visitor.path->GetLineWeight(), L"");
-    EXPECT_EQ(visitor.path->GetLineWeightScalable(), L"");
-    EXPECT_EQ(symbol->GetDescription(), L"");
-    EXPECT_EQ(definition.GetPointUsage(), nullptr);
-    EXPECT_EQ(definition.GetLineUsage(), nullptr);
+    const ReadSymbol definition = SimpleDefinitions(symbol).front();
+    ASSERT_EQ(definition.graphics.size(), 1U);
+    ASSERT_TRUE(definition.graphics[0].path);
+    const ReadPath& path = *definition.graphics[0].path;
+    EXPECT_EQ(path.lineColor, L"%HATCHCOLOR%");
+    EXPECT_EQ(path.fillColor, L"");
+    EXPECT_EQ(path.lineWeight, L"");
+    EXPECT_EQ(path.lineWeightScalable, L"");
+    EXPECT_EQ(definition.description, L"");
+    EXPECT_FALSE(definition.point);
+    EXPECT_FALSE(definition.line);
 }
 
 TEST_F(AreaSymbol, OfNoFamiliesIsNull) {
@@ -248,8 +239,8 @@ TEST_F(AreaSymbol, OfTheSameFamiliesTurnsTheirOriginsAgain) {
         const Symbol symbol = BuildAreaSymbol("P", lines);
         const auto definitions = SimpleDefinitions(symbol);
         ASSERT_EQ(definitions.size(), 2U);
-        EXPECT_EQ(Geometries(*definitions[0]), std::vector<std::wstring>{unturned});
-        EXPECT_EQ(Geometries(*definitions[1]), std::vector<std::wstring>{turned});
+        EXPECT_EQ(Geometries(definitions[0]), std::vector<std::wstring>{unturned});
+        EXPECT_EQ(Geometries(definitions[1]), std::vector<std::wstring>{turned});
     }
 }
 

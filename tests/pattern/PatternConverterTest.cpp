@@ -4,8 +4,10 @@
 #include "PatternTestSupport.h"
 
 #include "StyleConversion/platform/CodePage.h"
+#include "StyleConversion/platform/Files.h"
 #include "tests/support/LineEnds.h"
 
+#include <filesystem>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -107,6 +109,27 @@ TEST_F(Converter, EmptiesAVectorEvenWhereThereIsNothingToConvert) {
     EXPECT_EQ(ConvertOne(converter, L"A"), "null");
 }
 
+TEST_F(Converter, ReadsItsFileInBinaryUpToTheEndOfTheText) {
+    const TemporaryFile file("*A,a\r\n1,0,0,0,1\r\n\x1a*B,b\r\n");
+    PatternConverter converter(file.GetName());
+    EXPECT_EQ(Names(converter), (std::vector<std::wstring>{L"A"}));
+}
+
+TEST_F(Converter, ReadsAFileOfMoreThanOneBlockWhole) {
+    std::string text = "*A,a\n";
+    while (text.size() < 200000) {
+        text += "1,0,0,0,1\n";
+    }
+    const TemporaryFile file(text + "*B,b\n");
+    PatternConverter converter(file.GetName());
+    EXPECT_EQ(Names(converter), (std::vector<std::wstring>{L"A", L"B"}));
+}
+
+TEST_F(Converter, FindsNoPatternsInADirectory) {
+    PatternConverter converter(platform::PathFromBytes(std::filesystem::temp_directory_path().string()));
+    EXPECT_EQ(Names(converter), std::vector<std::wstring>{});
+}
+
 TEST_F(Converter, DoesNotTouchTheFileBeforeItIsAsked) {
     const TemporaryFile file;
     PatternConverter converter(file.GetName());
@@ -187,7 +210,7 @@ TEST_F(Converter, WidensNamesThroughTheCodePage) {
     const Symbol symbol(latinConverter.Convert(L"H\u00f6lzer"));
     ASSERT_TRUE(platform::SetAnsiCodePage("UTF-8"));
     ASSERT_NE(symbol, nullptr);
-    EXPECT_EQ(symbol->GetName(), L"H\u00f6lzer");
+    EXPECT_EQ(Read(*symbol).name, L"H\u00f6lzer");
 }
 
 TEST_F(Converter, GivesTheSameForLineEndsOfEitherKind) {

@@ -13,7 +13,6 @@ namespace {
 using pattern::ParsePatternFile;
 using pattern::PatternFile;
 using pattern::PatternReading;
-using pattern::ReadPatternFile;
 using namespace std::string_view_literals;
 
 PatternFile Parse(std::string_view bytes) {
@@ -142,11 +141,19 @@ TEST(PatternFile, ReadsALineOf127Characters) {
     ExpectEntries(HeaderOfLength(127), {{std::string(126, 'N'), std::string(126, 'N'), {}}});
 }
 
-TEST(PatternFile, EndsAtALineOf128CharactersAndKeepsWhatCameBefore) {
+TEST(PatternFile, TheFirst127CharactersOfALongerLineAreALineAndTheLast) {
+    const std::string name(126, 'N');
     for (const char* const rest : {"\n2,0,0,0,1\n*B,b\n", "\r\n2,0,0,0,1\n", ""}) {
-        ExpectEntries("*A,a\n1,0,0,0,1\n" + HeaderOfLength(128) + rest, {{"A", "a", {1}}});
+        ExpectEntries("*A,a\n1,0,0,0,1\n" + HeaderOfLength(128) + rest, {{"A", "a", {1}}, {name, name, {}}});
         ExpectEntries("*A,a\n1,0,0,0,1\n;" + HeaderOfLength(127) + rest, {{"A", "a", {1}}});
     }
+    // A family: the angle is 7, the 128th character would make it 71.
+    ExpectEntries("*A,a\n" + std::string(126, ' ') + "71,0,0,0,1\n2,0,0,0,1\n", {{"A", "a", {7}}});
+}
+
+TEST(PatternFile, ANulEndsTheTextOfALineThatIsTooLongAsWell) {
+    using namespace std::string_literals;
+    ExpectEntries("*A,a\n7\0"s + std::string(126, ' ') + "\n2,0,0,0,1\n", {{"A", "a", {7}}});
 }
 
 TEST(PatternFile, IsEmptiedByEachReading) {
@@ -154,20 +161,11 @@ TEST(PatternFile, IsEmptiedByEachReading) {
     ParsePatternFile("*A,a\n1,0,0,0,1\n", file);
     ParsePatternFile("*B,b\n", file);
     EXPECT_EQ(Entries(file), (std::vector<Entry>{{"B", "b", {}}}));
-    ReadPatternFile(TemporaryFile().GetName(), file);
+    ParsePatternFile("", file);
     EXPECT_EQ(Entries(file), std::vector<Entry>{});
 }
 
-TEST(PatternFile, IsReadFromDiskInBinary) {
-    const TemporaryFile disk("*A,a\r\n1,0,0,0,1\r\n\x1a*B,b\r\n");
-    PatternFile file;
-    PatternReading reading;
-    ReadPatternFile(disk.GetName(), file, &reading);
-    EXPECT_EQ(Entries(file), (std::vector<Entry>{{"A", "a", {1}}}));
-    EXPECT_EQ(reading.end, PatternReading::End::kEndOfFile);
-}
-
-TEST(PatternFile, LargerThanOneBlockOfReadingIsReadWhole) {
+TEST(PatternFile, WithManyFamiliesIsReadWhole) {
     std::string text = "*A,a\n";
     std::vector<double> angles;
     for (int i = 0; i < 20000; ++i) {
@@ -175,9 +173,8 @@ TEST(PatternFile, LargerThanOneBlockOfReadingIsReadWhole) {
         text += std::to_string(angle) + ",0,0,0,1\n";
         angles.push_back(angle);
     }
-    const TemporaryFile disk(text);
     PatternFile file;
-    ReadPatternFile(disk.GetName(), file);
+    ParsePatternFile(text, file);
     EXPECT_EQ(Entries(file), (std::vector<Entry>{{"A", "a", angles}}));
 }
 
@@ -201,15 +198,6 @@ TEST(PatternReading, NamesTheLineThatIsTooLong) {
     ParsePatternFile("*A,a\n\n" + HeaderOfLength(128) + "\n1,0\n", file, &reading);
     EXPECT_EQ(reading.end, PatternReading::End::kLineTooLong);
     EXPECT_EQ(reading.endLine, 3U);
-}
-
-TEST(PatternReading, TellsAFileThatCannotBeOpened) {
-    PatternFile file;
-    PatternReading reading;
-    ReadPatternFile(TemporaryFile().GetName(), file, &reading);
-    EXPECT_EQ(reading.end, PatternReading::End::kNotOpened);
-    ReadPatternFile(std::filesystem::temp_directory_path().wstring(), file, &reading);
-    EXPECT_EQ(reading.end, PatternReading::End::kNotOpened);
 }
 
 TEST(PatternReading, ForgetsTheReadingBefore) {

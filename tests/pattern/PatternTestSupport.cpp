@@ -1,4 +1,3 @@
-// Symbols are read through visitors, as a host would read them.
 #include "PatternTestSupport.h"
 
 #include "StyleConversion/platform/Utf8.h"
@@ -16,30 +15,6 @@ std::filesystem::path UnusedPath() {
     }
     return std::filesystem::temp_directory_path() / (name + ".pat");
 }
-
-class DefinitionCollector : public TylModel::ISymbolDefinitionVisitor {
-public:
-    void VisitSimpleSymbolDefinition(TylModel::SimpleSymbolDefinition& definition) override {
-        definitions.push_back(&definition);
-    }
-    void VisitCompoundSymbolDefinition(TylModel::CompoundSymbolDefinition& definition) override {
-        isCompound = true;
-        for (int i = 0; i < definition.GetSymbols().GetCount(); ++i) {
-            definitions.push_back(definition.GetSymbols().GetAt(i)->GetSymbolDefinition());
-        }
-    }
-
-    std::vector<TylModel::SimpleSymbolDefinition*> definitions;
-    bool isCompound = false;
-};
-
-class PathCollector : public TylModel::IGraphicElementVisitor {
-public:
-    void VisitPath(TylModel::Path& path) override { geometries.push_back(path.GetGeometry()); }
-    void VisitText(TylModel::Text& /*text*/) override { ADD_FAILURE() << "a pattern draws no text"; }
-
-    std::vector<std::wstring> geometries;
-};
 
 std::string Narrow(const std::wstring& text) {
     return platform::WideToValidUtf8(text);
@@ -73,30 +48,29 @@ std::vector<Symbol> ConvertText(std::string_view text) {
     return {symbols.begin(), symbols.end()};
 }
 
-std::vector<TylModel::SimpleSymbolDefinition*> SimpleDefinitions(const Symbol& symbol) {
-    DefinitionCollector collector;
-    symbol->AcceptVisitor(collector);
-    return collector.definitions;
+std::vector<ReadSymbol> SimpleDefinitions(const Symbol& symbol) {
+    const ReadSymbol read = Read(*symbol);
+    return read.isCompound ? read.members : std::vector<ReadSymbol>{read};
 }
 
-std::vector<std::wstring> Geometries(const TylModel::SimpleSymbolDefinition& definition) {
-    PathCollector collector;
-    for (int i = 0; i < definition.GetGraphics().GetCount(); ++i) {
-        definition.GetGraphics().GetAt(i)->AcceptVisitor(collector);
+std::vector<std::wstring> Geometries(const ReadSymbol& definition) {
+    std::vector<std::wstring> geometries;
+    for (const ReadGraphic& graphic : definition.graphics) {
+        EXPECT_TRUE(graphic.path) << "a pattern draws no text";
+        geometries.push_back(graphic.path ? graphic.path->geometry : L"");
     }
-    return collector.geometries;
+    return geometries;
 }
 
 std::string Describe(TylModel::SymbolDefinition& symbol) {
-    DefinitionCollector collector;
-    symbol.AcceptVisitor(collector);
-    std::string text = (collector.isCompound ? "compound " : "simple ") + Narrow(symbol.GetName()) + "\n";
-    for (const TylModel::SimpleSymbolDefinition* const definition : collector.definitions) {
-        EXPECT_EQ(definition->GetName(), symbol.GetName());
-        const TylModel::AreaUsage& usage = *definition->GetAreaUsage();
-        text += "area " + Narrow(usage.GetAngle()) + " " + Narrow(usage.GetRepeatX()) + " " +
-                Narrow(usage.GetRepeatY()) + "\n";
-        for (const std::wstring& geometry : Geometries(*definition)) {
+    const ReadSymbol read = Read(symbol);
+    std::string text = (read.isCompound ? "compound " : "simple ") + Narrow(read.name) + "\n";
+    for (const ReadSymbol& definition : read.isCompound ? read.members : std::vector<ReadSymbol>{read}) {
+        EXPECT_EQ(definition.name, read.name);
+        const ReadAreaUsage usage = definition.area.value_or(ReadAreaUsage{L"none", L"", L""});
+        text +=
+            "area " + Narrow(usage.angle) + " " + Narrow(usage.repeatX) + " " + Narrow(usage.repeatY) + "\n";
+        for (const std::wstring& geometry : Geometries(definition)) {
             text += "path " + Narrow(geometry) + "\n";
         }
     }
@@ -115,5 +89,5 @@ std::vector<std::string> ConvertAll(PatternConverter& converter) {
 }
 
 void PatternTest::TearDown() {
-    EXPECT_LE(TylModel::CountLiveObjects(), 0);
+    EXPECT_LE(CountModelObjects(), 0);
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "StyleConversion/pattern/PatternConverter.h"
-#include "TylModel/TylModel.h"
+#include "tests/support/ReadSymbol.h"
 
 #include <gtest/gtest.h>
 
@@ -34,10 +34,10 @@ using Symbol = std::unique_ptr<TylModel::SymbolDefinition>;
 std::vector<Symbol> ConvertText(std::string_view text);
 
 /// The simple definitions of a symbol: itself, or the compound's in their order.
-std::vector<TylModel::SimpleSymbolDefinition*> SimpleDefinitions(const Symbol& symbol);
+std::vector<ReadSymbol> SimpleDefinitions(const Symbol& symbol);
 
 /// Geometry of all graphics of a definition, each of which must be a path.
-std::vector<std::wstring> Geometries(const TylModel::SimpleSymbolDefinition& definition);
+std::vector<std::wstring> Geometries(const ReadSymbol& definition);
 
 /// A symbol in lines of text: its kind and name, then for each simple definition "area" with the usage's
 /// three values and "path" with the geometry.

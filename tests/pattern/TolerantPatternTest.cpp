@@ -1,4 +1,4 @@
-// Pattern files as a reading that forgives takes them, and what it tells.
+// Pattern files as a tolerant reading takes them, and what it logs.
 #include "StyleConversion/pattern/PatternFile.h"
 #include "StyleConversion/pattern/PatternLimits.h"
 #include "StyleConversion/pattern/RepeatTile.h"
@@ -10,7 +10,7 @@
 namespace {
 
 using namespace pattern;
-using Kind = PatternSlip::Kind;
+using Kind = PatternError::Kind;
 
 bool AreSame(const PatternLine& a, const PatternLine& b) {
     return a.angle == b.angle && a.originX == b.originX && a.originY == b.originY && a.offset == b.offset &&
@@ -46,39 +46,41 @@ Reading Tolerant(const std::string& text, PatternPolicy policy = kTolerantPatter
     return result;
 }
 
-struct Slip {
+struct LooseForm {
     const char* text;
     const char* clean;
     Kind kind;
     std::size_t line;
 };
 
-void PrintTo(const Slip& row, std::ostream* out) {
+void PrintTo(const LooseForm& row, std::ostream* out) {
     *out << testing::PrintToString(std::string(row.text));
 }
 
-class TolerantPatterns : public testing::TestWithParam<Slip> {};
+class TolerantPatterns : public testing::TestWithParam<LooseForm> {};
 
-TEST_P(TolerantPatterns, AreReadAsTheyAreMeantAndTold) {
+TEST_P(TolerantPatterns, AreReadAsTheyAreMeantAndLogged) {
     const Reading read = Tolerant(GetParam().text);
     EXPECT_TRUE(AreSame(read.file, Strict(GetParam().clean)));
-    EXPECT_FALSE(AreSame(Strict(GetParam().text), Strict(GetParam().clean))) << "this is no slip";
-    ASSERT_EQ(read.reading.slips.size(), 1U);
-    EXPECT_EQ(read.reading.slips[0].kind, GetParam().kind);
-    EXPECT_EQ(read.reading.slips[0].line, GetParam().line);
-    EXPECT_TRUE(read.reading.slips[0].changes);
+    EXPECT_FALSE(AreSame(Strict(GetParam().text), Strict(GetParam().clean)))
+        << "a strict reading takes it alike";
+    ASSERT_EQ(read.reading.errors.size(), 1U);
+    EXPECT_EQ(read.reading.errors[0].kind, GetParam().kind);
+    EXPECT_EQ(read.reading.errors[0].line, GetParam().line);
+    EXPECT_TRUE(read.reading.errors[0].changes);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Slips, TolerantPatterns,
-    testing::Values(Slip{"*X\n  *Y\n0,0,0,0,1\n", "*X\n*Y\n0,0,0,0,1\n", Kind::kIndentedHeader, 2},
-                    Slip{"*X\n0,0,0,0,1\n \t\n", "*X\n0,0,0,0,1\n", Kind::kBlankLine, 3},
-                    Slip{"*X\n0,0,0,0,1\n ; remark\n", "*X\n0,0,0,0,1\n", Kind::kIndentedRemark, 3},
-                    Slip{"*X\n0,0,0,0,1,1,-1 ; one, two\n", "*X\n0,0,0,0,1,1,-1\n", Kind::kRemarkBehind, 2},
-                    Slip{"*X ; remark\n0,0,0,0,1\n", "*X\n0,0,0,0,1\n", Kind::kRemarkBehind, 1},
-                    Slip{"*X\n0,0,0,0,1,1,-1,\n", "*X\n0,0,0,0,1,1,-1\n", Kind::kEmptyNumber, 2},
-                    Slip{"*X\n0,0,0,0,1,1,-1, ,5\n", "*X\n0,0,0,0,1,1,-1\n", Kind::kEmptyNumber, 2},
-                    Slip{"\xEF\xBB\xBF*X\n0,0,0,0,1\n", "*X\n0,0,0,0,1\n", Kind::kByteOrderMark, 1}));
+    LooseForms, TolerantPatterns,
+    testing::Values(LooseForm{"*X\n  *Y\n0,0,0,0,1\n", "*X\n*Y\n0,0,0,0,1\n", Kind::kIndentedHeader, 2},
+                    LooseForm{"*X\n0,0,0,0,1\n \t\n", "*X\n0,0,0,0,1\n", Kind::kBlankLine, 3},
+                    LooseForm{"*X\n0,0,0,0,1\n ; remark\n", "*X\n0,0,0,0,1\n", Kind::kIndentedRemark, 3},
+                    LooseForm{"*X\n0,0,0,0,1,1,-1 ; one, two\n", "*X\n0,0,0,0,1,1,-1\n", Kind::kRemarkBehind,
+                              2},
+                    LooseForm{"*X ; remark\n0,0,0,0,1\n", "*X\n0,0,0,0,1\n", Kind::kRemarkBehind, 1},
+                    LooseForm{"*X\n0,0,0,0,1,1,-1,\n", "*X\n0,0,0,0,1,1,-1\n", Kind::kEmptyNumber, 2},
+                    LooseForm{"*X\n0,0,0,0,1,1,-1, ,5\n", "*X\n0,0,0,0,1,1,-1\n", Kind::kEmptyNumber, 2},
+                    LooseForm{"\xEF\xBB\xBF*X\n0,0,0,0,1\n", "*X\n0,0,0,0,1\n", Kind::kByteOrderMark, 1}));
 
 TEST(TolerantPatternFile, LineOfAnyLengthIsRead) {
     std::string dashes;
@@ -88,19 +90,19 @@ TEST(TolerantPatternFile, LineOfAnyLengthIsRead) {
     const Reading read = Tolerant("*X\n0,0,0,0,1" + dashes + "\n*Y\n0,0,0,0,1\n");
     EXPECT_EQ(read.file.patterns.at("X")[0].dashes.size(), 200U);
     EXPECT_EQ(read.file.patterns.count("Y"), 1U);
-    ASSERT_EQ(read.reading.slips.size(), 1U);
-    EXPECT_EQ(read.reading.slips[0].kind, Kind::kLongLine);
+    ASSERT_EQ(read.reading.errors.size(), 1U);
+    EXPECT_EQ(read.reading.errors[0].kind, Kind::kLongLine);
     EXPECT_EQ(read.reading.end, PatternReading::End::kEndOfFile);
     const std::string remark = ";" + std::string(kLongestLine - 1, '-');
-    EXPECT_TRUE(Tolerant("*X\n" + remark + "\n0,0,0,0,1\n").reading.slips.empty());
-    EXPECT_EQ(Tolerant("*X\n" + remark + "-\n0,0,0,0,1\n").reading.slips.size(), 1U);
+    EXPECT_TRUE(Tolerant("*X\n" + remark + "\n0,0,0,0,1\n").reading.errors.empty());
+    EXPECT_EQ(Tolerant("*X\n" + remark + "-\n0,0,0,0,1\n").reading.errors.size(), 1U);
 }
 
 TEST(TolerantPatternFile, FamilyBeforeTheFirstHeaderIsLostAndTold) {
     const Reading read = Tolerant("0,0,0,0,1\n*X\n0,0,0,0,2\n");
     EXPECT_EQ(read.file.patterns.at("X").size(), 1U);
-    ASSERT_EQ(read.reading.slips.size(), 1U);
-    EXPECT_EQ(read.reading.slips[0].kind, Kind::kFamilyWithoutHeader);
+    ASSERT_EQ(read.reading.errors.size(), 1U);
+    EXPECT_EQ(read.reading.errors[0].kind, Kind::kFamilyWithoutHeader);
 }
 
 TEST(TolerantPatternFile, WhatIsWrongAndReadTheSameIsToldAsThat) {
@@ -113,8 +115,8 @@ TEST(TolerantPatternFile, WhatIsWrongAndReadTheSameIsToldAsThat) {
         const std::string text = std::string("*X\n") + line + "\n";
         const Reading read = Tolerant(text);
         EXPECT_TRUE(AreSame(read.file, Strict(text))) << line;
-        ASSERT_EQ(read.reading.slips.size(), 1U) << line;
-        EXPECT_EQ(read.reading.slips[0].kind, kind) << line;
+        ASSERT_EQ(read.reading.errors.size(), 1U) << line;
+        EXPECT_EQ(read.reading.errors[0].kind, kind) << line;
     }
 }
 
@@ -123,7 +125,7 @@ TEST(TolerantPatternFile, NothingIsToldOfWhatAStrictReadingTakesAsItIsMeant) {
          {"Prose, with 1 comma\n*X\n 0, 0,\t0, 0, 1\n", "  \n ; remark\n*X,a \n0,0,0,0,1 \r\n",
           "\xEF\xBB\xBF; remark\n*X\n+.5,0,-0,1e0,1\n"}) {
         const Reading read = Tolerant(text);
-        EXPECT_TRUE(read.reading.slips.empty()) << text;
+        EXPECT_TRUE(read.reading.errors.empty()) << text;
         EXPECT_TRUE(AreSame(read.file, Strict(text))) << text;
     }
 }

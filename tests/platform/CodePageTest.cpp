@@ -56,18 +56,18 @@ TEST_F(CodePage, Utf8KeepsUndecodableBytes) {
 
 TEST_F(CodePage, AnAsciiByteIsFoundWhereItIsACharacter) {
     const char* const text = "ab\"c\"";
-    EXPECT_EQ(FindInMultiByte(text, '"'), text + 2);
-    EXPECT_EQ(FindInMultiByte("abc", '"'), nullptr);
-    EXPECT_EQ(FindInMultiByte("", '"'), nullptr);
+    EXPECT_EQ(FindInMultiByte(text, '"'), 2U);
+    EXPECT_EQ(FindInMultiByte("abc", '"'), std::string_view::npos);
+    EXPECT_EQ(FindInMultiByte("", '"'), std::string_view::npos);
 }
 
 // 0x5c, the backslash, is the second byte of many Shift-JIS characters: 0x83 0x5c is one.
 TEST_F(CodePage, TheSecondByteOfACharacterIsNotFound) {
     const char* const text = "\x83\x5cx\x5c";
-    EXPECT_EQ(FindInMultiByte(text, '\\'), text + 1);
+    EXPECT_EQ(FindInMultiByte(text, '\\'), 1U);
     ASSERT_TRUE(SetAnsiCodePage("SHIFT_JIS"));
-    EXPECT_EQ(FindInMultiByte(text, '\\'), text + 3);
-    EXPECT_EQ(FindInMultiByte("\x83", '\\'), nullptr);
+    EXPECT_EQ(FindInMultiByte(text, '\\'), 3U);
+    EXPECT_EQ(FindInMultiByte("\x83", '\\'), std::string_view::npos);
 }
 
 } // namespace

@@ -28,8 +28,8 @@ public:
 private:
     static std::string Number(double value) {
         std::string narrow;
-        for (const wchar_t* c = encoding::FormatNumber(value); *c != L'\0'; ++c) {
-            narrow += static_cast<char>(*c);
+        for (const wchar_t c : encoding::FormatNumber(value)) {
+            narrow += static_cast<char>(c);
         }
         return narrow;
     }

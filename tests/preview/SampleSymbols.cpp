@@ -193,9 +193,9 @@ SymbolPointer DashedCircle() {
     const double kDegree = std::numbers::pi / 180;
     std::wstring geometry = L"M 50.0,0.0";
     const auto append = [&](double degrees) {
-        encoding::AppendTrimmed(geometry, 50 * std::cos(degrees * kDegree));
+        geometry += encoding::Double2TrimmedString(50 * std::cos(degrees * kDegree));
         geometry += L",";
-        encoding::AppendTrimmed(geometry, 50 * std::sin(degrees * kDegree));
+        geometry += encoding::Double2TrimmedString(50 * std::sin(degrees * kDegree));
     };
     for (int i = 0; i < 12; ++i) {
         geometry += L" A 50.0,50.0 0.0 0 0 ";

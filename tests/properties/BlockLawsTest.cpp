@@ -1,9 +1,9 @@
 // Laws of block conversion.
 #include "StyleConversion/block/BlockConverter.h"
 #include "TylModel/TylModel.h"
-#include "drawing/CurveEntities.h"
-#include "drawing/Database.h"
-#include "drawing/SimpleEntities.h"
+#include "drawing/database/Database.h"
+#include "drawing/entities/CurveEntities.h"
+#include "drawing/entities/SimpleEntities.h"
 #include "tests/properties/PathNumbers.h"
 
 #include <cmath>
@@ -64,7 +64,7 @@ protected:
         auto& graphics = dynamic_cast<TylModel::SimpleSymbolDefinition&>(*symbol).GetGraphics();
         Reading reading;
         for (std::int32_t i = 0; i < graphics.GetCount(); ++i) {
-            graphics.GetAt(i)->AcceptVisitor(reading);
+            TylModel::AcceptVisitor(*graphics.GetAt(i), reading);
         }
         return reading.geometries;
     }

@@ -1,4 +1,5 @@
 // Every single allocation fails in turn: the result says so, and nothing leaks.
+#include "StyleConversion/shx/ShapeHeaderReader.h"
 #include "StyleConversion/shx/ShxUtility.h"
 #include "tests/shx/Drawing.h"
 #include "tests/support/Allocations.h"
@@ -65,7 +66,7 @@ TEST(AllocationFailure, WhileAFontLoads) {
                           .Shape(1, kLongName, {0x10, 0x14, 0})
                           .Shape(2, "", {0x10, 0})
                           .Shape(3, "SHORT", Bytes(500, 0x14));
-    // The index, the shapes, two long names and the copy of one as a key, the font information, three
+    // The file's bytes, the shapes, two long names and the copy of one as a key, the font information, three
     // numbers, two names, three programs.
     EXPECT_GE(FailEachAllocationOfLoading(font.Text()), 14U);
 }
@@ -78,23 +79,13 @@ TEST(AllocationFailure, WhileAUnifontLoads) {
     EXPECT_GE(FailEachAllocationOfLoading(font.Text()), 9U);
 }
 
-TEST(AllocationFailure, WhileAnEntryIsRead) {
-    const File stream = FileOf(kLongName + std::string("\0\x10", 2));
-    EXPECT_GE(FailEach([&] {
-                  std::rewind(stream.get());
-                  ShapesInFile file;
-                  return static_cast<int>(ReadShapeEntry(
-                      stream.get(), file, 5, static_cast<std::uint16_t>(kLongName.size() + 2), kShapes));
-              }),
-              5U);
-}
-
 TEST(AllocationFailure, ReadingAHeaderAllocatesNothing) {
-    const File stream = FileOf(ShapeFileBuilder::Unifont().Text());
+    const std::string bytes = ShapeFileBuilder::Unifont().Text();
     EXPECT_EQ(FailEach([&] {
-                  std::rewind(stream.get());
                   ShapesInFile file;
-                  return static_cast<int>(ReadFileHeader(stream.get(), file, kAllKinds));
+                  ShapeFileReport report;
+                  ShapeReading reading(bytes, file, report);
+                  return static_cast<int>(ReadFileHeader(reading, file, kAllKinds));
               }),
               0U);
 }

@@ -50,8 +50,7 @@ struct Drawing {
 
 inline ShxUtility::ShapesInFile Loaded(const test_support::ShapeFileBuilder& builder) {
     ShxUtility::ShapesInFile file;
-    const test_support::File stream = test_support::FileOf(builder.Text());
-    if (ShxUtility::LoadShapeFile(stream.get(), file, ShxUtility::kAllKinds) != 0) {
+    if (ShxUtility::LoadShapeFile(builder.Text(), file, ShxUtility::kAllKinds) != 0) {
         throw std::runtime_error("the file of the test does not load");
     }
     return file;

@@ -14,7 +14,6 @@
 namespace {
 
 using namespace ShxUtility;
-using test_support::FileOf;
 
 const std::string kFolder = EXAMPLE_SHAPES_FOLDER;
 
@@ -26,7 +25,7 @@ std::string TextOf(const std::string& name) {
 
 ShapesInFile LoadedExample(const std::string& name) {
     ShapesInFile shapes;
-    EXPECT_EQ(LoadShapeFile(FileOf(TextOf(name)).get(), shapes, kAllKinds), 0) << name;
+    EXPECT_EQ(LoadShapeFile(TextOf(name), shapes, kAllKinds), 0) << name;
     return shapes;
 }
 

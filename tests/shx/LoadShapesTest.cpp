@@ -17,8 +17,7 @@ using test_support::FileOf;
 using test_support::ShapeFileBuilder;
 
 ShxResult Load(const std::string& bytes, ShapesInFile& file, std::uint32_t kinds = kAllKinds) {
-    const File stream = FileOf(bytes);
-    return LoadShapeFile(stream.get(), file, kinds);
+    return LoadShapeFile(bytes, file, kinds);
 }
 
 ShxResult Load(const std::string& bytes) {
@@ -34,7 +33,7 @@ TEST(LoadShapes, WithoutAStreamIsOne) {
     ShapesInFile file;
     file.shapes.resize(1);
     file.numberIndex[3] = 0;
-    EXPECT_EQ(LoadShapeFile(nullptr, file, kAllKinds), 1);
+    EXPECT_EQ(LoadShapeFile(static_cast<std::FILE*>(nullptr), file, kAllKinds), 1);
     EXPECT_EQ(file.numberIndex.size(), 1U);
 }
 

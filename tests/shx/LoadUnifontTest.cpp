@@ -1,6 +1,5 @@
 // "unifont " files.
 #include "StyleConversion/shx/ShxUtility.h"
-#include "tests/support/MemoryFile.h"
 #include "tests/support/ShapeFileBuilder.h"
 
 #include <gtest/gtest.h>
@@ -10,13 +9,10 @@ namespace {
 
 using namespace ShxUtility;
 using test_support::Bytes;
-using test_support::File;
-using test_support::FileOf;
 using test_support::ShapeFileBuilder;
 
 ShxResult Load(const std::string& bytes, ShapesInFile& file, std::uint32_t kinds = kAllKinds) {
-    const File stream = FileOf(bytes);
-    return LoadShapeFile(stream.get(), file, kinds);
+    return LoadShapeFile(bytes, file, kinds);
 }
 
 ShxResult Load(const std::string& bytes) {

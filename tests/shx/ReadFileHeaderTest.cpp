@@ -1,6 +1,5 @@
 // The header of a shape file: magic, kind, acceptance, version.
-#include "StyleConversion/shx/ShxUtility.h"
-#include "tests/support/MemoryFile.h"
+#include "StyleConversion/shx/ShapeHeaderReader.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -8,31 +7,22 @@
 namespace {
 
 using namespace ShxUtility;
-using test_support::File;
-using test_support::FileOf;
 
 const std::string kMagic = "Vorlanx-86 ";
 
 struct Header {
     ShxResult result;
     ShapesInFile file;
-    std::string rest; // what the stream has left
+    std::string rest; // what is left to read
 };
 
 Header Read(const std::string& bytes, std::uint32_t kinds = kAllKinds) {
-    const File stream = FileOf(bytes);
     Header header{};
-    header.result = ReadFileHeader(stream.get(), header.file, kinds);
-    for (int byte = std::fgetc(stream.get()); byte != EOF; byte = std::fgetc(stream.get())) {
-        header.rest += static_cast<char>(byte);
-    }
+    ShapeFileReport report;
+    ShapeReading reading(bytes, header.file, report);
+    header.result = ReadFileHeader(reading, header.file, kinds);
+    header.rest = reading.cursor.Take(bytes.size());
     return header;
-}
-
-TEST(ReadFileHeader, WithoutAStreamIsOne) {
-    ShapesInFile file;
-    EXPECT_EQ(ReadFileHeader(nullptr, file, kAllKinds), 1);
-    EXPECT_EQ(ReadFileHeader(nullptr, file, kAllKinds), kNoStream);
 }
 
 TEST(ReadFileHeader, TakesShapesOfVersion10UpToTheEndOfItsVersion) {
@@ -50,8 +40,10 @@ TEST(ReadFileHeader, Version11IsNotVersion10) {
 
     ShapesInFile before;
     before.isVersion10 = true;
-    const File stream = FileOf(kMagic + "shapes 1.1\x1a");
-    EXPECT_EQ(ReadFileHeader(stream.get(), before, kAllKinds), 0);
+    const std::string bytes = kMagic + "shapes 1.1\x1a";
+    ShapeFileReport report;
+    ShapeReading reading(bytes, before, report);
+    EXPECT_EQ(ReadFileHeader(reading, before, kAllKinds), 0);
     EXPECT_FALSE(before.isVersion10);
 }
 
@@ -154,8 +146,10 @@ TEST(ReadFileHeader, LeavesShapesAndIndexesAlone) {
     file.nameIndex["A"] = 0;
     file.fontInfo = {1, 2, 3};
     file.shapes.resize(1);
-    const File stream = FileOf(kMagic + "unifont 1.0\x1a");
-    EXPECT_EQ(ReadFileHeader(stream.get(), file, kAllKinds), 0);
+    const std::string bytes = kMagic + "unifont 1.0\x1a";
+    ShapeFileReport report;
+    ShapeReading reading(bytes, file, report);
+    EXPECT_EQ(ReadFileHeader(reading, file, kAllKinds), 0);
     EXPECT_EQ(file.numberIndex.size(), 1U);
     EXPECT_EQ(file.nameIndex.size(), 1U);
     EXPECT_EQ(file.fontInfo.size(), 3U);

@@ -1,6 +1,5 @@
 // One entry of a shape file, and what a failure leaves behind.
-#include "StyleConversion/shx/ShxUtility.h"
-#include "tests/support/MemoryFile.h"
+#include "StyleConversion/shx/ShapeEntryReader.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -8,21 +7,14 @@
 namespace {
 
 using namespace ShxUtility;
-using test_support::File;
-using test_support::FileOf;
-
 using Bytes = std::vector<std::uint8_t>;
 using namespace std::string_literals;
 
 ShxResult Read(const std::string& bytes, ShapesInFile& file, std::uint16_t number, std::uint16_t length,
                ShapeFileKind kind = kShapes) {
-    const File stream = FileOf(bytes);
-    return ReadShapeEntry(stream.get(), file, number, length, kind);
-}
-
-TEST(ReadShapeEntry, WithoutAStreamIsOne) {
-    ShapesInFile file;
-    EXPECT_EQ(ReadShapeEntry(nullptr, file, 1, 2, kShapes), 1);
+    ShapeFileReport report;
+    ShapeReading reading(bytes, file, report);
+    return ReadShapeEntry(reading, file, number, length, kind, 0);
 }
 
 TEST(ReadShapeEntry, ReadsNameAndProgramAndIndexesThem) {
@@ -49,11 +41,13 @@ TEST(ReadShapeEntry, AnEndWithinTheNameLeavesItsBytes) {
 
 TEST(ReadShapeEntry, ANameIsReadToItsEndBeyondTheLength) {
     ShapesInFile file;
-    const File stream = FileOf("LONGER\0\x01\x00"s);
-    EXPECT_EQ(ReadShapeEntry(stream.get(), file, 7, 3, kShapes), 2);
+    const std::string bytes = "LONGER\0\x01\x00"s;
+    ShapeFileReport report;
+    ShapeReading reading(bytes, file, report);
+    EXPECT_EQ(ReadShapeEntry(reading, file, 7, 3, kShapes, 0), 2);
     EXPECT_EQ(file.shapes[0].name, "LONGER");
     EXPECT_TRUE(file.numberIndex.empty());
-    EXPECT_EQ(std::ftell(stream.get()), 7);
+    EXPECT_EQ(reading.cursor.Offset(), 7U);
 }
 
 TEST(ReadShapeEntry, ANameOfMoreThan65535BytesDoesNotWrapRound) {
@@ -134,11 +128,13 @@ TEST(ReadShapeEntry, FontInformationThatIsTooShortLeavesTheKind) {
 TEST(ReadShapeEntry, FontInformationThatIsTooLongIsReadToTheLimit) {
     ShapesInFile file;
     file.kind = kShapes;
-    const File stream = FileOf("\0"s + std::string(1025, 'x'));
-    EXPECT_EQ(ReadShapeEntry(stream.get(), file, 0, 1026, kShapes), 2);
+    const std::string bytes = "\0"s + std::string(1025, 'x');
+    ShapeFileReport report;
+    ShapeReading reading(bytes, file, report);
+    EXPECT_EQ(ReadShapeEntry(reading, file, 0, 1026, kShapes, 0), 2);
     EXPECT_EQ(file.kind, kFont);
     EXPECT_TRUE(file.fontInfo.empty());
-    EXPECT_EQ(std::ftell(stream.get()), 1 + 1024);
+    EXPECT_EQ(reading.cursor.Offset(), 1U + 1024U);
 }
 
 TEST(ReadShapeEntry, ASecondFontInformationLeavesTheFirst) {

@@ -5,7 +5,7 @@
 #include "StyleConversion/linetype/LinStyleVisitor.h"
 #include "StyleConversion/linetype/Services.h"
 #include "StyleConversion/pattern/PatternConverter.h"
-#include "drawing/Database.h"
+#include "drawing/database/Database.h"
 
 #include <array>
 #include <cstddef>

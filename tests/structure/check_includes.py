@@ -15,20 +15,37 @@ ALLOWED = {
     "StyleConversion/block": ["StyleConversion/encoding", "StyleConversion/platform", "StyleConversion/interfaces",
                               "StyleConversion/shx"],
     "StyleConversion": [],
+    "drawing/geometry": ["StyleConversion/interfaces/OxDb"],
     # Host services look for files by name, in the form of path that the platform folder defines.
-    "drawing": ["StyleConversion/interfaces", "StyleConversion/platform"],
-    "drawing/geometry": [],
-    "documents": ["drawing", "StyleConversion"],
+    "drawing/database": ["StyleConversion/interfaces/OxDb", "StyleConversion/platform"],
+    "drawing/entities": ["StyleConversion/interfaces/OxDb", "drawing/database", "drawing/geometry"],
+    "diagnostics": ["StyleConversion/encoding", "StyleConversion/platform"],
+    "documents": ["diagnostics", "drawing", "StyleConversion"],
+    "exchange": ["drawing", "StyleConversion/encoding", "StyleConversion/platform"],
     "preview": ["StyleConversion"],
-    "styleconv": ["documents", "preview", "drawing", "StyleConversion"],
-    "tests": ["StyleConversion", "drawing", "documents", "preview", "styleconv", "fuzz", "examples"],
-    "fuzz": ["StyleConversion", "drawing", "documents", "preview", "styleconv", "tests/support"],
+    # Jobs over checks over reading; none opens a file or shows anything.
+    "conversions": ["diagnostics", "documents", "preview", "drawing", "StyleConversion"],
+    "conversions/checking": ["conversions/reading", "diagnostics", "preview", "drawing", "StyleConversion"],
+    "conversions/reading": ["diagnostics", "documents", "exchange", "drawing", "StyleConversion"],
+    "styleconv": ["StyleConversion/platform"],
+    "styleconv/commands": ["styleconv/files", "styleconv/process", "conversions", "diagnostics", "documents",
+                           "StyleConversion/encoding", "StyleConversion/platform", "StyleConversion/pattern"],
+    # Shape files are searched for as the library's own host services search.
+    "styleconv/files": ["styleconv/process", "conversions/reading", "diagnostics", "drawing",
+                        "StyleConversion/block", "StyleConversion/linetype", "StyleConversion/platform"],
+    "styleconv/process": ["diagnostics", "StyleConversion/platform"],
+    "tests": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "conversions", "styleconv", "fuzz",
+              "examples"],
+    "fuzz": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "conversions", "tests/support"],
     "benchmarks": ["StyleConversion", "drawing", "documents", "preview", "tests/support"],
     "examples": ["StyleConversion", "drawing", "documents", "tests/support"],
 }
 
 # These stand under every folder of the library.
 COMMON = ["StyleConversion/Export.h"]
+
+# Of the symbol model and the drawing database, which a host may bring itself, the library includes nothing but these.
+MODELS = {"StyleConversion/interfaces/OxDb/": "OxDb.h", "StyleConversion/interfaces/TylModel/": "TylModel.h"}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"')
 
@@ -53,6 +70,9 @@ def is_allowed(source, target):
     folder = folder_of(source)
     if folder is None:
         return False
+    for model, header in MODELS.items():
+        if target.startswith(model) and source.startswith("StyleConversion/") and not source.startswith(model):
+            return target == model + header
     if folder_of(target) == folder:
         return True
     # A folder may look into the folders below it, and into those that it names.

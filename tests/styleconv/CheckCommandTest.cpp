@@ -49,35 +49,37 @@ TEST_F(Check, FileWithoutFaultsIsClean) {
 
 TEST_F(Check, FindingsAreInTheFormThatEditorsParse) {
     EXPECT_EQ(Lines("*GAS\nA,1,[\"I\",STANDARD,U=0]\n", {"--font", "Arial"}),
-              ":2: error: U= is not a known placement key (linetype GAS)\n"
+              ":2:19: error: unknown key U= (upright text); write R=, or use --tolerant (linetype GAS) "
+              "[upright-key]\n"
               "1 error, 0 warnings in 1 file\n");
 }
 
 TEST_F(Check, EveryFaultOfEveryLinetypeIsFound) {
     folder.Write("marks.shx", ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Text());
     EXPECT_EQ(Lines("*A\na,1 ,[NONE,marks.shx]\n*B\nA,x\n*C\nA,1,[M,none.shx]\n*D\n"),
-              ":2: error: the alignment letter must be in upper case (linetype A)\n"
-              ":2: error: a blank that may not stand there at byte 4 (linetype A)\n"
-              ":2: error: shape file MARKS.SHX has no shape NONE (linetype A)\n"
-              ":4: error: expected the length of a dash, or \"[\" at byte 3: A,x (linetype B)\n"
-              ":6: error: shape file NONE.SHX not found in ., " +
+              ":2:1: error: the alignment letter must be in upper case (linetype A) [lower-case-alignment]\n"
+              ":2:4: error: a blank is not allowed here (linetype A) [unexpected-blank]\n"
+              ":2: error: shape file marks.shx has no shape NONE (linetype A) [missing-shape]\n"
+              ":4:3: error: expected a dash length or \"[\": A,x (linetype B) [invalid-dash]\n"
+              ":6: error: shape file none.shx not found in ., " +
                   folder / "" +
-                  " (linetype C)\n"
-                  ":7: error: a header without a pattern (linetype D)\n"
+                  " (linetype C) [missing-shape-file]\n"
+                  ":7: error: header without a pattern (linetype D) [header-without-pattern]\n"
                   "6 errors, 0 warnings in 1 file\n");
 }
 
 TEST_F(Check, NamesAndPatternsThatSurpriseAreWarnings) {
     EXPECT_EQ(
         Lines("*A\nA,1\n*A\nA,1\n*a\nA,-1,1\n*GAPS\nA,-1,-1\n*NONE\nA,0\n*END ,x\nA,1 -- end\n"),
-        ":3: warning: the name is used in line 1 already (linetype A)\n"
-        ":5: warning: the name differs only in case from the one in line 1 (linetype a)\n"
-        ":6: warning: the pattern begins with a gap: a line begins and ends with a dash elsewhere (linetype "
-        "a)\n"
-        ":8: warning: the pattern has gaps only and draws nothing (linetype GAPS)\n"
-        ":10: warning: the pattern has no length, so nothing can be repeated (linetype NONE)\n"
-        ":11: warning: the blank before or behind the name is part of it (linetype END )\n"
-        ":12: warning: the pattern ends at byte 5, for no comma is there; not read: -- end (linetype END )\n"
+        ":3: warning: the name is already used in line 1 (linetype A) [duplicate-name]\n"
+        ":5: warning: the name differs only in case from the name in line 1 (linetype a) [similar-name]\n"
+        ":6: warning: the pattern begins with a gap; CAD systems begin and end a line with a dash (linetype "
+        "a) [starts-with-gap]\n"
+        ":8: warning: the pattern has only gaps and draws nothing (linetype GAPS) [gaps-only]\n"
+        ":10: warning: the pattern has no length and cannot repeat (linetype NONE) [no-pattern-length]\n"
+        ":11: warning: the blank before or after the name is part of it (linetype END ) [blank-around-name]\n"
+        ":12:5: warning: the pattern ends here, as no comma follows; not read: -- end (linetype END ) "
+        "[text-after-pattern]\n"
         "0 errors, 7 warnings in 1 file\n");
 }
 
@@ -90,11 +92,11 @@ TEST_F(Check, LongNamesAndLinesAreShownUpToAWholeCharacter) {
         }
         return text;
     };
-    const std::string wrong = ": error: expected the length of a dash, or \"[\" at byte 3: A,";
+    const std::string wrong = ":3: error: expected a dash length or \"[\": A,";
     EXPECT_EQ(Lines("*" + letters(200) + "\nA," + letters(158) + "\n*A" + letters(200) + "\nA,B" +
                     letters(158) + "\n"),
-              ":2" + wrong + letters(158) + " (linetype " + letters(200) + ")\n" + ":4" + wrong + "B" +
-                  letters(157) + "… (linetype A" + letters(199) + "…)\n" +
+              ":2" + wrong + letters(158) + " (linetype " + letters(200) + ") [invalid-dash]\n" + ":4" +
+                  wrong + "B" + letters(157) + "… (linetype A" + letters(199) + "…) [invalid-dash]\n" +
                   "2 errors, 0 warnings in 1 file\n");
 }
 
@@ -105,10 +107,10 @@ TEST_F(Check, TextsAndShapesWiderThanTheirGapAreWarningsWithBothFigures) {
         Lines("*WIDE\nA,1,-.5,[MARK,marks.shx,x=-.5],-.25\n*FITS\nA,1,-.5,[MARK,marks.shx,x=-.5],-.5\n"
               "*ABOVE\nA,1,-.5,[MARK,marks.shx,x=-.5,y=1],-.1\n*ON\nA,1,[MARK,marks.shx,x=-.8],-.1\n"
               "*TURNED\nA,1,-.1,[MARK,marks.shx,R=90],-.1\n*ROUND\nA,-.25,1,-.5,[MARK,marks.shx,x=-.5]\n"),
-        ":2: warning: shape MARK is 1 wide, the gap it stands in 0.75 (linetype WIDE)\n"
-        ":12: warning: the pattern begins with a gap: a line begins and ends with a dash elsewhere (linetype "
-        "ROUND)\n"
-        ":12: warning: shape MARK is 1 wide, the gap it stands in 0.75 (linetype ROUND)\n"
+        ":2: warning: shape MARK is 1 wide, its gap only 0.75 (linetype WIDE) [wider-than-gap]\n"
+        ":12: warning: the pattern begins with a gap; CAD systems begin and end a line with a dash (linetype "
+        "ROUND) [starts-with-gap]\n"
+        ":12: warning: shape MARK is 1 wide, its gap only 0.75 (linetype ROUND) [wider-than-gap]\n"
         "0 errors, 3 warnings in 1 file\n");
 }
 
@@ -120,7 +122,8 @@ TEST_F(Check, TextsOfATypefaceAreMeasuredByTheUsualWidthOfLetters) {
                     "*TURNED\nA,1,[\"GAS\",STANDARD,S=.4,R=90,X=.2,Y=-.2],-.7\n"
                     "*BELOW\nA,1,[\"GAS\",STANDARD,S=.4,Y=-.6],-.1\n",
                     {"--font", "Arial"}),
-              ":2: warning: text \"GAS\" is about 0.9721 wide, the gap it stands in 0.7 (linetype NARROW)\n"
+              ":2: warning: text \"GAS\" is about 0.9721 wide, its gap only 0.7 (linetype NARROW) "
+              "[wider-than-gap]\n"
               "0 errors, 1 warning in 1 file\n");
 }
 
@@ -131,8 +134,8 @@ TEST_F(Check, WhatKeepsItsAngleIsMeasuredWhereTheLineRunsAlongIt) {
         Lines("*WIDE\nA,1,-.5,[MARK,marks.shx,A=90,x=-.5],-.25\n*FITS\nA,1,-.5,[MARK,marks.shx,A=90,x=-.5],-."
               "5\n"
               "*TURNS\nA,1,-.1,[MARK,marks.shx,A=90,R=90],-.1\n"),
-        ":2: warning: shape MARK is 1 wide where the line runs along it, the gap it stands in 0.75 (linetype "
-        "WIDE)\n"
+        ":2: warning: shape MARK is 1 wide where the line runs along it, its gap only 0.75 (linetype WIDE) "
+        "[fixed-wider-than-gap]\n"
         "0 errors, 1 warning in 1 file\n");
 }
 
@@ -140,7 +143,7 @@ TEST_F(Check, CharactersThatAFontLacksAreErrors) {
     folder.Write("txt.shx",
                  ShapeFileBuilder::Shapes().FontInfo("FONT", {4, 1, 0}).Shape(65, "A", {0x10, 0}).Text());
     EXPECT_EQ(Lines("*X\nA,1,[\"ABAC\",STANDARD],-9\n"),
-              ":2: error: font TXT.SHX lacks characters of the text: BC (linetype X)\n"
+              ":2: error: font txt.shx has no characters for BC (linetype X) [missing-characters]\n"
               "1 error, 0 warnings in 1 file\n");
 }
 
@@ -150,32 +153,35 @@ TEST_F(Check, NotesAreShownWhereTheyAreAskedFor) {
         ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Shape(131, "TICK", {0x10, 0}).Text());
     const std::string text = "*X\nA,1,-1,[MARK,marks.shx]\n";
     EXPECT_EQ(Lines(text), "0 errors, 0 warnings in 1 file\n");
-    EXPECT_EQ(Lines(text, {"--notes"}), ": note: no linetype uses these shapes of MARKS.SHX: TICK\n"
-                                        "0 errors, 0 warnings in 1 file\n");
+    EXPECT_EQ(Lines(text, {"--notes"}),
+              ": note: no linetype uses these shapes of marks.shx: TICK [unused-shapes]\n"
+              "0 errors, 0 warnings in 1 file\n");
 }
 
 TEST_F(Check, TilesOfFamiliesAreTold) {
     // No shift; 3 × 0.3334 is 0.0002 more than the cycle, 0.06 % of the shift; 64 × 0.001 is no cycle.
     const std::string text = "*X\n0,0,0,0,1\n0,0,0,0.3334,1,0.5,-0.5\n0,0,0,0.001,1,1,-1\n*Y\n";
     const std::string found =
-        ":3: warning: the tile nearly closes: after 3 stacked lines the dashes are out of phase "
-        "by 0.0002 drawing units, 0.1 % of the shift (pattern X)\n"
-        ":4: error: the family has no repeat tile and is left out: its dashes come back into "
-        "phase after none of 64 lines, and no upright rectangle repeats it (pattern X)\n"
-        ":5: error: the pattern has no families and becomes nothing (pattern Y)\n"
+        ":3: warning: the repeat tile nearly closes: after 3 lines the dashes are off by 0.0002 drawing "
+        "units "
+        "(0.1 % of the shift) (pattern X) [inexact-tile]\n"
+        ":4: error: the family has no repeat tile: its dashes do not come back into phase within 64 lines, "
+        "and no upright rectangle repeats it; it is skipped (pattern X) [family-without-tile]\n"
+        ":5: error: the pattern has no lines (pattern Y) [empty-pattern]\n"
         "2 errors, 1 warning in 1 file\n";
     EXPECT_EQ(Walls(text), found);
-    EXPECT_EQ(Walls(text, {"--notes"}), ":2: note: the family has an exact tile (pattern X)\n" + found);
+    EXPECT_EQ(Walls(text, {"--notes"}),
+              ":2: note: the family has an exact repeat tile (pattern X) [exact-tile]\n" + found);
 }
 
 TEST_F(Check, SlipsOfPatternFilesAreFound) {
     EXPECT_EQ(Walls(";%UNITS=MM\n*X\n0,0,0,0,x\n0,0,0,0,1,1,-1,\n0,0,0,0,1;remark\n"),
-              ":1: warning: the file says that its lengths are in millimetres, which a conversion does not "
-              "look at; "
-              "--units inch scales them\n"
-              ":3: error: \"x\" is no number and reads as 0 (pattern X)\n"
-              ":4: error: nothing stands where a number should, and reads as 0 (pattern X)\n"
-              ":5: warning: \";\" begins a remark only at the start of a line (pattern X)\n"
+              ":1: warning: the file says that its lengths are in millimetres; conversions ignore that; "
+              "--units inch scales them [ignored-units]\n"
+              ":3: error: \"x\" is not a number; read as 0 (pattern X) [invalid-number]\n"
+              ":4: error: missing number; read as 0 (pattern X) [empty-number]\n"
+              ":5: warning: \";\" begins a comment only at the start of a line (pattern X) "
+              "[comment-after-data]\n"
               "2 errors, 2 warnings in 1 file\n");
 }
 
@@ -187,15 +193,21 @@ TEST_F(Check, ShapesThatCannotBeDrawnOrFoundAreTold) {
                                                          .Shape(133, "LOOP", {7, 133, 0})
                                                          .Text() +
                                                      "more");
-    EXPECT_NE(found.find("no linetype can find a name with lower-case letters (shape 131 mark)\n"),
-              std::string::npos)
+    EXPECT_NE(
+        found.find("no linetype can find a name with lower-case letters; rename the shape (shape 131 mark) "
+                   "[lower-case-shape-name]\n"),
+        std::string::npos)
         << found;
-    EXPECT_NE(found.find("shape 130 has the same name, and a linetype finds that one (shape 132 MARK)\n"),
-              std::string::npos)
+    EXPECT_NE(
+        found.find(
+            "shape 130 has the same name; linetypes find that one (shape 132 MARK) [duplicate-shape-name]\n"),
+        std::string::npos)
         << found;
-    EXPECT_NE(found.find("it cannot be drawn: it draws itself as a subshape (result "), std::string::npos)
+    EXPECT_NE(
+        found.find("it cannot be drawn: it draws itself as a subshape (shape 133 LOOP) [recursive-shape]\n"),
+        std::string::npos)
         << found;
-    EXPECT_NE(found.find("4 bytes behind the end are not read\n"), std::string::npos) << found;
+    EXPECT_NE(found.find("4 bytes after the end are not read [extra-bytes]\n"), std::string::npos) << found;
     EXPECT_NE(found.find("1 error, 3 warnings in 1 file\n"), std::string::npos) << found;
 }
 
@@ -203,17 +215,19 @@ TEST_F(Check, SignatureAndTrailerOfAShapeFileAreTold) {
     std::string shapes = ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Text();
     shapes.replace(0, 7, "Someone");
     shapes.resize(shapes.size() - 3);
-    EXPECT_EQ(Found("marks.shx", shapes),
-              ": error: byte 0: the signature is another maker's: expected the words \"Vorlanx-86 \"\n"
-              ": error: byte " +
-                  std::to_string(shapes.size()) + ": expected \"EOF\" behind the last shape\n" +
-                  "2 errors, 0 warnings in 1 file\n");
+    EXPECT_EQ(
+        Found("marks.shx", shapes),
+        ": error: byte 0: foreign signature: expected \"Vorlanx-86 \" at the start [foreign-signature]\n"
+        ": error: byte " +
+            std::to_string(shapes.size()) + ": missing \"EOF\" after the last shape [missing-trailer]\n" +
+            "2 errors, 0 warnings in 1 file\n");
     const ToolResult glyphs = RunTool({"glyphs", folder / "marks.shx", "--tolerant"});
     EXPECT_EQ(glyphs.status, 0);
     EXPECT_NE(glyphs.output.find("\"MARK\""), std::string::npos);
     EXPECT_EQ(RunTool({"glyphs", folder / "marks.shx"}).status, 1);
     EXPECT_NE(RunTool({"linetypes", folder.Write("x.lin", "*X\nA,1,[MARK,marks.shx]\n"), "--tolerant"})
-                  .errors.find("shape file MARKS.SHX has the signature of another maker; read all the same"),
+                  .errors.find("marks.shx: warning: foreign signature: expected \"Vorlanx-86 \" at the "
+                               "start; read all the same"),
               std::string::npos);
 }
 
@@ -229,16 +243,17 @@ TEST_F(Check, EntitiesThatWillNotBeDrawnAreCountedByBlock) {
                 {"type": "line", "start": [0, 0], "end": [1, 0], "linetype": "GAS"},
                 {"type": "hatch", "loops": []},
                 {"type": "line", "start": [0, 0], "end": [1, 0], "color": "ByBlock"}]}]})");
-    EXPECT_EQ(
-        found,
-        ": error: 1 entity (hatch) will not be drawn: it is not solid and has no pattern (block BAD)\n"
-        ": error: 1 entity will be drawn without dashes: the drawing has no linetype NONE (block BAD)\n"
-        ": error: 1 entity will be drawn without the shapes of linetype GAS: shape file marks.shx not found "
-        "beside the drawing (block BAD)\n"
-        ": warning: 2 entities of the class Ray will not be drawn (block BAD)\n"
-        ": warning: it has colours by block, but nothing inserts it: there is no colour to take (block "
-        "BAD)\n"
-        "3 errors, 2 warnings in 1 file\n");
+    EXPECT_EQ(found,
+              ": error: 1 entity (hatch) is not drawn: not solid, and no pattern (block BAD) "
+              "[hatch-without-pattern]\n"
+              ": error: 1 entity is drawn without dashes: the drawing has no linetype NONE (block BAD) "
+              "[missing-linetype]\n"
+              ": error: 1 entity is drawn without the shapes of linetype GAS: shape file marks.shx not found "
+              "beside the drawing (block BAD) [dash-file-missing]\n"
+              ": warning: 2 entities of the class Ray are not drawn (block BAD) [unsupported-class]\n"
+              ": warning: colours by block are drawn black; no insert gives the block a colour (block BAD) "
+              "[color-by-block]\n"
+              "3 errors, 2 warnings in 1 file\n");
 }
 
 std::string DrawingOf(const std::string& blocks) {
@@ -250,13 +265,15 @@ TEST_F(Check, WhatADrawingIsRefusedForIsFoundAllAtOnce) {
         Found("drawing.json", DrawingOf(R"({"name": "A", "entities": [7, {"type": "ray"}, 8]}, {"name": 5},
                                                 {"name": "B", "units": 21, "entities": []})")),
         ": error: blocks[0].entities[0]: expected an object, found a number; the same in 1 more place (block "
-        "A)\n"
-        ": error: blocks[0].entities[1].type: expected the type of an entity, found \"ray\" (block A)\n"
-        ": error: blocks[1].name: expected a string, found a number\n"
-        ": error: blocks[2].units: expected a whole number from 0 to 20, found 21 (block B)\n"
+        "A) [invalid-value]\n"
+        ": error: blocks[0].entities[1].type: expected the type of an entity, found \"ray\" (block A) "
+        "[invalid-value]\n"
+        ": error: blocks[1].name: expected a string, found a number [invalid-value]\n"
+        ": error: blocks[2].units: expected a whole number from 0 to 20, found 21 (block B) "
+        "[invalid-value]\n"
         "4 errors, 0 warnings in 1 file\n");
     EXPECT_EQ(Found("other.json", "{}"),
-              ": error: format: expected \"styleconversion/drawing\", found nothing\n"
+              ": error: format: expected \"styleconversion/drawing\", found nothing [missing-value]\n"
               "1 error, 0 warnings in 1 file\n");
 }
 
@@ -266,13 +283,13 @@ TEST_F(Check, BlocksThatAreNotConvertedByDefaultAreNotes) {
            {"name": "*U1", "anonymous": true, "entities": []}, {"name": "TREE", "entities": []})");
     EXPECT_EQ(Found("drawing.json", text), "0 errors, 0 warnings in 1 file\n");
     EXPECT_EQ(Found("drawing.json", text, {"--notes"}),
-              ": note: a layout is converted only by --name (block PAPER)\n"
-              ": note: an anonymous block is converted only by --name (block *U1)\n"
+              ": note: a layout is converted only by --name (block PAPER) [only-by-name]\n"
+              ": note: an anonymous block is converted only by --name (block *U1) [only-by-name]\n"
               "0 errors, 0 warnings in 1 file\n");
     EXPECT_EQ(
         Found("drawing.json", DrawingOf(R"({"name": "PAPER", "layout": true, "entities": []})")),
-        ": error: the drawing has no block to convert: layouts and anonymous blocks are converted only by "
-        "--name\n1 error, 0 warnings in 1 file\n");
+        ": error: the drawing has no block to convert; layouts and anonymous blocks are converted only by "
+        "--name [no-blocks]\n1 error, 0 warnings in 1 file\n");
 }
 
 TEST_F(Check, EntitiesOnIgnoredLayersAreCountedWhereSomeAreIgnored) {
@@ -281,10 +298,10 @@ TEST_F(Check, EntitiesOnIgnoredLayersAreCountedWhereSomeAreIgnored) {
         {"type": "other", "class": "Ray", "layer": "Notes"},
         {"type": "point", "position": [0, 0], "layer": "NOTES"}]})");
     EXPECT_EQ(Found("drawing.json", text, {"--ignore-layer", "Notes", "--ignore-layer", "0"}),
-              ": warning: 2 entities on the ignored layer Notes will not be drawn (block TREE)\n"
+              ": warning: 2 entities on the ignored layer Notes are not drawn (block TREE) [ignored-layer]\n"
               "0 errors, 1 warning in 1 file\n");
     EXPECT_EQ(Found("drawing.json", text),
-              ": warning: 1 entity of the class Ray will not be drawn (block TREE)\n"
+              ": warning: 1 entity of the class Ray is not drawn (block TREE) [unsupported-class]\n"
               "0 errors, 1 warning in 1 file\n");
 }
 
@@ -304,11 +321,12 @@ TEST_F(Check, FilesAreSortedAndFaultsOfOneDoNotHideTheOthers) {
     const ToolResult result = RunTool({"check", other, b, folder / "none.lin", a});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output,
-              a + ":1: error: the pattern has no families and becomes nothing (pattern X)\n" + b +
-                  ":2: error: expected the length of a dash, or \"[\" at byte 3: A,x (linetype X)\n" + other +
-                  ": error: is of no known kind: its name should end in .lin, .pat, .shx or "
-                  ".json\n" +
-                  folder / "none.lin" + ": error: cannot be read\n4 errors, 0 warnings in 4 files\n");
+              a + ":1: error: the pattern has no lines (pattern X) [empty-pattern]\n" + b +
+                  ":2:3: error: expected a dash length or \"[\": A,x (linetype X) [invalid-dash]\n" + other +
+                  ": error: unknown kind of file: the name must end in .lin, .pat, .shx or .json "
+                  "[unknown-file-kind]\n" +
+                  folder / "none.lin" +
+                  ": error: not found [missing-file]\n4 errors, 0 warnings in 4 files\n");
 }
 
 TEST_F(Check, JsonIsTheFindingsDocument) {
@@ -323,8 +341,9 @@ TEST_F(Check, JsonIsTheFindingsDocument) {
               "{\n  \"format\": \"styleconversion/findings\",\n  \"version\": 1,\n  \"errors\": 1,\n"
               "  \"warnings\": 0,\n  \"findings\": [\n    {\n      \"file\": \"" +
                   fileAsJson +
-                  "\",\n      \"line\": 2,\n      \"severity\": \"error\",\n      \"message\": "
-                  "\"expected the length of a dash, or \\\"[\\\" at byte 3: A,x\",\n      \"item\": "
+                  "\",\n      \"line\": 2,\n      \"column\": 3,\n      \"severity\": \"error\",\n"
+                  "      \"code\": \"invalid-dash\",\n      \"message\": "
+                  "\"expected a dash length or \\\"[\\\": A,x\",\n      \"item\": "
                   "\"linetype X\"\n    }\n  ]\n}\n");
 }
 
@@ -337,9 +356,8 @@ TEST_F(Check, JsonHasTheByteAndTheNumberOfAShape) {
               std::string::npos)
         << result.output;
     const std::string text = RunTool({"check", folder / "marks.shx"}).output;
-    EXPECT_NE(
-        text.find("marks.shx: error: byte " + std::to_string(at) + ": it cannot be drawn: it goes back"),
-        std::string::npos)
+    EXPECT_NE(text.find("marks.shx: error: byte " + std::to_string(at) + ": it cannot be drawn: it returns"),
+              std::string::npos)
         << text;
 }
 

@@ -71,8 +71,8 @@ TEST(Limits, TimeEndsShapesThatFanOutWithoutEnd) {
                                        "0.5", "-o", folder / "out.json"});
     const double seconds = SecondsSince(start);
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, file + ": shape 40: not done within the time limit of 0.5 seconds; --time-limit "
-                                    "gives it more\n");
+    EXPECT_EQ(result.errors, file + ": error: time limit of 0.5 seconds exceeded; raise it with --time-limit "
+                                    "(shape 40)\n");
     EXPECT_GE(seconds, 0.5);
     EXPECT_LT(seconds, 1.5);
     EXPECT_EQ(folder.Read("out.json"), "old");
@@ -85,8 +85,8 @@ TEST(Limits, ATolerantRunNamesTheShapeThatHasNoEndToo) {
     const ToolResult result =
         RunTool({"glyphs", file, "--tolerant", "--number", "1", "--number", "40", "--time-limit", "0.5"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, file + ": shape 40: not done within the time limit of 0.5 seconds; --time-limit "
-                                    "gives it more\n");
+    EXPECT_EQ(result.errors, file + ": error: time limit of 0.5 seconds exceeded; raise it with --time-limit "
+                                    "(shape 40)\n");
     EXPECT_EQ(result.output, "");
 }
 
@@ -98,8 +98,8 @@ TEST(Limits, MemoryEndsShapesThatFanOutWithoutEnd) {
     const ToolResult result =
         RunTool({"glyphs", file, "--number", "40", "--memory-limit", "300", "-o", folder / "out.json"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, file + ": shape 40: needs more memory than the limit of 300 MiB; --memory-limit "
-                                    "gives it more\n");
+    EXPECT_EQ(result.errors, file + ": error: memory limit of 300 MiB exceeded; raise it with --memory-limit "
+                                    "(shape 40)\n");
     EXPECT_EQ(folder.Read("out.json"), "old");
     EXPECT_EQ(folder.Names(), (std::vector<std::string>{"fan.shx", "out.json"}));
 }
@@ -113,17 +113,17 @@ void ExpectGivenUp(const std::string& drawing, const std::string& block) {
     const ToolResult result = RunTool({"blocks", file, "--time-limit", "0.5", "-o", folder / "out.json"});
     EXPECT_LT(SecondsSince(start), 1.5);
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, file + ": block " + block +
-                                 ": not done within the time limit of 0.5 seconds; --time-limit gives it "
-                                 "more\n");
+    EXPECT_EQ(result.errors,
+              file + ": error: time limit of 0.5 seconds exceeded; raise it with --time-limit (block " +
+                  block + ")\n");
     EXPECT_EQ(folder.Read("out.json"), "old");
     EXPECT_EQ(folder.Names(), (std::vector<std::string>{"field.json", "out.json"}));
 
     const ToolResult memory = RunTool({"blocks", file, "--memory-limit", "300"});
     EXPECT_EQ(memory.status, 1);
-    EXPECT_EQ(memory.errors, file + ": block " + block +
-                                 ": needs more memory than the limit of 300 MiB; --memory-limit gives it "
-                                 "more\n");
+    EXPECT_EQ(memory.errors,
+              file + ": error: memory limit of 300 MiB exceeded; raise it with --memory-limit (block " +
+                  block + ")\n");
 }
 
 TEST(Limits, EndABillionDashesOnALine) {
@@ -154,7 +154,7 @@ TEST(Limits, AHatchOfMoreLinesThanCanBeCountedIsLeftOutAtOnceAndNamed) {
     EXPECT_LT(SecondsSince(start), 10.0);
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.errors,
-              file + ": warning: block FIELD: a hatch has more than 2147483647 lines and is left out\n");
+              file + ": warning: 1 entity (hatch) has more than 2147483647 lines; skipped (block FIELD)\n");
     EXPECT_NE(result.output.find("\"graphics\": []"), std::string::npos) << result.output;
 }
 
@@ -188,7 +188,7 @@ TEST(Limits, LeaveNoCopyOfStandardInput) {
     const ToolResult result = support::RunToolWithTemporariesIn(
         folder / ".", {"glyphs", "-", "--time-limit", "0.2"}, FanOfNothing());
     EXPECT_EQ(result.status, 1);
-    EXPECT_TRUE(result.errors.starts_with("standard input: shape ")) << result.errors;
+    EXPECT_TRUE(result.errors.starts_with("standard input: error: time limit ")) << result.errors;
     EXPECT_EQ(folder.Names(), std::vector<std::string>());
 }
 #endif

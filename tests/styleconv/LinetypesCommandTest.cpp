@@ -3,6 +3,7 @@
 #include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ToolRun.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -45,14 +46,16 @@ protected:
         return RunTool(arguments);
     }
 
-    // Every line begins with the file's name.
+    // Every line but the last, which helps, begins with the file's name.
     std::string WithoutFileName(std::string lines) const {
-        const std::string start = folder / "lines.lin" + ": ";
+        const std::string file = folder / "lines.lin";
+        const std::size_t help = lines.find(support::HelpBehindErrors(file));
+        lines.erase(std::min(help, lines.size()));
         for (std::size_t at = 0; at < lines.size(); at = lines.find('\n', at) + 1) {
-            if (lines.compare(at, start.size(), start) != 0) {
+            if (lines.compare(at, file.size() + 1, file + ":") != 0) {
                 return "unexpected: " + lines;
             }
-            lines.erase(at, start.size());
+            lines.erase(at, file.size() + 1);
         }
         return lines;
     }
@@ -125,8 +128,9 @@ TEST_F(LinetypesCommand, ReadsStandardInput) {
 TEST_F(LinetypesCommand, ScaleMultipliesLengths) {
     EXPECT_EQ(ValuesOf(Run("*X\nA,1,-1\n", {"--scale", "25.4"}).output, "geometry"),
               Texts{"M 0,0 L 25.4,0 "});
-    EXPECT_EQ(Run("*X\nA,1\n", {"--scale", "wide"}).status, 2);
-    EXPECT_EQ(Run("*X\nA,1\n", {"--scale", "1e999"}).status, 2);
+    for (const char* const scale : {"wide", "1e999", "0", "-1", "-0", "inf", "nan", "1e-999"}) {
+        EXPECT_EQ(Run("*X\nA,1\n", {"--scale", scale}).status, 2) << scale;
+    }
 }
 
 TEST_F(LinetypesCommand, GivesTheLinetypesAskedForInTheOrderAsked) {
@@ -137,7 +141,7 @@ TEST_F(LinetypesCommand, GivesTheLinetypesAskedForInTheOrderAsked) {
 }
 
 TEST_F(LinetypesCommand, NamesThatTheFileLacksAreFaults) {
-    EXPECT_EQ(Fault("*A\nA,1\n", {"--name", "B", "--name", "A"}), "the file has no linetype named B\n");
+    EXPECT_EQ(Fault("*A\nA,1\n", {"--name", "B", "--name", "A"}), " error: there is no linetype named B\n");
 }
 
 TEST_F(LinetypesCommand, NamesAreOfTheFilesEncoding) {
@@ -147,47 +151,42 @@ TEST_F(LinetypesCommand, NamesAreOfTheFilesEncoding) {
 }
 
 TEST_F(LinetypesCommand, FileWithoutLinetypesIsAFault) {
-    EXPECT_EQ(Fault("; nothing\nA,1\n"), "the file has no linetypes: no line begins with \"*\" and a name\n");
+    EXPECT_EQ(Fault("; nothing\nA,1\n"),
+              " error: the file has no linetypes: no line begins with \"*\" and a name\n");
     EXPECT_EQ(Fault("\xEF\xBB\xBF*X\nA,1\n"),
-              "line 1: the file has no linetypes: a UTF-8 byte-order mark stands before its first character "
-              "and hides a header there; save the file without it\n");
+              "1: error: a UTF-8 byte-order mark hides the header behind it; save the file without it\n");
 }
 
 TEST_F(LinetypesCommand, SyntaxErrorsNameLineElementAndByte) {
     EXPECT_EQ(Fault("*GOOD\nA,1\n*BAD\n  A,1,,2\n"),
-              "line 4: syntax error in linetype BAD, element 2: expected the length of a dash, or \"[\" at "
-              "byte 7: A,1,,2\n");
-    EXPECT_EQ(
-        Fault("*BAD\nB,1\n"),
-        "line 2: syntax error in linetype BAD: expected \"A,\" or \"S,\" at the start of the pattern at "
-        "byte 1: B,1\n");
-    EXPECT_EQ(Fault("*BAD\n"), "line 1: syntax error: the file ends before the pattern of linetype BAD\n");
-    EXPECT_EQ(Fault("*BAD\nA,1,\n"),
-              "line 2: syntax error: the file ends behind a comma, within the pattern of linetype BAD\n");
-    EXPECT_EQ(
-        Fault("*BAD\nA,[\"GAS\"],1\n"),
-        "line 2: syntax error in linetype BAD, element 1: expected another \"]\": a text needs a style, "
-        "as in [\"TEXT\",STANDARD] at byte 10: A,[\"GAS\"],1\n");
+              "4:7: error: expected a dash length or \"[\": A,1,,2 (linetype BAD)\n");
+    EXPECT_EQ(Fault("*BAD\nB,1\n"),
+              "2:1: error: expected \"A,\" or \"S,\" at the start of the pattern: B,1 (linetype BAD)\n");
+    EXPECT_EQ(Fault("*BAD\n"), "1: error: header without a pattern (linetype BAD)\n");
+    EXPECT_EQ(Fault("*BAD\nA,1,\n"), "2: error: the pattern ends with a comma (linetype BAD)\n");
+    EXPECT_EQ(Fault("*BAD\nA,[\"GAS\"],1\n"),
+              "2:10: error: missing text style, as in [\"TEXT\",STANDARD]: A,[\"GAS\"],1 (linetype BAD)\n");
 }
 
 TEST_F(LinetypesCommand, EverySyntaxErrorHasWordsOfItsOwn) {
     const std::pair<const char*, const char*> cases[] = {
-        {R"(["A)", "expected a closing quote"},
-        {R"(["A"x)", R"(expected "," and a text style behind the text)"},
-        {R"(["A",ST)", R"(expected "," or "]" behind the text style)"},
-        {R"(["A",])", "expected the name of a text style"},
-        {"[A]", R"(expected "," and a shape file behind the shape's name)"},
-        {"[A,f", R"(expected "," or "]" behind the shape file)"},
-        {"[A,]", "expected the name of a shape file"},
+        {R"(["A)", "missing closing quote"},
+        {R"(["A"x)", R"(missing text style, as in ["TEXT",STANDARD])"},
+        {R"(["A",ST)", R"(expected "," or "]" after the text style)"},
+        {R"(["A",])", "missing name of the text style"},
+        {"[A]", R"(expected "," and a shape file after the shape name)"},
+        {"[A,f", R"(expected "," or "]" after the shape file)"},
+        {"[A,]", "missing name of the shape file"},
         {"[A,f,Z=1]", "expected A=, R=, S=, X= or Y="},
         {"[A,f,S]", R"(expected "=")"},
         {"[A,f,S=x]", "expected a number"},
-        {"[A,f,S=1d]", "units (d, g, r) go with A= and R= only"},
+        {"[A,f,S=1d]", "units (d, g, r) are allowed only with A= and R="},
         {"[A,f,S=1 ]", R"(expected "," or "]")"},
     };
     for (const auto& [element, words] : cases) {
-        EXPECT_NE(Fault("*X\nA," + std::string(element) + "\n").find(std::string(": ") + words + " at byte"),
-                  std::string::npos)
+        EXPECT_NE(
+            Fault("*X\nA," + std::string(element) + "\n").find(std::string(" error: ") + words + ": A,"),
+            std::string::npos)
             << element;
     }
 }
@@ -212,22 +211,24 @@ TEST_F(LinetypesCommand, ShapeFilesAreFoundInTheFoldersGivenInTheirOrder) {
 
 TEST_F(LinetypesCommand, ShapeFileThatIsNotFoundIsNamedWithTheFoldersSearched) {
     EXPECT_EQ(Fault("*X\nA,1\n*Y\nA,1,\n[MARK,marks.shx]\n", {"--shapes", "shapes/", "--shapes", "more"}),
-              "line 5: shape file MARKS.SHX not found in ., " + Here() + ", shapes/, more\n");
+              "5: error: shape file marks.shx not found in ., " + Here() + ", shapes/, more (linetype Y)\n");
     EXPECT_EQ(Fault("*X\nA,[MARK,sub/marks.shx]\n", {"--shapes", "shapes/"}),
-              "line 2: shape file SUB/MARKS.SHX not found in SUB/, shapes/\n");
+              "2: error: shape file sub/marks.shx not found in sub/, shapes/ (linetype X)\n");
 }
 
 TEST_F(LinetypesCommand, NothingIsBesideStandardInput) {
     const ToolResult result = RunTool({"linetypes", "-", "--shapes", "shapes/"}, "*X\nA,[MARK,marks.shx]\n");
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, "standard input: line 2: shape file MARKS.SHX not found in ., shapes/\n");
+    EXPECT_EQ(result.errors,
+              "standard input:2: error: shape file marks.shx not found in ., shapes/ (linetype X)\n"
+              "styleconv: nothing was converted; --tolerant converts the rest of the file\n");
 }
 
 TEST_F(LinetypesCommand, DamagedShapeFileIsNamedWithItsFault) {
     folder.Write("marks.shx", "Vorlanx-86 shapes 2.0\r\n\x1A");
     EXPECT_EQ(Fault("*X\nA,[MARK,marks.shx]\n"),
-              "line 2: shape file MARKS.SHX cannot be read: at its byte 18: "
-              "expected the version 1.0 or 1.1\n");
+              "2: error: shape file marks.shx cannot be read: byte 18: unknown version: expected 1.0 or 1.1 "
+              "(linetype X)\n");
 }
 
 TEST_F(LinetypesCommand, FaultsOfElementsAreSaidOneALine) {
@@ -235,19 +236,18 @@ TEST_F(LinetypesCommand, FaultsOfElementsAreSaidOneALine) {
         "marks.shx",
         ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Shape(131, "LOOP", {7, 131, 0}).Text());
     folder.Write("font.shx", Font());
-    EXPECT_EQ(Fault("*X\nA,1,[NONE,marks.shx],[LOOP,marks.shx]\n*Y\nA,[A,font.shx]\n"),
-              "line 2: linetype X, element 2: shape file MARKS.SHX has no shape NONE\n"
-              "line 2: linetype X, element 3: shape LOOP of MARKS.SHX cannot be drawn: it draws itself as a "
-              "subshape\n"
-              "line 4: linetype Y, element 1: shape file FONT.SHX is a font; shapes come from files without "
-              "font information\n");
+    EXPECT_EQ(
+        Fault("*X\nA,1,[NONE,marks.shx],[LOOP,marks.shx]\n*Y\nA,[A,font.shx]\n"),
+        "2: error: shape file marks.shx has no shape NONE (linetype X)\n"
+        "2: error: shape LOOP of marks.shx cannot be drawn: it draws itself as a subshape (linetype X)\n"
+        "4: error: shape file font.shx is a font; shapes cannot be taken from fonts (linetype Y)\n");
 }
 
 TEST_F(LinetypesCommand, FontOfHeightZeroIsAFault) {
     folder.Write("txt.shx",
                  ShapeFileBuilder::Shapes().FontInfo("FONT", {0, 1, 0}).Shape(65, "A", {0x10, 0}).Text());
     EXPECT_EQ(Fault("*GAS\nA,1,[\"A\",STANDARD]\n"),
-              "line 2: linetype GAS, element 2: font TXT.SHX of text style STANDARD has height 0\n");
+              "2: error: font txt.shx of text style STANDARD has height 0 (linetype GAS)\n");
 }
 
 TEST_F(LinetypesCommand, DefaultStyleIsStandardInItsFontFile) {
@@ -262,14 +262,16 @@ TEST_F(LinetypesCommand, BuiltInFontStandsInForTheDefaultStylesAndSaysSo) {
     const ToolResult result = Run("*X\nA,1,[\"I\",STANDARD,S=21]\n", {"--shapes", "shapes/"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.errors, folder / "lines.lin" + ": note: font file txt.shx not found in ., " + Here() +
-                                 ", shapes/; the built-in font stands in for it\n");
+                                 ", shapes/; the built-in font is used instead\n");
     // Its letters are 21 units high, and its I is one stroke from top to bottom.
     EXPECT_EQ(ValuesOf(result.output, "geometry"), (Texts{"M 5,21 l 0,-21 ", "M 0,0 L 1,0 "}));
 }
 
 TEST_F(LinetypesCommand, UnknownStyleIsAFault) {
-    EXPECT_EQ(Fault("*X\nA,1,[\"A\",roads]\n"),
-              "line 2: text style ROADS not found in the empty drawing that is used without --drawing\n");
+    EXPECT_EQ(
+        Fault("*X\nA,1,[\"A\",roads]\n"),
+        "2: error: text style roads not found: without a drawing there is only STANDARD; add --drawing with "
+        "the drawing that has it (linetype X)\n");
 }
 
 class LinetypesOverADrawing : public LinetypesCommand {
@@ -295,18 +297,19 @@ TEST_F(LinetypesOverADrawing, TextStylesAreTheDrawings) {
 
 TEST_F(LinetypesOverADrawing, StandardIsNotImplied) {
     EXPECT_EQ(Fault("*X\nA,1,[\"A\",STANDARD]\n", Drawing("")),
-              "line 2: text style STANDARD not found in " + folder / "drawing.json" + "\n");
+              "2: error: text style STANDARD not found in " + folder / "drawing.json" + " (linetype X)\n");
 }
 
 TEST_F(LinetypesOverADrawing, BuiltInFontDoesNotStandIn) {
     EXPECT_EQ(Fault("*X\nA,1,[\"A\",STANDARD]\n", Drawing(R"({"name": "STANDARD", "fileName": "txt.shx"})")),
-              "line 2: font file TXT.SHX of text style STANDARD not found in ., " + Here() + "\n");
+              "2: error: font file txt.shx of text style STANDARD not found in ., " + Here() +
+                  " (linetype X)\n");
 }
 
 TEST_F(LinetypesOverADrawing, DrawingThatCannotBeReadIsAFault) {
     const ToolResult result = Run("*X\nA,1\n", Drawing(R"({"name": "S", "bold": 1})"));
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors.find(folder / "drawing.json" + ": textStyles[0].bold: expected "), 0U);
+    EXPECT_EQ(result.errors.find(folder / "drawing.json" + ": error: textStyles[0].bold: expected "), 0U);
     EXPECT_EQ(Run("*X\nA,1\n", {"--drawing", folder / "none.json"}).status, 1);
 }
 

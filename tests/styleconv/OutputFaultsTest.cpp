@@ -35,7 +35,8 @@ TEST(OutputFaults, AWriteThatFailsAtAnyByteLeavesTheOldFile) {
         EXPECT_EQ(folder.Read("a.json"), "old") << limit;
         EXPECT_EQ(folder.Names(), (std::vector<std::string>{"a.json", "a.pat"})) << limit;
         if (limit >= 300) {
-            EXPECT_EQ(result.errors, (folder / "a.json") + ": cannot be written: File too large\n") << limit;
+            EXPECT_EQ(result.errors, (folder / "a.json") + ": error: cannot be written: File too large\n")
+                << limit;
         }
     }
     EXPECT_EQ(support::RunToolWithFileSizeLimit(size, {"patterns", file, "-o", folder / "a.json"}).status, 0);
@@ -52,7 +53,8 @@ TEST(OutputFaults, ClosedStandardOutputIsAFault) {
          {std::vector<std::string>{"patterns", pattern}, {"linetypes", lines}, {"list", pattern}}) {
         const ToolResult result = RunToolRedirected(arguments, ">&-");
         EXPECT_EQ(result.status, 1) << arguments[0];
-        EXPECT_TRUE(result.errors.starts_with("standard output: cannot be written: ")) << result.errors;
+        EXPECT_TRUE(result.errors.starts_with("standard output: error: cannot be written: "))
+            << result.errors;
     }
     // Only the result is missing it: with a file to write to nothing is.
     const ToolResult result = RunToolRedirected({"patterns", pattern, "-o", folder / "a.json"}, ">&-");

@@ -1,5 +1,5 @@
 // The file of a result when writing fails at a byte, for each byte.
-#include "styleconv/OutputFile.h"
+#include "styleconv/files/OutputFile.h"
 #include "tests/support/ToolRun.h"
 
 #include <csignal>

@@ -53,7 +53,7 @@ TEST(Output, ADirectoryIsRefused) {
     std::filesystem::create_directory(folder / "d");
     const ToolResult result = RunTool({"patterns", file, "-o", folder / "d"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_TRUE(result.errors.starts_with((folder / "d") + ": cannot be written: ")) << result.errors;
+    EXPECT_TRUE(result.errors.starts_with((folder / "d") + ": error: cannot be written: ")) << result.errors;
 }
 
 TEST(Output, AFolderThatIsNotThereIsNamed) {
@@ -61,7 +61,8 @@ TEST(Output, AFolderThatIsNotThereIsNamed) {
     const std::string file = folder.Write("a.pat", kPattern);
     const ToolResult result = RunTool({"patterns", file, "-o", folder / "no/a.json"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, (folder / "no/a.json") + ": cannot be written: No such file or directory\n");
+    EXPECT_EQ(result.errors,
+              (folder / "no/a.json") + ": error: cannot be written: No such file or directory\n");
 }
 
 #if !defined(_WIN32)
@@ -70,10 +71,10 @@ TEST(Output, AFullDiskIsAFault) {
     const std::string file = folder.Write("a.pat", kPattern);
     const ToolResult direct = RunToolRedirected({"patterns", file}, "> /dev/full");
     EXPECT_EQ(direct.status, 1);
-    EXPECT_EQ(direct.errors, "standard output: cannot be written: No space left on device\n");
+    EXPECT_EQ(direct.errors, "standard output: error: cannot be written: No space left on device\n");
     const ToolResult named = RunTool({"patterns", file, "-o", "/dev/full"});
     EXPECT_EQ(named.status, 1);
-    EXPECT_EQ(named.errors, "/dev/full: cannot be written: No space left on device\n");
+    EXPECT_EQ(named.errors, "/dev/full: error: cannot be written: No space left on device\n");
 }
 
 TEST(Output, AClosedPipeIsAFault) {
@@ -81,7 +82,7 @@ TEST(Output, AClosedPipeIsAFault) {
     const std::string file = folder.Write("a.pat", kPattern);
     const ToolResult result = support::RunToolIntoClosedPipe({"patterns", file});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, "standard output: cannot be written: Broken pipe\n");
+    EXPECT_EQ(result.errors, "standard output: error: cannot be written: Broken pipe\n");
 }
 
 TEST(Output, ALinkStaysALink) {

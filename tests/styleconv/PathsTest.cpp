@@ -150,7 +150,7 @@ TEST(Paths, AMessageNamesAFileAsItWasGiven) {
     const std::string missing = place.Path() + "/\xc3\xa9t\xc3\xa9.lin";
     const ToolResult notThere = RunTool({"linetypes", missing});
     EXPECT_EQ(notThere.status, 1);
-    EXPECT_EQ(notThere.errors, missing + ": cannot be opened: there is no such file\n");
+    EXPECT_EQ(notThere.errors, missing + ": error: not found\n");
 }
 
 #if !defined(_WIN32)
@@ -160,7 +160,7 @@ TEST(Paths, AFileThatCannotBeLookedForIsNotSaidToBeMissing) {
     fs::create_symlink("loop.lin", loop);
     const ToolResult result = RunTool({"linetypes", loop});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, loop + ": cannot be opened: " + std::strerror(ELOOP) + "\n");
+    EXPECT_EQ(result.errors, loop + ": error: cannot be read: " + std::strerror(ELOOP) + "\n");
 }
 #endif
 

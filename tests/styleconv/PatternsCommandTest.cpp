@@ -108,7 +108,7 @@ TEST(PatternsCommand, ANameIsTakenAsItStands) {
     EXPECT_EQ(ValuesOf(RunTool({"patterns", "--name=", file}).output, "name"), Texts{""});
     EXPECT_EQ(ValuesOf(RunTool({"patterns", "--name", "", file}).output, "name"), Texts{""});
     EXPECT_EQ(RunTool({"patterns", file, "--name", "[A,A]"}).errors,
-              file + ": the file has no pattern named [A,A]\n");
+              file + ": error: there is no pattern named [A,A]\n");
 }
 
 TEST(PatternsCommand, AnUnknownNameIsAFault) {
@@ -118,8 +118,8 @@ TEST(PatternsCommand, AnUnknownNameIsAFault) {
     const ToolResult result =
         RunTool({"patterns", file, "--name", "a", "--name", "C", "-o", folder / "out.json"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors,
-              file + ": the file has no pattern named a\n" + file + ": the file has no pattern named C\n");
+    EXPECT_EQ(result.errors, file + ": error: there is no pattern named a\n" + file +
+                                 ": error: there is no pattern named C\n");
     EXPECT_EQ(folder.Read("out.json"), "old");
 }
 
@@ -128,7 +128,7 @@ TEST(PatternsCommand, AFileThatIsNotThereIsAFault) {
     folder.Write("out.json", "old");
     const ToolResult result = RunTool({"patterns", folder / "no.pat", "-o", folder / "out.json"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, (folder / "no.pat") + ": cannot be opened: there is no such file\n");
+    EXPECT_EQ(result.errors, (folder / "no.pat") + ": error: not found\n");
     EXPECT_EQ(folder.Read("out.json"), "old");
 }
 
@@ -138,7 +138,7 @@ TEST(PatternsCommand, ADirectoryIsAFault) {
     folder.Write("out.json", "old");
     const ToolResult result = RunTool({"patterns", folder / "d.pat", "-o", folder / "out.json"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, (folder / "d.pat") + ": cannot be read: it is a directory\n");
+    EXPECT_EQ(result.errors, (folder / "d.pat") + ": error: cannot be read: it is a directory\n");
     EXPECT_EQ(folder.Read("out.json"), "old");
 }
 
@@ -149,8 +149,12 @@ TEST(PatternsCommand, AnOverlongLineIsAFault) {
         folder.Write("a.pat", "*A\n0,0,0,0,1\n;" + std::string(127, 'x') + "\n*B\n0,0,0,0,1\n");
     const ToolResult result = RunTool({"patterns", file, "-o", folder / "out.json"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors,
-              file + ": line 3: the line has more than 127 characters; nothing from here on can be read\n");
+    EXPECT_EQ(
+        result.errors,
+        file +
+            ":3: error: the line has more than 127 characters; nothing from here on is read: shorten the "
+            "line\n" +
+            support::HelpBehindErrors(file));
     EXPECT_EQ(folder.Read("out.json"), "old");
 }
 
@@ -161,8 +165,8 @@ TEST(PatternsCommand, APatternWithoutATileIsNamedAndLeftOut) {
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"A"}));
     EXPECT_EQ(result.errors,
-              file + ": line 3: pattern NOTILE has no repeat tile: no rectangle of any size repeats "
-                     "its lines; left out\n");
+              file + ":3: warning: the pattern has no repeat tile: no rectangle repeats its lines; skipped "
+                     "(pattern NOTILE)\n");
 }
 
 TEST(PatternsCommand, APatternWithoutATileThatIsAskedForIsAFault) {
@@ -171,9 +175,10 @@ TEST(PatternsCommand, APatternWithoutATileThatIsAskedForIsAFault) {
     const std::string file = folder.Write("a.pat", std::string("*A\n0,0,0,0,1\n") + kNoTile);
     const ToolResult result = RunTool({"patterns", file, "--name", "NOTILE", "-o", folder / "out.json"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors,
-              file + ": line 3: pattern NOTILE has no repeat tile: no rectangle of any size repeats "
-                     "its lines\n");
+    EXPECT_EQ(
+        result.errors,
+        file +
+            ":3: error: the pattern has no repeat tile: no rectangle repeats its lines (pattern NOTILE)\n");
     EXPECT_EQ(folder.Read("out.json"), "old");
 }
 
@@ -184,10 +189,10 @@ TEST(PatternsCommand, AFileWhosePatternsAllLackATileIsAFault) {
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.errors,
-              file + ": line 1: pattern EMPTY has no lines; left out\n" + file +
-                  ": line 2: pattern NOTILE has no repeat tile: no rectangle of any size repeats its "
-                  "lines; left out\n" +
-                  file + ": none of the file's patterns can be converted\n");
+              file + ":1: warning: the pattern has no lines; skipped (pattern EMPTY)\n" + file +
+                  ":2: warning: the pattern has no repeat tile: no rectangle repeats its lines; skipped "
+                  "(pattern NOTILE)\n" +
+                  file + ": error: none of the patterns can be converted\n");
 }
 
 TEST(PatternsCommand, APatternWhoseTileHasNextToNoSizeIsAFault) {
@@ -196,8 +201,8 @@ TEST(PatternsCommand, APatternWhoseTileHasNextToNoSizeIsAFault) {
     const ToolResult result = RunTool({"patterns", file, "--name", "SMALL"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors, file +
-                                 ": line 1: pattern SMALL has a repeat tile too small to draw: its sides are "
-                                 "shorter than 0.0001\n");
+                                 ":1: error: the repeat tile of the pattern is too small to draw: its sides "
+                                 "are shorter than 0.0001 (pattern SMALL)\n");
 }
 
 TEST(PatternsCommand, AFileWithoutPatternsIsAFault) {
@@ -206,7 +211,7 @@ TEST(PatternsCommand, AFileWithoutPatternsIsAFault) {
     const std::string file = folder.Write("a.pat", "; nothing here\n0,0,0,0,1\n");
     const ToolResult result = RunTool({"patterns", file, "-o", folder / "out.json"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, file + ": the file has no patterns: no line begins with \"*\"\n");
+    EXPECT_EQ(result.errors, file + ": error: the file has no patterns: no line begins with \"*\"\n");
     EXPECT_EQ(folder.Read("out.json"), "old");
 }
 
@@ -215,9 +220,10 @@ TEST(PatternsCommand, AByteOrderMarkThatHidesTheOnlyHeaderIsNamed) {
     const std::string file = folder.Write("a.pat", "\xef\xbb\xbf*A\n0,0,0,0,1\n");
     const ToolResult result = RunTool({"patterns", file});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors,
-              file + ": line 1: the file has no patterns: a UTF-8 byte-order mark stands before its "
-                     "first character and hides a header there; save the file without it\n");
+    EXPECT_EQ(
+        result.errors,
+        file + ":1: error: a UTF-8 byte-order mark hides the header behind it; save the file without it\n" +
+            support::HelpBehindErrors(file));
 }
 
 TEST(PatternsCommand, StandardInputIsReadForADash) {
@@ -225,7 +231,7 @@ TEST(PatternsCommand, StandardInputIsReadForADash) {
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"A"}));
     EXPECT_EQ(RunTool({"patterns", "-"}, "").errors,
-              "standard input: the file has no patterns: no line begins with \"*\"\n");
+              "standard input: error: the file has no patterns: no line begins with \"*\"\n");
 }
 
 // "ä" is 0xe4 in WINDOWS-1252 and 0xc3 0xa4 in UTF-8; a file that is not UTF-8 throughout is WINDOWS-1252.
@@ -247,7 +253,7 @@ TEST(PatternsCommand, AnUnknownCodePageIsWrong) {
     const std::string file = folder.Write("a.pat", "*A\n0,0,0,0,1\n");
     const ToolResult result = RunTool({"patterns", file, "--code-page", "KLINGON"});
     EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.errors, "--code-page: the encoding KLINGON is not known\n");
+    EXPECT_EQ(result.errors, "styleconv: --code-page: unknown encoding KLINGON\n");
 }
 
 TEST(ListCommand, PrintsTheNamesOfPatternsOneALine) {
@@ -274,14 +280,14 @@ TEST(ListCommand, AFileWithoutPatternsIsAFault) {
     const std::string file = folder.Write("a.pat", "");
     const ToolResult result = RunTool({"list", file});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, file + ": the file has no patterns: no line begins with \"*\"\n");
+    EXPECT_EQ(result.errors, file + ": error: the file has no patterns: no line begins with \"*\"\n");
 }
 
 TEST(ListCommand, NeedsAFileOfAKnownKind) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.txt", "*A\n0,0,0,0,1\n");
     EXPECT_EQ(RunTool({"list", file}).errors,
-              file + ": is of no known kind: its name should end in .lin, .pat, .shx or .json\n");
+              file + ": error: unknown kind of file: the name must end in .lin, .pat, .shx or .json\n");
     EXPECT_EQ(RunTool({"list", file}).status, 1);
     EXPECT_EQ(RunTool({"list", "-"}, "*A\n").status, 2);
 }

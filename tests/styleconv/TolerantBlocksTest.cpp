@@ -66,7 +66,7 @@ TEST_F(TolerantBlocks, AWrongEntityIsLeftOutByNameOfItsBlock) {
     EXPECT_EQ(Run(text).status, 1);
     EXPECT_EQ(Said(text),
               "drawing.json: warning: blocks[0].entities[0].radius: expected a number, found a string; "
-              "the entity is left out (block TREE)\n");
+              "the entity is skipped (block TREE)\n");
     EXPECT_EQ(output, Run(Drawing(Block("TREE", Line()) + "," + Block("POST", Line()))).output);
 }
 
@@ -88,7 +88,7 @@ TEST_F(TolerantBlocks, ADocumentThatIsCutGivesTheBlocksBefore) {
             "drawing.json: warning: blocks[1].entities[1].end: expected JSON, found an error at line 1, ", 0),
         0U)
         << said;
-    EXPECT_NE(said.find("; the block and all that follows are left out (block POST)\n"), std::string::npos)
+    EXPECT_NE(said.find("; the block and all that follows is skipped (block POST)\n"), std::string::npos)
         << said;
     EXPECT_TRUE(Has("\"TREE\""));
     EXPECT_FALSE(Has("\"POST\""));
@@ -96,23 +96,23 @@ TEST_F(TolerantBlocks, ADocumentThatIsCutGivesTheBlocksBefore) {
 
 TEST_F(TolerantBlocks, WhatIsNoDrawingOrHasNoBlocksIsRefused) {
     EXPECT_EQ(Said("{}", {}, 1),
-              "drawing.json: format: expected \"styleconversion/drawing\", found nothing\n");
-    EXPECT_EQ(
-        Said(Drawing("7"), {}, 1),
-        "drawing.json: warning: blocks[0]: expected an object, found a number; the block is left out\n"
-        "drawing.json: the drawing has no block to convert: layouts and anonymous blocks are converted only "
-        "by --name\n");
+              "drawing.json: error: format: expected \"styleconversion/drawing\", found nothing\n");
+    EXPECT_EQ(Said(Drawing("7"), {}, 1),
+              "drawing.json: warning: blocks[0]: expected an object, found a number; the block is skipped\n"
+              "drawing.json: error: the drawing has no block to convert; layouts and anonymous blocks are "
+              "converted "
+              "only by --name\n");
     EXPECT_EQ(output, "");
 }
 
 TEST_F(TolerantBlocks, ABlockThatIsNotThereIsNamedAndTheOthersAreConverted) {
     const std::string text = Drawing(Block("TREE", Line()));
     EXPECT_EQ(Said(text, {"--name", "NONE", "--name", "TREE"}),
-              "drawing.json: warning: the drawing has no block named NONE\n");
+              "drawing.json: warning: there is no block named NONE\n");
     EXPECT_TRUE(Has("\"TREE\""));
     EXPECT_EQ(Said(text, {"--name", "NONE"}, 1),
-              "drawing.json: warning: the drawing has no block named NONE\n"
-              "drawing.json: none of the blocks asked for can be converted\n");
+              "drawing.json: warning: there is no block named NONE\n"
+              "drawing.json: error: none of the blocks asked for can be converted\n");
 }
 
 TEST_F(TolerantBlocks, WhatAConversionLeavesOutIsNamedByBlock) {
@@ -131,22 +131,18 @@ TEST_F(TolerantBlocks, WhatAConversionLeavesOutIsNamedByBlock) {
               R"(, "drawOrder": ["a"])"));
     EXPECT_EQ(
         Said(text),
-        "drawing.json: warning: 1 entity (hatch) will not be drawn: it has more than 10000000 "
-        "lines (block TREE)\n"
-        "drawing.json: warning: 1 entity (hatch) will not be drawn: it has no boundary (block TREE)\n"
-        "drawing.json: warning: 1 entity (hatch) will not be drawn: it is not solid and has no pattern "
-        "(block "
-        "TREE)\n"
-        "drawing.json: warning: 1 entity (spline) will not be drawn: its data make no curve (block TREE)\n"
-        "drawing.json: warning: 1 entity (text) will be written without a font of its own: the drawing has "
-        "no "
-        "text style ROMAN (block TREE)\n"
-        "drawing.json: warning: 2 entities will be drawn without dashes: the drawing has no linetype GAS "
+        "drawing.json: warning: 1 entity (spline) is not drawn: the data make no curve (block TREE)\n"
+        "drawing.json: warning: 1 entity (hatch) is not drawn: no boundary (block TREE)\n"
+        "drawing.json: warning: 1 entity (hatch) is not drawn: not solid, and no pattern (block TREE)\n"
+        "drawing.json: warning: 1 entity (hatch) has more than 10000000 lines; skipped (block TREE)\n"
+        "drawing.json: warning: 2 entities are drawn without dashes: the drawing has no linetype GAS "
         "(block TREE)\n"
-        "drawing.json: warning: 1 entity (hatch) will not be drawn: no line of its pattern lies inside its "
+        "drawing.json: warning: 1 entity (text) is written without a font: the drawing has no text style "
+        "ROMAN (block TREE)\n"
+        "drawing.json: warning: 1 entity of the class Ray is not drawn (block TREE)\n"
+        "drawing.json: warning: 1 entity (hatch) is not drawn: no line of the pattern lies inside the "
         "boundary (block TREE)\n"
-        "drawing.json: warning: 1 entity of the class Ray will not be drawn (block TREE)\n"
-        "drawing.json: warning: 1 entity will not be drawn: not named in the draw order of the block (block "
+        "drawing.json: warning: 1 entity is not drawn: missing in the draw order of the block (block "
         "POST)\n");
     // A strict conversion would work on the dense hatch until a limit ends it.
     std::string sparse = text;
@@ -170,10 +166,10 @@ protected:
 };
 
 TEST_F(TolerantBlockShapes, AShapeFileThatIsNotFoundLosesItsShapesAndNoMore) {
-    EXPECT_EQ(Said(Marked("MARKS", R"("shapeNumber": 130)")),
-              "drawing.json: warning: 1 entity will be drawn without the shapes of linetype MARKED: shape "
-              "file marks "
-              "not found beside the drawing (block FENCE)\n");
+    EXPECT_EQ(
+        Said(Marked("MARKS", R"("shapeNumber": 130)")),
+        "drawing.json: warning: 1 entity is drawn without the shapes of linetype MARKED: shape file marks "
+        "not found beside the drawing (block FENCE)\n");
     EXPECT_TRUE(Has("\"M 0.0,0.0 L 1.0,0.0 M 2.0,0.0 L 3.0,0.0\""));
 }
 
@@ -183,54 +179,57 @@ TEST_F(TolerantBlockShapes, AnyMakersSignatureIsReadAndAMissingTrailer) {
     const std::string text = Marked("MARKS", R"("shapeNumber": 130)");
     const std::string expected = Run(text).output;
     folder.Write("marks.shx", "ForeignX-86 " + marks.substr(11));
-    EXPECT_EQ(Said(text),
-              "drawing.json: warning: 1 entity will be drawn without the shapes of linetype MARKED: "
-              "shape file marks: byte 0: this is no shape file: expected the words \"Vorlanx-86 \" (block "
-              "FENCE)\n");
+    EXPECT_EQ(
+        Said(text),
+        "drawing.json: warning: 1 entity is drawn without the shapes of linetype MARKED: shape file marks "
+        "cannot be read: byte 0: not a shape file: expected \"Vorlanx-86 \" at the start (block FENCE)\n");
     folder.Write("marks.shx", "Foreign-86 " + marks.substr(11, marks.size() - 14));
-    EXPECT_EQ(Said(text),
-              "marks.shx: warning: the signature is another maker's; the file is read all the same\n"
-              "marks.shx: warning: \"EOF\" is missing at the end; the file is read all the same\n");
+    EXPECT_EQ(
+        Said(text),
+        "marks.shx: warning: byte 0: foreign signature: expected \"Vorlanx-86 \" at the start; read all the "
+        "same\n"
+        "marks.shx: warning: byte " +
+            std::to_string(marks.size() - 3) + ": missing \"EOF\" after the last shape; read all the same\n");
     EXPECT_EQ(output, expected);
     folder.Write("marks.shx", marks.substr(0, marks.size() - 3) + "eof!");
-    EXPECT_EQ(Said(text),
-              "marks.shx: warning: \"EOF\" is missing at the end; the file is read all the same\n");
+    EXPECT_EQ(Said(text), "marks.shx: warning: byte " + std::to_string(marks.size() - 3) +
+                              ": missing \"EOF\" after the last shape; read all the same\n");
     EXPECT_EQ(output, expected);
     EXPECT_EQ(folder.Names(), (Texts{"drawing.json", "marks.shx"})); // no copy stays
 }
 
 TEST_F(TolerantBlockShapes, ShapesThatTheFileLacksOrThatCannotBeDrawnAreNamed) {
     folder.Write("marks.shx", Marks().Shape(131, "BAD", {6, 0}).Text());
-    EXPECT_EQ(
-        Said(Marked("MARKS", R"("shapeNumber": 132)")),
-        "drawing.json: warning: 1 entity will be drawn without shape 132 of marks, which is not there (block "
-        "FENCE)\n");
+    EXPECT_EQ(Said(Marked("MARKS", R"("shapeNumber": 132)")),
+              "drawing.json: warning: 1 entity is drawn without shape 132 of marks, which is missing (block "
+              "FENCE)\n");
     EXPECT_EQ(
         Said(Marked("MARKS", R"("shapeNumber": 131)")),
-        "drawing.json: warning: 1 entity will be drawn without shape 131 of marks, which cannot be drawn: it "
-        "goes back to a position that it has not saved (block FENCE)\n");
-    EXPECT_EQ(Said(Marked("NONE", R"("shapeNumber": 131)")),
-              "drawing.json: warning: 1 entity will be drawn without the shapes of linetype MARKED: the "
-              "drawing has "
-              "no text style NONE (block FENCE)\n");
-    EXPECT_EQ(Said(Marked("ARIAL", R"("text": "GAS")")),
-              "drawing.json: warning: 1 entity will be drawn without the texts of linetype MARKED: text "
-              "style ARIAL "
-              "has no shape file, and only such texts are drawn in linetypes of a drawing (block FENCE)\n");
+        "drawing.json: warning: 1 entity is drawn without shape 131 of marks: it cannot be drawn: it returns "
+        "to a position that it has not saved (block FENCE)\n");
+    EXPECT_EQ(
+        Said(Marked("NONE", R"("shapeNumber": 131)")),
+        "drawing.json: warning: 1 entity is drawn without the shapes of linetype MARKED: the drawing has no "
+        "text style NONE (block FENCE)\n");
+    EXPECT_EQ(
+        Said(Marked("ARIAL", R"("text": "GAS")")),
+        "drawing.json: warning: 1 entity is drawn without the texts of linetype MARKED: text style ARIAL has "
+        "no shape file (block FENCE)\n");
 }
 
 TEST_F(TolerantBlockShapes, TheBuiltInFontStandsInForATxtThatIsNotThere) {
     const std::string text = Marked("STANDARD", R"("text": "G")");
     const std::string without = Run(text).output;
     EXPECT_EQ(Said(text),
-              "drawing.json: note: font file txt.shx not found beside the drawing; the built-in font "
-              "stands in for it\n");
+              "drawing.json: note: font file txt.shx not found beside the drawing; the built-in font is used "
+              "instead\n");
     EXPECT_NE(output, without);
     const std::string drawn = output;
     folder.Write("txt.shx", ShapeFileBuilder::Shapes().FontInfo("FONT", {1, 1, 0}).Text());
-    EXPECT_EQ(Said(text),
-              "drawing.json: warning: 1 entity will be drawn without character 71 (G) of txt.shx, which "
-              "is not there (block FENCE)\n");
+    EXPECT_EQ(
+        Said(text),
+        "drawing.json: warning: 1 entity is drawn without character 71 (G) of txt.shx, which is missing "
+        "(block FENCE)\n");
     EXPECT_EQ(output, without);
     EXPECT_NE(drawn, without);
 }

@@ -56,9 +56,8 @@ TEST_F(TolerantLinetypes, RightLinetypesAreConvertedAndWrongOnesNamed) {
     const ToolResult result = Run("*GOOD\nA,1\n*BAD\nA,1,,2\n*ALSO\nA,2\n");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(Names(result), "GOOD;ALSO;");
-    EXPECT_EQ(
-        Said(result),
-        ":4: warning: expected the length of a dash, or \"[\" at byte 5: A,1,,2; left out (linetype BAD)\n");
+    EXPECT_EQ(Said(result),
+              ":4:5: warning: expected a dash length or \"[\": A,1,,2; skipped (linetype BAD)\n");
     EXPECT_EQ(Run("*GOOD\nA,1\n*BAD\nA,1,,2\n", {}).status, 1) << "strict is the default";
 }
 
@@ -66,16 +65,16 @@ TEST_F(TolerantLinetypes, UprightRotationIsToldOnceAFile) {
     folder.Write("txt.shx", Font());
     const ToolResult result = Run("*X\nA,1,[\"A\",STANDARD,U=0]\n*Y\nA,1,[\"A\",STANDARD,U=90]\n");
     EXPECT_EQ(Names(result), "X;Y;");
-    EXPECT_EQ(Said(result),
-              ":2: warning: U= is not a known placement key; read as R= throughout the file (linetype X)\n");
+    EXPECT_EQ(Said(result), ":2:19: warning: unknown key U= (upright text); read as R= in the whole file; "
+                            "the same in 1 more place "
+                            "(linetype X)\n");
 }
 
 TEST_F(TolerantLinetypes, CharacterCodesInTextsBecomeCharacters) {
     const ToolResult result = Run("*X\nA,1,[\"20\\U+00B0\",STANDARD]\n", {"--tolerant", "--font", "Arial"});
     EXPECT_NE(result.output.find("\"content\": \"'20\xC2\xB0'\""), std::string::npos) << result.output;
     EXPECT_EQ(Said(result),
-              ":2: warning: \\U+ and a number is not a character in the texts of linetypes; read as "
-              "one (linetype X)\n");
+              ":2:7: warning: a \\U+ code is not read as a character; read as one (linetype X)\n");
     EXPECT_NE(Run("*X\nA,1,[\"20\\U+00B0\",STANDARD]\n", {"--font", "Arial"}).output.find("20\\\\U+00B0"),
               std::string::npos);
 }
@@ -87,19 +86,19 @@ TEST_F(TolerantLinetypes, MissingStyleAndShapeFileAreToldWithWhereTheyWereLooked
     EXPECT_EQ(
         Said(result),
         ": note: font file txt.shx not found in ., " + folder / "" +
-            "; the built-in font stands in for it\n"
-            ":2: warning: text style ROADS not found in the empty drawing that is used without --drawing; "
-            "STANDARD stands in for it (linetype X)\n"
-            ":4: warning: shape file NONE.SHX not found in ., " +
-            folder / "" + "; left out (linetype Y)\n");
+            "; the built-in font is used instead\n"
+            ":2: warning: text style roads not found: without a drawing there is only STANDARD; STANDARD is "
+            "used instead (linetype X)\n"
+            ":4: warning: shape file none.shx not found in ., " +
+            folder / "" + "; skipped (linetype Y)\n");
 }
 
 TEST_F(TolerantLinetypes, NothingConvertedIsAFault) {
     const ToolResult result = Run("*X\nA,x\n");
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output, "");
-    EXPECT_NE(Said(result).find(": none of the file's linetypes can be converted\n"), std::string::npos);
-    const std::string nothing = ": the file has no linetypes: no line begins with \"*\" and a name\n";
+    EXPECT_NE(Said(result).find(": error: none of the linetypes can be converted\n"), std::string::npos);
+    const std::string nothing = ": error: the file has no linetypes: no line begins with \"*\" and a name\n";
     EXPECT_EQ(Said(Run("nothing\n")), nothing);
     EXPECT_EQ(Said(Run("nothing\n", {"--tolerant", "--name", "X"})), nothing);
     EXPECT_EQ(Said(Run("nothing\n", {"--name", "X"})), nothing);
@@ -109,9 +108,8 @@ TEST_F(TolerantLinetypes, LinetypeAskedForThatIsLeftOutIsAFault) {
     const ToolResult result = Run("*X\nA,x\n*Y\nA,1\n", {"--tolerant", "--name", "X"});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output, "");
-    const std::string leftOut =
-        ":2: warning: expected the length of a dash, or \"[\" at byte 3: A,x; left out (linetype X)\n";
-    EXPECT_EQ(Said(result), leftOut + ": none of the linetypes asked for can be converted\n");
+    const std::string leftOut = ":2:3: warning: expected a dash length or \"[\": A,x; skipped (linetype X)\n";
+    EXPECT_EQ(Said(result), leftOut + ": error: none of the linetypes asked for can be converted\n");
     const ToolResult withAnother = Run("*X\nA,x\n*Y\nA,1\n", {"--tolerant", "--name", "X", "--name", "Y"});
     EXPECT_EQ(withAnother.status, 0);
     EXPECT_EQ(Names(withAnother), "Y;");
@@ -122,18 +120,18 @@ TEST_F(TolerantLinetypes, LinetypeAskedForThatIsNotThereIsAWarningBesideAnother)
     const ToolResult result = Run("*Y\nA,1\n", {"--tolerant", "--name", "Z", "--name", "Y"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(Names(result), "Y;");
-    EXPECT_EQ(Said(result), ": warning: the file has no linetype named Z\n");
+    EXPECT_EQ(Said(result), ": warning: there is no linetype named Z\n");
     EXPECT_EQ(Said(Run("*Y\nA,1\n", {"--tolerant", "--name", "Z"})),
-              ": warning: the file has no linetype named Z\n"
-              ": none of the linetypes asked for can be converted\n");
+              ": warning: there is no linetype named Z\n"
+              ": error: none of the linetypes asked for can be converted\n");
 }
 
 TEST_F(TolerantLinetypes, NoLinetypeHasTheEmptyName) {
     // The stray pattern is a fault that belongs to no linetype.
     const ToolResult result = Run("A,1\n*Y\nA,1\n", {"--tolerant", "--name", "", "--name", "Y"});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(Said(result), ":1: warning: a pattern without a header before it; left out\n"
-                            ": warning: the file has no linetype named \n");
+    EXPECT_EQ(Said(result), ":1: warning: pattern without a header; skipped\n"
+                            ": warning: there is no linetype named \n");
 }
 
 TEST_F(TolerantLinetypes, BuiltInFontStandsInOverADrawing) {
@@ -151,7 +149,7 @@ TEST_F(TolerantLinetypes, BuiltInFontStandsInOverADrawing) {
     const ToolResult noStandard = Run(text, {"--tolerant", "--drawing", drawing("")});
     EXPECT_EQ(noStandard.output, without.output);
     EXPECT_EQ(Said(noStandard), ": note: text style STANDARD not found in " + folder / "drawing.json" +
-                                    "; read as one with txt.shx\n" + Said(without));
+                                    "; assumed, with font txt.shx\n" + Said(without));
 }
 
 using LinetypesFont = TolerantLinetypes;
@@ -172,16 +170,15 @@ TEST_F(LinetypesFont, IsOfTheDefaultStyle) {
 TEST_F(LinetypesFont, ThatIsNotFoundIsAFault) {
     const ToolResult result = Run("*X\nA,1,[\"A\",STANDARD]\n", {"--font", "none.shx"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(Said(result),
-              ": line 2: font file NONE.SHX of text style STANDARD not found in ., " + folder / "" + "\n");
+    EXPECT_EQ(Said(result), ":2: error: font file none.shx of text style STANDARD not found in ., " +
+                                folder / "" + " (linetype X)\n" + support::HelpBehindErrors(""));
 }
 
 TEST_F(LinetypesFont, GoesWithoutADrawingOnly) {
     const ToolResult result = Run("*X\nA,1\n", {"--font", "Arial", "--drawing", "any.json"});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.errors,
-              "--font: goes without --drawing only: with it, text styles have the fonts that the "
-              "drawing gives them\n");
+              "styleconv: --font cannot be used with --drawing: the drawing gives text styles their fonts\n");
 }
 
 TEST_F(TolerantLinetypes, CharactersThatAFontLacksAreNamedInTheOrderOfTheFile) {
@@ -193,11 +190,10 @@ TEST_F(TolerantLinetypes, CharactersThatAFontLacksAreNamedInTheOrderOfTheFile) {
         folder.Write("x.lin", "*X\nA,1,[\"ABAC\",STANDARD],-9\n*Y\nA,x\n*Z\nA,1,[\"B\",STANDARD],-9\n");
     const support::ToolResult result = support::RunTool({"linetypes", file, "--tolerant"});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(
-        result.errors,
-        file + ":2: warning: font TXT.SHX lacks characters of the text: BC; left out (linetype X)\n" + file +
-            ":4: warning: expected the length of a dash, or \"[\" at byte 3: A,x; left out (linetype Y)\n" +
-            file + ":6: warning: font TXT.SHX lacks characters of the text: B; left out (linetype Z)\n");
+    EXPECT_EQ(result.errors,
+              file + ":2: warning: font txt.shx has no characters for BC; left out (linetype X)\n" + file +
+                  ":4:3: warning: expected a dash length or \"[\": A,x; skipped (linetype Y)\n" + file +
+                  ":6: warning: font txt.shx has no characters for B; left out (linetype Z)\n");
 }
 
 TEST_F(TolerantLinetypes, CharactersThatAFontLacksAreNamedUpToOneThatCannotBeDrawn) {
@@ -211,12 +207,11 @@ TEST_F(TolerantLinetypes, CharactersThatAFontLacksAreNamedUpToOneThatCannotBeDra
         Run("*X\nA,1,[\"ACBD\",STANDARD],-9\n*Y\nA,1,[\"AB\",STANDARD],-9\n*Z\nA,1,[\"DA\",STANDARD],-9\n");
     EXPECT_EQ(Names(result), "Z;");
     const std::string notDrawn =
-        "character B of text style STANDARD cannot be drawn: a subshape of it is missing";
-    EXPECT_EQ(Said(result),
-              ":2: warning: " + notDrawn + "; left out (linetype X)\n" +
-                  ":2: warning: font TXT.SHX lacks characters of the text: C; left out (linetype X)\n" +
-                  ":4: warning: " + notDrawn + "; left out (linetype Y)\n" +
-                  ":6: warning: font TXT.SHX lacks characters of the text: D; left out (linetype Z)\n");
+        "character B of text style STANDARD cannot be drawn: one of its subshapes is missing";
+    EXPECT_EQ(Said(result), ":2: warning: " + notDrawn + "; skipped (linetype X)\n" +
+                                ":2: warning: font txt.shx has no characters for C; left out (linetype X)\n" +
+                                ":4: warning: " + notDrawn + "; skipped (linetype Y)\n" +
+                                ":6: warning: font txt.shx has no characters for D; left out (linetype Z)\n");
 }
 
 } // namespace

@@ -41,14 +41,16 @@ TEST_F(TolerantPatternsCommand, ListOfDashesEndsAtAnEmptyNumber) {
     const ToolResult result = Run("*X\n0,0,0,0,1,1,-1,,2\n");
     EXPECT_EQ(result.output, Run("*X\n0,0,0,0,1,1,-1\n", {}).output);
     EXPECT_EQ(Said(result),
-              ":2: warning: nothing stands where a number should; among the dashes it ends them, "
-              "before them it reads as 0 (pattern X)\n");
+              ":2: warning: missing number; it ends the dashes, or is read as 0 before them (pattern X)\n");
 }
 
 TEST_F(TolerantPatternsCommand, FamiliesThatAreLeftOutAreNamed) {
     // A shift that comes back into phase after none of 64 lines, and no rectangle at 0 degrees.
     const std::string text = "*X\n0,0,0,0,1\n0,0,0,0.001,1,1,-1\n";
-    EXPECT_EQ(Said(Run(text)), ":3: warning: the family has no repeat tile; left out (pattern X)\n");
+    EXPECT_EQ(
+        Said(Run(text)),
+        ":3: warning: the family has no repeat tile: its dashes do not come back into phase within 64 lines, "
+        "and no upright rectangle repeats it; skipped (pattern X)\n");
     EXPECT_EQ(Said(Run(text, {})), "");
     EXPECT_EQ(Run(text).output, Run(text, {}).output);
 }
@@ -58,12 +60,12 @@ TEST_F(TolerantPatternsCommand, OneOfThoseAskedForIsEnough) {
     const ToolResult result = Run(text, {"--tolerant", "--name", "NONE", "--name", "Z", "--name", "X"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.output, Run(text, {"--name", "X"}).output);
-    EXPECT_EQ(Said(result), ": warning: the file has no pattern named Z\n"
-                            ":3: warning: the pattern has no lines; left out (pattern NONE)\n");
+    EXPECT_EQ(Said(result), ": warning: there is no pattern named Z\n"
+                            ":3: warning: the pattern has no lines; skipped (pattern NONE)\n");
     const ToolResult none = Run(text, {"--tolerant", "--name", "NONE"});
     EXPECT_EQ(none.status, 1);
-    EXPECT_EQ(Said(none), ":3: warning: the pattern has no lines; left out (pattern NONE)\n"
-                          ": none of the patterns asked for can be converted\n");
+    EXPECT_EQ(Said(none), ":3: warning: the pattern has no lines; skipped (pattern NONE)\n"
+                          ": error: none of the patterns asked for can be converted\n");
     EXPECT_EQ(Run(text, {"--name", "NONE", "--name", "X"}).status, 1);
 }
 

@@ -6,7 +6,7 @@ import sys
 import unittest
 
 COMMANDS = ("linetypes", "patterns", "blocks", "glyphs", "list", "check")
-FIRST_SCREEN = 40  # lines
+FIRST_SCREEN = 20  # lines
 
 
 class Readme(unittest.TestCase):
@@ -34,6 +34,11 @@ class Readme(unittest.TestCase):
         pictures = re.findall(r"!\[[^\]]+\]\(([^)]+)\)", first)
         self.assertEqual(len(pictures), 1)
         self.assertIn(pictures[0], self.read("scripts/demo.sh"))
+
+    def test_the_first_screen_says_what_it_is_in_two_lines_and_shows_the_first_command(self):
+        lines = self.read("README.md").split("\n")
+        self.assertEqual([bool(line) for line in lines[:5]], [True, False, True, True, False])
+        self.assertRegex("\n".join(lines[:FIRST_SCREEN]), r"```\n\$ scripts/demo\.sh .*\n(.+\n)+```")
 
 
 if __name__ == "__main__":

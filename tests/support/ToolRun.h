@@ -14,6 +14,12 @@ struct ToolResult {
     std::string errors;
 };
 
+/// What is said behind the errors of a file of which the rest can be converted.
+inline std::string HelpBehindErrors(const std::string& file) {
+    return "styleconv: nothing was converted; --tolerant converts the rest of the file; \"styleconv check " +
+           file + "\" shows all errors\n";
+}
+
 /// Runs styleconv with the arguments. `input` is its standard input.
 ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input = "");
 

@@ -1,19 +1,61 @@
-// Lightweight polylines.
-#include "OxDb/OxDbPolyline.h"
-#include "StyleConversion/block/BlockConverter.h"
+// Lightweight polylines, and splines, which are polylines through points along them.
 #include "StyleConversion/block/BlockSymbol.h"
-#include "StyleConversion/block/OpenLinetype.h"
-#include "StyleConversion/block/PolylineSegment.h"
-#include "StyleConversion/block/PolylineWalk.h"
+#include "StyleConversion/block/Dashes.h"
+#include "StyleConversion/block/Opened.h"
+#include "StyleConversion/block/SplineSampling.h"
+
+#include <vector>
 
 namespace {
 
+// What OxDbPolyline::segType answers; other kinds have no length.
+constexpr int kStraightSegment = 0;
+constexpr int kArcSegment = 1;
+
+bool ReadStraightSegment(OxDbPolyline& polyline, unsigned int index, block::PolylineSegment& segment) {
+    OxGeLineSeg2d line;
+    if (polyline.getLineSegAt(index, line) != Oxsys::eOk) {
+        return false;
+    }
+    segment.start = line.startPoint();
+    segment.end = line.endPoint();
+    segment.length = line.length();
+    return true;
+}
+
+bool ReadArcSegment(OxDbPolyline& polyline, unsigned int index, block::PolylineSegment& segment) {
+    OxGeCircArc3d arc;
+    if (polyline.getArcSegAt(index, arc) != Oxsys::eOk) {
+        return false;
+    }
+    segment.isArc = true;
+    segment.start = block::InPlane(arc.startPoint());
+    segment.end = block::InPlane(arc.endPoint());
+    segment.sweep = block::Sweep(arc.startAng(), arc.endAng());
+    segment.length = arc.radius() * segment.sweep;
+    segment.travel = {block::InPlane(arc.center()), arc.radius(), arc.normal().z < 0.0};
+    return true;
+}
+
+// False for a segment of any other kind, and for one that cannot be read.
+bool ReadSegment(OxDbPolyline& polyline, unsigned int index, block::PolylineSegment& segment) {
+    switch (static_cast<int>(polyline.segType(index))) {
+    case kStraightSegment:
+        return ReadStraightSegment(polyline, index, segment);
+    case kArcSegment:
+        return ReadArcSegment(polyline, index, segment);
+    default:
+        return false;
+    }
+}
+
 template <class Use>
-void ForEachSegment(const OxDbPolyline& polyline, Use use) {
-    const unsigned int count = block::CountSegments(polyline);
+void ForEachSegment(OxDbPolyline& polyline, Use use) {
+    const auto vertices = static_cast<unsigned int>(polyline.numVerts());
+    const unsigned int count = polyline.isClosed() || vertices == 0 ? vertices : vertices - 1;
     for (unsigned int i = 0; i < count; ++i) {
         block::PolylineSegment segment;
-        if (block::ReadSegment(polyline, i, segment)) {
+        if (ReadSegment(polyline, i, segment)) {
             use(segment);
         }
     }
@@ -21,27 +63,49 @@ void ForEachSegment(const OxDbPolyline& polyline, Use use) {
 
 } // namespace
 
-void BlockConverter::CollectGeometryFromPolyline(const OxDbBlockTableRecord& record,
-                                                 const OxDbPolyline& polyline,
+void BlockConverter::CollectGeometryFromPolyline(OxDbBlockTableRecord& record, OxDbPolyline& polyline,
                                                  block::BlockSymbol& symbol) const {
-    block::EntityPath& geometry = symbol.StartPath();
+    auto& [path, shapes] = symbol.StartPath();
     block::Linetype linetype(polyline);
-    if (polyline.hasPlinegen() && block::HasDashes(linetype.Get())) {
+    // Whatever the pattern length is: only segments by themselves look at it.
+    if (polyline.hasPlinegen() && linetype.Get() != nullptr && block::CountDashes(*linetype.Get()) >= 1) {
         double length = 0.0;
         ForEachSegment(polyline, [&](const block::PolylineSegment& segment) { length += segment.length; });
-        PolylineWalk walk(*this, *linetype.Get(), length, block::CountSegments(polyline), geometry);
-        ForEachSegment(polyline, [&](const block::PolylineSegment& segment) { walk.Add(segment); });
+        Dashes dashes(*this, *linetype.Get(), path, shapes);
+        PolylineDashes alongPolyline(dashes, block::FitDashes(*linetype.Get(), length));
+        ForEachSegment(polyline, [&](const block::PolylineSegment& segment) { alongPolyline.Add(segment); });
     } else {
-        ForEachSegment(polyline, [&](const block::PolylineSegment& segment) {
+        ForEachSegment(polyline, [&, &path = path, &shapes = shapes](const block::PolylineSegment& segment) {
             if (segment.isArc) {
                 const auto& [center, radius, clockwise] = segment.travel;
                 ParseDashArc(linetype.Get(), segment.start, segment.end, center, radius, segment.sweep,
-                             clockwise, geometry.path, geometry.shapes);
+                             clockwise, path, shapes);
             } else {
-                ParseDashLine(linetype.Get(), segment.start, segment.end, geometry.path, geometry.shapes);
+                ParseDashLine(linetype.Get(), segment.start, segment.end, path, shapes);
             }
         });
     }
     linetype.Close();
-    FinishStroke(record, polyline, symbol);
+    const std::wstring color = GetEntityColor(record, polyline, polyline.color(), symbol);
+    symbol.AdoptStroke(color, GetEntityLineweight(record, polyline, symbol));
+}
+
+void BlockConverter::CollectGeometryFromSpline(OxDbBlockTableRecord& record, OxDbSpline& spline,
+                                               block::BlockSymbol& symbol) const {
+    const std::vector<OxGePoint2d> points = block::SampleSpline(spline);
+    if (points.empty()) {
+        return;
+    }
+    // Required: R20
+    OxDbPolyline polyline;
+    unsigned int index = 0;
+    for (const OxGePoint2d& point : points) {
+        static_cast<void>(polyline.addVertexAt(index, point, 0.0, -1.0, -1.0));
+        ++index;
+    }
+    static_cast<void>(polyline.setColor(spline.color()));
+    static_cast<void>(polyline.setLineWeight(spline.lineWeight()));
+    static_cast<void>(polyline.setLinetype(spline.linetypeId()));
+    polyline.setPlinegen(true);
+    CollectGeometryFromPolyline(record, polyline, symbol);
 }

@@ -10,8 +10,8 @@ class OXDB_API OxCmEntityColor {
 public:
     /// How a colour is given; the number is the top byte of the packed value.
     enum ColorMethod : std::uint8_t {
-        kByLayer = 0xC0,
-        kByBlock = 0xC1,
+        kByLayer = 0xC0, ///< The colour of the layer.
+        kByBlock = 0xC1, ///< The colour of the insert.
         /// Bits 16-23 red, 8-15 green, 0-7 blue.
         kByColor = 0xC2,
         /// Bits 0-7 are an index from 1 to 255 into the standard palette.
@@ -54,7 +54,8 @@ public:
     std::uint32_t entityColor() const { return packed_; }
 
     /// Exactly, the way that it is given included.
-    bool operator==(const OxCmColor&) const = default;
+    bool operator==(const OxCmColor& other) const { return packed_ == other.packed_; }
+    bool operator!=(const OxCmColor& other) const { return !(*this == other); }
 
 private:
     static constexpr std::uint32_t Pack(OxCmEntityColor::ColorMethod method, std::uint32_t value) {

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 
+/// Ids in an order.
 using OxDbObjectIdArray = OxArray<OxDbObjectId>;
 
 /// The order in which a block's entities are drawn.

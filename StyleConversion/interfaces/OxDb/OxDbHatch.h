@@ -12,16 +12,16 @@ public:
 
     /// Bits of a loop's type.
     enum LoopType {
-        kDefault = 0,
-        kPolyline = 2,
+        kDefault = 0,  ///< A loop of edges.
+        kPolyline = 2, ///< A loop of vertices.
     };
 
     /// What an edge of a loop is.
     enum EdgeType {
-        kLine = 1,
-        kCirArc = 2,
-        kEllArc = 3,
-        kSpline = 4,
+        kLine = 1,   ///< A straight segment.
+        kCirArc = 2, ///< An arc of a circle.
+        kEllArc = 3, ///< An arc of an ellipse.
+        kSpline = 4, ///< A spline.
     };
 
     /// Whether the area is filled, and has no lines.

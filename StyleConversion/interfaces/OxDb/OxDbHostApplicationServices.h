@@ -16,9 +16,9 @@ public:
 
     /// What kind of file is looked for.
     enum FindFileHint {
-        kDefault = 0,
-        kFontFile = 1,
-        kCompiledShapeFile = 2,
+        kDefault = 0,           ///< Any file.
+        kFontFile = 1,          ///< A font of the system.
+        kCompiledShapeFile = 2, ///< A shape file (.shx).
     };
 
     /// Looks for a file along the host's search paths and writes its full path, ended by a zero, to `path`,

@@ -14,7 +14,8 @@ public:
     /// Whether it names nothing, and lets it do so. Ids of the same object are equal.
     constexpr bool isNull() const { return stub_ == nullptr; }
     constexpr void setNull() { stub_ = nullptr; }
-    constexpr bool operator==(const OxDbObjectId&) const = default;
+    constexpr bool operator==(const OxDbObjectId& other) const { return stub_ == other.stub_; }
+    constexpr bool operator!=(const OxDbObjectId& other) const { return !(*this == other); }
 
     /// For the library that made the id.
     constexpr OxDbStub* stub() const { return stub_; }

@@ -19,8 +19,8 @@ public:
 
     /// What a segment is.
     enum SegType {
-        kLine = 0,
-        kArc = 1,
+        kLine = 0, ///< Straight.
+        kArc = 1,  ///< An arc of a circle.
         /// Both ends are exactly equal.
         kCoincident = 2,
         /// The polyline has just one vertex.

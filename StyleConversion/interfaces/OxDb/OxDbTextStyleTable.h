@@ -6,7 +6,8 @@
 #include <cstdint>
 
 /// How texts are set: with which font, how slanted, how wide. File names and the typeface are handed out in
-/// buffers that the caller frees with delete[]. When such a read fails, its outputs are as they were.
+/// buffers that the caller releases with oxutDelBuffer; that delete[] does, too. When such a read fails, its
+/// outputs are as they were.
 class OXDB_API OxDbTextStyleTableRecord : public OxDbSymbolTableRecord {
 public:
     ~OxDbTextStyleTableRecord() override;

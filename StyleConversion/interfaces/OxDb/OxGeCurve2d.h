@@ -7,12 +7,12 @@ namespace OxGe {
 
 /// Which class a plane entity is of.
 enum EntityId {
-    kEntity2d,
-    kCurve2d,
-    kLineSeg2d,
-    kCircArc2d,
-    kEllipArc2d,
-    kNurbCurve2d,
+    kEntity2d,    ///< Anything of the plane.
+    kCurve2d,     ///< Any curve.
+    kLineSeg2d,   ///< OxGeLineSeg2d.
+    kCircArc2d,   ///< OxGeCircArc2d.
+    kEllipArc2d,  ///< OxGeEllipArc2d.
+    kNurbCurve2d, ///< OxGeNurbCurve2d.
 };
 
 } // namespace OxGe
@@ -202,8 +202,6 @@ public:
                          OxGeDoubleArray& parameters) const override;
 
 private:
-    OxGeEllipArc2d AsEllipse() const;
-
     OxGePoint2d center_;
     double radius_ = 1.0;
     double startAngle_ = 0.0;

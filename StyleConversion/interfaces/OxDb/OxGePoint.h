@@ -47,7 +47,8 @@ struct OxGeVector2d {
     /// Drawing units, never negative.
     double length() const { return std::sqrt(x * x + y * y); }
     /// Exactly, coordinate by coordinate.
-    bool operator==(const OxGeVector2d&) const = default;
+    bool operator==(const OxGeVector2d& other) const { return x == other.x && y == other.y; }
+    bool operator!=(const OxGeVector2d& other) const { return !(*this == other); }
 };
 
 /// A direction and length in space.
@@ -60,7 +61,8 @@ struct OxGeVector3d {
     /// Drawing units, never negative.
     double length() const { return std::sqrt(x * x + y * y + z * z); }
     /// Exactly, coordinate by coordinate.
-    bool operator==(const OxGeVector3d&) const = default;
+    bool operator==(const OxGeVector3d& other) const { return x == other.x && y == other.y && z == other.z; }
+    bool operator!=(const OxGeVector3d& other) const { return !(*this == other); }
 };
 
 /// A point of the plane.
@@ -80,7 +82,8 @@ struct OxGePoint2d {
         return distanceTo(other) <= tolerance.equalPoint();
     }
     /// Exactly, coordinate by coordinate.
-    bool operator==(const OxGePoint2d&) const = default;
+    bool operator==(const OxGePoint2d& other) const { return x == other.x && y == other.y; }
+    bool operator!=(const OxGePoint2d& other) const { return !(*this == other); }
 };
 
 /// A point of space. Entities of a block give their coordinates in the block's coordinate system.
@@ -91,9 +94,13 @@ struct OxGePoint3d {
     double z = 0.0;
 
     /// Exactly, coordinate by coordinate.
-    bool operator==(const OxGePoint3d&) const = default;
+    bool operator==(const OxGePoint3d& other) const { return x == other.x && y == other.y && z == other.z; }
+    bool operator!=(const OxGePoint3d& other) const { return !(*this == other); }
 };
 
+/// Lists of points of the plane, as reads of entities and curves fill them.
 using OxGePoint2dArray = OxArray<OxGePoint2d>;
+/// As above, in space.
 using OxGePoint3dArray = OxArray<OxGePoint3d>;
+/// A list of numbers.
 using OxGeDoubleArray = OxArray<double>;

@@ -7,6 +7,14 @@ IGraphicElementVisitor::~IGraphicElementVisitor() = default;
 
 GraphicElement::~GraphicElement() = default;
 
+void AcceptVisitor(GraphicElement& element, IGraphicElementVisitor& visitor) {
+    if (auto* const path = dynamic_cast<Path*>(&element)) {
+        path->AcceptVisitor(visitor);
+    } else if (auto* const text = dynamic_cast<Text*>(&element)) {
+        text->AcceptVisitor(visitor);
+    }
+}
+
 Path::~Path() = default;
 
 void Path::AcceptVisitor(IGraphicElementVisitor& visitor) {

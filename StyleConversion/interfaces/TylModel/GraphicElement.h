@@ -1,18 +1,16 @@
 // The drawable elements of a symbol: paths and texts.
 #pragma once
 
-#include "TylModel/CommonTexts.h"
 #include "TylModel/RootObject.h"
 
 #include <string>
-#include <utility>
 
 namespace TylModel {
 
 class Path;
 class Text;
 
-/// Is shown each kind of graphic element by GraphicElement::AcceptVisitor.
+/// Is shown each kind of graphic element by its AcceptVisitor.
 class TYLMODEL_API IGraphicElementVisitor {
 public:
     virtual ~IGraphicElementVisitor();
@@ -22,54 +20,55 @@ public:
 };
 
 /// Base of what a simple symbol draws. Every property is an expression string: a literal or a reference
-/// "%IDENTIFIER%" to a parameter of the symbol. A property that was never set is empty.
+/// "%IDENTIFIER%" to a parameter of the symbol. A property that was never set is empty. An element of this
+/// class itself draws nothing.
 class TYLMODEL_API GraphicElement : public TylRootObject {
 public:
     ~GraphicElement() override;
-    /// Calls the visitor's operation for this element's class, once.
-    virtual void AcceptVisitor(IGraphicElementVisitor& visitor) = 0;
 };
+
+/// Calls the AcceptVisitor of the element's own class; nothing happens for an element of another class than
+/// the two below.
+TYLMODEL_API void AcceptVisitor(GraphicElement& element, IGraphicElementVisitor& visitor);
 
 /// One path: geometry with stroke and fill. Without a line colour there is no stroke, without a fill colour
 /// no fill.
 class TYLMODEL_API Path : public GraphicElement {
 public:
     ~Path() override;
-    void AcceptVisitor(IGraphicElementVisitor& visitor) override;
+    /// Calls the visitor's operation for this class, once.
+    virtual void AcceptVisitor(IGraphicElementVisitor& visitor);
 
     /// Path commands such as "M 0.0,0.0 L 10.0,0.0"; y points up.
     void SetGeometry(const std::wstring& geometry) { geometry_ = geometry; }
-    /// The same without a copy, for paths of many megabytes.
-    void SetGeometry(std::wstring&& geometry) { geometry_ = std::move(geometry); }
     const std::wstring& GetGeometry() const { return geometry_; }
     /// Eight hexadecimal digits, alpha first, or a parameter reference.
-    void SetLineColor(const std::wstring& color) { lineColor_.Set(color); }
-    void SetLineColor(std::wstring&& color) { lineColor_.Set(std::move(color)); }
-    const std::wstring& GetLineColor() const { return lineColor_.Get(); }
+    void SetLineColor(const std::wstring& color) { lineColor_ = color; }
+    const std::wstring& GetLineColor() const { return lineColor_; }
     /// As the line colour.
-    void SetFillColor(const std::wstring& color) { fillColor_.Set(color); }
-    const std::wstring& GetFillColor() const { return fillColor_.Get(); }
+    void SetFillColor(const std::wstring& color) { fillColor_ = color; }
+    const std::wstring& GetFillColor() const { return fillColor_; }
     /// Millimetres, or a parameter reference.
-    void SetLineWeight(const std::wstring& weight) { lineWeight_.Set(weight); }
-    void SetLineWeight(std::wstring&& weight) { lineWeight_.Set(std::move(weight)); }
-    const std::wstring& GetLineWeight() const { return lineWeight_.Get(); }
+    void SetLineWeight(const std::wstring& weight) { lineWeight_ = weight; }
+    const std::wstring& GetLineWeight() const { return lineWeight_; }
     /// "true" when the line weight grows with the symbol, "false" when it does not.
-    void SetLineWeightScalable(const std::wstring& scalable) { lineWeightScalable_.Set(scalable); }
-    const std::wstring& GetLineWeightScalable() const { return lineWeightScalable_.Get(); }
+    void SetLineWeightScalable(const std::wstring& scalable) { lineWeightScalable_ = scalable; }
+    const std::wstring& GetLineWeightScalable() const { return lineWeightScalable_; }
 
 private:
     std::wstring geometry_;
-    PropertyText lineColor_;
-    PropertyText fillColor_;
-    PropertyText lineWeight_;
-    PropertyText lineWeightScalable_;
+    std::wstring lineColor_;
+    std::wstring fillColor_;
+    std::wstring lineWeight_;
+    std::wstring lineWeightScalable_;
 };
 
 /// One text.
 class TYLMODEL_API Text : public GraphicElement {
 public:
     ~Text() override;
-    void AcceptVisitor(IGraphicElementVisitor& visitor) override;
+    /// Calls the visitor's operation for this class, once.
+    virtual void AcceptVisitor(IGraphicElementVisitor& visitor);
 
     /// A text in single quotes, or a parameter reference.
     void SetContent(const std::wstring& content) { content_ = content; }
@@ -89,23 +88,23 @@ public:
     void SetPositionY(const std::wstring& y) { positionY_ = y; }
     const std::wstring& GetPositionY() const { return positionY_; }
     /// "'Left'" or "'Right'"; centred when empty.
-    void SetHorizontalAlignment(const std::wstring& alignment) { horizontalAlignment_.Set(alignment); }
-    const std::wstring& GetHorizontalAlignment() const { return horizontalAlignment_.Get(); }
+    void SetHorizontalAlignment(const std::wstring& alignment) { horizontalAlignment_ = alignment; }
+    const std::wstring& GetHorizontalAlignment() const { return horizontalAlignment_; }
     /// "'Baseline'", "'Bottom'" or "'Top'"; in the middle when empty.
-    void SetVerticalAlignment(const std::wstring& alignment) { verticalAlignment_.Set(alignment); }
-    const std::wstring& GetVerticalAlignment() const { return verticalAlignment_.Get(); }
+    void SetVerticalAlignment(const std::wstring& alignment) { verticalAlignment_ = alignment; }
+    const std::wstring& GetVerticalAlignment() const { return verticalAlignment_; }
     /// As a path's colours.
-    void SetTextColor(const std::wstring& color) { textColor_.Set(color); }
-    const std::wstring& GetTextColor() const { return textColor_.Get(); }
+    void SetTextColor(const std::wstring& color) { textColor_ = color; }
+    const std::wstring& GetTextColor() const { return textColor_; }
     /// Each of the four styles is "true" or left empty.
-    void SetBold(const std::wstring& bold) { bold_.Set(bold); }
-    const std::wstring& GetBold() const { return bold_.Get(); }
-    void SetItalic(const std::wstring& italic) { italic_.Set(italic); }
-    const std::wstring& GetItalic() const { return italic_.Get(); }
-    void SetUnderlined(const std::wstring& underlined) { underlined_.Set(underlined); }
-    const std::wstring& GetUnderlined() const { return underlined_.Get(); }
-    void SetOverlined(const std::wstring& overlined) { overlined_.Set(overlined); }
-    const std::wstring& GetOverlined() const { return overlined_.Get(); }
+    void SetBold(const std::wstring& bold) { bold_ = bold; }
+    const std::wstring& GetBold() const { return bold_; }
+    void SetItalic(const std::wstring& italic) { italic_ = italic; }
+    const std::wstring& GetItalic() const { return italic_; }
+    void SetUnderlined(const std::wstring& underlined) { underlined_ = underlined; }
+    const std::wstring& GetUnderlined() const { return underlined_; }
+    void SetOverlined(const std::wstring& overlined) { overlined_ = overlined; }
+    const std::wstring& GetOverlined() const { return overlined_; }
 
 private:
     std::wstring content_;
@@ -114,13 +113,13 @@ private:
     std::wstring angle_;
     std::wstring positionX_;
     std::wstring positionY_;
-    PropertyText horizontalAlignment_;
-    PropertyText verticalAlignment_;
-    PropertyText textColor_;
-    PropertyText bold_;
-    PropertyText italic_;
-    PropertyText underlined_;
-    PropertyText overlined_;
+    std::wstring horizontalAlignment_;
+    std::wstring verticalAlignment_;
+    std::wstring textColor_;
+    std::wstring bold_;
+    std::wstring italic_;
+    std::wstring underlined_;
+    std::wstring overlined_;
 };
 
 } // namespace TylModel

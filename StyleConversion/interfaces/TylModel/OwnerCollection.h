@@ -1,11 +1,9 @@
 // The ordered, owning collection of the symbol model.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace TylModel {
@@ -17,31 +15,18 @@ public:
     /// Appends `item`, which must not be null and must have no owner yet, and takes ownership of it. Returns
     /// its index. When memory runs out, std::bad_alloc is thrown and `item` has been deleted.
     std::int32_t Adopt(T* item) {
-        std::unique_ptr<T> owned(item);
-        if (count_ < kFirst) {
-            first_[count_] = std::move(owned);
-        } else {
-            others_.push_back(std::move(owned));
-        }
-        return static_cast<std::int32_t>(count_++);
+        items_.push_back(std::unique_ptr<T>(item));
+        return GetCount() - 1;
     }
 
     /// The number of items.
-    std::int32_t GetCount() const { return static_cast<std::int32_t>(count_); }
+    std::int32_t GetCount() const { return static_cast<std::int32_t>(items_.size()); }
 
     /// The item at `index`, which must be from 0 to GetCount() - 1. It stays the collection's.
-    T* GetAt(std::int32_t index) const {
-        const auto place = static_cast<std::size_t>(index);
-        return (place < kFirst ? first_[place] : others_[place - kFirst]).get();
-    }
+    T* GetAt(std::int32_t index) const { return items_[static_cast<std::size_t>(index)].get(); }
 
 private:
-    // Most collections have no more items than these, and then take no memory of their own.
-    static constexpr std::size_t kFirst = 2;
-
-    std::size_t count_ = 0;
-    std::array<std::unique_ptr<T>, kFirst> first_;
-    std::vector<std::unique_ptr<T>> others_;
+    std::vector<std::unique_ptr<T>> items_;
 };
 
 } // namespace TylModel

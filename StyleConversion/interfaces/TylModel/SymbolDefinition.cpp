@@ -7,6 +7,8 @@ ISymbolDefinitionVisitor::~ISymbolDefinitionVisitor() = default;
 
 SymbolDefinition::~SymbolDefinition() = default;
 
+void SymbolDefinition::AcceptVisitor(ISymbolDefinitionVisitor& /*visitor*/) {}
+
 SimpleSymbolDefinition::~SimpleSymbolDefinition() = default;
 
 void SimpleSymbolDefinition::AcceptVisitor(ISymbolDefinitionVisitor& visitor) {

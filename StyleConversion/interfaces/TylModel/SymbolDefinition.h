@@ -28,8 +28,9 @@ public:
 class TYLMODEL_API SymbolDefinition : public TylRootObject {
 public:
     ~SymbolDefinition() override;
-    /// Calls the visitor's operation for this definition's class, once.
-    virtual void AcceptVisitor(ISymbolDefinitionVisitor& visitor) = 0;
+    /// Calls the visitor's operation for this definition's class, once; a definition of this class itself,
+    /// which has nothing but its texts, calls none.
+    virtual void AcceptVisitor(ISymbolDefinitionVisitor& visitor);
 
     /// The symbol's name, as plain text: that of the block, the linetype or the pattern.
     void SetName(const std::wstring& name) { name_ = name; }

@@ -1,7 +1,6 @@
 // How a symbol is used: at a point, along a line, over an area.
 #pragma once
 
-#include "TylModel/CommonTexts.h"
 #include "TylModel/RootObject.h"
 
 #include <string>
@@ -13,11 +12,11 @@ class TYLMODEL_API PointUsage : public TylRootObject {
 public:
     ~PointUsage() override;
     /// Degrees, counter-clockwise.
-    void SetAngle(const std::wstring& angle) { angle_.Set(angle); }
-    const std::wstring& GetAngle() const { return angle_.Get(); }
+    void SetAngle(const std::wstring& angle) { angle_ = angle; }
+    const std::wstring& GetAngle() const { return angle_; }
 
 private:
-    PropertyText angle_;
+    std::wstring angle_;
 };
 
 /// How a symbol is repeated along a line. Lengths are in the units of the symbol's geometry.
@@ -25,23 +24,23 @@ class TYLMODEL_API LineUsage : public TylRootObject {
 public:
     ~LineUsage() override;
     /// Degrees, counter-clockwise, measured as the angle control says.
-    void SetAngle(const std::wstring& angle) { angle_.Set(angle); }
-    const std::wstring& GetAngle() const { return angle_.Get(); }
+    void SetAngle(const std::wstring& angle) { angle_ = angle; }
+    const std::wstring& GetAngle() const { return angle_; }
     /// "'FromAngle'" for an angle that does not turn with the line; empty for one relative to the line.
-    void SetAngleControl(const std::wstring& control) { angleControl_.Set(control); }
-    const std::wstring& GetAngleControl() const { return angleControl_.Get(); }
+    void SetAngleControl(const std::wstring& control) { angleControl_ = control; }
+    const std::wstring& GetAngleControl() const { return angleControl_; }
     /// The distance from one repetition to the next.
     void SetRepeat(const std::wstring& repeat) { repeat_ = repeat; }
     const std::wstring& GetRepeat() const { return repeat_; }
     /// The distance from the line's start to the first repetition.
-    void SetStartOffset(const std::wstring& offset) { startOffset_.Set(offset); }
-    const std::wstring& GetStartOffset() const { return startOffset_.Get(); }
+    void SetStartOffset(const std::wstring& offset) { startOffset_ = offset; }
+    const std::wstring& GetStartOffset() const { return startOffset_; }
 
 private:
-    PropertyText angle_;
-    PropertyText angleControl_;
+    std::wstring angle_;
+    std::wstring angleControl_;
     std::wstring repeat_;
-    PropertyText startOffset_;
+    std::wstring startOffset_;
 };
 
 /// How a symbol tiles an area. Lengths are in the units of the symbol's geometry.
@@ -49,8 +48,8 @@ class TYLMODEL_API AreaUsage : public TylRootObject {
 public:
     ~AreaUsage() override;
     /// Degrees, counter-clockwise, by which the tiling is turned.
-    void SetAngle(const std::wstring& angle) { angle_.Set(angle); }
-    const std::wstring& GetAngle() const { return angle_.Get(); }
+    void SetAngle(const std::wstring& angle) { angle_ = angle; }
+    const std::wstring& GetAngle() const { return angle_; }
     /// The tile's size along its own x axis.
     void SetRepeatX(const std::wstring& repeat) { repeatX_ = repeat; }
     const std::wstring& GetRepeatX() const { return repeatX_; }
@@ -59,7 +58,7 @@ public:
     const std::wstring& GetRepeatY() const { return repeatY_; }
 
 private:
-    PropertyText angle_;
+    std::wstring angle_;
     std::wstring repeatX_;
     std::wstring repeatY_;
 };

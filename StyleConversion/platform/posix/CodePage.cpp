@@ -1,6 +1,7 @@
 // The code page that the process has chosen, through the system's iconv. UTF-8 is built in.
 #include "StyleConversion/platform/CodePage.h"
 
+#include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/Utf8.h"
 
 #include <array>
@@ -82,7 +83,7 @@ std::unique_ptr<CodePage>& Current() {
 bool IsUtf8Name(const std::string& name) {
     std::string upper;
     for (const char c : name) {
-        upper += static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
+        upper += AsciiUpper(c);
     }
     return upper == "UTF-8" || upper == "UTF8";
 }
@@ -124,6 +125,21 @@ std::string Encode(const CodePage& page, std::wstring_view wide) {
     return narrow;
 }
 
+// Null when the system does not know the page.
+std::unique_ptr<CodePage> OpenPage(const std::string& name) {
+    auto page = std::make_unique<CodePage>();
+    page->decoder = OpenConverter("WCHAR_T", name.c_str());
+    page->encoder = OpenConverter(name.c_str(), "WCHAR_T");
+    if (!page->decoder || !page->encoder) {
+        return nullptr;
+    }
+    for (std::size_t byte = 0; byte < page->bytes.size(); ++byte) {
+        const char input = static_cast<char>(byte);
+        page->bytes[byte] = ConvertFirst(page->decoder.get(), &input, 1).outcome;
+    }
+    return page;
+}
+
 } // namespace
 
 bool SetAnsiCodePage(const std::string& name) {
@@ -131,18 +147,35 @@ bool SetAnsiCodePage(const std::string& name) {
         Current().reset();
         return true;
     }
-    auto page = std::make_unique<CodePage>();
-    page->decoder = OpenConverter("WCHAR_T", name.c_str());
-    page->encoder = OpenConverter(name.c_str(), "WCHAR_T");
-    if (!page->decoder || !page->encoder) {
+    std::unique_ptr<CodePage> page = OpenPage(name);
+    if (page == nullptr) {
         return false;
-    }
-    for (std::size_t byte = 0; byte < page->bytes.size(); ++byte) {
-        const char input = static_cast<char>(byte);
-        page->bytes[byte] = ConvertFirst(page->decoder.get(), &input, 1).outcome;
     }
     Current() = std::move(page);
     return true;
+}
+
+struct PageDecoder::Page {
+    std::unique_ptr<CodePage> other; // null: UTF-8
+    bool isKnown = false;
+};
+
+PageDecoder::PageDecoder(const std::string& name) : page_(std::make_unique<Page>()) {
+    page_->isKnown = IsUtf8Name(name);
+    if (!page_->isKnown) {
+        page_->other = OpenPage(name);
+        page_->isKnown = page_->other != nullptr;
+    }
+}
+
+PageDecoder::~PageDecoder() = default;
+
+bool PageDecoder::IsKnown() const {
+    return page_->isKnown;
+}
+
+std::wstring PageDecoder::ToWide(std::string_view narrow) const {
+    return page_->other != nullptr ? Decode(*page_->other, narrow) : Utf8ToWide(narrow);
 }
 
 std::wstring AnsiToWide(std::string_view narrow) {
@@ -157,23 +190,25 @@ void AnsiToWide(std::string_view narrow, std::wstring& wide) {
     }
 }
 
+void ThreadAnsiToWide(std::string_view narrow, std::wstring& wide) {
+    AnsiToWide(narrow, wide);
+}
+
 std::string WideToAnsi(std::wstring_view wide) {
     return Current() ? Encode(*Current(), wide) : WideToUtf8Bytes(wide);
 }
 
-const char* FindInMultiByte(const char* text, char sought) {
+std::size_t FindInMultiByte(std::string_view text, char sought) {
     const CodePage* const page = Current().get();
-    for (const char* at = text; *at != 0; ++at) {
-        if (*at == sought) {
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == sought) {
             return at;
         }
-        const bool lead =
-            page != nullptr && page->bytes[static_cast<std::uint8_t>(*at)] == Outcome::kIncomplete;
-        if (lead && at[1] != 0) {
+        if (page != nullptr && page->bytes[static_cast<std::uint8_t>(text[at])] == Outcome::kIncomplete) {
             ++at;
         }
     }
-    return nullptr;
+    return std::string_view::npos;
 }
 
 } // namespace platform

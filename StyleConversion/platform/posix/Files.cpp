@@ -1,6 +1,7 @@
 // Opening files on systems whose paths are bytes, by custom UTF-8.
 #include "StyleConversion/platform/Files.h"
 
+#include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/Utf8.h"
 
 #include <algorithm>
@@ -36,9 +37,7 @@ std::FILE* OpenBytes(const std::string& path) {
 std::wstring Lower(std::wstring_view text) {
     std::wstring lower(text);
     for (wchar_t& c : lower) {
-        if (c >= L'A' && c <= L'Z') {
-            c = static_cast<wchar_t>(c - L'A' + L'a');
-        }
+        c = AsciiLower(c);
     }
     return lower;
 }

@@ -2,6 +2,7 @@
 // conversion.
 #include "StyleConversion/platform/CodePage.h"
 
+#include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/Utf8.h"
 
 // Before the system's other headers, which use its types.
@@ -54,7 +55,7 @@ std::optional<unsigned> NumberBehind(std::string_view word, std::string_view nam
 std::optional<unsigned> PageOf(const std::string& name) {
     std::string upper;
     for (const char c : name) {
-        upper += static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
+        upper += AsciiUpper(c);
     }
     for (const NamedPage& named : kNamedPages) {
         if (upper == named.name) {
@@ -74,11 +75,31 @@ std::optional<unsigned> PageOf(const std::string& name) {
     return std::nullopt;
 }
 
+void ToWide(unsigned page, std::string_view narrow, std::wstring& wide) {
+    if (page == CP_UTF8) {
+        Utf8ToWide(narrow, wide);
+        return;
+    }
+    wide.clear();
+    if (narrow.empty() || narrow.size() > INT_MAX) {
+        return;
+    }
+    const int size = static_cast<int>(narrow.size());
+    wide.resize(static_cast<std::size_t>(MultiByteToWideChar(page, 0, narrow.data(), size, nullptr, 0)));
+    MultiByteToWideChar(page, 0, narrow.data(), size, wide.data(), static_cast<int>(wide.size()));
+}
+
+// Nothing when the system does not know the page.
+std::optional<unsigned> KnownPage(const std::string& name) {
+    const std::optional<unsigned> page = PageOf(name);
+    return page && *page != CP_ACP && IsValidCodePage(*page) != FALSE ? page : std::nullopt;
+}
+
 } // namespace
 
 bool SetAnsiCodePage(const std::string& name) {
-    const std::optional<unsigned> page = PageOf(name);
-    if (!page || *page == CP_ACP || IsValidCodePage(*page) == FALSE) {
+    const std::optional<unsigned> page = KnownPage(name);
+    if (!page) {
         return false;
     }
     CPINFO information{};
@@ -88,6 +109,24 @@ bool SetAnsiCodePage(const std::string& name) {
     return true;
 }
 
+struct PageDecoder::Page {
+    std::optional<unsigned> page;
+};
+
+PageDecoder::PageDecoder(const std::string& name) : page_(std::make_unique<Page>(Page{KnownPage(name)})) {}
+
+PageDecoder::~PageDecoder() = default;
+
+bool PageDecoder::IsKnown() const {
+    return page_->page.has_value();
+}
+
+std::wstring PageDecoder::ToWide(std::string_view narrow) const {
+    std::wstring wide;
+    platform::ToWide(page_->page.value_or(CP_UTF8), narrow, wide);
+    return wide;
+}
+
 std::wstring AnsiToWide(std::string_view narrow) {
     std::wstring wide;
     AnsiToWide(narrow, wide);
@@ -95,17 +134,11 @@ std::wstring AnsiToWide(std::string_view narrow) {
 }
 
 void AnsiToWide(std::string_view narrow, std::wstring& wide) {
-    if (Current() == CP_UTF8) {
-        Utf8ToWide(narrow, wide);
-        return;
-    }
-    wide.clear();
-    if (narrow.empty() || narrow.size() > INT_MAX) {
-        return;
-    }
-    const int size = static_cast<int>(narrow.size());
-    wide.resize(static_cast<std::size_t>(MultiByteToWideChar(Current(), 0, narrow.data(), size, nullptr, 0)));
-    MultiByteToWideChar(Current(), 0, narrow.data(), size, wide.data(), static_cast<int>(wide.size()));
+    ToWide(Current(), narrow, wide);
+}
+
+void ThreadAnsiToWide(std::string_view narrow, std::wstring& wide) {
+    ToWide(Current() == CP_ACP ? CP_THREAD_ACP : Current(), narrow, wide);
 }
 
 std::string WideToAnsi(std::wstring_view wide) {
@@ -124,14 +157,14 @@ std::string WideToAnsi(std::wstring_view wide) {
     return narrow;
 }
 
-const char* FindInMultiByte(const char* text, char sought) {
+std::size_t FindInMultiByte(std::string_view text, char sought) {
     // Behind a first half that stands last, some versions of the function look past the end: it has a second
     // one.
     std::string copy(text);
     copy += '\0';
     const auto* const begin = reinterpret_cast<const unsigned char*>(copy.c_str());
     const auto* const found = _mbschr(begin, static_cast<unsigned char>(sought));
-    return found == nullptr ? nullptr : text + (found - begin);
+    return found == nullptr ? std::string_view::npos : static_cast<std::size_t>(found - begin);
 }
 
 } // namespace platform

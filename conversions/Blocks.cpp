@@ -1,0 +1,155 @@
+#include "conversions/Blocks.h"
+
+#include "OxDb/OxDb.h"
+#include "StyleConversion/block/BlockConverter.h"
+#include "StyleConversion/block/Opened.h"
+#include "StyleConversion/platform/Utf8.h"
+#include "conversions/checking/BlockCheck.h"
+#include "conversions/reading/Drawing.h"
+#include "conversions/reading/DrawingShapeFiles.h"
+#include "conversions/reading/FileKind.h"
+#include "conversions/reading/Shown.h"
+
+#include <cstdint>
+#include <utility>
+
+namespace conversions {
+namespace {
+
+using diagnostics::Code;
+using diagnostics::Diagnostics;
+using diagnostics::Outcome;
+using diagnostics::Severity;
+
+// False, which is said, where there are none.
+bool ConvertibleBlocks(const Input& input, BlockConverter& converter, std::vector<std::wstring>& names,
+                       Diagnostics& diagnostics) {
+    if (converter.GetBlockNames(names) == 0 && !names.empty()) {
+        return true;
+    }
+    diagnostics.push_back({Severity::kError, Code::kNoBlocks, {input.name}, {}});
+    return false;
+}
+
+class BlockConversion {
+public:
+    BlockConversion(const Input& input, drawing::Database& drawing, const BlocksOptions& options,
+                    Front& front, Conversion& result)
+        : input_(input), drawing_(drawing), options_(options), front_(front), converter_(&drawing),
+          files_(input.name, options.tolerant, front), filesInUse_(files_),
+          check_(input.name, drawing, files_, options.layersToIgnore), result_(result) {
+        converter_.SetLayersToIgnore(options.layersToIgnore);
+        if (options.tolerant) {
+            drawing.LimitHatchLines(kMostHatchLines);
+        }
+    }
+
+    void Run() {
+        std::vector<std::wstring> names = options_.names;
+        if (names.empty() && !ConvertibleBlocks(input_, converter_, names, result_.diagnostics)) {
+            return;
+        }
+        front_.BeginStage("Converting", names.size());
+        Diagnostics found;
+        for (const std::wstring& name : names) {
+            front_.AtItem("block " + ShownText(name));
+            ConvertOne(name, found);
+        }
+        Append(result_.diagnostics, files_.Told(!options_.tolerant));
+        Append(result_.diagnostics, std::move(found));
+        if (options_.tolerant && result_.owned.empty()) {
+            result_.diagnostics.push_back(
+                {Severity::kError, Code::kNothingConverted, {input_.name}, {"blocks asked for"}});
+        }
+        result_.isConverted =
+            options_.tolerant ? !result_.owned.empty() : result_.owned.size() == names.size();
+    }
+
+private:
+    // Or says why not.
+    void ConvertOne(const std::wstring& name, Diagnostics& found) {
+        const std::uint64_t tooDense = drawing_.HatchesTooDense();
+        std::unique_ptr<TylModel::SymbolDefinition> symbol(converter_.Convert(name));
+        if (const std::uint64_t dense = drawing_.HatchesTooDense() - tooDense;
+            !options_.tolerant && dense > 0) {
+            // It cannot be evaluated; the rest of the block, and the other blocks, are worth having.
+            diagnostics::Place place;
+            place.file = input_.name;
+            place.item = "block " + ShownText(name);
+            found.push_back({Severity::kWarning,
+                             Code::kDenseHatch,
+                             std::move(place),
+                             {std::to_string(drawing_.MostHatchLines())},
+                             Outcome::kSkipped,
+                             static_cast<std::size_t>(dense)});
+        }
+        if (symbol == nullptr) {
+            found.push_back({options_.tolerant ? Severity::kWarning : Severity::kError,
+                             Code::kMissingName,
+                             {input_.name},
+                             {"block", ShownText(name)}});
+            return;
+        }
+        result_.owned.push_back(std::move(symbol));
+        if (options_.tolerant) {
+            TellLosses(name, found);
+        }
+    }
+
+    void TellLosses(const std::wstring& name, Diagnostics& found) {
+        block::Opened<OxDbBlockTable> table;
+        block::Opened<OxDbBlockTableRecord> record;
+        if (table.Accept(drawing_.getSymbolTable(table.Receive(), OxDb::kForRead)) &&
+            record.Accept(table->getAt(name.c_str(), record.Receive(), OxDb::kForRead, false))) {
+            check_.AddLosses(*record, found);
+        }
+    }
+
+    // With more, the limit of memory would end the conversion, and all that is right were lost with the
+    // hatch.
+    static constexpr std::int32_t kMostHatchLines = 10000000;
+
+    const Input& input_;
+    drawing::Database& drawing_;
+    const BlocksOptions& options_;
+    Front& front_;
+    BlockConverter converter_;
+    DrawingShapeFiles files_;
+    block::ShapeFilesInUse filesInUse_;
+    BlockCheck check_;
+    Conversion& result_;
+};
+
+} // namespace
+
+Conversion ConvertBlocks(const Input& input, const BlocksOptions& options, Front& front) {
+    Conversion result;
+    if (const auto drawing = ReadDrawing(input, options.tolerant, result.diagnostics)) {
+        BlockConversion(input, *drawing, options, front, result).Run();
+    }
+    if (result.isConverted) {
+        result.UseAll();
+    } else {
+        TellWrongKind(input, FileKind::kDrawing, KindAdvice::kOtherCommand, result.diagnostics);
+    }
+    MergeAlike(result.diagnostics);
+    return result;
+}
+
+Listing ListBlocks(const Input& input) {
+    Listing listing;
+    if (const auto drawing = ReadDrawing(input, false, listing.diagnostics)) {
+        BlockConverter converter(drawing.get());
+        std::vector<std::wstring> names;
+        listing.isListed = ConvertibleBlocks(input, converter, names, listing.diagnostics);
+        for (const std::wstring& name : names) {
+            listing.names.push_back(platform::WideToValidUtf8(name));
+        }
+    }
+    if (!listing.isListed) {
+        TellWrongKind(input, FileKind::kDrawing, KindAdvice::kOtherName, listing.diagnostics);
+    }
+    return listing;
+}
+
+} // namespace conversions

@@ -1,0 +1,24 @@
+// The blocks of a drawing document to point symbols.
+#pragma once
+
+#include "conversions/Conversion.h"
+
+#include <string>
+#include <vector>
+
+namespace conversions {
+
+struct BlocksOptions {
+    std::vector<std::wstring> names; // only these, in their order; all that are no layouts where it is empty
+    std::vector<std::wstring> layersToIgnore;
+    bool tolerant = false;
+};
+
+/// All blocks in table order, or those asked for, and then all of them. A tolerant conversion skips what is
+/// wrong, and needs one.
+Conversion ConvertBlocks(const Input& input, const BlocksOptions& options, Front& front);
+
+/// The names of the blocks that are converted where no names are given, in table order.
+Listing ListBlocks(const Input& input);
+
+} // namespace conversions

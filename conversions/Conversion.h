@@ -1,0 +1,39 @@
+// What a job comes to.
+#pragma once
+
+#include "TylModel/TylModel.h"
+#include "conversions/reading/Front.h"
+#include "conversions/reading/Input.h"
+#include "diagnostics/Diagnostic.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace conversions {
+
+using Symbols = std::vector<std::unique_ptr<TylModel::SymbolDefinition>>;
+
+/// Symbols of a file. Where it is not converted, errors say why and there are none.
+struct Conversion {
+    bool isConverted = false;
+    Symbols owned;
+    std::vector<TylModel::SymbolDefinition*> symbols; // as asked for; one may be there more than once
+    diagnostics::Diagnostics diagnostics;
+
+    /// Every symbol once, in their order.
+    void UseAll() {
+        for (const auto& symbol : owned) {
+            symbols.push_back(symbol.get());
+        }
+    }
+};
+
+/// The names of what a file holds, as UTF-8.
+struct Listing {
+    bool isListed = false;
+    std::vector<std::string> names;
+    diagnostics::Diagnostics diagnostics;
+};
+
+} // namespace conversions

@@ -1,0 +1,188 @@
+#include "conversions/Glyphs.h"
+
+#include "StyleConversion/platform/CodePage.h"
+#include "StyleConversion/platform/Utf8.h"
+#include "StyleConversion/shx/ShxUtility.h"
+#include "conversions/GlyphSymbols.h"
+#include "conversions/reading/FileKind.h"
+#include "conversions/reading/ShapeFile.h"
+#include "documents/GlyphsDocument.h"
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace conversions {
+namespace {
+
+using diagnostics::Code;
+using diagnostics::Diagnostics;
+using diagnostics::Outcome;
+using diagnostics::Severity;
+
+// False, which is said, where the file is refused or has no shapes.
+bool Load(const Input& input, bool tolerant, ShxUtility::ShapesInFile& file, Diagnostics& diagnostics) {
+    ShxUtility::ShapeFileReport report;
+    if (!ReadShapeFile(input.bytes, tolerant, file, report)) {
+        diagnostics.push_back(RefusalOf(input.name, input.bytes, report));
+        return false;
+    }
+    Append(diagnostics, ToleratedIn(input.name, report, Severity::kWarning, Outcome::kRepaired));
+    if (file.numberIndex.empty()) {
+        diagnostics.push_back({Severity::kError, Code::kNoShapes, {input.name}, {}});
+        return false;
+    }
+    return true;
+}
+
+void TellNothing(const Input& input, const char* what, Diagnostics& diagnostics) {
+    diagnostics.push_back({Severity::kError, Code::kNothingConverted, {input.name}, {what}});
+}
+
+// False, which is said, where the file lacks one; to a tolerant conversion, where it lacks all.
+bool Choose(const Input& input, const GlyphsOptions& options, ChosenGlyphs& glyphs) {
+    const ShxUtility::ShapesInFile& file = glyphs.file;
+    if (options.numbers.empty()) {
+        for (std::size_t i = 0; i < file.shapes.size(); ++i) {
+            // The font information is no glyph.
+            if (file.shapes[i].number != 0) {
+                glyphs.positions.push_back(i);
+            }
+        }
+        return true;
+    }
+    bool isComplete = true;
+    for (const std::int64_t number : options.numbers) {
+        const bool isPossible = number >= 0 && number <= UINT16_MAX;
+        const auto found =
+            isPossible ? file.numberIndex.find(static_cast<std::uint16_t>(number)) : file.numberIndex.end();
+        if (found != file.numberIndex.end()) {
+            glyphs.positions.push_back(found->second);
+            continue;
+        }
+        isComplete = false;
+        glyphs.diagnostics.push_back({options.tolerant ? Severity::kWarning : Severity::kError,
+                                      Code::kMissingNumber,
+                                      {input.name},
+                                      {std::to_string(number)}});
+    }
+    if (options.tolerant && glyphs.positions.empty()) {
+        TellNothing(input, "shapes asked for", glyphs.diagnostics);
+    }
+    return options.tolerant ? !glyphs.positions.empty() : isComplete;
+}
+
+// Named as an option names it.
+std::string NumberItem(const ShxUtility::Shape& shape) {
+    return "shape " + std::to_string(shape.number);
+}
+
+// Leaves out, and names, the shapes that cannot be drawn. False when none is left.
+bool KeepDrawn(const Input& input, const GlyphsOptions& options, ChosenGlyphs& glyphs, Front& front) {
+    front.BeginStage("Checking", glyphs.positions.size());
+    std::erase_if(glyphs.positions, [&](std::size_t position) {
+        const ShxUtility::Shape& shape = glyphs.file.shapes[position];
+        front.AtItem(NumberItem(shape));
+        const ShxUtility::ShxResult result = ResultOfDrawing(glyphs.file, shape, options.vertical);
+        if (result == ShxUtility::kSuccess) {
+            return false;
+        }
+        diagnostics::Place place;
+        place.file = input.name;
+        place.item = ShapeItem(shape);
+        glyphs.diagnostics.push_back(
+            {Severity::kWarning, CodeOfDrawing(result), std::move(place), {"it"}, Outcome::kSkipped});
+        return true;
+    });
+    if (glyphs.positions.empty()) {
+        TellNothing(input, "shapes", glyphs.diagnostics);
+    }
+    return !glyphs.positions.empty();
+}
+
+documents::Glyph Draw(const ShxUtility::ShapesInFile& file, const ShxUtility::Shape& shape,
+                      const GlyphsOptions& options) {
+    documents::Glyph glyph;
+    glyph.number = shape.number;
+    glyph.name = platform::AnsiToWide(shape.name);
+    ShxUtility::GlyphPen pen;
+    pen.x = options.x;
+    pen.y = options.y;
+    pen.scale = options.scale;
+    pen.rotation = options.rotation;
+    pen.vertical = options.vertical;
+    glyph.result = ShxUtility::DrawGlyph(file, shape.number, file.kind, pen, glyph.path);
+    glyph.endX = pen.x;
+    glyph.endY = pen.y;
+    return glyph;
+}
+
+bool WriteDocument(const ChosenGlyphs& glyphs, const GlyphsOptions& options, const TextSink& sink,
+                   Front& front) {
+    documents::GlyphsWriter writer(glyphs.file, sink);
+    front.BeginStage("Writing", glyphs.positions.size());
+    const bool isWritten =
+        std::all_of(glyphs.positions.begin(), glyphs.positions.end(), [&](std::size_t position) {
+            front.AtItem(NumberItem(glyphs.file.shapes[position]));
+            return writer.Add(Draw(glyphs.file, glyphs.file.shapes[position], options));
+        });
+    return isWritten && writer.Finish();
+}
+
+bool WritePictures(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,
+                   Front& front) {
+    std::vector<std::unique_ptr<TylModel::SimpleSymbolDefinition>> symbols;
+    std::vector<TylModel::SymbolDefinition*> borrowed;
+    front.BeginStage("Drawing", glyphs.positions.size());
+    for (const std::size_t position : glyphs.positions) {
+        front.AtItem(NumberItem(glyphs.file.shapes[position]));
+        symbols.push_back(SymbolOf(Draw(glyphs.file, glyphs.file.shapes[position], options)));
+        borrowed.push_back(symbols.back().get());
+    }
+    // Letters that are turned stand on no common line.
+    if (glyphs.file.kind != ShxUtility::kShapes && options.rotation == 0.0) {
+        AlignGlyphs(symbols);
+    }
+    return WriteSymbols(borrowed, form, sink, front);
+}
+
+} // namespace
+
+ChosenGlyphs ChooseGlyphs(const Input& input, const GlyphsOptions& options, Front& front) {
+    UseEncoding(input);
+    ChosenGlyphs glyphs;
+    glyphs.isConverted = Load(input, options.tolerant, glyphs.file, glyphs.diagnostics) &&
+                         Choose(input, options, glyphs) &&
+                         (!options.tolerant || KeepDrawn(input, options, glyphs, front));
+    if (!glyphs.isConverted) {
+        TellWrongKind(input, FileKind::kShapes, KindAdvice::kOtherCommand, glyphs.diagnostics);
+    }
+    MergeAlike(glyphs.diagnostics);
+    return glyphs;
+}
+
+bool WriteGlyphs(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,
+                 Front& front) {
+    return form == Form::kJson ? WriteDocument(glyphs, options, sink, front)
+                               : WritePictures(glyphs, options, form, sink, front);
+}
+
+Listing ListGlyphs(const Input& input) {
+    UseEncoding(input);
+    Listing listing;
+    ShxUtility::ShapesInFile file;
+    listing.isListed = Load(input, false, file, listing.diagnostics);
+    if (!listing.isListed) {
+        TellWrongKind(input, FileKind::kShapes, KindAdvice::kOtherName, listing.diagnostics);
+        return listing;
+    }
+    for (const ShxUtility::Shape& shape : file.shapes) {
+        if (shape.number != 0 && !shape.name.empty()) {
+            listing.names.push_back(platform::WideToValidUtf8(platform::AnsiToWide(shape.name)));
+        }
+    }
+    return listing;
+}
+
+} // namespace conversions

@@ -1,0 +1,23 @@
+// Linetype files to line symbols.
+#pragma once
+
+#include "conversions/Conversion.h"
+#include "conversions/reading/LinetypeSources.h"
+
+#include <string>
+#include <vector>
+
+namespace conversions {
+
+struct LinetypesOptions : LinetypeSourceOptions {
+    std::vector<std::wstring> names; // only linetypes of these names, in their order; all where it is empty
+    double scale = 1.0;              // multiplies all lengths
+};
+
+/// All that are asked for, or none: a tolerant conversion skips what is wrong, and needs one.
+Conversion ConvertLinetypes(const Input& input, const LinetypesOptions& options, Front& front);
+
+/// The names of all linetypes in the order of the file. Styles and shape files need not be there.
+Listing ListLinetypes(const Input& input);
+
+} // namespace conversions

@@ -1,0 +1,138 @@
+#include "conversions/Patterns.h"
+
+#include "StyleConversion/pattern/AreaSymbol.h"
+#include "StyleConversion/platform/CodePage.h"
+#include "StyleConversion/platform/Utf8.h"
+#include "conversions/reading/FileKind.h"
+#include "conversions/reading/Patterns.h"
+#include "conversions/reading/Shown.h"
+
+#include <utility>
+
+namespace conversions {
+namespace {
+
+using diagnostics::Code;
+using diagnostics::Diagnostics;
+using diagnostics::Outcome;
+using diagnostics::Severity;
+
+class PatternConversion {
+public:
+    PatternConversion(const Input& input, const PatternsOptions& options, Front& front)
+        : input_(input), options_(options), front_(front) {}
+
+    Conversion Run() {
+        Diagnostics& found = result_.diagnostics;
+        if (ReadPatterns(input_, Policy(), loaded_, found)) {
+            if (options_.tolerant) {
+                found = ToleratedPatterns(input_, loaded_);
+            }
+            result_.isConverted = options_.names.empty() ? ConvertAll() : ConvertNamed();
+            if (options_.tolerant) {
+                SortByLine(found);
+            }
+            if (!result_.isConverted && (options_.names.empty() || options_.tolerant)) {
+                found.push_back({Severity::kError,
+                                 Code::kNothingConverted,
+                                 {input_.name},
+                                 {options_.names.empty() ? "patterns" : "patterns asked for"}});
+            }
+        }
+        if (result_.isConverted) {
+            WarnOfKind(input_, FileKind::kPatterns, found);
+            result_.UseAll();
+        } else {
+            TellWrongKind(input_, FileKind::kPatterns, KindAdvice::kOtherCommand, found);
+        }
+        MergeAlike(found);
+        return std::move(result_);
+    }
+
+private:
+    pattern::PatternPolicy Policy() const {
+        pattern::PatternPolicy policy =
+            options_.tolerant ? pattern::kTolerantPatternPolicy : pattern::PatternPolicy();
+        policy.wantedUnit = options_.unit;
+        return policy;
+    }
+
+    // All that can be converted, in the order of the names.
+    bool ConvertAll() {
+        front_.BeginStage("Converting", loaded_.file.patterns.size());
+        for (const auto& [name, lines] : loaded_.file.patterns) {
+            ConvertOne(name);
+        }
+        return !result_.owned.empty();
+    }
+
+    // Those asked for, in the order asked. A tolerant conversion needs but one.
+    bool ConvertNamed() {
+        bool isComplete = true;
+        front_.BeginStage("Converting", options_.names.size());
+        for (const std::wstring& name : options_.names) {
+            const std::string narrow = platform::WideToAnsi(name);
+            if (!loaded_.file.patterns.contains(narrow)) {
+                result_.diagnostics.push_back({options_.tolerant ? Severity::kWarning : Severity::kError,
+                                               Code::kMissingName,
+                                               {input_.name},
+                                               {"pattern", ShownText(name)}});
+                isComplete = false;
+            } else {
+                isComplete = ConvertOne(narrow) && isComplete;
+            }
+        }
+        return isComplete || (options_.tolerant && !result_.owned.empty());
+    }
+
+    // Or says why it becomes nothing.
+    bool ConvertOne(const std::string& name) {
+        front_.AtItem(PatternItem(name));
+        std::vector<pattern::PatternLine>& lines = loaded_.file.patterns.at(name);
+        if (auto symbol = pattern::BuildAreaSymbol(name, lines)) {
+            result_.owned.push_back(std::move(symbol));
+            return true;
+        }
+        const bool isError = !options_.tolerant && !options_.names.empty();
+        diagnostics::Place place;
+        place.file = input_.name;
+        place.line = loaded_.reading.headerLines.at(name).front();
+        place.item = PatternItem(name);
+        result_.diagnostics.push_back({isError ? Severity::kError : Severity::kWarning,
+                                       WhyNoSymbol(lines),
+                                       std::move(place),
+                                       {},
+                                       isError ? Outcome::kNone : Outcome::kSkipped});
+        return false;
+    }
+
+    const Input& input_;
+    const PatternsOptions& options_;
+    Front& front_;
+    LoadedPatterns loaded_;
+    Conversion result_;
+};
+
+} // namespace
+
+Conversion ConvertPatterns(const Input& input, const PatternsOptions& options, Front& front) {
+    UseEncoding(input);
+    return PatternConversion(input, options, front).Run();
+}
+
+Listing ListPatterns(const Input& input) {
+    UseEncoding(input);
+    Listing listing;
+    LoadedPatterns loaded;
+    listing.isListed = ReadPatterns(input, {}, loaded, listing.diagnostics);
+    if (!listing.isListed) {
+        TellWrongKind(input, FileKind::kPatterns, KindAdvice::kOtherName, listing.diagnostics);
+        return listing;
+    }
+    for (const auto& [name, description] : loaded.file.descriptions) {
+        listing.names.push_back(platform::WideToValidUtf8(platform::AnsiToWide(name)));
+    }
+    return listing;
+}
+
+} // namespace conversions

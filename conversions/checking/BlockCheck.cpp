@@ -1,0 +1,200 @@
+#include "conversions/checking/BlockCheck.h"
+
+#include "StyleConversion/block/EntityClass.h"
+#include "StyleConversion/block/Opened.h"
+#include "StyleConversion/block/SplineSampling.h"
+#include "conversions/reading/Shown.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace conversions {
+namespace {
+
+using diagnostics::Code;
+using diagnostics::Outcome;
+using diagnostics::Severity;
+
+std::wstring LayerOf(OxDbEntity& entity) {
+    const block::LayerName layer(entity);
+    return layer.Get() != nullptr ? layer.Get() : L"";
+}
+
+bool IsNeverInserted(const OxDbBlockTableRecord& record) {
+    OxDbBlockReferenceIdIterator* created = nullptr;
+    const Oxsys::ErrorStatus status = record.newBlockReferenceIdIterator(created);
+    const auto iterator = block::Accepted(status, created);
+    if (iterator == nullptr) {
+        return true;
+    }
+    iterator->start();
+    return iterator->done();
+}
+
+// The ids of the draw-order table; none where the block has none.
+OxDbObjectIdArray DrawOrder(const OxDbBlockTableRecord& record) {
+    OxDbObjectIdArray ids;
+    block::Opened<OxDbSortentsTable> order;
+    // Nothing is created, so the record stays as it is.
+    auto& mutableRecord = const_cast<OxDbBlockTableRecord&>(record);
+    if (order.Accept(mutableRecord.getSortentsTable(order.Receive(), OxDb::kForRead, false))) {
+        order->getFullDrawOrder(ids, 0);
+    }
+    return ids;
+}
+
+} // namespace
+
+std::string ItemOf(const OxDbBlockTableRecord& record) {
+    const wchar_t* name = nullptr;
+    return "block " +
+           (record.getName(name) == Oxsys::eOk && name != nullptr ? ShownText(name) : std::string());
+}
+
+BlockCheck::BlockCheck(std::string file, const drawing::Database& drawing, DrawingShapeFiles& files,
+                       const std::vector<std::wstring>& layersToIgnore)
+    : file_(std::move(file)), drawing_(drawing), dashShapes_(drawing, files),
+      layersToIgnore_(layersToIgnore.begin(), layersToIgnore.end()) {}
+
+void BlockCheck::AddCounted(const Kind& kind, std::size_t count, Severity severity, const std::string& item,
+                            diagnostics::Diagnostics& diagnostics) const {
+    const auto& [itsSeverity, isLoss, loss, outcome] = kind;
+    diagnostics::Place place;
+    place.file = file_;
+    place.item = item;
+    diagnostics.push_back({severity, loss.code, std::move(place), loss.subjects, outcome, count});
+}
+
+void BlockCheck::Check(const OxDbBlockTableRecord& record, diagnostics::Diagnostics& diagnostics) {
+    isConverted_ = false;
+    Count(record);
+    const std::string item = ItemOf(record);
+    for (const auto& [kind, count] : counts_) {
+        AddCounted(kind, count, std::get<Severity>(kind), item, diagnostics);
+    }
+    if (hasColorByBlock_ && IsNeverInserted(record)) {
+        AddCounted({Severity::kWarning, false, {Code::kColorByBlock, {}}, Outcome::kNone}, 1,
+                   Severity::kWarning, item, diagnostics);
+    }
+}
+
+void BlockCheck::AddLosses(const OxDbBlockTableRecord& record, diagnostics::Diagnostics& diagnostics) {
+    isConverted_ = true;
+    Count(record);
+    for (const auto& [kind, count] : counts_) {
+        if (std::get<bool>(kind)) {
+            AddCounted(kind, count, Severity::kWarning, ItemOf(record), diagnostics);
+        }
+    }
+}
+
+void BlockCheck::Lose(Code code, std::vector<std::string> subjects) {
+    ++counts_[{Severity::kError, true, {code, std::move(subjects)}, Outcome::kNone}];
+}
+
+void BlockCheck::Surprise(bool isLoss, Code code, std::vector<std::string> subjects) {
+    ++counts_[{Severity::kWarning, isLoss, {code, std::move(subjects)}, Outcome::kNone}];
+}
+
+void BlockCheck::Count(const OxDbBlockTableRecord& record) {
+    counts_.clear();
+    hasColorByBlock_ = false;
+    const OxDbObjectIdArray order = DrawOrder(record);
+    std::unordered_set<const OxDbStub*> ordered;
+    for (const OxDbObjectId id : order) {
+        ordered.insert(id.stub());
+    }
+    OxDbBlockTableRecordIterator* created = nullptr;
+    const Oxsys::ErrorStatus status = record.newIterator(created, true, true);
+    const auto iterator = block::Accepted(status, created);
+    if (iterator == nullptr) {
+        return;
+    }
+    for (iterator->start(true, true); !iterator->done(); iterator->step(true, true)) {
+        block::Opened<OxDbEntity> entity;
+        if (!entity.Accept(iterator->getEntity(entity.Receive(), OxDb::kForRead, false))) {
+            continue;
+        }
+        if (!ordered.empty() && !ordered.contains(entity->objectId().stub())) {
+            Surprise(true, Code::kNotInDrawOrder);
+        } else {
+            CountEntity(*entity);
+        }
+    }
+}
+
+void BlockCheck::CountEntity(OxDbEntity& entity) {
+    if (!layersToIgnore_.empty()) {
+        const std::wstring layer = LayerOf(entity);
+        if (layersToIgnore_.contains(layer)) {
+            Surprise(false, Code::kIgnoredLayer, {ShownText(layer)});
+            return;
+        }
+    }
+    const block::EntityClass entityClass = block::ClassOf(entity);
+    if (entityClass == block::EntityClass::kNotDrawn) {
+        Surprise(true, Code::kUnsupportedClass, {ShownText(entity.isA()->name())});
+        return;
+    }
+    hasColorByBlock_ = hasColorByBlock_ || entity.color().isByBlock();
+    if (entityClass == block::EntityClass::kHatch) {
+        CountHatch(static_cast<OxDbHatch&>(entity));
+    } else if (entityClass == block::EntityClass::kSpline &&
+               block::SampleSpline(static_cast<OxDbSpline&>(entity)).empty()) {
+        Lose(Code::kInvalidSpline);
+    } else if (entityClass == block::EntityClass::kText) {
+        CountTextStyle(static_cast<const OxDbText&>(entity).textStyle());
+    } else if (entityClass == block::EntityClass::kMText) {
+        CountTextStyle(static_cast<const OxDbMText&>(entity).textStyle());
+    } else if (block::HasDashes(entityClass)) {
+        CountLinetype(entity);
+    }
+}
+
+void BlockCheck::CountHatch(OxDbHatch& hatch) {
+    if (hatch.isSolidFill()) {
+        if (hatch.numLoops() == 0) {
+            Lose(Code::kHatchWithoutBoundary);
+        }
+        return;
+    }
+    // A conversion may have evaluated it.
+    const Oxsys::ErrorStatus status = hatch.numHatchLines() > 0 ? Oxsys::eOk : hatch.evaluateHatch(true);
+    if (status == Oxsys::eTooManyHatchLines) {
+        const std::string most = std::to_string(drawing_.MostHatchLines());
+        ++counts_[{isConverted_ ? Severity::kError : Severity::kWarning,
+                   true,
+                   {Code::kDenseHatch, {most}},
+                   isConverted_ ? Outcome::kSkipped : Outcome::kNone}];
+    } else if (status == Oxsys::eNotApplicable) {
+        Lose(Code::kHatchWithoutPattern);
+    } else if (status != Oxsys::eOk) {
+        Lose(Code::kInvalidHatch);
+    } else if (hatch.numHatchLines() == 0) {
+        Surprise(true, Code::kEmptyHatch);
+    }
+}
+
+void BlockCheck::CountLinetype(const OxDbEntity& entity) {
+    const OxDbObjectId id = entity.linetypeId();
+    block::Opened<OxDbLinetypeTableRecord> linetype;
+    if (linetype.Accept(oxdbOpenOxDbObject(linetype.Receive(), id, OxDb::kForRead))) {
+        for (const Loss& loss : dashShapes_.LossesOf(*linetype)) {
+            Lose(loss.code, loss.subjects);
+        }
+        return;
+    }
+    const std::wstring* const name = drawing_.MissingName(id);
+    Lose(Code::kMissingLinetype, {name != nullptr ? ShownText(*name) : std::string()});
+}
+
+void BlockCheck::CountTextStyle(OxDbObjectId styleId) {
+    block::Opened<OxDbTextStyleTableRecord> style;
+    if (styleId.isNull() || style.Accept(oxdbOpenOxDbObject(style.Receive(), styleId, OxDb::kForRead))) {
+        return;
+    }
+    const std::wstring* const name = drawing_.MissingName(styleId);
+    Lose(Code::kTextStyleNotInDrawing, {name != nullptr ? ShownText(*name) : std::string()});
+}
+
+} // namespace conversions

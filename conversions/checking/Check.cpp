@@ -1,0 +1,50 @@
+#include "conversions/checking/Check.h"
+
+#include "conversions/reading/Patterns.h"
+
+#include <utility>
+
+namespace conversions {
+namespace {
+
+using diagnostics::Diagnostics;
+using diagnostics::Severity;
+
+Diagnostics CheckKind(FileKind kind, const Input& input, const CheckOptions& options, Front& front) {
+    switch (kind) {
+    case FileKind::kLinetypes:
+        return CheckLinetypes(input, options.linetypes, front);
+    case FileKind::kPatterns:
+        return CheckPatterns(input);
+    case FileKind::kShapes:
+        return CheckShapes(input, front);
+    case FileKind::kDrawing:
+    case FileKind::kUnknown:
+        break;
+    }
+    return CheckDrawing(input, options.layersToIgnore, front);
+}
+
+} // namespace
+
+Diagnostics Check(FileKind kind, const Input& input, const CheckOptions& options, Front& front) {
+    UseEncoding(input);
+    Diagnostics found = CheckKind(kind, input, options, front);
+    if (CountOf(found, Severity::kError) > 0) {
+        TellWrongKind(input, kind, KindAdvice::kOtherName, found);
+    }
+    MergeAlike(found);
+    return found;
+}
+
+Diagnostics CheckPatterns(const Input& input) {
+    LoadedPatterns loaded;
+    pattern::ParsePatternFile(input.bytes, loaded.file, &loaded.reading, pattern::kTolerantPatternPolicy);
+    Diagnostics found = CheckedPatterns(input, loaded);
+    if (loaded.file.patterns.empty()) {
+        found.push_back(EmptyFile(input, diagnostics::Code::kNoPatterns));
+    }
+    return found;
+}
+
+} // namespace conversions

@@ -1,0 +1,88 @@
+// Checks drawing documents.
+#include "OxDb/OxDb.h"
+#include "StyleConversion/block/Opened.h"
+#include "conversions/checking/BlockCheck.h"
+#include "conversions/checking/Check.h"
+#include "conversions/reading/Drawing.h"
+
+#include <memory>
+#include <utility>
+
+namespace conversions {
+namespace {
+
+using diagnostics::Code;
+using diagnostics::Diagnostics;
+using diagnostics::Severity;
+
+class DrawingCheck {
+public:
+    DrawingCheck(const Input& input, drawing::Database& drawing,
+                 const std::vector<std::wstring>& layersToIgnore, Front& front, Diagnostics& found)
+        : input_(input), drawing_(drawing), front_(front), files_(input.name, false, front),
+          blockCheck_(input.name, drawing, files_, layersToIgnore), found_(found) {}
+
+    void Check() {
+        drawing_.LimitHatchLines(kMostHatchLines);
+        block::Opened<OxDbBlockTable> table;
+        if (!table.Accept(drawing_.getSymbolTable(table.Receive(), OxDb::kForRead))) {
+            return;
+        }
+        OxDbBlockTableIterator* created = nullptr;
+        const Oxsys::ErrorStatus status = table->newIterator(created, true, true);
+        const auto iterator = block::Accepted(status, created);
+        if (iterator == nullptr) {
+            return;
+        }
+        bool hasBlocks = false;
+        for (iterator->start(true, true); !iterator->done(); iterator->step(true, true)) {
+            block::Opened<OxDbBlockTableRecord> record;
+            if (!record.Accept(iterator->getRecord(record.Receive(), OxDb::kForRead, false))) {
+                continue;
+            }
+            front_.AtItem(ItemOf(*record));
+            if (record->isLayout() || record->isAnonymous()) {
+                NoteNotConverted(*record);
+            } else {
+                hasBlocks = true;
+                blockCheck_.Check(*record, found_);
+            }
+        }
+        if (!hasBlocks) {
+            found_.push_back({Severity::kError, Code::kNoBlocks, {input_.name}, {}});
+        }
+    }
+
+private:
+    void NoteNotConverted(const OxDbBlockTableRecord& record) {
+        diagnostics::Place place;
+        place.file = input_.name;
+        place.item = ItemOf(record);
+        found_.push_back({Severity::kNote,
+                          Code::kOnlyByName,
+                          std::move(place),
+                          {record.isLayout() ? "a layout" : "an anonymous block"}});
+    }
+
+    // No map shows that many in one hatch, and a check is to be quick.
+    static constexpr std::int32_t kMostHatchLines = 1000000;
+
+    const Input& input_;
+    drawing::Database& drawing_;
+    Front& front_;
+    DrawingShapeFiles files_;
+    BlockCheck blockCheck_;
+    Diagnostics& found_;
+};
+
+} // namespace
+
+Diagnostics CheckDrawing(const Input& input, const std::vector<std::wstring>& layersToIgnore, Front& front) {
+    Diagnostics found;
+    if (const auto drawing = CheckDrawingDocument(input, found)) {
+        DrawingCheck(input, *drawing, layersToIgnore, front, found).Check();
+    }
+    return found;
+}
+
+} // namespace conversions

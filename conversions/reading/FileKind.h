@@ -1,0 +1,30 @@
+// The four kinds of files, told apart by their names and by what is in them.
+#pragma once
+
+#include "conversions/reading/Input.h"
+#include "diagnostics/Diagnostic.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace conversions {
+
+enum class FileKind : std::uint8_t { kUnknown, kLinetypes, kPatterns, kShapes, kDrawing };
+
+/// By the end of the name: .lin, .pat, .shx or .json, in upper or lower case.
+FileKind KindByName(std::string_view name);
+
+/// By what the file begins with; kUnknown where that is not clear.
+FileKind KindByContents(std::string_view bytes);
+
+/// What helps where a file is of another kind.
+enum class KindAdvice : std::uint8_t { kOtherCommand, kOtherName };
+
+/// For a file that could not be used as one of `kind`: where it is of another kind, that alone is what is
+/// wrong, and replaces all that was found.
+void TellWrongKind(const Input& input, FileKind kind, KindAdvice advice,
+                   diagnostics::Diagnostics& diagnostics);
+/// For one that was used: a warning where what is in it is of another kind.
+void WarnOfKind(const Input& input, FileKind kind, diagnostics::Diagnostics& diagnostics);
+
+} // namespace conversions

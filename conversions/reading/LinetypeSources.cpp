@@ -1,0 +1,134 @@
+#include "conversions/reading/LinetypeSources.h"
+
+#include "StyleConversion/linetype/CLineConverterDep.h"
+#include "StyleConversion/linetype/LinNames.h"
+#include "StyleConversion/platform/Characters.h"
+#include "StyleConversion/platform/CodePage.h"
+#include "StyleConversion/platform/Files.h"
+#include "conversions/reading/Drawing.h"
+#include "conversions/reading/ShapeFile.h"
+#include "conversions/reading/Shown.h"
+#include "drawing/database/HostServices.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace conversions {
+namespace {
+
+using diagnostics::Code;
+using diagnostics::Diagnostic;
+using diagnostics::Outcome;
+
+constexpr const wchar_t* kDefaultStyle = L"STANDARD";
+constexpr const wchar_t* kDefaultFont = L"txt.shx";
+
+bool IsSame(const wchar_t* first, const wchar_t* second) {
+    return platform::CompareIgnoringCase(first, second) == 0;
+}
+
+std::wstring InUpperCase(std::wstring name) {
+    LineConverter::MakeUpperCase(name);
+    return name;
+}
+
+bool IsFontFile(const std::wstring& font) {
+    return IsSame(platform::SplitPath(font).extension.c_str(), L".shx");
+}
+
+} // namespace
+
+LinetypeSources::LinetypeSources(const Input& input, const LinetypeSourceOptions& options, Front& front)
+    : input_(input), options_(options), front_(front) {}
+
+bool LinetypeSources::ReadDrawing(diagnostics::Diagnostics& diagnostics) {
+    if (options_.drawing) {
+        drawing_ = conversions::ReadDrawing(*options_.drawing, options_.tolerant, diagnostics);
+    } else {
+        MakeDefaultDrawing();
+    }
+    return drawing_ != nullptr;
+}
+
+void LinetypeSources::MakeDefaultDrawing() {
+    drawing_ = std::make_unique<drawing::Database>();
+    drawing::TextStyleData style;
+    const std::wstring font = platform::PathFromBytes(options_.font);
+    if (font.empty()) {
+        style.fileName = kDefaultFont;
+    } else {
+        (IsFontFile(font) ? style.fileName : style.typeface) = font;
+    }
+    drawing_->AddTextStyle(kDefaultStyle, std::move(style));
+}
+
+bool LinetypeSources::GetFontInfoFromStyle(const wchar_t* styleName, LineConverter::FontInfo& info) {
+    drawing::HostServices host;
+    host.setWorkingDatabase(drawing_.get());
+    if (!LineConverter::CLineConverterDep(&host, nullptr).GetFontInfoFromStyle(styleName, info)) {
+        if (!options_.tolerant || !IsSame(styleName, kDefaultStyle)) {
+            return false;
+        }
+        standardAssumed_ = true;
+        info = {};
+        info.fileName = kDefaultFont;
+        info.xScale = 1.0;
+    }
+    spellings_[InUpperCase(info.fileName)] = info.fileName;
+    return true;
+}
+
+bool LinetypeSources::GetShapeFile(const std::wstring& name, std::string& bytes) {
+    FoundFile file = front_.FindShapeFile(name);
+    if (file.isFound) {
+        found_[name] = file.name.empty() ? ShownText(AsSpelled(name)) : file.name;
+        bytes = std::move(file.bytes);
+        return true;
+    }
+    if ((options_.drawing && !options_.tolerant) || !IsSame(name.c_str(), kDefaultFont)) {
+        return false;
+    }
+    builtInFontUsed_ = true;
+    bytes = BuiltInFont();
+    return true;
+}
+
+diagnostics::Diagnostics LinetypeSources::StandIns(diagnostics::Severity severity) const {
+    diagnostics::Diagnostics standIns;
+    const auto add = [&](Code code, std::vector<std::string> subjects) {
+        standIns.push_back({severity, code, {input_.name}, std::move(subjects), Outcome::kRepaired});
+    };
+    if (standardAssumed_) {
+        add(Code::kAssumedStandard, {DrawingName()});
+    }
+    if (builtInFontUsed_) {
+        add(Code::kBuiltInFont, {"txt.shx", PlacesSearched(kDefaultFont)});
+    }
+    return standIns;
+}
+
+std::string LinetypeSources::DrawingName() const {
+    return options_.drawing ? options_.drawing->name : std::string();
+}
+
+std::wstring LinetypeSources::AsSpelled(const std::wstring& name) const {
+    const auto known = spellings_.find(name);
+    if (known != spellings_.end()) {
+        return known->second;
+    }
+    // As it stands in the file, wherever that is.
+    const std::string narrow = platform::WideToAnsi(name);
+    const auto at = std::search(input_.bytes.begin(), input_.bytes.end(), narrow.begin(), narrow.end(),
+                                [](char a, char b) { return platform::AsciiUpper(a) == b; });
+    return at == input_.bytes.end() || narrow.empty()
+               ? name
+               : platform::AnsiToWide(
+                     input_.bytes.substr(static_cast<std::size_t>(at - input_.bytes.begin()), narrow.size()));
+}
+
+std::string LinetypeSources::NameOfFound(const std::wstring& name) const {
+    const auto found = found_.find(name);
+    return found == found_.end() ? input_.name : found->second;
+}
+
+} // namespace conversions

@@ -1,0 +1,213 @@
+#include "conversions/reading/Patterns.h"
+
+#include "StyleConversion/pattern/PatternLimits.h"
+#include "StyleConversion/pattern/RepeatTile.h"
+#include "StyleConversion/platform/Characters.h"
+#include "conversions/reading/Shown.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace conversions {
+namespace {
+
+using diagnostics::Code;
+using diagnostics::Diagnostic;
+using diagnostics::Outcome;
+using diagnostics::Severity;
+using pattern::PatternError;
+
+Code CodeOf(PatternError::Kind kind) {
+    switch (kind) {
+    case PatternError::Kind::kByteOrderMark:
+        return Code::kByteOrderMark;
+    case PatternError::Kind::kLongLine:
+        return Code::kLongPatternLine;
+    case PatternError::Kind::kBlankLine:
+        return Code::kBlankLine;
+    case PatternError::Kind::kIndentedRemark:
+        return Code::kIndentedComment;
+    case PatternError::Kind::kIndentedHeader:
+        return Code::kIndentedPattern;
+    case PatternError::Kind::kRemarkBehind:
+        return Code::kCommentBehind;
+    case PatternError::Kind::kEmptyNumber:
+        return Code::kEmptyNumber;
+    case PatternError::Kind::kNotANumber:
+        return Code::kInvalidNumber;
+    case PatternError::Kind::kTextBehindNumber:
+        return Code::kTextAfterNumber;
+    case PatternError::Kind::kTooFewNumbers:
+        return Code::kTooFewNumbers;
+    case PatternError::Kind::kFamilyWithoutHeader:
+        return Code::kFamilyWithoutHeader;
+    case PatternError::Kind::kScaled:
+        break;
+    }
+    return Code::kScaledUnits;
+}
+
+std::vector<std::string> SubjectsOf(const PatternError& error) {
+    if (error.kind == PatternError::Kind::kLongLine) {
+        return {std::to_string(pattern::kLongestLine)};
+    }
+    return error.subject.empty() ? std::vector<std::string>()
+                                 : std::vector<std::string>{ShownLine(error.subject)};
+}
+
+Severity CheckedSeverity(const PatternError& error) {
+    return error.changes || error.kind == PatternError::Kind::kNotANumber ? Severity::kError
+                                                                          : Severity::kWarning;
+}
+
+bool HasTile(const std::vector<pattern::PatternLine>& lines) {
+    return std::any_of(lines.begin(), lines.end(), [](const auto& line) { return line.rowCount >= 0; });
+}
+
+// Collects what is said of one file.
+class PatternDiagnostics {
+public:
+    PatternDiagnostics(const Input& input, const LoadedPatterns& loaded) : input_(input), loaded_(loaded) {}
+
+    void Add(std::size_t line, const std::string& pattern, Severity severity, Code code,
+             std::vector<std::string> subjects = {}, Outcome outcome = Outcome::kNone) {
+        diagnostics::Place place;
+        place.file = input_.name;
+        place.line = line;
+        place.item = pattern.empty() ? "" : PatternItem(pattern);
+        found_.push_back({severity, code, std::move(place), std::move(subjects), outcome});
+    }
+
+    void AddTiles() {
+        for (const auto& [name, lines] : loaded_.file.patterns) {
+            const auto numbers = loaded_.reading.familyLines.find(name);
+            for (std::size_t i = 0; i < lines.size(); ++i) {
+                AddTile(lines[i], numbers->second[i], name);
+            }
+            AddPattern(name, lines);
+        }
+    }
+
+    // Families that are left out of a pattern that is not.
+    void AddSkippedFamilies() {
+        for (const auto& [name, lines] : loaded_.file.patterns) {
+            if (!HasTile(lines)) {
+                continue; // named as a whole where it is converted
+            }
+            for (std::size_t i = 0; i < lines.size(); ++i) {
+                if (lines[i].rowCount < 0) {
+                    AddFamilyWithoutTile(loaded_.reading.familyLines.at(name)[i], name, Severity::kWarning,
+                                         Outcome::kSkipped);
+                }
+            }
+        }
+    }
+
+    diagnostics::Diagnostics Take() {
+        diagnostics::SortByLine(found_);
+        return std::move(found_);
+    }
+
+private:
+    void AddFamilyWithoutTile(std::size_t line, const std::string& name, Severity severity, Outcome outcome) {
+        Add(line, name, severity, Code::kFamilyWithoutTile, {std::to_string(pattern::kStackSearch)}, outcome);
+    }
+
+    void AddTile(const pattern::PatternLine& family, std::size_t line, const std::string& name) {
+        const double phaseError = pattern::PhaseError(family);
+        if (family.rowCount < 0) {
+            AddFamilyWithoutTile(line, name, Severity::kError, Outcome::kNone);
+        } else if (phaseError < pattern::kPhaseTolerance) {
+            Add(line, name, Severity::kNote, Code::kExactTile);
+        } else {
+            Add(line, name, Severity::kWarning, Code::kInexactTile,
+                {std::to_string(family.rowCount), RoundedText(phaseError, 1e6),
+                 RoundedText(phaseError / family.offset * 100.0, 10.0)});
+        }
+    }
+
+    void AddPattern(const std::string& name, const std::vector<pattern::PatternLine>& lines) {
+        const auto& headers = loaded_.reading.headerLines.at(name);
+        if (!HasTile(lines)) {
+            Add(headers.front(), name, Severity::kError, WhyNoSymbol(lines));
+        }
+        for (std::size_t i = 1; i < headers.size(); ++i) {
+            Add(headers[i], name, Severity::kWarning, Code::kDuplicatePattern,
+                {std::to_string(headers.front())});
+        }
+    }
+
+    const Input& input_;
+    const LoadedPatterns& loaded_;
+    diagnostics::Diagnostics found_;
+};
+
+} // namespace
+
+bool ReadPatterns(const Input& input, const pattern::PatternPolicy& policy, LoadedPatterns& loaded,
+                  diagnostics::Diagnostics& diagnostics) {
+    pattern::ParsePatternFile(input.bytes, loaded.file, &loaded.reading, policy);
+    if (loaded.reading.end == pattern::PatternReading::End::kLineTooLong) {
+        diagnostics::Place place;
+        place.file = input.name;
+        place.line = loaded.reading.endLine;
+        diagnostics.push_back({Severity::kError,
+                               Code::kLongPatternLine,
+                               std::move(place),
+                               {std::to_string(pattern::kLongestLine)}});
+        return false;
+    }
+    if (loaded.file.patterns.empty()) {
+        diagnostics.push_back(EmptyFile(input, Code::kNoPatterns));
+        return false;
+    }
+    return true;
+}
+
+diagnostics::Diagnostics CheckedPatterns(const Input& input, const LoadedPatterns& loaded) {
+    PatternDiagnostics found(input, loaded);
+    for (const PatternError& error : loaded.reading.errors) {
+        found.Add(error.line, error.pattern, CheckedSeverity(error), CodeOf(error.kind), SubjectsOf(error));
+    }
+    found.AddTiles();
+    if (loaded.reading.unit != pattern::Unit::kNone) {
+        const bool isInch = loaded.reading.unit == pattern::Unit::kInch;
+        found.Add(loaded.reading.unitLine, "", Severity::kWarning, Code::kIgnoredUnits,
+                  {isInch ? "inches" : "millimetres", isInch ? "mm" : "inch"});
+    }
+    return found.Take();
+}
+
+diagnostics::Diagnostics ToleratedPatterns(const Input& input, const LoadedPatterns& loaded) {
+    PatternDiagnostics found(input, loaded);
+    for (const PatternError& error : loaded.reading.errors) {
+        found.Add(error.line, error.pattern, Severity::kWarning, CodeOf(error.kind), SubjectsOf(error),
+                  Outcome::kRepaired);
+    }
+    found.AddSkippedFamilies();
+    return found.Take();
+}
+
+Code WhyNoSymbol(const std::vector<pattern::PatternLine>& lines) {
+    if (lines.empty()) {
+        return Code::kEmptyPattern;
+    }
+    return HasTile(lines) ? Code::kTinyTile : Code::kPatternWithoutTile;
+}
+
+std::string PatternItem(const std::string& name) {
+    return "pattern " + ShownName(name);
+}
+
+Diagnostic EmptyFile(const Input& input, Code code) {
+    Diagnostic diagnostic;
+    diagnostic.code = code;
+    diagnostic.place.file = input.name;
+    if (platform::StartsWithByteOrderMark(input.bytes)) {
+        diagnostic.code = Code::kByteOrderMark;
+        diagnostic.place.line = 1;
+    }
+    return diagnostic;
+}
+
+} // namespace conversions

@@ -1,0 +1,37 @@
+// A pattern file to families of lines, and what is said of it.
+#pragma once
+
+#include "StyleConversion/pattern/PatternFile.h"
+#include "conversions/reading/Input.h"
+#include "diagnostics/Diagnostic.h"
+
+#include <string>
+#include <vector>
+
+namespace conversions {
+
+struct LoadedPatterns {
+    pattern::PatternFile file;
+    pattern::PatternReading reading;
+};
+
+/// False where the file has no patterns or its reading ended early, which is said.
+bool ReadPatterns(const Input& input, const pattern::PatternPolicy& policy, LoadedPatterns& loaded,
+                  diagnostics::Diagnostics& diagnostics);
+
+/// What a strict reading makes of a file that was read by a tolerant policy. Tiles that close are notes.
+diagnostics::Diagnostics CheckedPatterns(const Input& input, const LoadedPatterns& loaded);
+
+/// What a tolerant reading made of it, and which families it leaves out: warnings.
+diagnostics::Diagnostics ToleratedPatterns(const Input& input, const LoadedPatterns& loaded);
+
+/// Why a pattern of these families becomes nothing.
+diagnostics::Code WhyNoSymbol(const std::vector<pattern::PatternLine>& lines);
+
+/// "pattern BRICK"
+std::string PatternItem(const std::string& name);
+
+/// That the file has nothing of its kind: at the first line where a byte-order mark hides the first header.
+diagnostics::Diagnostic EmptyFile(const Input& input, diagnostics::Code code);
+
+} // namespace conversions

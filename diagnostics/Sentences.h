@@ -1,0 +1,37 @@
+// The one table from the code of a diagnostic to its name and its sentence.
+#pragma once
+
+#include "diagnostics/Diagnostic.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace diagnostics {
+
+/// The stable name of a code: "missing-shape-file".
+std::string_view NameOf(Code code);
+
+/// Every code, in the order of the table.
+std::vector<Code> AllCodes();
+
+/// "error", "warning" or "note".
+std::string_view NameOf(Severity severity);
+
+/// What is wrong and what became of it, without the place: "a blank is not allowed here; skipped".
+std::string SentenceOf(const Diagnostic& diagnostic);
+/// What is wrong, for a sentence of which it is a part.
+std::string SentenceOf(Code code, const std::vector<std::string>& subjects = {});
+
+/// The whole message in the form that editors know from compilers, in one line:
+/// "gas.lin:14:5: error: a blank is not allowed here (linetype GAS)".
+std::string MessageOf(const Diagnostic& diagnostic);
+/// The same with the name of its code: "… (linetype GAS) [unexpected-blank]".
+std::string MessageWithCode(const Diagnostic& diagnostic);
+
+/// Whether one cause stands behind all places that it is said of.
+bool HasOneCause(Code code);
+/// Whether its sentence tells how many entities it is about.
+bool CountsEntities(Code code);
+
+} // namespace diagnostics

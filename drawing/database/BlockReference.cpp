@@ -1,0 +1,15 @@
+// Inserts: entities that refer to a block.
+#include "drawing/database/BlockReference.h"
+
+namespace drawing {
+
+BlockReference::BlockReference(Core& core, const EntityProperties& properties, const std::wstring& blockName)
+    : ResidentEntity(core, properties), block_(core.names.Intern(blockName)) {
+    core.names.Things(block_).references.push_back(&Stub());
+}
+
+OxDbObjectId BlockReference::blockTableRecord() const {
+    return IdOrMissing(SharedCore(), SharedCore().names.Things(block_).block, block_);
+}
+
+} // namespace drawing

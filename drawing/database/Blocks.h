@@ -1,0 +1,82 @@
+// Blocks: records, their entities and their draw order.
+#pragma once
+
+#include "OxDb/OxDbBlockTable.h"
+#include "drawing/database/ObjectList.h"
+#include "drawing/database/Records.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace drawing {
+
+struct BlockData {
+    bool layout = false;
+    bool anonymous = false;
+    OxDb::UnitsValue units = OxDb::kUnitsUndefined;
+};
+
+class OXDB_API SortentsTable : public Resident<OxDbSortentsTable> {
+public:
+    SortentsTable(Core& core, std::vector<OxDbObjectId> order);
+    ~SortentsTable() override;
+    Oxsys::ErrorStatus getFullDrawOrder(OxDbObjectIdArray& ids, std::uint8_t honourMask) const override;
+
+private:
+    std::vector<OxDbObjectId> order_;
+};
+
+class OXDB_API BlockRecord : public NamedRecord<OxDbBlockTableRecord, Operation::kBlockGetName> {
+public:
+    explicit BlockRecord(Core& core);
+    ~BlockRecord() override;
+
+    void Set(const std::wstring& name, const BlockData& data);
+
+    /// Adds an entity of the model's class T, or of one derived from it, at the end of the block:
+    /// `block.Add<Line>(properties, start, end)`. It belongs to the block.
+    template <class T, class... Args>
+    T& Add(const EntityProperties& properties, Args&&... args) {
+        return entities_.Adopt(std::make_unique<T>(SharedCore(), properties, std::forward<Args>(args)...));
+    }
+    /// Gives the block a draw-order table, which may be empty or leave entities out.
+    void SetDrawOrder(std::vector<OxDbObjectId> order);
+    std::size_t EntityCount() const { return entities_.Stubs().size(); }
+    /// The id of an entity by its place in the order of creation, from 0.
+    OxDbObjectId EntityId(std::size_t index) const { return OxDbObjectId(entities_.Stubs().at(index)); }
+
+    bool isLayout() const override { return data_.layout; }
+    bool isAnonymous() const override { return data_.anonymous; }
+    OxDb::UnitsValue blockInsertUnits() const override { return data_.units; }
+    Oxsys::ErrorStatus getSortentsTable(OxDbSortentsTable*& table, OxDb::OpenMode mode,
+                                        bool createIfNecessary) override;
+    Oxsys::ErrorStatus newIterator(OxDbBlockTableRecordIterator*& iterator, bool atBeginning,
+                                   bool skipErased) const override;
+    Oxsys::ErrorStatus newBlockReferenceIdIterator(OxDbBlockReferenceIdIterator*& iterator) const override;
+
+private:
+    BlockData data_;
+    NameIndex nameIndex_;
+    ObjectList entities_;
+    std::unique_ptr<SortentsTable> sortentsTable_;
+};
+
+/// The block table, in order of addition.
+class OXDB_API BlockTable : public Resident<OxDbBlockTable> {
+public:
+    explicit BlockTable(Core& core);
+    ~BlockTable() override;
+
+    BlockRecord& Adopt(std::unique_ptr<BlockRecord> record) { return records_.Adopt(std::move(record)); }
+
+    Oxsys::ErrorStatus getAt(const wchar_t* name, OxDbBlockTableRecord*& record, OxDb::OpenMode mode,
+                             bool openErased) const override;
+    Oxsys::ErrorStatus newIterator(OxDbBlockTableIterator*& iterator, bool atBeginning,
+                                   bool skipErased) const override;
+
+private:
+    ObjectList records_;
+};
+
+} // namespace drawing

@@ -1,0 +1,120 @@
+// Records of the layer, linetype and text style tables.
+#pragma once
+
+#include "OxDb/OxDbLayerTable.h"
+#include "OxDb/OxDbLinetypeTableRecord.h"
+#include "OxDb/OxDbTextStyleTable.h"
+#include "drawing/database/Resident.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace drawing {
+
+/// A record with its name.
+template <class Interface, Operation getNameOperation>
+class NamedRecord : public Resident<Interface> {
+public:
+    Oxsys::ErrorStatus getName(const wchar_t*& name) const override {
+        Oxsys::ErrorStatus status = Oxsys::eOk;
+        name = nullptr;
+        if (!this->Fails(getNameOperation, status)) {
+            name = name_.c_str();
+        }
+        return status;
+    }
+
+protected:
+    NamedRecord(Core& core, std::wstring name) : Resident<Interface>(core), name_(std::move(name)) {}
+    void SetName(std::wstring name) { name_ = std::move(name); }
+
+private:
+    std::wstring name_;
+};
+
+class OXDB_API LayerRecord : public NamedRecord<OxDbLayerTableRecord, Operation::kLayerGetName> {
+public:
+    LayerRecord(Core& core, std::wstring name, const OxCmColor& color, OxDb::LineWeight lineWeight);
+    OxCmColor color() const override { return color_; }
+    OxDb::LineWeight lineWeight() const override { return lineWeight_; }
+
+private:
+    OxCmColor color_;
+    OxDb::LineWeight lineWeight_;
+};
+
+/// One dash of a linetype and what it carries.
+struct Dash {
+    double length = 0.0;     // drawing units: dash above 0, gap below, dot 0
+    std::wstring shapeStyle; // name of a text style; empty when the dash carries nothing
+    int shapeNumber = 0;     // 0: the dash carries the text
+    std::optional<std::wstring> text;
+    OxGeVector2d offset;
+    double scale = 1.0;
+    double rotation = 0.0; // radians
+};
+
+class OXDB_API LinetypeRecord : public NamedRecord<OxDbLinetypeTableRecord, Operation::kLinetypeGetName> {
+public:
+    /// Without `patternLength` it is the sum of the magnitudes of the dash lengths.
+    LinetypeRecord(Core& core, std::wstring name, std::vector<Dash> dashes,
+                   std::optional<double> patternLength);
+    ~LinetypeRecord() override;
+
+    double patternLength() const override { return patternLength_; }
+    int numDashes() const override { return static_cast<int>(dashes_.size()); }
+    double dashLengthAt(int index) const override;
+    OxDbObjectId shapeStyleAt(int index) const override;
+    int shapeNumberAt(int index) const override;
+    OxGeVector2d shapeOffsetAt(int index) const override;
+    double shapeScaleAt(int index) const override;
+    double shapeRotationAt(int index) const override;
+    Oxsys::ErrorStatus textAt(int index, const wchar_t*& text) const override;
+
+private:
+    const Dash& DashAt(int index) const;
+
+    std::vector<Dash> dashes_;
+    double patternLength_;
+};
+
+struct TextStyleData {
+    std::wstring fileName;
+    std::wstring bigFontFileName;
+    std::wstring typeface;
+    bool bold = false;
+    bool italic = false;
+    bool isShapeFile = false;
+    bool isVertical = false;
+    double obliquingAngle = 0.0; // radians
+    double textSize = 0.0;
+    double xScale = 1.0;
+    std::int32_t flagBits = 0;
+    std::int32_t characterSet = 0;
+    std::int32_t pitchAndFamily = 0;
+};
+
+class OXDB_API TextStyleRecord : public NamedRecord<OxDbTextStyleTableRecord, Operation::kTextStyleGetName> {
+public:
+    TextStyleRecord(Core& core, std::wstring name, TextStyleData data);
+    ~TextStyleRecord() override;
+
+    Oxsys::ErrorStatus fileName(wchar_t*& name) const override;
+    Oxsys::ErrorStatus bigFontFileName(wchar_t*& name) const override;
+    Oxsys::ErrorStatus font(wchar_t*& typeface, bool& bold, bool& italic, std::int32_t& characterSet,
+                            std::int32_t& pitchAndFamily) const override;
+    std::int32_t flagBits() const override { return data_.flagBits; }
+    bool isShapeFile() const override { return data_.isShapeFile; }
+    bool isVertical() const override { return data_.isVertical; }
+    double obliquingAngle() const override { return data_.obliquingAngle; }
+    double textSize() const override { return data_.textSize; }
+    double xScale() const override { return data_.xScale; }
+
+private:
+    Oxsys::ErrorStatus HandOut(Operation operation, const std::wstring& text, wchar_t*& out) const;
+
+    TextStyleData data_;
+};
+
+} // namespace drawing

@@ -1,0 +1,129 @@
+// What every object of the in-memory database does alike: ids, closing, and the common part of entities.
+#pragma once
+
+#include "OxDb/OxDbEntity.h"
+#include "drawing/database/Core.h"
+
+namespace drawing {
+
+/// An object of a database, as an implementation of the interface class `Interface`.
+template <class Interface>
+class Resident : public Interface {
+public:
+    const OxRxClass* isA() const override { return Interface::desc(); }
+    Oxsys::ErrorStatus close() override { return CloseObject(stub_); }
+    OxDbObjectId objectId() const override { return OxDbObjectId(&stub_); }
+    bool isResident() const override { return stub_.resident && !stub_.erased; }
+
+    OxDbStub& Stub() const { return stub_; }
+    Core& SharedCore() const { return *stub_.core; }
+
+protected:
+    template <class... Args>
+    explicit Resident(Core& core, const Args&... args) : Interface(args...), stub_(core, this) {}
+
+    /// Counts a call of `operation`; the status that it is planned to fail with, or eOk. `failed` says
+    /// whether it fails (with eOk too: then it hands out nothing).
+    bool Fails(Operation operation, Oxsys::ErrorStatus& status) const {
+        return stub_.core->failures.CallFails(operation, status);
+    }
+
+private:
+    // Counting is no change of the object.
+    mutable OxDbStub stub_;
+};
+
+/// How an entity is drawn, whatever its class.
+struct EntityProperties {
+    std::wstring layer = L"0";
+    OxCmColor color = ByLayerColor();
+    OxDb::LineWeight lineWeight = OxDb::kLnWtByLayer;
+    /// A name of the linetype table, or "ByLayer", "ByBlock" or "Continuous". A name that the table does not
+    /// have gives the entity an id that cannot be opened.
+    std::wstring linetype = L"ByLayer";
+
+    static OxCmColor ByLayerColor() {
+        OxCmColor color;
+        color.setByLayer();
+        return color;
+    }
+};
+
+/// An entity of a block.
+template <class Interface>
+class ResidentEntity : public Resident<Interface> {
+public:
+    wchar_t* layer() const override {
+        Oxsys::ErrorStatus status = Oxsys::eOk;
+        if (this->Fails(Operation::kEntityLayer, status)) {
+            return nullptr;
+        }
+        return AllocateText(this->SharedCore().names.Text(layer_));
+    }
+    OxCmColor color() const override { return color_; }
+    OxDb::LineWeight lineWeight() const override { return lineWeight_; }
+    OxDbObjectId linetypeId() const override {
+        Core& core = this->SharedCore();
+        return IdOrMissing(core, core.names.Things(linetype_).linetype, linetype_);
+    }
+
+    // Drawings are open for reading.
+    Oxsys::ErrorStatus setColor(const OxCmColor& /*color*/) override { return Oxsys::eNotApplicable; }
+    Oxsys::ErrorStatus setLineWeight(OxDb::LineWeight /*lineWeight*/) override {
+        return Oxsys::eNotApplicable;
+    }
+    Oxsys::ErrorStatus setLinetype(OxDbObjectId /*linetypeId*/) override { return Oxsys::eNotApplicable; }
+
+protected:
+    template <class... Args>
+    ResidentEntity(Core& core, const EntityProperties& properties, const Args&... args)
+        : Resident<Interface>(core, args...), layer_(core.names.Intern(properties.layer)),
+          linetype_(core.names.Intern(properties.linetype)), color_(properties.color),
+          lineWeight_(properties.lineWeight) {}
+
+private:
+    NameIndex layer_;
+    NameIndex linetype_;
+    OxCmColor color_;
+    OxDb::LineWeight lineWeight_;
+};
+
+/// A curve: the failing reads of the interface over ones that cannot fail.
+template <class Interface>
+class ResidentCurve : public ResidentEntity<Interface> {
+public:
+    Oxsys::ErrorStatus getStartParam(double& parameter) const override {
+        return Read(Operation::kGetStartParam, parameter, StartParameter());
+    }
+    Oxsys::ErrorStatus getEndParam(double& parameter) const override {
+        return Read(Operation::kGetEndParam, parameter, EndParameter());
+    }
+    Oxsys::ErrorStatus getPointAtParam(double parameter, OxGePoint3d& point) const override {
+        return Read(Operation::kGetPointAtParam, point, PointAt(parameter));
+    }
+    Oxsys::ErrorStatus getStartPoint(OxGePoint3d& point) const override {
+        return Read(Operation::kGetStartPoint, point, PointAt(StartParameter()));
+    }
+    Oxsys::ErrorStatus getEndPoint(OxGePoint3d& point) const override {
+        return Read(Operation::kGetEndPoint, point, PointAt(EndParameter()));
+    }
+
+protected:
+    using ResidentEntity<Interface>::ResidentEntity;
+
+    virtual double StartParameter() const = 0;
+    virtual double EndParameter() const = 0;
+    virtual OxGePoint3d PointAt(double parameter) const = 0;
+
+private:
+    template <class T>
+    Oxsys::ErrorStatus Read(Operation operation, T& out, const T& value) const {
+        Oxsys::ErrorStatus status = Oxsys::eOk;
+        if (!this->Fails(operation, status)) {
+            out = value;
+        }
+        return status;
+    }
+};
+
+} // namespace drawing

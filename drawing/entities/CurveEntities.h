@@ -1,0 +1,50 @@
+// Polylines and splines of a drawing.
+#pragma once
+
+#include "OxDb/OxDbPolyline.h"
+#include "OxDb/OxDbSpline.h"
+#include "drawing/database/Resident.h"
+#include "drawing/entities/SplineCurves.h"
+#include "drawing/geometry/BulgeVertex.h"
+
+#include <vector>
+
+namespace drawing {
+
+using geometry::BulgeVertex;
+
+class OXDB_API Polyline : public ResidentEntity<OxDbPolyline> {
+public:
+    Polyline(Core& core, const EntityProperties& properties, const std::vector<BulgeVertex>& vertices,
+             bool closed, bool plinegen);
+
+    Oxsys::ErrorStatus getLineSegAt(unsigned int index, OxGeLineSeg2d& segment) const override;
+    Oxsys::ErrorStatus getArcSegAt(unsigned int index, OxGeCircArc3d& segment) const override;
+};
+
+class OXDB_API Spline : public ResidentCurve<OxDbSpline> {
+public:
+    Spline(Core& core, const EntityProperties& properties, SplineData data);
+    ~Spline() override;
+
+    bool hasFitData() const override { return std::holds_alternative<FitData>(data_); }
+    Oxsys::ErrorStatus getFitData(OxGePoint3dArray& fitPoints, int& degree, double& fitTolerance,
+                                  bool& tangentsExist, OxGeVector3d& startTangent,
+                                  OxGeVector3d& endTangent) const override;
+    Oxsys::ErrorStatus getNurbsData(int& degree, bool& rational, bool& closed, bool& periodic,
+                                    OxGePoint3dArray& controlPoints, OxGeDoubleArray& knots,
+                                    OxGeDoubleArray& weights, double& controlPointTolerance,
+                                    double& knotTolerance) const override;
+    bool isClosed() const override;
+
+protected:
+    // A spline whose data makes no curve has parameters and points 0.
+    double StartParameter() const override;
+    double EndParameter() const override;
+    OxGePoint3d PointAt(double parameter) const override;
+
+private:
+    SplineData data_;
+};
+
+} // namespace drawing

@@ -1,0 +1,122 @@
+// Points, lines, arcs, circles, ellipses, and entities that nothing is known of.
+#pragma once
+
+#include "OxDb/OxDbCurves.h"
+#include "drawing/database/Resident.h"
+
+#include <string>
+
+namespace drawing {
+
+class OXDB_API Point : public ResidentEntity<OxDbPoint> {
+public:
+    Point(Core& core, const EntityProperties& properties, const OxGePoint3d& position);
+    OxGePoint3d position() const override { return position_; }
+
+private:
+    OxGePoint3d position_;
+};
+
+class OXDB_API Line : public ResidentCurve<OxDbLine> {
+public:
+    Line(Core& core, const EntityProperties& properties, const OxGePoint3d& start, const OxGePoint3d& end);
+    OxGePoint3d startPoint() const override { return start_; }
+    OxGePoint3d endPoint() const override { return end_; }
+    bool isClosed() const override { return false; }
+
+protected:
+    double StartParameter() const override { return 0.0; }
+    double EndParameter() const override;
+    OxGePoint3d PointAt(double parameter) const override;
+
+private:
+    OxGePoint3d start_;
+    OxGePoint3d end_;
+};
+
+struct ArcData {
+    OxGePoint3d center;
+    double radius = 1.0;
+    double startAngle = 0.0; // radians, as the curve's parameters give them
+    double endAngle = 0.0;
+    OxGeVector3d normal{0.0, 0.0, 1.0};
+};
+
+/// The point at parameter t is center + radius (cos t, sin t), with cos t negated when the normal's z is
+/// negative.
+class OXDB_API Arc : public ResidentCurve<OxDbArc> {
+public:
+    Arc(Core& core, const EntityProperties& properties, const ArcData& data);
+    OxGePoint3d center() const override { return data_.center; }
+    double radius() const override { return data_.radius; }
+    OxGeVector3d normal() const override { return data_.normal; }
+    bool isClosed() const override { return false; }
+
+protected:
+    double StartParameter() const override { return data_.startAngle; }
+    double EndParameter() const override { return data_.endAngle; }
+    OxGePoint3d PointAt(double parameter) const override;
+
+private:
+    ArcData data_;
+};
+
+class OXDB_API Circle : public ResidentCurve<OxDbCircle> {
+public:
+    Circle(Core& core, const EntityProperties& properties, const OxGePoint3d& center, double radius);
+    OxGePoint3d center() const override { return center_; }
+    double radius() const override { return radius_; }
+    bool isClosed() const override { return true; }
+
+protected:
+    double StartParameter() const override { return 0.0; }
+    double EndParameter() const override;
+    OxGePoint3d PointAt(double parameter) const override;
+
+private:
+    OxGePoint3d center_;
+    double radius_;
+};
+
+struct EllipseData {
+    OxGePoint3d center;
+    OxGeVector3d majorAxis{1.0, 0.0, 0.0};
+    double radiusRatio = 1.0;
+    double startAngle = 0.0;
+    double endAngle = 0.0;
+};
+
+/// The minor axis is normal (0, 0, 1) × majorAxis × radiusRatio. Closed when the angles are 2π apart, within
+/// 1e-9.
+class OXDB_API Ellipse : public ResidentCurve<OxDbEllipse> {
+public:
+    Ellipse(Core& core, const EntityProperties& properties, const EllipseData& data);
+    OxGePoint3d center() const override { return data_.center; }
+    OxGeVector3d majorAxis() const override { return data_.majorAxis; }
+    OxGeVector3d minorAxis() const override;
+    double startAngle() const override { return data_.startAngle; }
+    double endAngle() const override { return data_.endAngle; }
+    bool isClosed() const override;
+
+protected:
+    double StartParameter() const override { return data_.startAngle; }
+    double EndParameter() const override { return data_.endAngle; }
+    OxGePoint3d PointAt(double parameter) const override;
+
+private:
+    EllipseData data_;
+};
+
+/// An entity of a class that this library does not know; the class derives from OxDbEntity.
+class OXDB_API OtherEntity : public ResidentEntity<OxDbEntity> {
+public:
+    OtherEntity(Core& core, const EntityProperties& properties, std::wstring className);
+    ~OtherEntity() override;
+    const OxRxClass* isA() const override { return &class_; }
+
+private:
+    std::wstring className_;
+    OxRxClass class_;
+};
+
+} // namespace drawing

@@ -1,0 +1,443 @@
+// Entities of a DXF file.
+#include "exchange/DxfEntities.h"
+
+#include "StyleConversion/platform/Utf8.h"
+#include "drawing/database/BlockReference.h"
+#include "drawing/entities/CurveEntities.h"
+#include "drawing/entities/SimpleEntities.h"
+#include "drawing/entities/Texts.h"
+#include "exchange/DxfAngles.h"
+#include "exchange/DxfHatch.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace exchange {
+namespace {
+
+constexpr double kTurn = 2.0 * std::numbers::pi;
+
+// Bits of group code 70.
+constexpr std::int32_t kClosed = 1;
+constexpr std::int32_t kPeriodic = 2;
+constexpr std::int32_t kNotPlane = 8 | 16 | 64; // polylines in space, meshes
+constexpr std::int32_t kFrameVertex = 16;
+constexpr std::int32_t kRunsOn = 128; // dashes run on over the vertices
+
+constexpr std::int32_t kColorByBlock = 0;
+constexpr std::int32_t kColorByLayer = 256;
+constexpr std::int32_t kLastColorIndex = 255;
+constexpr std::int32_t kWhite = 7; // colour of a layer that has none
+
+const std::wstring kDefaultLayer = L"0";
+
+OxGePoint3d Point(const DxfRecord& record, int code, bool isMirrored = false) {
+    const double x = record.Number(code, 0.0);
+    return {isMirrored ? -x : x, record.Number(code + 10, 0.0), record.Number(code + 20, 0.0)};
+}
+
+OxGePoint2d InPlane(const OxGePoint3d& point) {
+    return {point.x, point.y};
+}
+
+// The direction of a text, in the mirror too.
+double Rotation(const DxfRecord& record, bool isMirrored) {
+    const double rotation = Radians(record.Number(50, 0.0));
+    return isMirrored ? std::numbers::pi - rotation : rotation;
+}
+
+OxCmColor IndexColor(std::int32_t index) {
+    OxCmColor color;
+    color.setColorIndex(static_cast<std::uint8_t>(index));
+    return color;
+}
+
+OxCmColor TrueColor(std::int32_t bits) {
+    const auto channel = [bits](int shift) {
+        return static_cast<std::uint8_t>(static_cast<std::uint32_t>(bits) >> shift & 0xffU);
+    };
+    OxCmColor color;
+    color.setRGB(channel(16), channel(8), channel(0));
+    return color;
+}
+
+// Points of one group code in order; at most `most`, since other entities' points may follow.
+std::vector<OxGePoint3d> Points(const DxfRecord& record, int code, std::size_t most) {
+    std::vector<OxGePoint3d> points;
+    for (const DxfPair& pair : record.pairs) {
+        if (pair.code == code) {
+            if (points.size() == most) {
+                break;
+            }
+            points.push_back({pair.Number().value_or(0.0), 0.0, 0.0});
+        } else if (pair.code == code + 10 && !points.empty()) {
+            points.back().y = pair.Number().value_or(0.0);
+        } else if (pair.code == code + 20 && !points.empty()) {
+            points.back().z = pair.Number().value_or(0.0);
+        }
+    }
+    return points;
+}
+
+std::vector<double> Numbers(const DxfRecord& record, int code, std::size_t most) {
+    std::vector<double> numbers;
+    for (const DxfPair& pair : record.pairs) {
+        if (pair.code == code && numbers.size() < most) {
+            numbers.push_back(pair.Number().value_or(0.0));
+        }
+    }
+    return numbers;
+}
+
+std::size_t Count(const DxfRecord& record, int code) {
+    const DxfPair* const pair = record.Find(code);
+    const std::optional<std::int32_t> count = pair != nullptr ? pair->Integer() : std::nullopt;
+    return count && *count >= 0 ? static_cast<std::size_t>(*count) : record.pairs.size();
+}
+
+} // namespace
+
+OxCmColor ByLayerColor() {
+    OxCmColor color;
+    color.setByLayer();
+    return color;
+}
+
+OxCmColor ReadColor(const DxfRecord& record, const OxCmColor& fallback) {
+    if (const DxfPair* const trueColor = record.Find(420)) {
+        if (const std::optional<std::int32_t> bits = trueColor->Integer()) {
+            return TrueColor(*bits);
+        }
+    }
+    const std::int32_t index = std::abs(record.Integer(62, kColorByLayer + 1)); // below 0: the layer is off
+    if (index == kColorByBlock) {
+        OxCmColor color;
+        color.setByBlock();
+        return color;
+    }
+    if (index == kColorByLayer) {
+        return ByLayerColor();
+    }
+    return index <= kLastColorIndex ? IndexColor(index) : fallback;
+}
+
+void DxfEntityReader::Begin(DxfBlock* block) {
+    End();
+    block_ = block;
+}
+
+void DxfEntityReader::End() {
+    FinishPolyline();
+    block_ = nullptr;
+}
+
+void DxfEntityReader::Note(const DxfRecord& record, std::string_view what, std::string_view consequence) {
+    notes_.Add(record.place, std::string(record.type) + ": " + std::string(what), consequence,
+               block_ != nullptr ? block_->name : std::string());
+}
+
+void DxfEntityReader::LeaveOut(const DxfRecord& record, std::string_view why) {
+    Note(record, why, "the entity is left out");
+}
+
+bool DxfEntityReader::IsMirrored(const DxfRecord& record) {
+    const double x = record.Number(210, 0.0);
+    const double y = record.Number(220, 0.0);
+    const double z = record.Find(230) != nullptr ? record.Number(230, 1.0) : 1.0;
+    constexpr double kUpright = 1e-6;
+    if (x == 0.0 && y == 0.0 && z == 0.0) {
+        Note(record, "the extrusion direction is zero", "read as upright");
+    } else if (std::fabs(x) > kUpright || std::fabs(y) > kUpright) {
+        Note(record, "the entity lies in a tilted plane",
+             "its own coordinates are taken as those of the drawing");
+    }
+    return z < 0.0;
+}
+
+const std::wstring& DxfEntityReader::Name(std::string_view word, std::wstring fallback) {
+    const auto [name, isNew] = names_.try_emplace(word);
+    if (isNew) {
+        name->second = word.empty() ? std::move(fallback) : texts_.Decode(word);
+    }
+    return name->second;
+}
+
+const drawing::EntityProperties& DxfEntityReader::Properties(const DxfRecord& record) {
+    std::string_view layer;
+    std::string_view linetype;
+    const DxfPair* weight = nullptr;
+    for (const DxfPair& pair : record.pairs) {
+        if (pair.code == 8) {
+            layer = pair.Word();
+        } else if (pair.code == 6) {
+            linetype = pair.Word();
+        } else if (pair.code == 370) {
+            weight = &pair;
+        }
+    }
+    const std::wstring& layerName = layer.empty() ? kDefaultLayer : Name(layer, {});
+    if (properties_.layer != layerName || !hasLayer_) {
+        properties_.layer = layerName;
+        hasLayer_ = true;
+        RequireLayer(record);
+    }
+    properties_.linetype = linetype.empty() ? L"ByLayer" : Name(linetype, {});
+    properties_.color = ReadColor(record, ByLayerColor());
+    properties_.lineWeight = static_cast<OxDb::LineWeight>(
+        weight != nullptr ? weight->Integer().value_or(OxDb::kLnWtByLayer) : OxDb::kLnWtByLayer);
+    return properties_;
+}
+
+// The layer of the entity is made where no table has it.
+void DxfEntityReader::RequireLayer(const DxfRecord& record) {
+    if (database_.AddLayer(properties_.layer, IndexColor(kWhite)) != nullptr &&
+        properties_.layer != kDefaultLayer) {
+        notes_.Add(record.place,
+                   "the table of layers has no layer \"" + platform::WideToValidUtf8(properties_.layer) +
+                       "\"",
+                   "it is made", {});
+    }
+}
+
+template <class T, class... Args>
+void DxfEntityReader::Add(const DxfRecord& record, Args&&... args) {
+    block_->record->Add<T>(Properties(record), std::forward<Args>(args)...);
+    const DxfPair* const handle = record.Find(5);
+    block_->handles.push_back(handle != nullptr ? handle->Handle() : 0);
+}
+
+void DxfEntityReader::Take(const DxfRecord& record) {
+    if (block_ == nullptr) {
+        return;
+    }
+    if (record.type == "VERTEX" && polyline_) {
+        TakeVertex(record);
+        return;
+    }
+    FinishPolyline();
+    // Attributes belong to the insert before them, and their end to neither.
+    if (record.type == "SEQEND" || record.type == "ATTRIB" || record.type == "VERTEX") {
+        return;
+    }
+    if (!TakeCurve(record) && !TakeText(record)) {
+        AddOther(record);
+    }
+}
+
+bool DxfEntityReader::TakeCurve(const DxfRecord& record) {
+    const std::string_view type = record.type;
+    if (type == "LINE") {
+        Add<drawing::Line>(record, Point(record, 10), Point(record, 11));
+    } else if (type == "POINT") {
+        Add<drawing::Point>(record, Point(record, 10));
+    } else if (type == "CIRCLE") {
+        Add<drawing::Circle>(record, Point(record, 10, IsMirrored(record)), record.Number(40, 0.0));
+    } else if (type == "ARC") {
+        AddArc(record);
+    } else if (type == "ELLIPSE") {
+        AddEllipse(record);
+    } else if (type == "LWPOLYLINE") {
+        AddLightPolyline(record);
+    } else if (type == "POLYLINE" && (record.Integer(70, 0) & kNotPlane) == 0) {
+        polyline_ = OpenPolyline{record, {}, IsMirrored(record)};
+    } else if (type == "SPLINE" || type == "HELIX") {
+        AddSpline(record);
+    } else if (type == "HATCH") {
+        AddHatch(record);
+    } else if (type == "MPOLYGON") {
+        AddMPolygon(record);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool DxfEntityReader::TakeText(const DxfRecord& record) {
+    const std::string_view type = record.type;
+    if (type == "TEXT" || type == "ATTDEF") {
+        AddText(record, type == "ATTDEF");
+    } else if (type == "MTEXT") {
+        AddParagraphText(record);
+    } else if (type == "INSERT") {
+        const std::string_view name = record.Word(2);
+        if (name.empty()) {
+            LeaveOut(record, "it names no block");
+        } else {
+            Add<drawing::BlockReference>(record, Name(name, {}));
+        }
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void DxfEntityReader::AddArc(const DxfRecord& record) {
+    drawing::ArcData arc;
+    const bool isMirrored = IsMirrored(record);
+    arc.center = Point(record, 10, isMirrored);
+    arc.radius = record.Number(40, 0.0);
+    arc.startAngle = Radians(record.Number(50, 0.0));
+    arc.endAngle = FullTurn(arc.startAngle, Radians(record.Number(51, 0.0)));
+    if (arc.endAngle < arc.startAngle) {
+        arc.endAngle += kTurn;
+    }
+    arc.normal = {0.0, 0.0, isMirrored ? -1.0 : 1.0};
+    Add<drawing::Arc>(record, arc);
+}
+
+void DxfEntityReader::AddEllipse(const DxfRecord& record) {
+    drawing::EllipseData ellipse;
+    ellipse.center = Point(record, 10);
+    const OxGePoint3d axis = Point(record, 11);
+    ellipse.majorAxis = {axis.x, axis.y, axis.z};
+    ellipse.radiusRatio = record.Number(40, 1.0);
+    double start = record.Number(41, 0.0);
+    double end = record.Number(42, kTurn);
+    if (end < start) {
+        end += kTurn * std::ceil((start - end) / kTurn);
+    }
+    end = FullTurn(start, end);
+    const bool isMirrored = IsMirrored(record); // the minor axis points the other way
+    ellipse.startAngle = isMirrored ? -end : start;
+    ellipse.endAngle = isMirrored ? -start : end;
+    Add<drawing::Ellipse>(record, ellipse);
+}
+
+void DxfEntityReader::AddLightPolyline(const DxfRecord& record) {
+    const bool isMirrored = IsMirrored(record);
+    std::vector<geometry::BulgeVertex> vertices;
+    for (const DxfPair& pair : record.pairs) {
+        if (pair.code == 10) {
+            const double x = pair.Number().value_or(0.0);
+            vertices.push_back({{isMirrored ? -x : x, 0.0}, 0.0});
+        } else if (pair.code == 20 && !vertices.empty()) {
+            vertices.back().point.y = pair.Number().value_or(0.0);
+        } else if (pair.code == 42 && !vertices.empty()) {
+            const double bulge = pair.Number().value_or(0.0);
+            vertices.back().bulge = isMirrored ? -bulge : bulge;
+        }
+    }
+    const std::int32_t flags = record.Integer(70, 0);
+    Add<drawing::Polyline>(record, vertices, (flags & kClosed) != 0, (flags & kRunsOn) != 0);
+}
+
+void DxfEntityReader::TakeVertex(const DxfRecord& record) {
+    if ((record.Integer(70, 0) & kFrameVertex) != 0) {
+        return;
+    }
+    const double bulge = record.Number(42, 0.0);
+    polyline_->vertices.push_back(
+        {InPlane(Point(record, 10, polyline_->isMirrored)), polyline_->isMirrored ? -bulge : bulge});
+}
+
+void DxfEntityReader::FinishPolyline() {
+    if (polyline_) {
+        const OpenPolyline polyline = std::move(*polyline_);
+        polyline_.reset();
+        const std::int32_t flags = polyline.record.Integer(70, 0);
+        Add<drawing::Polyline>(polyline.record, polyline.vertices, (flags & kClosed) != 0,
+                               (flags & kRunsOn) != 0);
+    }
+}
+
+void DxfEntityReader::AddSpline(const DxfRecord& record) {
+    drawing::NurbsData nurbs;
+    nurbs.controlPoints = Points(record, 10, Count(record, 73));
+    if (!nurbs.controlPoints.empty()) {
+        const std::int32_t flags = record.Integer(70, 0);
+        nurbs.degree = record.Integer(71, 3);
+        nurbs.closed = (flags & kClosed) != 0;
+        nurbs.periodic = (flags & kPeriodic) != 0;
+        nurbs.knots = Numbers(record, 40, Count(record, 72));
+        nurbs.weights = Numbers(record, 41, nurbs.controlPoints.size());
+        if (nurbs.weights.size() != nurbs.controlPoints.size()) {
+            nurbs.weights.clear();
+        }
+        Add<drawing::Spline>(record, drawing::SplineData(std::move(nurbs)));
+        return;
+    }
+    drawing::FitData fit;
+    fit.points = Points(record, 11, Count(record, 74));
+    if (fit.points.empty()) {
+        LeaveOut(record, "it has no points");
+        return;
+    }
+    fit.degree = record.Integer(71, 3);
+    fit.tolerance = record.Number(44, 0.0);
+    fit.tangentsExist = record.Find(12) != nullptr && record.Find(13) != nullptr;
+    const OxGePoint3d start = Point(record, 12);
+    const OxGePoint3d end = Point(record, 13);
+    fit.startTangent = {start.x, start.y, start.z};
+    fit.endTangent = {end.x, end.y, end.z};
+    Add<drawing::Spline>(record, drawing::SplineData(std::move(fit)));
+}
+
+void DxfEntityReader::AddHatch(const DxfRecord& record) {
+    std::optional<drawing::HatchData> data = ReadHatch(record, IsMirrored(record));
+    if (!data) {
+        LeaveOut(record, "its boundary cannot be read");
+        return;
+    }
+    Add<drawing::Hatch>(record, std::move(*data));
+}
+
+void DxfEntityReader::AddMPolygon(const DxfRecord& record) {
+    std::optional<std::vector<drawing::PolylineLoop>> loops = ReadMPolygonLoops(record, IsMirrored(record));
+    if (!loops) {
+        LeaveOut(record, "its boundary cannot be read");
+        return;
+    }
+    const std::int32_t index = record.Integer(63, kColorByLayer);
+    const OxCmColor fill = index > 0 && index <= kLastColorIndex ? IndexColor(index) : ByLayerColor();
+    Add<drawing::MPolygon>(record, std::move(*loops), fill);
+}
+
+void DxfEntityReader::AddText(const DxfRecord& record, bool isDefinition) {
+    const bool isMirrored = IsMirrored(record);
+    const DxfPair* const characters = record.Find(1);
+    drawing::TextData data;
+    data.position = Point(record, 10, isMirrored);
+    data.height = record.Number(40, 0.0);
+    data.rotation = Rotation(record, isMirrored);
+    data.text = characters != nullptr ? texts_.Decode(characters->value) : std::wstring();
+    data.style = Name(record.Word(7, "STANDARD"), L"STANDARD");
+    data.horizontalMode = static_cast<OxDb::TextHorzMode>(record.Integer(72, 0));
+    data.verticalMode = static_cast<OxDb::TextVertMode>(record.Integer(isDefinition ? 74 : 73, 0));
+    if (!isDefinition) {
+        Add<drawing::Text>(record, std::move(data));
+        return;
+    }
+    const DxfPair* const prompt = record.Find(3);
+    Add<drawing::AttributeDefinition>(record, std::move(data), texts_.Decode(record.Word(2)),
+                                      prompt != nullptr ? texts_.Decode(prompt->value) : std::wstring());
+}
+
+void DxfEntityReader::AddParagraphText(const DxfRecord& record) {
+    std::string contents;
+    double rotation = 0.0;
+    for (const DxfPair& pair : record.pairs) {
+        if (pair.code == 3 || pair.code == 1) { // long texts come in pieces, the last one as 1
+            contents += pair.value;
+        } else if (pair.code == 50) { // of an angle and a direction the last one counts
+            rotation = Radians(pair.Number().value_or(0.0));
+        } else if (pair.code == 11) {
+            rotation = std::atan2(record.Number(21, 0.0), pair.Number().value_or(1.0));
+        }
+    }
+    drawing::ParagraphTextData data;
+    data.location = Point(record, 10);
+    data.textHeight = record.Number(40, 0.0);
+    data.rotation = rotation;
+    data.contents = texts_.Decode(contents);
+    data.style = Name(record.Word(7, "STANDARD"), L"STANDARD");
+    data.actualWidth = record.Number(42, 0.0);
+    data.actualHeight = record.Number(43, 0.0);
+    Add<drawing::ParagraphText>(record, std::move(data));
+}
+
+void DxfEntityReader::AddOther(const DxfRecord& record) {
+    ++others_[std::string(record.type)];
+    Add<drawing::OtherEntity>(record, texts_.Decode(record.type));
+}
+
+} // namespace exchange

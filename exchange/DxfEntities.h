@@ -1,0 +1,90 @@
+// Entities of a DXF file, on their way into a block of the drawing.
+#pragma once
+
+#include "drawing/database/Database.h"
+#include "drawing/geometry/BulgeVertex.h"
+#include "exchange/DxfNotes.h"
+#include "exchange/DxfRecords.h"
+#include "exchange/DxfText.h"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace exchange {
+
+/// A block that entities are put into.
+struct DxfBlock {
+    drawing::BlockRecord* record = nullptr;
+    std::string name; ///< as UTF-8, for messages
+    /// The handles of its entities, for the draw order; 0 where one has none.
+    std::vector<std::uint64_t> handles;
+};
+
+/// Makes entities of the drawing from the records of a file, in the order of the file.
+class DxfEntityReader {
+public:
+    DxfEntityReader(drawing::Database& database, const DxfTextDecoder& texts, DxfNotes& notes)
+        : database_(database), texts_(texts), notes_(notes) {}
+
+    /// Entities from here on belong to `block`, which must stay where it is; null: they are left out.
+    void Begin(DxfBlock* block);
+    /// No more entities of that block.
+    void End();
+    /// Takes a record that is no mark of the file's structure.
+    void Take(const DxfRecord& record);
+
+    /// How many entities of each class became an entity of which only the class is known.
+    const std::map<std::string, std::size_t>& Others() const { return others_; }
+
+private:
+    template <class T, class... Args>
+    void Add(const DxfRecord& record, Args&&... args);
+    void LeaveOut(const DxfRecord& record, std::string_view why);
+    void Note(const DxfRecord& record, std::string_view what, std::string_view consequence);
+    bool IsMirrored(const DxfRecord& record);
+    const drawing::EntityProperties& Properties(const DxfRecord& record);
+    void RequireLayer(const DxfRecord& record);
+    const std::wstring& Name(std::string_view word, std::wstring fallback);
+
+    bool TakeCurve(const DxfRecord& record);
+    bool TakeText(const DxfRecord& record);
+    void AddArc(const DxfRecord& record);
+    void AddEllipse(const DxfRecord& record);
+    void AddLightPolyline(const DxfRecord& record);
+    void AddSpline(const DxfRecord& record);
+    void AddHatch(const DxfRecord& record);
+    void AddMPolygon(const DxfRecord& record);
+    void AddText(const DxfRecord& record, bool isDefinition);
+    void AddParagraphText(const DxfRecord& record);
+    void AddOther(const DxfRecord& record);
+    void TakeVertex(const DxfRecord& record);
+    void FinishPolyline();
+
+    /// A polyline whose vertices are records of their own.
+    struct OpenPolyline {
+        DxfRecord record;
+        std::vector<geometry::BulgeVertex> vertices;
+        bool isMirrored = false;
+    };
+
+    drawing::Database& database_;
+    const DxfTextDecoder& texts_;
+    DxfNotes& notes_;
+    DxfBlock* block_ = nullptr;
+    std::optional<OpenPolyline> polyline_;
+    drawing::EntityProperties properties_;                     // of the entity that is read
+    bool hasLayer_ = false;                                    // its layer is in the table
+    std::unordered_map<std::string_view, std::wstring> names_; // by their bytes in the file
+    std::map<std::string, std::size_t> others_;
+};
+
+/// The colour of group codes 62 and 420; `fallback` where there is none.
+OxCmColor ReadColor(const DxfRecord& record, const OxCmColor& fallback);
+/// The colour "by layer".
+OxCmColor ByLayerColor();
+
+} // namespace exchange

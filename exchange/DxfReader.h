@@ -1,0 +1,26 @@
+// Reads DXF files into drawings in memory.
+#pragma once
+
+#include "drawing/database/Database.h"
+#include "exchange/DxfNotes.h"
+#include "exchange/DxfRecords.h"
+
+#include <memory>
+#include <string_view>
+
+namespace exchange {
+
+/// Whether bytes are more likely a DXF file than anything else: they begin with a section, or as its binary
+/// form.
+bool LooksLikeDxf(std::string_view bytes);
+
+/// Reads a whole DXF file, ASCII or binary, of any version. What can be read as it is meant, or left out by
+/// itself, is; `notes` says of each such thing. Null when the file is refused, with `fault` set: it is none,
+/// or breaks off within a pair.
+///
+/// Entities of the sections ENTITIES and BLOCKS become entities of the blocks, those of the model space and
+/// the layouts in layout blocks; see docs for what becomes of which entity. Names are those of the file,
+/// texts are decoded.
+std::unique_ptr<drawing::Database> ReadDxf(std::string_view bytes, DxfFault& fault, DxfNotes& notes);
+
+} // namespace exchange

@@ -1,0 +1,96 @@
+// The records of a DXF file.
+#include "exchange/DxfRecords.h"
+
+namespace exchange {
+namespace {
+
+constexpr int kStart = 0;
+constexpr int kClassMark = 100;
+constexpr int kEmbeddedObject = 101;
+constexpr int kGroup = 102; // "{NAME" begins a group of another program, "}" ends it
+constexpr int kComment = 999;
+constexpr std::size_t kShownBytes = 40;
+
+std::string Shown(std::string_view bytes) {
+    std::string shown;
+    for (const char c : bytes.substr(0, kShownBytes)) {
+        shown += c >= ' ' && c <= '~' ? c : '?';
+    }
+    return '"' + shown + (bytes.size() > kShownBytes ? "..." : "") + '"';
+}
+
+} // namespace
+
+const DxfPair* DxfRecord::Find(int code) const {
+    for (const DxfPair& pair : pairs) {
+        if (pair.code == code) {
+            return &pair;
+        }
+    }
+    return nullptr;
+}
+
+double DxfRecord::Number(int code, double fallback) const {
+    const DxfPair* const pair = Find(code);
+    return pair != nullptr ? pair->Number().value_or(fallback) : fallback;
+}
+
+std::int32_t DxfRecord::Integer(int code, std::int32_t fallback) const {
+    const DxfPair* const pair = Find(code);
+    return pair != nullptr ? pair->Integer().value_or(fallback) : fallback;
+}
+
+std::string_view DxfRecord::Word(int code, std::string_view fallback) const {
+    const DxfPair* const pair = Find(code);
+    return pair != nullptr ? pair->Word() : fallback;
+}
+
+DxfRecordCursor::DxfRecordCursor(std::string_view bytes) : cursor_(bytes) {
+    do { // comments may stand before the first record
+        hasStart_ = Take(start_);
+    } while (hasStart_ && start_.code == kComment);
+    if (hasStart_ && start_.code != kStart) {
+        hasStart_ = false;
+        isBroken_ = true;
+        fault_ = {start_.place,
+                  cursor_.IsBinary(),
+                  "expected the start of a section, found the group code " + std::to_string(start_.code),
+                  {}};
+    }
+}
+
+bool DxfRecordCursor::Take(DxfPair& pair) {
+    const DxfPairCursor::Outcome outcome = cursor_.Next(pair);
+    if (outcome == DxfPairCursor::Outcome::kNoCode) {
+        fault_ = {pair.place, cursor_.IsBinary(), "expected a group code, found " + Shown(pair.value), {}};
+    } else if (outcome == DxfPairCursor::Outcome::kCut) {
+        fault_ = {pair.place, cursor_.IsBinary(), "the file ends within a pair of group code and value", {}};
+    }
+    isBroken_ = isBroken_ || !fault_.what.empty();
+    return outcome == DxfPairCursor::Outcome::kPair;
+}
+
+bool DxfRecordCursor::Next(DxfRecord& record) {
+    if (!hasStart_) {
+        return false;
+    }
+    record.type = start_.Word();
+    record.place = start_.place;
+    record.pairs.clear();
+    bool isInGroup = false;
+    bool isEmbedded = false;
+    DxfPair pair;
+    while ((hasStart_ = Take(pair)) && pair.code != kStart) {
+        if (pair.code == kGroup) {
+            isInGroup = pair.Word().substr(0, 1) == "{";
+        } else if (pair.code == kEmbeddedObject) {
+            isEmbedded = true;
+        } else if (pair.code != kClassMark && pair.code != kComment && !isInGroup && !isEmbedded) {
+            record.pairs.push_back(pair);
+        }
+    }
+    start_ = pair;
+    return true;
+}
+
+} // namespace exchange

@@ -1,0 +1,154 @@
+#include "styleconv/commands/Job.h"
+
+#include "diagnostics/ShownText.h"
+#include "styleconv/files/OutputFile.h"
+#include "styleconv/files/ShapeSearch.h"
+#include "styleconv/process/Messages.h"
+#include "styleconv/process/Progress.h"
+#include "styleconv/process/WorkLimits.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace styleconv {
+namespace {
+
+using diagnostics::Code;
+using diagnostics::Diagnostic;
+using diagnostics::Severity;
+
+// Shows progress and notes, for limits, what the job is at.
+class ToolFront : public conversions::Front {
+public:
+    explicit ToolFront(bool toStandardOutput) : toStandardOutput_(toStandardOutput) {}
+
+    void BeginStage(std::string_view stage, std::size_t items) override {
+        if (stage == "Writing") {
+            BeginWriting(toStandardOutput_, items);
+        } else {
+            styleconv::BeginStage(stage, items);
+        }
+    }
+    void AtItem(std::string_view item) override { NowAtItem(item); }
+
+private:
+    bool toStandardOutput_;
+};
+
+class LinetypeFront final : public ToolFront {
+public:
+    LinetypeFront(const SearchOptions& search, bool toStandardOutput)
+        : ToolFront(toStandardOutput), search_(search) {}
+
+    conversions::FoundFile FindShapeFile(const std::wstring& name) override { return search_.Find(name); }
+    std::string PlacesSearched(const std::wstring& name) override { return search_.Places(name); }
+
+private:
+    LinetypeShapeSearch search_;
+};
+
+class DrawingFront final : public ToolFront {
+public:
+    DrawingFront(const SearchOptions& search, bool toStandardOutput)
+        : ToolFront(toStandardOutput), search_(search) {}
+
+    conversions::FoundFile FindShapeFile(const std::wstring& name) override { return search_.Find(name); }
+    std::string PlacesSearched(const std::wstring& /*name*/) override { return search_.Places(); }
+
+private:
+    DrawingShapeSearch search_;
+};
+
+// Whether it is of a part of the file, so that the rest may be worth having.
+bool IsLocal(const Diagnostic& diagnostic) {
+    switch (diagnostic.code) {
+    case Code::kWrongFileKind:
+    case Code::kOutOfMemory:
+    case Code::kNoLinetypes:
+    case Code::kNoPatterns:
+    case Code::kNoShapes:
+    case Code::kNoBlocks:
+    case Code::kNotAShapeFile:
+    case Code::kTruncatedShapeFile:
+    case Code::kUnknownShapeFileKind:
+    case Code::kBigfont:
+    case Code::kUnknownVersion:
+    case Code::kUnendedVersion:
+    case Code::kShapeWithoutProgram:
+    case Code::kDuplicateShape:
+    case Code::kFontInfoSize:
+    case Code::kMissingName:
+    case Code::kMissingNumber:
+    case Code::kNothingConverted:
+    case Code::kEmptyPattern:
+    case Code::kPatternWithoutTile:
+    case Code::kTinyTile:
+        return false;
+    default:
+        return diagnostic.severity == Severity::kError;
+    }
+}
+
+} // namespace
+
+std::unique_ptr<conversions::Front> FrontForLinetypes(const SearchOptions& search, bool toStandardOutput) {
+    return std::make_unique<LinetypeFront>(search, toStandardOutput);
+}
+
+std::unique_ptr<conversions::Front> FrontForDrawing(const SearchOptions& search, bool toStandardOutput) {
+    return std::make_unique<DrawingFront>(search, toStandardOutput);
+}
+
+std::unique_ptr<conversions::Front> FrontWithoutFiles(bool toStandardOutput) {
+    return std::make_unique<ToolFront>(toStandardOutput);
+}
+
+ExitStatus SayProblem(const Diagnostic& problem) {
+    SayAll({problem});
+    return kInputFault;
+}
+
+ExitStatus SayFailure(const std::string& file, bool isTolerant, const diagnostics::Diagnostics& diagnostics) {
+    SayAll(diagnostics);
+    if (!isTolerant && std::any_of(diagnostics.begin(), diagnostics.end(), IsLocal)) {
+        const std::string check =
+            file == "-" ? "" : "; \"styleconv check " + diagnostics::ShownText(file) + "\" shows all errors";
+        SayLine("styleconv: nothing was converted; --tolerant converts the rest of the file" + check);
+    }
+    return kInputFault;
+}
+
+bool CheckEncoding(const std::string& encoding) {
+    if (!encoding.empty() && !conversions::IsKnownEncoding(encoding)) {
+        SayLine("styleconv: --code-page: unknown encoding " + diagnostics::ShownText(encoding));
+        return false;
+    }
+    return true;
+}
+
+ExitStatus WriteResult(const std::string& output,
+                       const std::function<bool(const conversions::TextSink& sink)>& write) {
+    OutputFile file(output);
+    return write([&](std::string_view text) { return file.Write(text); }) && file.Commit() ? kDone
+                                                                                           : kInputFault;
+}
+
+ExitStatus Finish(const conversions::Conversion& conversion, const std::string& file, bool isTolerant,
+                  const CommonOptions& options, conversions::Front& front) {
+    if (!conversion.isConverted) {
+        return SayFailure(file, isTolerant, conversion.diagnostics);
+    }
+    SayAll(conversion.diagnostics);
+    return WriteResult(options.output, [&](const conversions::TextSink& sink) {
+        return WriteSymbols(conversion.symbols, FormNamed(options.format), sink, front);
+    });
+}
+
+conversions::Form FormNamed(const std::string& format) {
+    if (format == "svg") {
+        return conversions::Form::kSvg;
+    }
+    return format == "html" ? conversions::Form::kHtml : conversions::Form::kJson;
+}
+
+} // namespace styleconv

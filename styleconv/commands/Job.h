@@ -1,0 +1,45 @@
+// What surrounds a job that a command runs: the files that it asks for, its progress, its messages and its
+// result.
+#pragma once
+
+#include "conversions/Conversion.h"
+#include "conversions/Forms.h"
+#include "styleconv/commands/CommandLine.h"
+#include "styleconv/commands/Options.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace styleconv {
+
+struct SearchOptions;
+
+/// Shape files as linetype files name them, and as drawings do; and no files for jobs that need none. Where
+/// `writesToTerminal`, the result has the terminal for itself.
+std::unique_ptr<conversions::Front> FrontForLinetypes(const SearchOptions& search, bool toStandardOutput);
+std::unique_ptr<conversions::Front> FrontForDrawing(const SearchOptions& search, bool toStandardOutput);
+std::unique_ptr<conversions::Front> FrontWithoutFiles(bool toStandardOutput);
+
+/// Says what is wrong; what gave nothing is kInputFault.
+ExitStatus SayProblem(const diagnostics::Diagnostic& problem);
+
+/// Says all of a conversion that failed, and what helps.
+ExitStatus SayFailure(const std::string& file, bool isTolerant, const diagnostics::Diagnostics& diagnostics);
+
+/// False, with a message, when the encoding is not known; empty is one that is found out.
+bool CheckEncoding(const std::string& encoding);
+
+/// Writes a result, whole or not at all, to the path; empty is standard output.
+ExitStatus WriteResult(const std::string& output,
+                       const std::function<bool(const conversions::TextSink& sink)>& write);
+
+/// Says what a conversion told and writes its symbols.
+ExitStatus Finish(const conversions::Conversion& conversion, const std::string& file, bool isTolerant,
+                  const CommonOptions& options, conversions::Front& front);
+
+/// "json", "svg" or "html".
+conversions::Form FormNamed(const std::string& format);
+
+} // namespace styleconv

@@ -1,0 +1,139 @@
+#include "styleconv/commands/Options.h"
+
+#include "StyleConversion/encoding/NumberReader.h"
+#include "StyleConversion/platform/Utf8.h"
+#include "styleconv/process/Messages.h"
+#include "styleconv/process/WorkLimits.h"
+
+#include <cmath>
+
+namespace styleconv {
+namespace {
+
+bool ReadPointArgument(std::string_view text, double& x, double& y) {
+    const std::size_t comma = text.find(',');
+    return comma != std::string_view::npos && ReadNumberArgument(text.substr(0, comma), x) &&
+           ReadNumberArgument(text.substr(comma + 1), y);
+}
+
+void AddLimitOption(Command& command, const std::string& name, std::string& text, double& value,
+                    const std::string& unit, const std::string& description) {
+    const auto read = [&text, &value](const std::string& argument) -> std::string {
+        if (!ReadNumberArgument(argument, value) || value <= 0.0) {
+            return "a number above 0";
+        }
+        text = argument;
+        return "";
+    };
+    command.AddReader(name, read, unit, description);
+}
+
+} // namespace
+
+bool ReadNumberArgument(std::string_view text, double& value) {
+    const encoding::NumberReading reading = encoding::ReadNumber(text);
+    if (reading.used == 0 || reading.used != text.size() || !std::isfinite(reading.value)) {
+        return false;
+    }
+    value = reading.value;
+    return true;
+}
+
+void AddNumberOption(Command& command, const std::string& name, double& value,
+                     const std::string& description) {
+    const auto read = [&value](const std::string& text) -> std::string {
+        return ReadNumberArgument(text, value) ? "" : "a number";
+    };
+    command.AddReader(name, read, "NUMBER", description);
+}
+
+void AddScaleOption(Command& command, const std::string& name, double& value,
+                    const std::string& description) {
+    const auto read = [&value](const std::string& text) -> std::string {
+        double number = 0.0;
+        if (!ReadNumberArgument(text, number) || number <= 0.0) {
+            return "a number above 0";
+        }
+        value = number;
+        return "";
+    };
+    command.AddReader(name, read, "NUMBER", description);
+}
+
+void AddPointOption(Command& command, const std::string& name, double& x, double& y,
+                    const std::string& description) {
+    const auto read = [&x, &y](const std::string& text) -> std::string {
+        return ReadPointArgument(text, x, y) ? "" : "two numbers with a comma between them";
+    };
+    command.AddReader(name, read, "X,Y", description);
+}
+
+void AddStyleOptions(Command& command, StyleOptions& options) {
+    command.AddText("--drawing", options.drawing, "DRAWING.json",
+                    "Take text styles from this drawing document (default: one style STANDARD with txt.shx)");
+    command.AddText(
+        "--font", options.font, "FILE.shx|TYPEFACE",
+        "Without --drawing, the font of the style STANDARD: an SHX file, or the name of a typeface");
+    AddShapesOption(command, options.shapeFolders);
+}
+
+bool CheckStyleOptions(const StyleOptions& options) {
+    if (!options.font.empty() && !options.drawing.empty()) {
+        SayLine("styleconv: --font cannot be used with --drawing: the drawing gives text styles their fonts");
+        return false;
+    }
+    return true;
+}
+
+void AddOutputOption(Command& command, std::string& output) {
+    command.AddText("-o,--output", output, "PATH", "Write to this file instead of standard output");
+}
+
+void AddCommonOptions(Command& command, CommonOptions& options) {
+    AddOutputOption(command, options.output);
+    command.AddChoice("--format", options.format, {"json", "svg", "html"},
+                      "Form of the result: json, svg or html");
+}
+
+void AddNameOption(Command& command, std::vector<std::string>& names, const std::string& description) {
+    command.AddTexts("--name", names, "NAME", description);
+}
+
+void AddShapesOption(Command& command, std::vector<std::string>& folders) {
+    command.AddTexts("--shapes", folders, "DIR",
+                     "Also look for shape files in this folder; may be given again");
+}
+
+void AddIgnoreLayerOption(Command& command, std::vector<std::string>& layers) {
+    command.AddTexts("--ignore-layer", layers, "LAYER",
+                     "Skip entities on this layer, spelled as in the drawing; may be given again");
+}
+
+std::vector<std::wstring> WideTexts(const std::vector<std::string>& arguments) {
+    std::vector<std::wstring> wide;
+    wide.reserve(arguments.size());
+    for (const std::string& argument : arguments) {
+        wide.push_back(platform::Utf8ToWide(argument));
+    }
+    return wide;
+}
+
+void AddTolerantOption(Command& command, bool& tolerant) {
+    command.AddFlag("--tolerant", tolerant,
+                    "Convert what is valid and report the rest, instead of refusing the file");
+}
+
+void AddLimitOptions(Command& command, LimitOptions& options) {
+    AddLimitOption(command, "--time-limit", options.timeText, options.time, "SECONDS",
+                   "Stop after so many seconds (default: 60)");
+    AddLimitOption(command, "--memory-limit", options.memoryText, options.memory, "MIB",
+                   "Stop when more memory than this is in use (default: 4096)");
+}
+
+void AddCodePageOption(Command& command, std::string& codePage) {
+    command.AddText(
+        "--code-page", codePage, "NAME",
+        "Character encoding of the file (default: UTF-8 when the whole file is, else WINDOWS-1252)");
+}
+
+} // namespace styleconv

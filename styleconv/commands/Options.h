@@ -1,0 +1,74 @@
+// The options that commands share.
+#pragma once
+
+#include "styleconv/commands/CommandLine.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace styleconv {
+
+struct LimitOptions;
+
+/// Reads `text` as one finite decimal number, whatever the locale. False where it is none.
+bool ReadNumberArgument(std::string_view text, double& value);
+
+/// Adds an option that takes one finite number.
+void AddNumberOption(Command& command, const std::string& name, double& value,
+                     const std::string& description);
+
+/// Adds an option that takes one finite number above 0.
+void AddScaleOption(Command& command, const std::string& name, double& value, const std::string& description);
+
+/// Adds an option that takes a point, "X,Y".
+void AddPointOption(Command& command, const std::string& name, double& x, double& y,
+                    const std::string& description);
+
+/// Where linetypes find their text styles and shape files.
+struct StyleOptions {
+    std::string drawing;                   // a drawing document; empty for the one style STANDARD
+    std::vector<std::string> shapeFolders; // where shape files are looked for, too
+    std::string font;                      // of STANDARD without a drawing: a file or a typeface
+};
+
+/// Adds --drawing, --shapes and --font.
+void AddStyleOptions(Command& command, StyleOptions& options);
+
+/// False, with a message, when they contradict each other.
+bool CheckStyleOptions(const StyleOptions& options);
+
+/// Options that every command takes.
+struct CommonOptions {
+    std::string output; // a path; standard output when empty
+    std::string format = "json";
+};
+
+/// Adds -o to a command.
+void AddOutputOption(Command& command, std::string& output);
+
+/// Adds -o and --format to a converting command.
+void AddCommonOptions(Command& command, CommonOptions& options);
+
+/// Adds --name, which may be given any number of times.
+void AddNameOption(Command& command, std::vector<std::string>& names, const std::string& description);
+
+/// Adds --shapes, which may be given any number of times, to a command that looks for shape files.
+void AddShapesOption(Command& command, std::vector<std::string>& folders);
+
+/// Adds --ignore-layer, which may be given any number of times.
+void AddIgnoreLayerOption(Command& command, std::vector<std::string>& layers);
+
+/// Adds --tolerant to a converting command.
+void AddTolerantOption(Command& command, bool& tolerant);
+
+/// Adds --time-limit and --memory-limit to a command.
+void AddLimitOptions(Command& command, LimitOptions& options);
+
+/// Arguments of the command line as wide texts.
+std::vector<std::wstring> WideTexts(const std::vector<std::string>& arguments);
+
+/// Adds --code-page to a command that reads text files.
+void AddCodePageOption(Command& command, std::string& codePage);
+
+} // namespace styleconv

@@ -1,0 +1,12 @@
+# Configures for clang under the Microsoft compiler's name, to look at the flags: there is nothing here to link with.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+find_program(clang_cl NAMES clang-cl clang-cl-14 REQUIRED)
+find_program(llvm_lib NAMES llvm-lib llvm-lib-14 REQUIRED)
+set(CMAKE_CXX_COMPILER "${clang_cl}")
+set(CMAKE_CXX_COMPILER_WORKS ON)
+set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
+set(CMAKE_AR "${llvm_lib}")
+foreach(tool LINKER MT RC_COMPILER)
+  set(CMAKE_${tool} /bin/true)
+endforeach()

@@ -1,0 +1,10 @@
+# Runs a program and compares the file that it writes: cmake -DPROGRAM= -DFOUND= -DEXPECTED= -P compare_symbols.cmake
+execute_process(COMMAND ${PROGRAM} COMMAND_ERROR_IS_FATAL ANY)
+file(SIZE "${EXPECTED}" size)
+if(size LESS 100000)
+  message(FATAL_ERROR "${EXPECTED} has only ${size} bytes: nothing to compare.")
+endif()
+execute_process(COMMAND "${CMAKE_COMMAND}" -E compare_files "${FOUND}" "${EXPECTED}" RESULT_VARIABLE different)
+if(different)
+  message(FATAL_ERROR "${FOUND} and ${EXPECTED} differ.")
+endif()

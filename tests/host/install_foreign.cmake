@@ -1,0 +1,13 @@
+# What is installed of a build against the foreign pair: cmake -DBUILD= -DPREFIX= -P install_foreign.cmake
+file(REMOVE_RECURSE "${PREFIX}")
+execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${PREFIX}" COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
+file(GLOB_RECURSE installed RELATIVE "${PREFIX}" "${PREFIX}/*")
+if(NOT installed MATCHES "BlockConverter.h")
+  message(FATAL_ERROR "The library's headers are not installed: ${installed}")
+endif()
+foreach(ours OxDb TylModel drawing/ styleconv\\.)
+  string(REGEX MATCH "[^;]*${ours}[^;]*" found "${installed}")
+  if(found)
+    message(FATAL_ERROR "Installed though a host has brought its own: ${found}")
+  endif()
+endforeach()
