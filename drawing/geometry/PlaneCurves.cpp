@@ -63,6 +63,14 @@ OxGeVector2d OxGeEllipArc2d::minorAxis() const {
     return {-majorAxis_.y * ratio, majorAxis_.x * ratio};
 }
 
+OxGePoint2d OxGeEllipArc2d::startPoint() const {
+    return pointAt(startAngle_);
+}
+
+OxGePoint2d OxGeEllipArc2d::endPoint() const {
+    return pointAt(endAngle_);
+}
+
 OxGePoint2d OxGeEllipArc2d::pointAt(double angle) const {
     const OxGeVector2d minor = minorAxis();
     const double cosine = std::cos(angle);
@@ -126,6 +134,14 @@ OxGeEllipArc2d EllipseOf(const OxGeCircArc2d& arc) {
 }
 
 } // namespace
+
+OxGePoint2d OxGeCircArc2d::startPoint() const {
+    return pointAt(startAngle_);
+}
+
+OxGePoint2d OxGeCircArc2d::endPoint() const {
+    return pointAt(endAngle_);
+}
 
 OxGePoint2d OxGeCircArc2d::pointAt(double angle) const {
     const double sine = clockwise_ ? -std::sin(angle) : std::sin(angle);

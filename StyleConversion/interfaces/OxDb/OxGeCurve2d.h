@@ -151,8 +151,8 @@ public:
     double endAng() const { return endAngle_; }
     bool isClockWise() const { return clockwise_; }
     /// The points at the arc's angles, and the axes from the centre to the curve, in drawing units.
-    OxGePoint2d startPoint() const { return pointAt(startAngle_); }
-    OxGePoint2d endPoint() const { return pointAt(endAngle_); }
+    OxGePoint2d startPoint() const;
+    OxGePoint2d endPoint() const;
     OxGeVector2d majorAxis() const { return majorAxis_; }
     OxGeVector2d minorAxis() const;
     /// The point of the whole ellipse at that parameter, in radians.
@@ -190,8 +190,8 @@ public:
     double endAng() const { return endAngle_; }
     bool isClockWise() const { return clockwise_; }
     /// The points at the arc's angles, and at any angle of the whole circle.
-    OxGePoint2d startPoint() const { return pointAt(startAngle_); }
-    OxGePoint2d endPoint() const { return pointAt(endAngle_); }
+    OxGePoint2d startPoint() const;
+    OxGePoint2d endPoint() const;
     OxGePoint2d pointAt(double angle) const;
 
     OxGe::EntityId type() const override { return OxGe::kCircArc2d; }
