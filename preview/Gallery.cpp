@@ -1,18 +1,20 @@
 #include "preview/Gallery.h"
 
+#include "StyleConversion/platform/Utf8.h"
 #include "preview/GalleryFiles.h"
 #include "preview/Markup.h"
-#include "preview/NumberTexts.h"
 #include "preview/PageTemplate.h"
 #include "preview/Picture.h"
 #include "preview/SvgWriter.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 
 namespace preview {
 namespace {
 
 using TylModel::Parameter;
+using Json = nlohmann::ordered_json;
 
 constexpr std::string_view kTitle = "Symbols";
 
@@ -37,32 +39,31 @@ std::string_view KindOf(Usage usage) {
 }
 
 // The default of a parameter as its control shows it.
-std::string ValueJson(const ResolvedParameter& parameter) {
+Json ShownValue(const ResolvedParameter& parameter) {
     switch (parameter.type) {
     case Parameter::kFillColor:
     case Parameter::kLineColor:
     case Parameter::kTextColor:
-        return JsonString(ColorText(parameter.color.value_or(Color{})));
+        return ColorText(parameter.color.value_or(Color{}));
     case Parameter::kAngle:
     case Parameter::kLineWeight:
-        return ExactNumber(parameter.number.value_or(0.0));
+        return parameter.number.value_or(0.0);
     case Parameter::kText:
         break;
     }
-    return JsonString(parameter.text.value_or(parameter.defaultValue));
+    return platform::WideToValidUtf8(parameter.text.value_or(parameter.defaultValue));
 }
 
-std::string ParametersJson(const ResolvedSymbol& symbol) {
-    std::string json = "[";
+Json ParametersOf(const ResolvedSymbol& symbol) {
+    Json parameters = Json::array();
     for (const ResolvedParameter& parameter : symbol.parameters) {
-        json += json.size() > 1 ? "," : "";
-        json += R"({"identifier":)" + JsonString(parameter.identifier);
-        json += R"(,"label":)" + JsonString(parameter.displayName);
-        json += R"(,"description":)" + JsonString(parameter.description);
-        json += R"(,"type":)" + std::to_string(static_cast<int>(parameter.type));
-        json += R"(,"value":)" + ValueJson(parameter) + "}";
+        parameters.push_back({{"identifier", platform::WideToValidUtf8(parameter.identifier)},
+                              {"label", platform::WideToValidUtf8(parameter.displayName)},
+                              {"description", platform::WideToValidUtf8(parameter.description)},
+                              {"type", static_cast<int>(parameter.type)},
+                              {"value", ShownValue(parameter)}});
     }
-    return json + "]";
+    return parameters;
 }
 
 std::string PictureSvg(const ResolvedSymbol& symbol, const Picture& picture) {
@@ -113,8 +114,7 @@ bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol) {
     style.idPrefix += std::to_string(added_);
     style.bindings = true;
     const Picture picture = DrawPicture(resolved, style);
-    const std::string data = R"({"svg":)" + JsonString(PictureSvg(resolved, picture)) + R"(,"parameters":)" +
-                             ParametersJson(resolved) + "}";
+    const Json data = {{"svg", PictureSvg(resolved, picture)}, {"parameters", ParametersOf(resolved)}};
     const bool written =
         (added_ > 0 || WriteHead()) &&
         sink_(Filled(gallery_files::kCard,
@@ -124,7 +124,7 @@ bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol) {
                       Field::Text("detail", Describe(resolved)), Field::Markup("notes", NotesMarkup(picture)),
                       Field::Markup("noParameters", resolved.parameters.empty() ? " hidden" : ""),
                       Field::Text("parameterCount", Counted(resolved.parameters.size(), "parameter")),
-                      Field::Markup("data", data)}));
+                      Field::Markup("data", JsonInScript(data))}));
     ++added_;
     return written;
 }

@@ -2,11 +2,12 @@
 
 #include "StyleConversion/platform/Utf8.h"
 
+#include <nlohmann/json.hpp>
+
 namespace preview {
 namespace {
 
 constexpr std::string_view kReplacement = "\xef\xbf\xbd";
-constexpr std::string_view kHexDigits = "0123456789abcdef";
 
 // Control characters other than tab and the line ends stand in no document.
 bool IsForbidden(char c) {
@@ -60,28 +61,19 @@ std::string Escaped(std::wstring_view text) {
     return Escaped(platform::WideToValidUtf8(text));
 }
 
-std::string JsonString(std::string_view utf8) {
-    std::string json = "\"";
-    json.reserve(utf8.size() + utf8.size() / 16 + 2);
-    for (const char c : utf8) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (c == '"' || c == '\\') {
-            json += '\\';
-            json += c;
-        } else if (byte < 0x20 || c == '<' || byte == 0x7f) {
-            json += "\\u00";
-            json += kHexDigits[byte >> 4U];
-            json += kHexDigits[byte & 0xfU];
+std::string JsonInScript(const nlohmann::ordered_json& value) {
+    // Both stand in texts alone, where JSON takes an escape for any character.
+    std::string json;
+    for (const char c : value.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace)) {
+        if (c == '<') {
+            json += "\\u003c";
+        } else if (c == '\x7f') {
+            json += "\\u007f";
         } else {
             json += c;
         }
     }
-    json += '"';
     return json;
-}
-
-std::string JsonString(std::wstring_view text) {
-    return JsonString(platform::WideToValidUtf8(text));
 }
 
 } // namespace preview

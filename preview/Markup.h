@@ -1,6 +1,7 @@
 // Text that is safe inside markup.
 #pragma once
 
+#include <nlohmann/json_fwd.hpp>
 #include <string>
 #include <string_view>
 
@@ -11,8 +12,8 @@ namespace preview {
 std::string Escaped(std::string_view utf8);
 std::string Escaped(std::wstring_view text);
 
-/// A text as a string of JSON that may stand inside a script element: `<` cannot appear in it.
-std::string JsonString(std::wstring_view text);
-std::string JsonString(std::string_view utf8);
+/// A value as JSON on one line that may stand inside a script element: `<` cannot appear in it. What is no
+/// UTF-8 is shown as U+FFFD.
+std::string JsonInScript(const nlohmann::ordered_json& value);
 
 } // namespace preview

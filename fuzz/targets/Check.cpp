@@ -6,7 +6,7 @@
 #include "diagnostics/ShownText.h"
 #include "documents/DiagnosticsDocument.h"
 #include "fuzz/Fuzzing.h"
-#include "fuzz/Inputs.h"
+#include "fuzz/Jobs.h"
 #include "fuzz/ShapeWork.h"
 
 #include <algorithm>
@@ -40,14 +40,9 @@ FileKind KindOf(char kind) {
     }
 }
 
-// In the encoding that the other targets choose.
 diagnostics::Diagnostics Found(FileKind kind, std::string_view bytes) {
     conversions::Front front;
-    conversions::Input input;
-    input.name = "input";
-    input.bytes = bytes;
-    input.encoding = bytes.starts_with(";SJIS") ? "SHIFT_JIS" : "";
-    return conversions::Check(kind, input, {}, front);
+    return conversions::Check(kind, fuzzing::InputOf(bytes), {}, front);
 }
 
 } // namespace

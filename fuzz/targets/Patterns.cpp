@@ -1,10 +1,12 @@
-// A pattern file to symbols.
+// A pattern file to symbols: by the converter of hosts, and by the tool's whole job.
+#include "conversions/Patterns.h"
 #include "StyleConversion/pattern/PatternConverter.h"
 #include "StyleConversion/pattern/PatternFile.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "fuzz/Documents.h"
 #include "fuzz/Fuzzing.h"
 #include "fuzz/Inputs.h"
+#include "fuzz/Jobs.h"
 
 #include <algorithm>
 #include <string>
@@ -49,5 +51,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string document = fuzzing::TextOf(symbols);
     fuzzing::RequireDocument(document, symbols.size());
     Require(fuzzing::TextOf(ConvertAll(path)) == document, "the same document twice");
+    conversions::Front front;
+    const conversions::Conversion job = conversions::ConvertPatterns(fuzzing::InputOf(bytes), {}, front);
+    const std::string fromJob = fuzzing::DocumentOf(job);
+    Require(!job.isConverted || fromJob == document, "the same document from the whole job");
     return 0;
 }

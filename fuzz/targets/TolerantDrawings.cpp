@@ -1,7 +1,7 @@
 // A drawing document, read with what is wrong left out, to symbols.
-#include "documents/DrawingReader.h"
-#include "fuzz/Documents.h"
+#include "conversions/Blocks.h"
 #include "fuzz/Fuzzing.h"
+#include "fuzz/Jobs.h"
 
 #include <string>
 
@@ -16,34 +16,29 @@ bool MayRepeat(std::string_view text) {
            text.find('\\') != std::string_view::npos;
 }
 
-std::string Converted(drawing::Database& database) {
-    const fuzzing::Symbols symbols = fuzzing::ConvertBlocks(database);
-    std::string document = fuzzing::TextOf(symbols);
-    fuzzing::RequireDocument(document, symbols.size());
-    return document;
+conversions::Conversion Converted(std::string_view text, bool tolerant) {
+    conversions::Front front;
+    conversions::BlocksOptions options;
+    options.tolerant = tolerant;
+    return conversions::ConvertBlocks(fuzzing::InputOf(text), options, front);
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text = fuzzing::Text(data, size);
-    documents::DrawingError strictFault;
-    const auto strict = documents::ReadDrawing(text, strictFault);
-    documents::DrawingError fault;
-    documents::ToleratedErrors tolerated;
-    const auto tolerant = documents::ReadDrawing(text, fault, &tolerated);
-    Require((tolerant == nullptr) == !fault.Text().empty(), "a fault with every refusal");
-    Require(strict == nullptr || (tolerant != nullptr && tolerated.All().empty()),
-            "nothing left out of a document that is right");
-    Require(strict != nullptr || tolerant == nullptr || !tolerated.All().empty(),
-            "a word of what is left out");
-    for (const diagnostics::Diagnostic& error : tolerated.All()) {
-        Require(!diagnostics::SentenceOf(error).empty() && error.count > 0, "words for every error");
-    }
-    if (tolerant == nullptr || MayRepeat(text)) {
+    if (MayRepeat(text)) {
         return 0;
     }
-    const std::string document = Converted(*tolerant);
-    Require(strict == nullptr || Converted(*strict) == document, "the same document from both readings");
+    const conversions::Conversion strict = Converted(text, false);
+    const std::string strictDocument = fuzzing::DocumentOf(strict);
+    const conversions::Conversion tolerant = Converted(text, true);
+    const std::string document = fuzzing::DocumentOf(tolerant);
+    Require(tolerant.isConverted || !strict.isConverted, "whatever a strict reading takes");
+    Require(strict.isConverted || !tolerant.isConverted || !tolerant.diagnostics.empty(),
+            "a word of what is left out");
+    if (strict.isConverted && strict.diagnostics.empty()) {
+        Require(strictDocument == document, "the same document from a file without errors");
+    }
     return 0;
 }

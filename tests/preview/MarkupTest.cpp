@@ -6,6 +6,7 @@
 #include "preview/SvgWriter.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace {
 
@@ -23,9 +24,19 @@ TEST(Markup, CharactersThatNoDocumentMayHoldAreReplaced) {
     EXPECT_EQ(Escaped(std::wstring{static_cast<wchar_t>(0xd800)}), "\xef\xbf\xbd");
 }
 
-TEST(Markup, AJsonStringCannotEndAScript) {
-    EXPECT_EQ(JsonString(L"</script>\"\\\n"), "\"\\u003c/script>\\\"\\\\\\u000a\"");
-    EXPECT_EQ(JsonString(L"<!--"), "\"\\u003c!--\"");
+TEST(Markup, JsonCannotEndAScript) {
+    const struct {
+        nlohmann::ordered_json value;
+        const char* json;
+    } rows[] = {
+        {"</script>\"\\\n", R"("\u003c/script>\"\\\n")"},
+        {"<!--", R"("\u003c!--")"},
+        {{{"<", 1.5}, {"a", {2, "\x7f"}}}, R"({"\u003c":1.5,"a":[2,"\u007f"]})"},
+        {"\xff", "\"\xef\xbf\xbd\""},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(JsonInScript(row.value), row.json);
+    }
 }
 
 TEST(PageTemplate, FieldsAreFilledOnceAndEscaped) {
