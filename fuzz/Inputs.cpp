@@ -4,6 +4,7 @@
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "fuzz/Fuzzing.h"
+#include "tests/support/TemporaryStream.h"
 
 #include <random>
 #include <system_error>
@@ -12,7 +13,7 @@ namespace fuzzing {
 
 Stream OpenBytes(std::string_view bytes) {
 #if defined(_WIN32)
-    Stream stream(platform::OpenTemporary());
+    Stream stream(test_support::OpenTemporary());
     Require(stream && std::fwrite(bytes.data(), 1, bytes.size(), stream.get()) == bytes.size(),
             "a temporary file");
     std::rewind(stream.get());

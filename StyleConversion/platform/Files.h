@@ -16,10 +16,6 @@ std::FILE* OpenForReading(const wchar_t* path);
 /// For names that were upper-cased on their way here.
 std::FILE* OpenForReadingIgnoringCase(const wchar_t* path);
 
-/// An empty file to write and read, in the folder for temporary files, that is gone once it is closed. Null
-/// when there can be none.
-std::FILE* OpenTemporary();
-
 /// The path in the form in which the system's own functions open it whatever its length.
 std::wstring OpenablePath(const std::wstring& path);
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "StyleConversion/linetype/Services.h"
-#include "StyleConversion/platform/Files.h"
+#include "tests/support/TemporaryStream.h"
 
 #include <cstdio>
 #include <map>
@@ -49,7 +49,7 @@ public:
         if (found == files.end()) {
             return nullptr;
         }
-        std::FILE* const stream = platform::OpenTemporary();
+        std::FILE* const stream = test_support::OpenTemporary();
         std::fwrite(found->second.data(), 1, found->second.size(), stream);
         std::rewind(stream);
         return stream;

@@ -61,18 +61,6 @@ TEST_F(Files, AreReadAsTheyAre) {
     EXPECT_EQ(Open(L"ends"), std::string("a\r\nb\x1a\0c", 7));
 }
 
-TEST_F(Files, TemporaryOnesAreEmptyAndEachItsOwn) {
-    std::FILE* const first = OpenTemporary();
-    std::FILE* const second = OpenTemporary();
-    ASSERT_NE(first, nullptr);
-    ASSERT_NE(second, nullptr);
-    EXPECT_GE(std::fputs("one", first), 0);
-    EXPECT_EQ(std::fgetc(second), EOF);
-    std::rewind(first);
-    EXPECT_EQ(TextOf(first), "one");
-    EXPECT_EQ(TextOf(second), "");
-}
-
 TEST_F(Files, ADirectoryIsNotOpened) {
     fs::create_directory(folder_ / "sub");
     EXPECT_EQ(Open(L"sub"), "(null)");

@@ -1,7 +1,7 @@
 // Bytes as a stream to read.
 #pragma once
 
-#include "StyleConversion/platform/Files.h"
+#include "tests/support/TemporaryStream.h"
 
 #include <cstdio>
 #include <memory>
@@ -18,7 +18,7 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 
 /// A binary stream that stands before `bytes`, with the behaviour of a file at its end.
 inline File FileOf(std::string_view bytes) {
-    File file(platform::OpenTemporary());
+    File file(OpenTemporary());
     if (file == nullptr || std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) {
         throw std::runtime_error("no temporary file");
     }

@@ -61,10 +61,6 @@ std::string FindIgnoringCase(const std::string& directory, std::wstring_view nam
 
 } // namespace
 
-std::FILE* OpenTemporary() {
-    return std::tmpfile();
-}
-
 std::wstring OpenablePath(const std::wstring& path) {
     return path;
 }

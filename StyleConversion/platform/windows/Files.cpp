@@ -6,14 +6,9 @@
 // Before the system's other headers, which use its types.
 #include <windows.h>
 
-#include <cerrno>
 #include <cstdlib>
 #include <cwchar>
-#include <fcntl.h>
 #include <io.h>
-#include <random>
-#include <share.h>
-#include <sys/stat.h>
 
 namespace platform {
 namespace {
@@ -62,32 +57,6 @@ std::FILE* OpenForReadingIgnoringCase(const wchar_t* path) {
     // The file system does not tell upper from lower case.
     std::FILE* file = nullptr;
     return _wfopen_s(&file, OpenablePath(path).c_str(), L"rb") == 0 ? IfOnDisk(file) : nullptr;
-}
-
-// The standard's own function puts the file into the root of the drive, where most may not write, and under a
-// name that another process may have.
-std::FILE* OpenTemporary() {
-    constexpr int kAttempts = 100;
-    wchar_t folder[MAX_PATH + 1] = {};
-    if (GetTempPathW(MAX_PATH + 1, folder) == 0) {
-        return nullptr;
-    }
-    std::random_device random;
-    for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        const std::wstring path =
-            std::wstring(folder) + L"styleconv." + std::to_wstring(random()) + std::to_wstring(random());
-        int descriptor = -1;
-        const int error = _wsopen_s(&descriptor, path.c_str(),
-                                    _O_RDWR | _O_BINARY | _O_CREAT | _O_EXCL | _O_TEMPORARY | _O_NOINHERIT,
-                                    _SH_DENYNO, _S_IREAD | _S_IWRITE);
-        if (error == 0) {
-            return _fdopen(descriptor, "w+b");
-        }
-        if (error != EEXIST) {
-            return nullptr;
-        }
-    }
-    return nullptr;
 }
 
 PathParts SplitPath(std::wstring_view path) {
