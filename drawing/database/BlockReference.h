@@ -12,8 +12,10 @@ namespace drawing {
 /// creation.
 class OXDB_API BlockReference : public ResidentEntity<OxDbBlockReference> {
 public:
+    /// The block need not be there, nor ever come.
     BlockReference(Core& core, const EntityProperties& properties, const std::wstring& blockName);
     OxDbObjectId blockTableRecord() const override;
+    /// The name of the block, in the pool of names.
     NameIndex BlockName() const { return block_; }
 
 private:

@@ -11,14 +11,17 @@
 
 namespace drawing {
 
+/// What a block's record says of it.
 struct BlockData {
-    bool layout = false;
-    bool anonymous = false;
-    OxDb::UnitsValue units = OxDb::kUnitsUndefined;
+    bool layout = false;                            // model space or a sheet
+    bool anonymous = false;                         // named by a program
+    OxDb::UnitsValue units = OxDb::kUnitsUndefined; // of its coordinates
 };
 
+/// A block's own draw order.
 class OXDB_API SortentsTable : public Resident<OxDbSortentsTable> {
 public:
+    /// `order`: what is drawn first comes first.
     SortentsTable(Core& core, std::vector<OxDbObjectId> order);
     ~SortentsTable() override;
     Oxsys::ErrorStatus getFullDrawOrder(OxDbObjectIdArray& ids, std::uint8_t honourMask) const override;
@@ -27,11 +30,14 @@ private:
     std::vector<OxDbObjectId> order_;
 };
 
+/// A block: a name, what is said of it, and its entities in order of creation.
 class OXDB_API BlockRecord : public NamedRecord<OxDbBlockTableRecord, Operation::kBlockGetName> {
 public:
+    /// Without a name and empty.
     explicit BlockRecord(Core& core);
     ~BlockRecord() override;
 
+    /// Names the block; the table it is added to does so.
     void Set(const std::wstring& name, const BlockData& data);
 
     /// Adds an entity of the model's class T, or of one derived from it, at the end of the block:
@@ -42,6 +48,7 @@ public:
     }
     /// Gives the block a draw-order table, which may be empty or leave entities out.
     void SetDrawOrder(std::vector<OxDbObjectId> order);
+    /// Erased ones count, too.
     std::size_t EntityCount() const { return entities_.Stubs().size(); }
     /// The id of an entity by its place in the order of creation, from 0.
     OxDbObjectId EntityId(std::size_t index) const { return OxDbObjectId(entities_.Stubs().at(index)); }
@@ -65,9 +72,11 @@ private:
 /// The block table, in order of addition.
 class OXDB_API BlockTable : public Resident<OxDbBlockTable> {
 public:
+    /// Empty.
     explicit BlockTable(Core& core);
     ~BlockTable() override;
 
+    /// Takes the record over as the last one, and returns it.
     BlockRecord& Adopt(std::unique_ptr<BlockRecord> record) { return records_.Adopt(std::move(record)); }
 
     Oxsys::ErrorStatus getAt(const wchar_t* name, OxDbBlockTableRecord*& record, OxDb::OpenMode mode,

@@ -18,6 +18,7 @@ struct ObjectCounts {
     std::uint64_t closed = 0;
     std::uint64_t wronglyClosed = 0; // calls of close() on objects that were not open
 
+    /// Objects that are open, each as often as it was opened.
     std::uint64_t OpenNow() const { return opened - closed; }
 };
 
@@ -39,6 +40,7 @@ struct OxDbStub {
 
 namespace drawing {
 
+/// What the objects of one drawing share. It must outlive them.
 struct Core {
     FailurePlan failures;
     ObjectCounts counts;

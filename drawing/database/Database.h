@@ -20,6 +20,7 @@ public:
     Database();
     ~Database() override;
 
+    /// The unit of what is in no block.
     void SetInsunits(OxDb::UnitsValue units) { insunits_ = units; }
 
     /// Each gives the added record, or null when the table has the name already.
@@ -49,11 +50,13 @@ public:
     /// Lets the object answer that it is not resident; it can be opened as before.
     static void MakeNonResident(OxDbObjectId id) { id.stub()->resident = false; }
 
+    /// Which calls fail, for tests; and how often objects were opened and closed so far.
     FailurePlan& Failures() { return core_->failures; }
     const ObjectCounts& Counts() const { return core_->counts; }
     /// How many lines the pattern of one hatch may give: evaluating one with more fails. Without a limit set
     /// here it is the most that an `int` counts.
     void LimitHatchLines(std::int32_t most) { core_->maximumHatchLines = static_cast<std::size_t>(most); }
+    /// The limit that is in force.
     std::size_t MostHatchLines() const { return core_->maximumHatchLines; }
     /// How often evaluating a hatch was given up because it has too many lines.
     std::uint64_t HatchesTooDense() const { return core_->hatchesTooDense; }

@@ -12,6 +12,7 @@ namespace drawing {
 /// Finds regular files in directories.
 class OXDB_API HostServices : public OxDbHostApplicationServices {
 public:
+    /// Finds nothing.
     HostServices();
     /// `directories` are searched in order.
     explicit HostServices(std::vector<std::wstring> directories);
@@ -23,8 +24,10 @@ public:
     Oxsys::ErrorStatus findFile(wchar_t* path, int pathLength, const wchar_t* fileName,
                                 OxDbDatabase* database, FindFileHint hint) override;
 
+    /// As they were given.
     const std::vector<std::wstring>& Directories() const { return directories_; }
 
+    /// Which calls fail, for tests.
     FailurePlan& Failures() { return *failures_; }
     /// Lets calls of these services count and fail by the plan of a database, for tests that let any call
     /// fail. `failures` must outlive these services.

@@ -27,10 +27,12 @@ struct NamedThings {
     std::vector<OxDbStub*> references; // inserts of the block of this name, in order of creation
 };
 
+/// The names of one drawing.
 class OXDB_API NamePool {
 public:
     /// The index of the name, which is added when it is new.
     NameIndex Intern(std::wstring_view name);
+    /// The name as it is spelled, and what has it. `index` is one that Intern gave.
     const std::wstring& Text(NameIndex index) const { return spellings_[index].text; }
     NamedThings& Things(NameIndex index) { return things_[spellings_[index].things]; }
     /// Null when no name of the drawing is spelled so in any case.

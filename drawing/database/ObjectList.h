@@ -20,12 +20,14 @@ public:
     ObjectList(const ObjectList&) = delete;
     ObjectList& operator=(const ObjectList&) = delete;
 
+    /// Takes the object over as the last one, and returns it.
     template <class T>
     T& Adopt(std::unique_ptr<T> object) {
         stubs_.push_back(&object->Stub());
         return *object.release();
     }
 
+    /// In order of addition, erased ones too.
     const std::vector<OxDbStub*>& Stubs() const { return stubs_; }
 
 private:
@@ -35,15 +37,19 @@ private:
 /// A position in a list of objects. One behind the end and one before the beginning are "done".
 class ListWalk {
 public:
+    /// From the first object on, or from the last one back. The list must outlive the walk.
     ListWalk(const std::vector<OxDbStub*>& stubs, bool atBeginning, bool skipErased) : stubs_(&stubs) {
         Start(atBeginning, skipErased);
     }
 
+    /// Begins anew. Erased objects are passed over where that is asked for, here and in Step.
     void Start(bool atBeginning, bool skipErased) {
         position_ = atBeginning ? 0 : static_cast<std::ptrdiff_t>(stubs_->size()) - 1;
         SkipErased(atBeginning, skipErased);
     }
+    /// Whether there is no current object.
     bool Done() const { return position_ < 0 || position_ >= static_cast<std::ptrdiff_t>(stubs_->size()); }
+    /// Goes on or back by one; nothing where the walk is done.
     void Step(bool forward, bool skipErased) {
         if (!Done()) {
             position_ += forward ? 1 : -1;

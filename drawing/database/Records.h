@@ -33,8 +33,10 @@ private:
     std::wstring name_;
 };
 
+/// A layer: what entities by layer are drawn in.
 class OXDB_API LayerRecord : public NamedRecord<OxDbLayerTableRecord, Operation::kLayerGetName> {
 public:
+    /// Nothing is checked.
     LayerRecord(Core& core, std::wstring name, const OxCmColor& color, OxDb::LineWeight lineWeight);
     OxCmColor color() const override { return color_; }
     OxDb::LineWeight lineWeight() const override { return lineWeight_; }
@@ -55,6 +57,7 @@ struct Dash {
     double rotation = 0.0; // radians
 };
 
+/// A linetype with its dashes. An index that no dash has gives an empty dash.
 class OXDB_API LinetypeRecord : public NamedRecord<OxDbLinetypeTableRecord, Operation::kLinetypeGetName> {
 public:
     /// Without `patternLength` it is the sum of the magnitudes of the dash lengths.
@@ -79,24 +82,27 @@ private:
     double patternLength_;
 };
 
+/// A text style as its record hands it out.
 struct TextStyleData {
-    std::wstring fileName;
-    std::wstring bigFontFileName;
-    std::wstring typeface;
+    std::wstring fileName;        // of a shape font, or of a shape file
+    std::wstring bigFontFileName; // of what characters of two bytes are drawn with
+    std::wstring typeface;        // instead of a shape font
     bool bold = false;
     bool italic = false;
     bool isShapeFile = false;
     bool isVertical = false;
     double obliquingAngle = 0.0; // radians
-    double textSize = 0.0;
-    double xScale = 1.0;
+    double textSize = 0.0;       // drawing units; 0: each text has its own
+    double xScale = 1.0;         // width of characters
     std::int32_t flagBits = 0;
     std::int32_t characterSet = 0;
     std::int32_t pitchAndFamily = 0;
 };
 
+/// A text style.
 class OXDB_API TextStyleRecord : public NamedRecord<OxDbTextStyleTableRecord, Operation::kTextStyleGetName> {
 public:
+    /// Nothing is checked.
     TextStyleRecord(Core& core, std::wstring name, TextStyleData data);
     ~TextStyleRecord() override;
 

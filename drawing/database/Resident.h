@@ -15,11 +15,13 @@ public:
     OxDbObjectId objectId() const override { return OxDbObjectId(&stub_); }
     bool isResident() const override { return stub_.resident && !stub_.erased; }
 
+    /// What the object's ids point to, and what it shares with the rest of its drawing.
     OxDbStub& Stub() const { return stub_; }
     Core& SharedCore() const { return *stub_.core; }
 
 protected:
     template <class... Args>
+    /// `args` are the interface class's own.
     explicit Resident(Core& core, const Args&... args) : Interface(args...), stub_(core, this) {}
 
     /// Counts a call of `operation`; the status that it is planned to fail with, or eOk. `failed` says
@@ -42,6 +44,7 @@ struct EntityProperties {
     /// have gives the entity an id that cannot be opened.
     std::wstring linetype = L"ByLayer";
 
+    /// The colour of the entity's layer.
     static OxCmColor ByLayerColor() {
         OxCmColor color;
         color.setByLayer();
@@ -111,11 +114,13 @@ public:
 protected:
     using ResidentEntity<Interface>::ResidentEntity;
 
+    /// Where the curve's own parameter begins and ends, and the point that it has there, in drawing units.
     virtual double StartParameter() const = 0;
     virtual double EndParameter() const = 0;
     virtual OxGePoint3d PointAt(double parameter) const = 0;
 
 private:
+    // Sets `out` unless the call is planned to fail.
     template <class T>
     Oxsys::ErrorStatus Read(Operation operation, T& out, const T& value) const {
         Oxsys::ErrorStatus status = Oxsys::eOk;

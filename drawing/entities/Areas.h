@@ -27,8 +27,10 @@ struct HatchData {
     std::optional<std::vector<HatchLine>> lines;
 };
 
+/// A hatch: solid, or with a pattern's lines.
 class OXDB_API Hatch : public ResidentEntity<OxDbHatch> {
 public:
+    /// Nothing is checked; an evaluation refuses what has no lines.
     Hatch(Core& core, const EntityProperties& properties, HatchData data);
     ~Hatch() override;
 
@@ -50,8 +52,10 @@ private:
     bool isEvaluated_ = false;
 };
 
+/// A multi-polygon: closed polylines, filled by the even-odd rule.
 class OXDB_API MPolygon : public ResidentEntity<OxDbMPolygon> {
 public:
+    /// Nothing is checked.
     MPolygon(Core& core, const EntityProperties& properties, std::vector<PolylineLoop> loops,
              const OxCmColor& fillColor);
     ~MPolygon() override;

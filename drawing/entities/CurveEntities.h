@@ -13,8 +13,10 @@ namespace drawing {
 
 using geometry::BulgeVertex;
 
+/// A polyline of the plane.
 class OXDB_API Polyline : public ResidentEntity<OxDbPolyline> {
 public:
+    /// `plinegen`: its linetype runs on over the vertices. Nothing is checked.
     Polyline(Core& core, const EntityProperties& properties, const std::vector<BulgeVertex>& vertices,
              bool closed, bool plinegen);
 
@@ -22,8 +24,10 @@ public:
     Oxsys::ErrorStatus getArcSegAt(unsigned int index, OxGeCircArc3d& segment) const override;
 };
 
+/// A spline, by what it was drawn with.
 class OXDB_API Spline : public ResidentCurve<OxDbSpline> {
 public:
+    /// Data that makes no curve is taken, too.
     Spline(Core& core, const EntityProperties& properties, SplineData data);
     ~Spline() override;
 

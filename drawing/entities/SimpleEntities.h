@@ -8,6 +8,9 @@
 
 namespace drawing {
 
+// None of the constructors checks its numbers. Lengths are drawing units, angles radians.
+
+/// A point.
 class OXDB_API Point : public ResidentEntity<OxDbPoint> {
 public:
     Point(Core& core, const EntityProperties& properties, const OxGePoint3d& position);
@@ -17,6 +20,7 @@ private:
     OxGePoint3d position_;
 };
 
+/// A straight line; its parameter is the distance from its start.
 class OXDB_API Line : public ResidentCurve<OxDbLine> {
 public:
     Line(Core& core, const EntityProperties& properties, const OxGePoint3d& start, const OxGePoint3d& end);
@@ -34,6 +38,7 @@ private:
     OxGePoint3d end_;
 };
 
+/// What an arc is made of.
 struct ArcData {
     OxGePoint3d center;
     double radius = 1.0;
@@ -61,6 +66,7 @@ private:
     ArcData data_;
 };
 
+/// A circle; its parameter runs from 0 to 2π.
 class OXDB_API Circle : public ResidentCurve<OxDbCircle> {
 public:
     Circle(Core& core, const EntityProperties& properties, const OxGePoint3d& center, double radius);
@@ -78,11 +84,12 @@ private:
     double radius_;
 };
 
+/// What an ellipse or an arc of one is made of.
 struct EllipseData {
     OxGePoint3d center;
-    OxGeVector3d majorAxis{1.0, 0.0, 0.0};
-    double radiusRatio = 1.0;
-    double startAngle = 0.0;
+    OxGeVector3d majorAxis{1.0, 0.0, 0.0}; // from the centre to the curve
+    double radiusRatio = 1.0;              // of the minor to the major axis
+    double startAngle = 0.0;               // parameters: 0 at the major axis
     double endAngle = 0.0;
 };
 

@@ -32,6 +32,7 @@ struct NurbsData {
     std::vector<double> weights;
 };
 
+/// What a spline was drawn with.
 using SplineData = std::variant<FitData, NurbsData>;
 
 /// The plane curve of a spline: never null, but not defined when the data makes no curve.

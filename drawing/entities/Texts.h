@@ -8,6 +8,7 @@
 
 namespace drawing {
 
+/// What a text of one line is made of. Lengths are drawing units.
 struct TextData {
     OxGePoint3d position;
     double height = 1.0;
@@ -23,6 +24,7 @@ struct TextData {
 template <class Interface>
 class TextLine : public ResidentEntity<Interface> {
 public:
+    /// Nothing is checked.
     TextLine(Core& core, const EntityProperties& properties, TextData data)
         : ResidentEntity<Interface>(core, properties), style_(core.names.Intern(data.style)),
           data_(std::move(data)) {
@@ -51,13 +53,16 @@ OxDbObjectId TextLine<Interface>::textStyle() const {
     return TextStyleId(this->SharedCore(), style_);
 }
 
+/// A text of one line.
 class OXDB_API Text : public TextLine<OxDbText> {
 public:
     using TextLine::TextLine;
 };
 
+/// The place of a text that each insert has its own of.
 class OXDB_API AttributeDefinition : public TextLine<OxDbAttributeDefinition> {
 public:
+    /// `tag` names the text, `prompt` asks a person for it.
     AttributeDefinition(Core& core, const EntityProperties& properties, TextData data, std::wstring tag,
                         std::wstring prompt);
     ~AttributeDefinition() override;
@@ -70,6 +75,8 @@ private:
     std::wstring prompt_;
 };
 
+/// What a paragraph text is made of. Lengths are drawing units; the actual width and height are those that
+/// the text takes.
 struct ParagraphTextData {
     OxGePoint3d location;
     double textHeight = 1.0;
@@ -80,8 +87,10 @@ struct ParagraphTextData {
     double actualHeight = 0.0;
 };
 
+/// A text of paragraphs; its contents have control codes.
 class OXDB_API ParagraphText : public ResidentEntity<OxDbMText> {
 public:
+    /// Nothing is checked.
     ParagraphText(Core& core, const EntityProperties& properties, ParagraphTextData data);
     ~ParagraphText() override;
 

@@ -25,10 +25,12 @@ inline Point operator*(double factor, Point a) {
     return {factor * a.x, factor * a.y};
 }
 
+/// The scalar product.
 inline double Dot(Vector a, Vector b) {
     return a.x * b.x + a.y * b.y;
 }
 
+/// Whether both coordinates are numbers and not infinite.
 inline bool IsFinite(Point a) {
     return std::isfinite(a.x) && std::isfinite(a.y);
 }
@@ -38,6 +40,7 @@ inline double Cross(Vector a, Vector b) {
     return a.x * b.y - a.y * b.x;
 }
 
+/// In drawing units.
 inline double Length(Vector a) {
     return std::sqrt(a.x * a.x + a.y * a.y);
 }
@@ -47,6 +50,7 @@ inline Vector TurnedLeft(Vector a) {
     return {-a.y, a.x};
 }
 
+/// In drawing units.
 inline double Distance(Point a, Point b) {
     return Length(b - a);
 }
