@@ -81,7 +81,7 @@ public:
         Collect(usage.GetRepeatX());
         Collect(usage.GetRepeatY());
         for (int i = 0; i < definition.GetGraphics().GetCount(); ++i) {
-            definition.GetGraphics().GetAt(i)->AcceptVisitor(*this);
+            AcceptVisitor(*definition.GetGraphics().GetAt(i), *this);
         }
     }
     void VisitCompoundSymbolDefinition(TylModel::CompoundSymbolDefinition& definition) override {
