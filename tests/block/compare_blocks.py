@@ -255,6 +255,15 @@ def first_difference(expected, found, path=""):
     return next((text for key, a, b in pairs if (text := first_difference(a, b, f"{path}/{key}"))), None)
 
 
+def start(command):
+    """What the command did. The tool never fails without a word, but under an emulator a start may, now and then."""
+    run = subprocess.run(command, capture_output=True, check=False, timeout=300)
+    if run.returncode and not run.stderr:
+        print("ended with status %d and without a word; started again" % run.returncode)
+        run = subprocess.run(command, capture_output=True, check=False, timeout=300)
+    return run
+
+
 def compare(tool, seed, folder):
     """What differs, or None."""
     maker = Maker(seed)
@@ -269,7 +278,7 @@ def compare(tool, seed, folder):
     ignored = maker.random.choice([[], [], ["Roads"], ["ROADS", "0"]])
     expected = reference_blocks.convert_all(drawing, files, ignored)
     arguments = [argument for layer in ignored for argument in ("--ignore-layer", layer)]
-    run = subprocess.run([tool, "blocks", path] + arguments, capture_output=True, check=False, timeout=300)
+    run = start([tool, "blocks", path] + arguments)
     if run.returncode != (0 if expected else 1):
         return "status %d: %s" % (run.returncode, run.stderr.decode())
     return first_difference(expected, json.loads(run.stdout)["symbols"]) if expected else None

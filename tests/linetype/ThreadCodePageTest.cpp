@@ -2,6 +2,7 @@
 // program chooses none.
 #include "StyleConversion/linetype/LineConverter.h"
 #include "StyleConversion/pattern/PatternConverter.h"
+#include "tests/support/ReadSymbol.h"
 
 // Before the system's other headers, which use its types.
 #include <windows.h>
@@ -57,7 +58,7 @@ std::wstring NameOfTheOnlyLinetype(const std::wstring& path) {
         return L"no symbol";
     }
     const std::unique_ptr<TylModel::SymbolDefinition> symbol(symbols->front());
-    return symbol->GetName();
+    return Read(*symbol).name;
 }
 
 TEST_F(ThreadCodePage, NamesOfLinetypesAreInTheThreads) {
