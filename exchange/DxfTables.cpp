@@ -21,7 +21,7 @@ constexpr std::int32_t kShape = 4;
 constexpr std::int32_t kItalic = 0x01000000;
 constexpr std::int32_t kBold = 0x02000000;
 
-constexpr std::uint8_t kWhite = 7; // colour of a layer that has none
+constexpr std::uint8_t kColorOfLayers = 7; // colour of a layer that has none
 
 } // namespace
 
@@ -46,7 +46,7 @@ void DxfTableReader::Take(const DxfRecord& record) {
 
 void DxfTableReader::TakeLayer(const DxfRecord& record) {
     OxCmColor white;
-    white.setColorIndex(kWhite);
+    white.setColorIndex(kColorOfLayers);
     const std::wstring name = texts_.Decode(record.Word(2));
     const auto weight = static_cast<OxDb::LineWeight>(record.Integer(370, OxDb::kLnWtByLwDefault));
     if (database_.AddLayer(name, ReadColor(record, white), weight) == nullptr) {

@@ -8,7 +8,6 @@
 #include <unordered_set>
 
 namespace drawing {
-namespace {
 
 /// A table whose records are only ever looked up by name.
 template <class TableInterface, class RecordInterface, Operation getAtOperation,
@@ -27,6 +26,8 @@ using LayerTable =
     LookupTable<OxDbLayerTable, OxDbLayerTableRecord, Operation::kLayerTableGetAt, &NamedThings::layer>;
 using TextStyleTable = LookupTable<OxDbTextStyleTable, OxDbTextStyleTableRecord,
                                    Operation::kTextStyleTableGetAt, &NamedThings::textStyle>;
+
+namespace {
 
 constexpr std::array<const wchar_t*, 3> kBuiltInLinetypes = {L"ByLayer", L"ByBlock", L"Continuous"};
 
