@@ -64,6 +64,14 @@ installed() {
   cmake --install "$folder" --prefix "$folder/prefix"
 }
 
+# has_reference FOLDER: what host developers read is installed there.
+has_reference() {
+  local documents=$work/$1/prefix/share/doc/styleconversion page
+  for page in hosts.md memcheck.supp reference/index.html reference/classBlockConverter.html; do
+    [ -s "$documents/$page" ] || { echo "$page is not installed"; return 1; }
+  done
+}
+
 # with_package FOLDER STANDARD OPTION...: a host that finds what is installed there.
 with_package() {
   local folder=$work/$1/find_package-$2
@@ -79,7 +87,7 @@ with_pkg_config() {
   export PKG_CONFIG_PATH=$prefix/lib/pkgconfig
   flags=$(pkg-config --cflags --libs StyleConversion)
   # shellcheck disable=SC2086
-  "$3" "-std=c++$2" "${@:4}" -o "$prefix/host-$2" examples/host/*.cpp $flags "-Wl,-rpath,$prefix/lib"
+  "$3" "-std=c++$2" "${@:4}" -o "$prefix/host-$2" examples/host/*.cpp $flags -pthread "-Wl,-rpath,$prefix/lib"
   runs "$prefix/host-$2"
 }
 
@@ -119,6 +127,13 @@ fast_math() {
   [ -z "$(find "$work/fast-math/StyleConversion" "$work/fast-math/drawing" -name '*.o')" ]
 }
 
+# unsafe_math FLAG: one that no macro tells of.
+unsafe_math() {
+  rm -rf "$work/unsafe-math"
+  refuses "StyleConversion cannot be built with $1" \
+    cmake -S . -B "$work/unsafe-math" -DSTYLECONVERSION_TOOL=OFF -DCMAKE_CXX_COMPILER=clang++ "-DCMAKE_CXX_FLAGS=-g0 $1"
+}
+
 # missing NAME PACKAGE OPTION...
 missing() {
   rm -rf "$work/missing"
@@ -156,7 +171,9 @@ flags_of_clang_cl() {
 
 if $quick; then
   row "shared, subproject, C++20, g++" as_subproject shared-subproject 20 -DBUILD_SHARED_LIBS=ON
-  row "static, installed, C++20, g++" installed static -DBUILD_SHARED_LIBS=OFF
+  row "static, installed, C++20, g++" \
+    installed static -DBUILD_SHARED_LIBS=OFF -DSTYLECONVERSION_REFERENCE=ON
+  row "the reference and what goes with it, installed" has_reference static
   row "static, find_package, C++17 host, g++" with_package static 17
   row "static, pkg-config, C++23 host, g++" with_pkg_config static 23 g++
   row "static, unity, subproject, C++20, g++" as_subproject unity 20 -DCMAKE_UNITY_BUILD=ON
@@ -191,6 +208,8 @@ else
         no_warnings "-O3 -DNDEBUG" "${options[@]}"
     done
   done
+  row "the reference, installed" installed reference -DSTYLECONVERSION_REFERENCE=ON
+  row "the reference and what goes with it" has_reference reference
   row "-O2 without a warning, g++" no_warnings "-O2 -DNDEBUG"
   row "unity with the tool" by_itself styleconv -DCMAKE_UNITY_BUILD=ON
   row "benchmarks and the tool without tests" by_itself "styleconv document_benchmark" -DSTYLECONVERSION_BENCHMARKS=ON
@@ -200,6 +219,9 @@ row "benchmarks without tool and tests" by_itself "block_benchmark shapes_benchm
   -DSTYLECONVERSION_TOOL=OFF -DSTYLECONVERSION_BENCHMARKS=ON
 for flags in -ffast-math -Ofast -ffinite-math-only; do
   row "$flags is refused" fast_math "$flags"
+done
+for flag in -funsafe-math-optimizations -fassociative-math -freciprocal-math -fno-signed-zeros -mrecip=all; do
+  row "$flag is refused, clang++" unsafe_math "$flag"
 done
 row "CLI11 missing" missing CLI11 libcli11-dev
 row "nlohmann_json missing" missing nlohmann_json nlohmann-json3-dev
