@@ -74,6 +74,21 @@ TEST(ShapeFiles, OfAnyMakerAndWithoutATrailerAreTakenByATolerantConversion) {
     EXPECT_NE(Geometry(*tolerant.symbols.front(), 0), Geometry(*strict.symbols.front(), 0));
 }
 
+// What the library opens anew at each dash, a job looks at once: two lines with three dashes each here.
+TEST(ShapeFiles, ThatCannotBeLoadedAreLookedAtOnceAndToldOfOnce) {
+    for (const char* const bytes : {"this is no shape file", "Vorlanx-86 unknown kind\r\n\x1a", ""}) {
+        FilesInMemory front;
+        front.files[L"Marks"] = bytes;
+        const auto result = ConvertBlocks(Named("a.json", MarkedDrawing("Marks")), {}, front);
+        ASSERT_TRUE(result.isConverted) << bytes;
+        EXPECT_EQ(front.asked, WideNames{L"Marks"}) << bytes;
+        ASSERT_EQ(result.diagnostics.size(), 1U) << Messages(result.diagnostics);
+        EXPECT_EQ(Messages(result.diagnostics).rfind("memory: warning: ", 0), 0U)
+            << Messages(result.diagnostics);
+        EXPECT_EQ(Geometry(*result.symbols.front(), 0), "M 0.0,0.0 L 1.0,0.0 M 2.0,0.0 L 3.0,0.0") << bytes;
+    }
+}
+
 TEST(ShapeFiles, TheBuiltInFontStandsInForTheDefaultStylesOnly) {
     FilesInMemory front;
     conversions::LinetypesOptions options;
