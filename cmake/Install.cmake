@@ -109,9 +109,9 @@ endif()
 # For host developers: what the C library's own reports are under valgrind, and the reference, where it was made.
 set(documents_folder "${CMAKE_INSTALL_DATADIR}/doc/styleconversion")
 install(FILES "${PROJECT_SOURCE_DIR}/docs/hosts.md" "${PROJECT_SOURCE_DIR}/scripts/memcheck.supp"
-  DESTINATION "${documents_folder}")
+  DESTINATION "${documents_folder}" COMPONENT documents)
 if(STYLECONVERSION_REFERENCE)
-  install(DIRECTORY "${PROJECT_BINARY_DIR}/docs/html/" DESTINATION "${documents_folder}/reference")
+  install(DIRECTORY "${PROJECT_BINARY_DIR}/docs/html/" DESTINATION "${documents_folder}/reference" COMPONENT documents)
 endif()
 
 # The compiler's runtime goes along where the system does not have it.
