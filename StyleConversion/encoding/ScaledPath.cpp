@@ -1,5 +1,6 @@
 #include "StyleConversion/encoding/ScaledPath.h"
 
+#include "StyleConversion/encoding/ExactNumbers.h"
 #include "StyleConversion/encoding/PathPiece.h"
 
 #include <cmath>
@@ -17,6 +18,10 @@ void AppendPoint(std::wstring& path, std::wstring_view command, Point point, dou
 }
 
 void AppendLineToString(std::wstring& path, Point from, Point to, double scale) {
+    if (AreNumbersExact()) {
+        AppendPoint(path, kLine, to, scale);
+        return;
+    }
     const double dx = std::fabs(from.x - to.x);
     const double dy = std::fabs(from.y - to.y);
     if ((dx < kTolerance && dy < kTolerance) || (dx > kTolerance && dy > kTolerance)) {

@@ -2,6 +2,7 @@
 #include "StyleConversion/encoding/TrimmedNumber.h"
 
 #include "StyleConversion/encoding/BinaryParts.h"
+#include "StyleConversion/encoding/ExactNumbers.h"
 #include "StyleConversion/encoding/WideProduct.h"
 
 #include <algorithm>
@@ -78,6 +79,9 @@ wchar_t* WriteShortTrimmed(wchar_t* target, double value) {
 } // namespace
 
 wchar_t* WriteTrimmed(wchar_t* target, double value) {
+    if (AreNumbersExact()) {
+        return WriteShortest(target, value);
+    }
     if (value > -kFastLimit && value < kFastLimit) {
         return WriteShortTrimmed(target, value);
     }

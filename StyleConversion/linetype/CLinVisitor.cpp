@@ -1,8 +1,8 @@
 // Builds one line symbol for each linetype that it is shown.
 #include "StyleConversion/linetype/CLinVisitor.h"
 
+#include "StyleConversion/encoding/ControlCodes.h"
 #include "StyleConversion/encoding/PathCommands.h"
-#include "StyleConversion/linetype/ControlCodes.h"
 #include "StyleConversion/linetype/LinNames.h"
 #include "StyleConversion/linetype/LineSymbolParts.h"
 #include "StyleConversion/linetype/ShxDrawing.h"
@@ -208,7 +208,7 @@ void CLinVisitor::AddTrueTypeText(const std::string& text, const ElementTransfor
         Fail(LinErrorKind::kTextNotConvertible, {});
         return;
     }
-    const DecodedText decoded = DecodeControlCodes(wide, policy_.looseForm);
+    const encoding::DecodedText decoded = encoding::DecodeControlCodes(wide, policy_.looseForm);
     element->SetContent(QuotedContent(decoded.characters));
     if (decoded.overlined) {
         element->SetOverlined(yes);
@@ -276,7 +276,8 @@ void CLinVisitor::AddShxText(const std::string& text, const ElementTransform& tr
     pen.rotation = transform.relativeRotation;
     pen.vertical = font.isVertical && information[kModesByte] == kBothOrientations;
     std::wstring path;
-    for (const wchar_t character : ToUtf16Units(DecodeControlCodes(wide, policy_.looseForm).characters)) {
+    for (const wchar_t character :
+         ToUtf16Units(encoding::DecodeControlCodes(wide, policy_.looseForm).characters)) {
         const ShxUtility::Shape* const glyph = FindGlyph(file, character);
         if (glyph == nullptr) {
             continue;

@@ -1,8 +1,8 @@
 // Dashes, the texts and shapes of complex linetypes, and how these are placed.
 #include "StyleConversion/linetype/LinElements.h"
 
+#include "StyleConversion/encoding/ControlCodes.h"
 #include "StyleConversion/encoding/NumberReader.h"
-#include "StyleConversion/linetype/ControlCodes.h"
 #include "StyleConversion/linetype/LinNames.h"
 #include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/CodePage.h"
@@ -74,7 +74,7 @@ void NoteCharacterCodes(LinReading& reading, std::string_view text, std::string_
     }
     const std::wstring wide = platform::AnsiToWide(text);
     for (std::size_t mark = wide.find(L'\\'); mark != std::wstring::npos; mark = wide.find(L'\\', mark + 1)) {
-        if (StartsWithUnicodeCode(std::wstring_view(wide).substr(mark))) {
+        if (encoding::StartsWithUnicodeCode(std::wstring_view(wide).substr(mark))) {
             reading.Tolerate(LinErrorKind::kCharacterCodeInText, rest);
             return;
         }

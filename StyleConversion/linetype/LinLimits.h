@@ -24,10 +24,4 @@ constexpr std::size_t kLongestNameInError = kLineBufferSize - 2;
 /// Bytes of a line's text that an error keeps.
 constexpr std::size_t kLongestTextInError = kLineBufferSize - 1;
 
-/// The most decimal digits that follow "%%" as one character code.
-constexpr std::size_t kCharacterCodeDigits = 3;
-
-/// The hexadecimal digits that follow "\U+" as one character code, where that is read at all.
-constexpr std::size_t kUnicodeCodeDigits = 4;
-
 } // namespace LineConverter

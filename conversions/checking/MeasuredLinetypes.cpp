@@ -1,6 +1,6 @@
 #include "conversions/checking/MeasuredLinetypes.h"
 
-#include "StyleConversion/linetype/ControlCodes.h"
+#include "StyleConversion/encoding/ControlCodes.h"
 #include "StyleConversion/linetype/ShxDrawing.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "conversions/reading/Shown.h"
@@ -118,7 +118,7 @@ void MeasuredLinetypes::Text(const std::string& text, const LineConverter::Eleme
         pen.scale *= (font.textSize != 0.0 ? font.textSize : 1.0) / height;
         std::wstring path;
         const std::wstring characters =
-            LineConverter::DecodeControlCodes(platform::AnsiToWide(text), true).characters;
+            encoding::DecodeControlCodes(platform::AnsiToWide(text), true).characters;
         for (const wchar_t character : LineConverter::ToUtf16Units(characters)) {
             const ShxUtility::Shape* const glyph = LineConverter::FindGlyph(file->second, character);
             if (glyph != nullptr && DrawShxShape(path, pen, *glyph, file->second) != ShxUtility::kSuccess) {
@@ -139,7 +139,7 @@ void MeasuredLinetypes::AddTypefaceText(const std::string& text,
                                         const LineConverter::ElementTransform& transform,
                                         const LineConverter::FontInfo& font) {
     preview::TextPart part;
-    part.content = LineConverter::DecodeControlCodes(platform::AnsiToWide(text), true).characters;
+    part.content = encoding::DecodeControlCodes(platform::AnsiToWide(text), true).characters;
     part.height = transform.scale * (font.textSize != 0.0 ? font.textSize : 1.0);
     part.angle.value = transform.relativeRotation;
     part.position.y = transform.offsetY;

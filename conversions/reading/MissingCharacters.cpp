@@ -1,6 +1,6 @@
 #include "conversions/reading/MissingCharacters.h"
 
-#include "StyleConversion/linetype/ControlCodes.h"
+#include "StyleConversion/encoding/ControlCodes.h"
 #include "StyleConversion/linetype/LinNames.h"
 #include "StyleConversion/linetype/ShxDrawing.h"
 #include "StyleConversion/platform/CodePage.h"
@@ -26,7 +26,7 @@ bool CanBeDrawn(const ShxUtility::Shape& glyph, const ShxUtility::ShapesInFile& 
 // one and leaves the linetype out. A text that has all is not drawn to find out.
 std::wstring MissingOf(const std::string& text, const ShxUtility::ShapesInFile& font) {
     const std::wstring characters = LineConverter::ToUtf16Units(
-        LineConverter::DecodeControlCodes(platform::AnsiToWide(text), true).characters);
+        encoding::DecodeControlCodes(platform::AnsiToWide(text), true).characters);
     const auto end = std::find_if(characters.rbegin(), characters.rend(), [&font](wchar_t character) {
                          return LineConverter::FindGlyph(font, character) == nullptr;
                      }).base();

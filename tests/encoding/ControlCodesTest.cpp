@@ -1,14 +1,14 @@
 // The "%%" codes in texts.
-#include "StyleConversion/linetype/ControlCodes.h"
+#include "StyleConversion/encoding/ControlCodes.h"
 
 #include <gtest/gtest.h>
 #include <ostream>
 #include <string>
 
-namespace linetypetest {
+namespace encodingtest {
 namespace {
 
-using LineConverter::DecodeControlCodes;
+using encoding::DecodeControlCodes;
 
 struct CodeCase {
     const wchar_t* text;
@@ -79,4 +79,4 @@ INSTANTIATE_TEST_SUITE_P(Texts, OverAndUnderline,
                                          LineCase{L"%%u%%065%%d", false, true}));
 
 } // namespace
-} // namespace linetypetest
+} // namespace encodingtest

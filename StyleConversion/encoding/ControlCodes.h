@@ -1,10 +1,10 @@
-// The "%%" codes in the texts of linetypes.
+// The "%%" codes in texts.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-namespace LineConverter {
+namespace encoding {
 
 /// A text without its control codes, and whether all of its characters are overlined or underlined: so too
 /// when there are none.
@@ -17,11 +17,10 @@ struct DecodedText {
 /// Carries out "%%C" (diameter sign), "%%D" (degree sign), "%%P" (plus-minus sign), "%%O" and "%%U" (overline
 /// and underline on and off), letters in either case, and "%%" with one to three decimal digits: the
 /// character of that code. "%%" before anything else is dropped; a single "%" stays. Where
-/// `readUnicodeCodes`,
-/// "\U+" and four hexadecimal digits are the character of that code, too.
+/// `readUnicodeCodes`, "\U+" and four hexadecimal digits are the character of that code, too.
 DecodedText DecodeControlCodes(std::wstring_view text, bool readUnicodeCodes = false);
 
 /// Whether the text starts with "\U+" and four hexadecimal digits.
 bool StartsWithUnicodeCode(std::wstring_view text);
 
-} // namespace LineConverter
+} // namespace encoding

@@ -1,14 +1,18 @@
-// The "%%" codes in the texts of linetypes.
-#include "StyleConversion/linetype/ControlCodes.h"
+#include "StyleConversion/encoding/ControlCodes.h"
 
-#include "StyleConversion/linetype/LinLimits.h"
 #include "StyleConversion/platform/Characters.h"
 
 #include <algorithm>
 #include <cstddef>
 
-namespace LineConverter {
+namespace encoding {
 namespace {
+
+// The most decimal digits that follow "%%" as one character code.
+constexpr std::size_t kCharacterCodeDigits = 3;
+
+// The hexadecimal digits that follow "\U+" as one character code, where that is read at all.
+constexpr std::size_t kUnicodeCodeDigits = 4;
 
 // Required: R35
 constexpr wchar_t kDiameterSign = 8709;
@@ -121,4 +125,4 @@ DecodedText DecodeControlCodes(std::wstring_view text, bool readUnicodeCodes) {
     return Decoder(readUnicodeCodes).Decode(text);
 }
 
-} // namespace LineConverter
+} // namespace encoding
