@@ -71,6 +71,7 @@ void EntityNode::BindAreasAndTexts() {
     Bind("style", style_);
     Bind("horizontalMode", horizontalMode_);
     Bind("verticalMode", verticalMode_);
+    Bind("alignmentPoint", alignmentPoint_);
     Bind("tag", tag_);
     Bind("prompt", prompt_);
     Bind("location", location_);
@@ -78,6 +79,7 @@ void EntityNode::BindAreasAndTexts() {
     Bind("contents", contents_);
     Bind("actualWidth", actualWidth_);
     Bind("actualHeight", actualHeight_);
+    Bind("attachment", attachment_);
     Bind("block", insertedBlock_);
     Bind("class", className_);
 }
@@ -91,11 +93,12 @@ void EntityNode::AddTypes() {
     AddType("polyline", {&vertices_}, {&spline_.Closed(), &plinegen_});
     AddType("hatch", {&loops_}, {&solid_, &pattern_, &hatchLines_});
     AddType("mpolygon", {&loops_}, {&fillColor_});
-    AddType("text", {&position_, &height_, &text_}, {&rotation_, &style_, &horizontalMode_, &verticalMode_});
+    AddType("text", {&position_, &height_, &text_},
+            {&rotation_, &style_, &horizontalMode_, &verticalMode_, &alignmentPoint_});
     AddType("attributeDefinition", {&position_, &height_, &text_, &tag_, &prompt_},
-            {&rotation_, &style_, &horizontalMode_, &verticalMode_});
+            {&rotation_, &style_, &horizontalMode_, &verticalMode_, &alignmentPoint_});
     AddType("mtext", {&location_, &textHeight_, &contents_},
-            {&rotation_, &style_, &actualWidth_, &actualHeight_});
+            {&rotation_, &style_, &actualWidth_, &actualHeight_, &attachment_});
     AddType("insert", {&insertedBlock_}, {});
     AddType("other", {&className_}, {});
 }
@@ -165,7 +168,7 @@ bool EntityNode::AddText(ReadState& state) {
         return Add<drawing::ParagraphText>(
             state, drawing::ParagraphTextData{location_.Point3d(), textHeight_.Value(), rotation_.Value(),
                                               contents_.Value(), style_.Value(), actualWidth_.Value(),
-                                              actualHeight_.Value()});
+                                              actualHeight_.Value(), attachment_.Value()});
     }
     drawing::TextData data;
     data.position = position_.Point3d();
@@ -175,6 +178,9 @@ bool EntityNode::AddText(ReadState& state) {
     data.style = style_.Value();
     data.horizontalMode = static_cast<OxDb::TextHorzMode>(horizontalMode_.Value());
     data.verticalMode = static_cast<OxDb::TextVertMode>(verticalMode_.Value());
+    if (Has(alignmentPoint_)) {
+        data.alignmentPoint = alignmentPoint_.Point3d();
+    }
     if (Type() == kText) {
         return Add<drawing::Text>(state, std::move(data));
     }

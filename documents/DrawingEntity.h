@@ -74,6 +74,7 @@ private:
     TextNode style_{L"STANDARD"};
     IntegerNode horizontalMode_;
     IntegerNode verticalMode_;
+    PointNode alignmentPoint_;
     TextNode tag_;
     TextNode prompt_;
     PointNode location_;
@@ -81,6 +82,7 @@ private:
     TextNode contents_;
     NumberNode actualWidth_;
     NumberNode actualHeight_;
+    IntegerNode attachment_{1, 1, 9};
 
     TextNode insertedBlock_;
     TextNode className_;

@@ -1,6 +1,7 @@
 // Construction, the names of blocks, the layer list, and the two ways to convert a block.
 #include "StyleConversion/block/BlockConverter.h"
 
+#include "StyleConversion/block/Faithful.h"
 #include "StyleConversion/block/Opened.h"
 #include "StyleConversion/block/UnitScale.h"
 #include "StyleConversion/interfaces/HostNames.h"
@@ -71,7 +72,9 @@ void BlockConverter::SetLayersToIgnore(const std::vector<std::wstring>& layers) 
 }
 
 void BlockConverter::SetScale(OxDb::UnitsValue units) {
-    if (const double* const millimetres = block::MillimetresPer(units)) {
+    if (block::IsFaithful()) {
+        scale_ = block::ExactMillimetres(static_cast<int>(units));
+    } else if (const double* const millimetres = block::MillimetresPer(units)) {
         scale_ = *millimetres;
     }
 }
@@ -105,6 +108,8 @@ TylModel::SymbolDefinition* BlockConverter::Convert(OxDbBlockTableRecord* record
     };
     if (hasOwnUnits()) {
         SetScale(record->blockInsertUnits());
+    } else if (block::IsFaithful()) {
+        SetScale(database_->insunits());
     }
     const std::unique_ptr<BlockConverter, decltype(restoreScale)> restoring(this, restoreScale);
     auto symbol = std::make_unique<TylModel::SimpleSymbolDefinition>();

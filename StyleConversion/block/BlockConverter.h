@@ -103,6 +103,9 @@ private:
                                  block::BlockSymbol& symbol) const;
     void CollectGeometryFromPolyline(OxDbBlockTableRecord& record, OxDbPolyline& polyline,
                                      block::BlockSymbol& symbol) const;
+    // In the colour and weight of `owner`.
+    void StrokePolyline(OxDbBlockTableRecord& record, OxDbPolyline& polyline, OxDbEntity& owner,
+                        block::BlockSymbol& symbol) const;
     void CollectGeometryFromSpline(OxDbBlockTableRecord& record, OxDbSpline& spline,
                                    block::BlockSymbol& symbol) const;
     void CollectGeometryFromArc(OxDbBlockTableRecord& record, OxDbArc& arc, block::BlockSymbol& symbol) const;
@@ -122,6 +125,8 @@ private:
                                  block::BlockSymbol& symbol) const;
     void CollectGeometryFromMText(OxDbBlockTableRecord& record, OxDbMText& text,
                                   block::BlockSymbol& symbol) const;
+    void CollectLinesFromMText(OxDbBlockTableRecord& record, OxDbMText& text,
+                               block::BlockSymbol& symbol) const;
 
     // One straight or circular piece in the dashes of a linetype, appended to `path`, and the shapes and
     // texts at the dashes, appended to `shapePath`. Without a linetype (null) or a pattern, solid. `sweep`,

@@ -1,5 +1,6 @@
 // The shapes and texts that a linetype carries at its dashes, and the shape files that they come from.
 #include "StyleConversion/block/Dashes.h"
+#include "StyleConversion/block/Faithful.h"
 #include "StyleConversion/block/Limits.h"
 #include "StyleConversion/block/Opened.h"
 #include "StyleConversion/block/ShapeFileSource.h"
@@ -53,6 +54,11 @@ void BlockConverter::Dashes::DrawShape(int index, const OxGePoint2d& at, double 
     double x = at.x + cosine * offset.x - sine * offset.y;
     double y = at.y + sine * offset.x + cosine * offset.y;
     double scale = linetype_.shapeScaleAt(index) * stretch;
+    if (block::IsFaithful()) {
+        x *= converter_.scale_;
+        y *= converter_.scale_;
+        scale *= converter_.scale_;
+    }
     const double rotation = linetype_.shapeRotationAt(index) + direction;
     const auto draw = [&](int number) {
         shapePath_ += converter_.ProcessShape(shapes, number, scale, x, y, rotation);

@@ -1,6 +1,7 @@
 // Dashes of single lines, arcs and circles.
 #include "StyleConversion/block/Dashes.h"
 
+#include "StyleConversion/block/Faithful.h"
 #include "StyleConversion/block/PathPoints.h"
 
 #include <cmath>
@@ -26,6 +27,11 @@ void BlockConverter::Dashes::LineTo(const OxGePoint2d& point) {
     block::LineTo(path_, point, converter_.scale_);
 }
 
+int BlockConverter::Dashes::FirstBehindLead() const {
+    // Required: R10
+    return block::IsFaithful() && !(LengthAt(0) > 0.0) ? 0 : 1;
+}
+
 void BlockConverter::Dashes::ArcTo(const OxGePoint2d& point, double radius, double angle, bool clockwise) {
     converter_.AppendArcString(&path_, radius, radius, 0.0, angle >= block::kPi, clockwise, point);
 }
@@ -44,8 +50,7 @@ void BlockConverter::ParseDashLine(OxDbLinetypeTableRecord* linetype, const OxGe
     const block::Direction direction(angle);
     OxGePoint2d current = direction.From(start, fit.lead);
     dashes.LineTo(current);
-    // Required: R10
-    int first = 1;
+    int first = dashes.FirstBehindLead();
     for (std::int32_t repetition = 0; repetition < fit.repetitions; ++repetition) {
         for (int i = first; i < dashes.Count(); ++i) {
             const double length = dashes.LengthAt(i);
@@ -60,7 +65,7 @@ void BlockConverter::ParseDashLine(OxDbLinetypeTableRecord* linetype, const OxGe
         }
         first = 0;
     }
-    dashes.LineTo(direction.From(current, fit.lead));
+    dashes.LineTo(block::IsFaithful() ? end : direction.From(current, fit.lead));
 }
 
 void BlockConverter::ParseDashArc(OxDbLinetypeTableRecord* linetype, const OxGePoint2d& start,
@@ -78,8 +83,7 @@ void BlockConverter::ParseDashArc(OxDbLinetypeTableRecord* linetype, const OxGeP
     const double lead = fit.lead / radius;
     OxGePoint2d current = travel.From(start, lead);
     dashes.ArcTo(current, radius, lead, clockwise);
-    // Required: R10
-    int first = 1;
+    int first = dashes.FirstBehindLead();
     for (std::int32_t repetition = 0; repetition < fit.repetitions; ++repetition) {
         for (int i = first; i < dashes.Count(); ++i) {
             const double length = dashes.LengthAt(i);
@@ -94,12 +98,15 @@ void BlockConverter::ParseDashArc(OxDbLinetypeTableRecord* linetype, const OxGeP
             }
             if (dashes.HasShape(i)) {
                 // Required: R11
-                dashes.DrawShape(i, current, block::CalcLineAngle(center, current) + block::kHalfPi);
+                const bool isTurned = clockwise && block::IsFaithful();
+                dashes.DrawShape(i, current,
+                                 block::CalcLineAngle(center, current) +
+                                     (isTurned ? -block::kHalfPi : block::kHalfPi));
             }
         }
         first = 0;
     }
-    dashes.ArcTo(travel.From(current, lead), radius, lead, clockwise);
+    dashes.ArcTo(block::IsFaithful() ? end : travel.From(current, lead), radius, lead, clockwise);
 }
 
 void BlockConverter::Dashes::GoRound(const OxGePoint2d& center, double radius) {

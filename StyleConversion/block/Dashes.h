@@ -60,6 +60,9 @@ public:
     /// Above 0 a dash, 0 a dot, below 0 a gap.
     double LengthAt(int index) const { return linetype_.dashLengthAt(index); }
 
+    /// The dash that follows the lead of a pattern.
+    int FirstBehindLead() const;
+
     /// Begins a subpath behind what the path has.
     void StartAt(const OxGePoint2d& point);
     void MoveTo(const OxGePoint2d& point);
@@ -107,8 +110,8 @@ private:
     double lead_;
     /// Still to go of the current entry, in drawing units: above 0 drawn, 0 a dot, below 0 a gap.
     double remaining_;
-    /// The dash of the linetype that the current entry is, or stands in for.
-    int index_ = 0;
+    /// The dash of the linetype that the current entry is, or stands in for; -1 for a lead-in that is none.
+    int index_;
     bool isLead_ = true;
     /// The current entry was cut at a vertex.
     bool isRest_ = false;
@@ -117,7 +120,7 @@ private:
     /// Whole entries of the pattern in a row that were too short to count.
     int idleEntries_ = 0;
     /// The pattern does not get on: everything from here is drawn.
-    bool isSolid_ = false;
+    bool isSolid_;
     bool started_ = false;
     OxGePoint2d current_;
 };

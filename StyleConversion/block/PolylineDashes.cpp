@@ -1,12 +1,15 @@
 // Dashes along a polyline.
 #include "StyleConversion/block/Dashes.h"
 
+#include "StyleConversion/block/Faithful.h"
+
 #include <cmath>
 
 BlockConverter::PolylineDashes::PolylineDashes(Dashes& dashes, const block::DashFit& fit)
-    : dashes_(dashes), lead_(fit.lead), remaining_(fit.lead),
-      entriesLeft_(static_cast<std::uint32_t>(fit.repetitions) * static_cast<std::uint32_t>(dashes.Count())) {
-}
+    : dashes_(dashes), lead_(fit.lead), remaining_(fit.lead), index_(dashes.FirstBehindLead() - 1),
+      entriesLeft_(static_cast<std::uint32_t>(fit.repetitions) * static_cast<std::uint32_t>(dashes.Count()) -
+                   static_cast<std::uint32_t>(index_)),
+      isSolid_(block::IsFaithful() && fit.repetitions < 1) {}
 
 void BlockConverter::PolylineDashes::Add(const block::PolylineSegment& segment) {
     if (!started_) {
@@ -50,7 +53,9 @@ void BlockConverter::PolylineDashes::WriteEntry(const block::PolylineSegment& se
 }
 
 void BlockConverter::PolylineDashes::DrawShape(const block::PolylineSegment& segment, double angle) {
-    if (!dashes_.HasShape(index_)) {
+    // Required: R13
+    const bool isLeadOut = isLead_ && entriesLeft_ == 0;
+    if (index_ < 0 || !dashes_.HasShape(index_) || (isLeadOut && block::IsFaithful())) {
         return;
     }
     if (segment.isArc) {
@@ -63,10 +68,10 @@ void BlockConverter::PolylineDashes::DrawShape(const block::PolylineSegment& seg
 
 void BlockConverter::PolylineDashes::NextEntry() {
     isRest_ = false;
+    isSolid_ = entriesLeft_ == 0 && block::IsFaithful();
     --entriesLeft_;
     isLead_ = entriesLeft_ == 0;
     if (isLead_) {
-        // Required: R13
         remaining_ = lead_;
         return;
     }
@@ -102,7 +107,9 @@ void BlockConverter::PolylineDashes::CutAtEnd(const block::PolylineSegment& segm
         remaining_ += left;
     } else if (segment.isArc) {
         // Required: R12
-        ArcTo(segment, remaining_ / segment.travel.radius, segment.end);
+        const bool isWhole = !block::IsFaithful();
+        ArcTo(segment, (isWhole ? remaining_ : left) / segment.travel.radius, segment.end);
+        remaining_ -= isWhole ? 0.0 : left;
     } else {
         dashes_.LineTo(segment.end);
         remaining_ -= left;

@@ -1,5 +1,6 @@
 #include "StyleConversion/block/SplineSampling.h"
 
+#include "StyleConversion/block/Faithful.h"
 #include "StyleConversion/block/Limits.h"
 #include "StyleConversion/interfaces/HostNames.h"
 
@@ -13,10 +14,7 @@ namespace {
 
 // Parts of the curve's extent that the samples may be off by.
 constexpr double kToleranceOfExtent = 0.001;
-// Drawing units, for a curve without any extent.
-constexpr double kToleranceWithoutExtent = 0.001;
 constexpr double kKnotTolerance = 1e-9;
-constexpr double kIntervalTolerance = 1e-12;
 
 // The points below those of space.
 void Flatten(host::Points3d& points, host::Points2d& flat) {
@@ -68,39 +66,15 @@ SplineCurve CurveFromControlPoints(OxDbSpline& spline) {
     return {std::move(curve), host::LengthOf(points)};
 }
 
-// How far the samples may be off the curve, in drawing units.
-double InitialTolerance(OxGeNurbCurve2d& curve) {
-    OxGePoint2d minimum;
-    OxGePoint2d maximum;
-    curve.boundBlock().getMinMaxPoints(minimum, maximum);
-    const double extent = std::max(maximum.x - minimum.x, maximum.y - minimum.y);
-    const double tolerance = kToleranceOfExtent * extent;
-    return tolerance == 0.0 ? kToleranceWithoutExtent : tolerance;
-}
-
-std::vector<OxGePoint2d> Sample(OxGeNurbCurve2d& curve, double tolerance) {
-    const host::ParameterRange range = host::ParametersOf(curve, kIntervalTolerance);
-    host::Points2d points;
-    host::Doubles parameters;
-    curve.getSamplePoints(range.lower, range.upper, tolerance, points, parameters);
-    const int count = host::LengthOf(points);
-    std::vector<OxGePoint2d> samples;
-    samples.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        samples.push_back(host::ElementAt(points, i));
-    }
-    return samples;
-}
-
 // Halves the tolerance while there are fewer samples than defining points, else doubles it while there are
 // very many. A curve of very many defining points could go back and forth between two tolerances for ever: it
 // gets the finer of the two.
 std::vector<OxGePoint2d> SampleEvenly(OxGeNurbCurve2d& curve, int definingPoints) {
-    double tolerance = InitialTolerance(curve);
+    double tolerance = PartOfExtent(curve, kToleranceOfExtent);
     bool halved = false;
     bool doubled = false;
     for (;;) {
-        std::vector<OxGePoint2d> points = Sample(curve, tolerance);
+        std::vector<OxGePoint2d> points = SampleCurve(curve, tolerance);
         const auto count = static_cast<int>(points.size());
         const bool tooFew = count < definingPoints;
         double next = tolerance;
@@ -115,7 +89,7 @@ std::vector<OxGePoint2d> SampleEvenly(OxGeNurbCurve2d& curve, int definingPoints
             return points;
         }
         if (halved && doubled) {
-            return Sample(curve, next);
+            return SampleCurve(curve, next);
         }
         tolerance = next;
     }
@@ -129,7 +103,7 @@ std::vector<OxGePoint2d> SampleSpline(OxDbSpline& spline) {
     if (source.curve == nullptr) {
         return {};
     }
-    return SampleEvenly(*source.curve, source.definingPoints);
+    return IsFaithful() ? SampleClosely(*source.curve) : SampleEvenly(*source.curve, source.definingPoints);
 }
 
 } // namespace block

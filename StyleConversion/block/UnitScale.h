@@ -33,6 +33,32 @@ inline constexpr double kMillimetres[kUnitCount] = {
     3.09e19,                // parsecs
 };
 
+/// The exact ones of those that are rounded above, and those of the units that have none there.
+inline double ExactMillimetres(int code) {
+    switch (code) {
+    case 2:
+        return 304.8;
+    case 8:
+        return 2.54e-5;
+    case 18:
+        return 1.495978707e14;
+    case 19:
+        return 9.4607304725808e18;
+    case 20:
+        return 3.0856775814913673e19;
+    case 21: // feet, inches, yards and miles of land surveys
+        return 1200000.0 / 3937.0;
+    case 22:
+        return 100000.0 / 3937.0;
+    case 23:
+        return 3600000.0 / 3937.0;
+    case 24:
+        return 5280.0 * 1200000.0 / 3937.0;
+    default:
+        return code >= 0 && code < kUnitCount ? kMillimetres[code] : 1.0;
+    }
+}
+
 /// False for the code of a block or drawing without a unit.
 inline bool HasUnit(OxDb::UnitsValue unit) {
     return static_cast<int>(unit) != 0;

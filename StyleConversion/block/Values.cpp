@@ -1,6 +1,7 @@
 // Values as the symbol model takes them, scaled to millimetres.
 #include "StyleConversion/block/BlockConverter.h"
 
+#include "StyleConversion/block/Faithful.h"
 #include "StyleConversion/encoding/ScaledPath.h"
 #include "StyleConversion/encoding/TrimmedNumber.h"
 #include "StyleConversion/encoding/ValueForms.h"
@@ -21,6 +22,11 @@ std::wstring BlockConverter::Int2TylString(std::int32_t value) const {
 }
 
 std::wstring BlockConverter::Lineweight2TylString(int lineWeight) const {
+    if (block::IsFaithful()) {
+        // A weight that is left to the default is that of most drawings.
+        constexpr int kDefaultWeight = 25;
+        return encoding::Double2TrimmedString((lineWeight < 0 ? kDefaultWeight : lineWeight) / 100.0);
+    }
     return encoding::LineweightString(lineWeight);
 }
 

@@ -4,6 +4,7 @@
 #include "OxDb/OxDbText.h"
 #include "drawing/database/Resident.h"
 
+#include <optional>
 #include <string>
 
 namespace drawing {
@@ -18,6 +19,7 @@ struct TextData {
     std::wstring style = L"STANDARD";
     OxDb::TextHorzMode horizontalMode = OxDb::kTextLeft;
     OxDb::TextVertMode verticalMode = OxDb::kTextBase;
+    std::optional<OxGePoint3d> alignmentPoint = std::nullopt; // that of the modes; none where it is not known
 };
 
 /// What single-line texts of both kinds do alike.
@@ -38,6 +40,8 @@ public:
     OxGePoint3d position() const override { return data_.position; }
     OxDb::TextHorzMode horizontalMode() const override { return data_.horizontalMode; }
     OxDb::TextVertMode verticalMode() const override { return data_.verticalMode; }
+    bool hasAlignmentPoint() const override { return data_.alignmentPoint.has_value(); }
+    OxGePoint3d alignmentPoint() const override { return data_.alignmentPoint.value_or(data_.position); }
     const wchar_t* textStringConst() const override { return data_.text.c_str(); }
 
 private:
@@ -85,6 +89,7 @@ struct ParagraphTextData {
     std::wstring style = L"STANDARD"; // as TextData's
     double actualWidth = 0.0;
     double actualHeight = 0.0;
+    int attachment = 1; // 1 to 9: the point of the text at its location, from the top left by rows
 };
 
 /// A text of paragraphs; its contents have control codes.
@@ -98,6 +103,7 @@ public:
     double textHeight() const override { return data_.textHeight; }
     double rotation() const override { return data_.rotation; }
     OxGePoint3d location() const override { return data_.location; }
+    int attachment() const override { return data_.attachment; }
     double actualWidth() const override { return data_.actualWidth; }
     double actualHeight() const override { return data_.actualHeight; }
     const wchar_t* contents() const override { return data_.contents.c_str(); }

@@ -2,10 +2,14 @@
 #include "StyleConversion/block/Angles.h"
 #include "StyleConversion/block/BlockConverter.h"
 #include "StyleConversion/block/BlockSymbol.h"
+#include "StyleConversion/block/Faithful.h"
 #include "StyleConversion/block/PathPoints.h"
+#include "StyleConversion/block/SplineSampling.h"
 #include "StyleConversion/encoding/ValueForms.h"
 
 #include <cmath>
+#include <cstddef>
+#include <vector>
 
 // Writes boundary loops to a path.
 class BlockConverter::Loops {
@@ -35,25 +39,29 @@ public:
     }
 
 private:
-    // A bulge is the tangent of a quarter of its segment's included angle, negative for clockwise. There is
-    // no segment back to the first vertex: filling closes the figure.
+    // There is no segment back to the first vertex: filling closes the figure.
+    // Required: R38
     void AppendPolygon(host::Points2d& vertices, host::Doubles& bulges) {
+        const int count = host::LengthOf(vertices);
+        const int segments = block::IsFaithful() ? count : count - 1;
         OxGePoint2d previous = host::ElementAt(vertices, 0);
         block::StartAt(path_, previous, converter_.scale_);
-        for (int i = 1; i < host::LengthOf(vertices); ++i) {
-            const OxGePoint2d vertex = host::ElementAt(vertices, i);
-            const bool isGiven = i - 1 < host::LengthOf(bulges);
-            const double bulge = isGiven ? static_cast<double>(host::ElementAt(bulges, i - 1)) : 0.0;
-            if (bulge != 0.0) {
-                const double chord = block::Distance(previous, vertex);
-                const double radius = std::fabs((bulge * bulge + 1.0) * chord / (4.0 * bulge));
-                converter_.AppendArcString(&path_, radius, radius, 0.0, std::fabs(bulge) > 1.0, bulge < 0.0,
-                                           vertex);
-            } else {
-                block::LineTo(path_, vertex, converter_.scale_);
-            }
+        for (int i = 0; i < segments; ++i) {
+            const OxGePoint2d vertex = host::ElementAt(vertices, i + 1 < count ? i + 1 : 0);
+            const bool isGiven = i < host::LengthOf(bulges);
+            AppendSegment(previous, vertex, isGiven ? static_cast<double>(host::ElementAt(bulges, i)) : 0.0);
             previous = vertex;
         }
+    }
+
+    // A bulge is the tangent of a quarter of its segment's included angle, negative for clockwise.
+    void AppendSegment(const OxGePoint2d& from, const OxGePoint2d& to, double bulge) {
+        if (bulge == 0.0) {
+            block::LineTo(path_, to, converter_.scale_);
+            return;
+        }
+        const double radius = std::fabs((bulge * bulge + 1.0) * block::Distance(from, to) / (4.0 * bulge));
+        converter_.AppendArcString(&path_, radius, radius, 0.0, std::fabs(bulge) > 1.0, bulge < 0.0, to);
     }
 
     void AppendEdge(host::Edge& edge) {
@@ -64,8 +72,50 @@ private:
         } else if (auto* const circle = host::AsCircularArc(edge)) {
             AppendArc(*circle, circle->radius(), circle->radius());
         } else if (auto* const ellipse = host::AsEllipticalArc(edge)) {
-            AppendArc(*ellipse, ellipse->majorRadius(), ellipse->minorRadius());
+            if (block::IsFaithful()) {
+                AppendTurnedArc(*ellipse);
+            } else {
+                AppendArc(*ellipse, ellipse->majorRadius(), ellipse->minorRadius());
+            }
+        } else if (block::IsFaithful()) {
+            AppendPoints(block::SampleClosely(edge));
         }
+    }
+
+    void AppendPoints(const std::vector<OxGePoint2d>& points) {
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            if (i == 0) {
+                MoveTo(points[i]);
+            } else {
+                block::LineTo(path_, points[i], converter_.scale_);
+            }
+            current_ = points[i];
+        }
+    }
+
+    // Where the major axis of an arc points is told from where the arc starts.
+    template <class Arc>
+    void AppendTurnedArc(Arc& arc) {
+        const OxGePoint2d center = arc.center();
+        const OxGePoint2d start = arc.startPoint();
+        const double radiusX = arc.majorRadius();
+        const double radiusY = arc.minorRadius();
+        const double angle = arc.isClockWise() ? -arc.startAng() : arc.startAng();
+        const double turned = std::atan2(start.y - center.y, start.x - center.x) -
+                              std::atan2(radiusY * std::sin(angle), radiusX * std::cos(angle));
+        const double rotation = turned * 180.0 / block::kPi;
+        MoveTo(start);
+        if (arc.isClosed()) {
+            const OxGePoint2d opposite = host::Point(2.0 * center.x - start.x, 2.0 * center.y - start.y);
+            converter_.AppendArcString(&path_, radiusX, radiusY, rotation, true, arc.isClockWise(), opposite);
+            converter_.AppendArcString(&path_, radiusX, radiusY, rotation, true, arc.isClockWise(), start);
+            current_ = start;
+            return;
+        }
+        const double sweep = block::Sweep(arc.startAng(), arc.endAng());
+        converter_.AppendArcString(&path_, radiusX, radiusY, rotation, sweep >= block::kPi, arc.isClockWise(),
+                                   arc.endPoint());
+        current_ = arc.endPoint();
     }
 
     template <class Arc>

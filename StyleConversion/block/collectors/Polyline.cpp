@@ -1,6 +1,7 @@
 // Lightweight polylines, and splines, which are polylines through points along them.
 #include "StyleConversion/block/BlockSymbol.h"
 #include "StyleConversion/block/Dashes.h"
+#include "StyleConversion/block/Faithful.h"
 #include "StyleConversion/block/Opened.h"
 #include "StyleConversion/block/SplineSampling.h"
 
@@ -65,6 +66,11 @@ void ForEachSegment(OxDbPolyline& polyline, Use use) {
 
 void BlockConverter::CollectGeometryFromPolyline(OxDbBlockTableRecord& record, OxDbPolyline& polyline,
                                                  block::BlockSymbol& symbol) const {
+    StrokePolyline(record, polyline, polyline, symbol);
+}
+
+void BlockConverter::StrokePolyline(OxDbBlockTableRecord& record, OxDbPolyline& polyline, OxDbEntity& owner,
+                                    block::BlockSymbol& symbol) const {
     auto& [path, shapes] = symbol.StartPath();
     block::Linetype linetype(polyline);
     // Whatever the pattern length is: only segments by themselves look at it.
@@ -86,8 +92,8 @@ void BlockConverter::CollectGeometryFromPolyline(OxDbBlockTableRecord& record, O
         });
     }
     linetype.Close();
-    const std::wstring color = GetEntityColor(record, polyline, polyline.color(), symbol);
-    symbol.AdoptStroke(color, GetEntityLineweight(record, polyline, symbol));
+    const std::wstring color = GetEntityColor(record, owner, owner.color(), symbol);
+    symbol.AdoptStroke(color, GetEntityLineweight(record, owner, symbol));
 }
 
 void BlockConverter::CollectGeometryFromSpline(OxDbBlockTableRecord& record, OxDbSpline& spline,
@@ -107,5 +113,9 @@ void BlockConverter::CollectGeometryFromSpline(OxDbBlockTableRecord& record, OxD
     static_cast<void>(polyline.setLineWeight(spline.lineWeight()));
     static_cast<void>(polyline.setLinetype(spline.linetypeId()));
     polyline.setPlinegen(true);
-    CollectGeometryFromPolyline(record, polyline, symbol);
+    if (block::IsFaithful()) {
+        StrokePolyline(record, polyline, spline, symbol);
+    } else {
+        CollectGeometryFromPolyline(record, polyline, symbol);
+    }
 }

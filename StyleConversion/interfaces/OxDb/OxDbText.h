@@ -20,6 +20,9 @@ public:
     /// How the text stands to its alignment point.
     virtual OxDb::TextHorzMode horizontalMode() const = 0;
     virtual OxDb::TextVertMode verticalMode() const = 0;
+    /// Whether the point that the modes speak of is known, and that point; else it is the insertion point.
+    virtual bool hasAlignmentPoint() const = 0;
+    virtual OxGePoint3d alignmentPoint() const = 0;
     /// The text, with its control codes.
     virtual const wchar_t* textStringConst() const = 0;
 };
@@ -50,6 +53,8 @@ public:
     virtual double rotation() const = 0;
     /// The insertion point, in drawing units.
     virtual OxGePoint3d location() const = 0;
+    /// Which point of the text stands at the insertion point: 1 to 9, from the top left by rows.
+    virtual int attachment() const = 0;
     /// The extent of the text as it is set, in drawing units.
     virtual double actualWidth() const = 0;
     virtual double actualHeight() const = 0;
