@@ -53,6 +53,14 @@ std::wstring Quoted(std::wstring_view text) {
     return Enclosed(L'\'', text);
 }
 
+std::wstring QuotedSafely(std::wstring_view text) {
+    std::wstring content = L"'";
+    for (const wchar_t c : text) {
+        content.append(c == L'\'' ? 2 : 1, c);
+    }
+    return content + L"'";
+}
+
 std::wstring ParameterReference(std::wstring_view identifier) {
     return Enclosed(L'%', identifier);
 }

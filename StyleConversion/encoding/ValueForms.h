@@ -25,6 +25,9 @@ std::wstring BooleanString(bool value);
 /// `text` between single quotes, without escaping.
 std::wstring Quoted(std::wstring_view text);
 
+/// The same with each single quote in it doubled, so that it is one text to whoever reads it.
+std::wstring QuotedSafely(std::wstring_view text);
+
 /// "%identifier%".
 std::wstring ParameterReference(std::wstring_view identifier);
 

@@ -3,6 +3,7 @@
 
 #include "StyleConversion/encoding/ControlCodes.h"
 #include "StyleConversion/encoding/PathCommands.h"
+#include "StyleConversion/encoding/ValueForms.h"
 #include "StyleConversion/linetype/LinNames.h"
 #include "StyleConversion/linetype/LineSymbolParts.h"
 #include "StyleConversion/linetype/ShxDrawing.h"
@@ -21,18 +22,11 @@ constexpr std::size_t kHeightByte = 0;
 constexpr std::size_t kModesByte = 2;
 constexpr std::uint8_t kBothOrientations = 2;
 
+constexpr double kDegreesPerRadian = 57.29577951308232;
+
 // Whether an element keeps its angle to the drawing: a rotation against the line goes before.
 bool HasFixedAngle(const ElementTransform& transform) {
     return transform.relativeRotation == 0.0 && !std::isnan(transform.absoluteRotation);
-}
-
-// Between quotes, each quote of the text doubled.
-std::wstring QuotedContent(const std::wstring& characters) {
-    std::wstring content = L"'";
-    for (const wchar_t c : characters) {
-        content.append(c == L'\'' ? 2 : 1, c);
-    }
-    return content + L"'";
 }
 
 } // namespace
@@ -161,6 +155,16 @@ double CLinVisitor::ElementY(const ElementTransform& transform) const {
     return transform.offsetY * scale_;
 }
 
+CLinVisitor::Place CLinVisitor::PlaceInFixedFrame(const ElementTransform& transform) const {
+    const double y = ElementY(transform);
+    // Required: R40
+    if (!policy_.faithful || y == 0.0 || transform.absoluteRotation == 0.0) {
+        return {0.0, y};
+    }
+    const double angle = transform.absoluteRotation / kDegreesPerRadian;
+    return {y * std::sin(angle), y * std::cos(angle)};
+}
+
 void CLinVisitor::Shape(const std::string& shapeName, const ElementTransform& transform,
                         const ShxUtility::ShapesInFile& file) {
     const double x = ElementX(transform);
@@ -170,8 +174,10 @@ void CLinVisitor::Shape(const std::string& shapeName, const ElementTransform& tr
         return;
     }
     ShxPen pen;
-    pen.x = HasFixedAngle(transform) ? 0.0 : x;
-    pen.y = ElementY(transform);
+    const Place place =
+        HasFixedAngle(transform) ? PlaceInFixedFrame(transform) : Place{x, ElementY(transform)};
+    pen.x = place.x;
+    pen.y = place.y;
     pen.scale = transform.scale * scale_;
     pen.rotation = transform.relativeRotation;
     std::wstring path;
@@ -209,7 +215,7 @@ void CLinVisitor::AddTrueTypeText(const std::string& text, const ElementTransfor
         return;
     }
     const encoding::DecodedText decoded = encoding::DecodeControlCodes(wide, policy_.looseForm);
-    element->SetContent(QuotedContent(decoded.characters));
+    element->SetContent(encoding::QuotedSafely(decoded.characters));
     if (decoded.overlined) {
         element->SetOverlined(yes);
     }
@@ -222,8 +228,12 @@ void CLinVisitor::AddTrueTypeText(const std::string& text, const ElementTransfor
     element->SetHeight(encoding::FormatNumber(size * scale_));
     element->SetTextColor(std::wstring(L"%TEXTCOLOR%"));
     const double x = ElementX(transform);
-    element->SetPositionY(encoding::FormatNumber(ElementY(transform)));
     if (HasFixedAngle(transform)) {
+        const Place place = PlaceInFixedFrame(transform);
+        if (place.x != 0.0) {
+            element->SetPositionX(encoding::FormatNumber(place.x));
+        }
+        element->SetPositionY(encoding::FormatNumber(place.y));
         SimpleSymbolDefinition& definition = AddMember(Compound(), name_);
         FixAngle(AddLineUsage(definition), transform.absoluteRotation, x);
         host::Adopt(definition.GetGraphics(), std::move(element));
@@ -234,6 +244,7 @@ void CLinVisitor::AddTrueTypeText(const std::string& text, const ElementTransfor
         element->SetAngle(encoding::FormatNumber(transform.relativeRotation));
     }
     element->SetPositionX(encoding::FormatNumber(x));
+    element->SetPositionY(encoding::FormatNumber(ElementY(transform)));
     host::Adopt(simple_->GetGraphics(), std::move(element));
     hasText_ = true;
 }
@@ -267,8 +278,10 @@ void CLinVisitor::AddShxText(const std::string& text, const ElementTransform& tr
     }
     const double x = ElementX(transform);
     ShxPen pen;
-    pen.x = HasFixedAngle(transform) ? 0.0 : x;
-    pen.y = ElementY(transform);
+    const Place place =
+        HasFixedAngle(transform) ? PlaceInFixedFrame(transform) : Place{x, ElementY(transform)};
+    pen.x = place.x;
+    pen.y = place.y;
     pen.scale = transform.scale * scale_ / height;
     if (font.textSize != 0.0) {
         pen.scale *= font.textSize;

@@ -54,6 +54,13 @@ private:
     // The distance along the line, and to its left, at which an element is placed.
     double ElementX(const ElementTransform& transform) const;
     double ElementY(const ElementTransform& transform) const;
+    // Where an element with an absolute angle stands in the frame that is turned by it, from its place on the
+    // line.
+    struct Place {
+        double x;
+        double y;
+    };
+    Place PlaceInFixedFrame(const ElementTransform& transform) const;
     void Fail(LinErrorKind kind, const std::wstring& subject,
               ShxUtility::ShxResult shxResult = ShxUtility::kSuccess);
 

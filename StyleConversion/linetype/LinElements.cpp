@@ -18,18 +18,19 @@ using encoding::TextCursor;
 
 constexpr double kDegreesPerGrad = 0.9;
 constexpr double kRadiansPerDegree = 0.017453292519943295;
+constexpr double kDegreesPerRadian = 57.29577951308232;
 
 bool IsUnit(char c) {
     return c == 'd' || c == 'g' || c == 'r';
 }
 
-double ToDegrees(double value, char unit) {
+double ToDegrees(double value, char unit, bool faithful) {
     switch (unit) {
     case 'g':
         return value * kDegreesPerGrad;
     case 'r':
         // Required: R32
-        return value * kRadiansPerDegree;
+        return faithful ? value * kDegreesPerRadian : value * kRadiansPerDegree;
     default:
         return value;
     }
@@ -113,7 +114,7 @@ LinResult ReadTransformField(LinReading& reading, TextCursor& cursor, ElementTra
         if (letter != 'A' && letter != 'R') {
             return reading.SyntaxError(LinErrorKind::kFieldTakesNoUnit, cursor.Rest());
         }
-        *field = ToDegrees(*field, cursor.Peek());
+        *field = ToDegrees(*field, cursor.Peek(), reading.policy.faithful);
         cursor.Skip();
     }
     return kSuccess;

@@ -21,6 +21,9 @@ struct LinPolicy {
     bool unknownStylesAreStandard = false;
     /// Of the shape files that linetypes name.
     ShxUtility::ShapeFilePolicy shapeFiles;
+    /// What is drawn is what the file says, not what is required: angles in radians are taken as such, and
+    /// the offset of a text or shape with an absolute angle is right beside a level line.
+    bool faithful = false;
 };
 
 /// Whether a result ends everything.

@@ -297,8 +297,12 @@ TEST_F(Faithful, TextsHaveTheirExactAngleAndTheirPlace) {
 TEST_F(Faithful, ControlCodesOfTextsAreCarriedOut) {
     block.Add<drawing::Text>(Solid(), TextAtOrigin(L"45%%d \\U+00C4"));
     block.Add<drawing::Text>(Solid(), TextAtOrigin(L"%%uRoad%%u"));
+    block.Add<drawing::Text>(Solid(), TextAtOrigin(L"it's"));
+    block.Add<drawing::AttributeDefinition>(Solid(), TextAtOrigin(L"5%%p1"), L"TAG", L"Tag");
     const Symbol symbol = FaithfulSymbol();
     EXPECT_EQ(TextAt(symbol, 0).GetContent(), L"'45\u00b0 \u00c4'");
+    EXPECT_EQ(TextAt(symbol, 2).GetContent(), L"'it''s'");
+    EXPECT_EQ(ParameterAt(symbol, 0).GetDefaultValue(), L"'5\u00b11'");
     EXPECT_EQ(TextAt(symbol, 0).GetUnderlined(), L"");
     EXPECT_EQ(TextAt(symbol, 1).GetContent(), L"'Road'");
     EXPECT_EQ(TextAt(symbol, 1).GetUnderlined(), L"true");

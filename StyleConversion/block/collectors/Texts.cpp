@@ -118,7 +118,7 @@ OxGePoint3d AlignExactly(TylModel::Text& element, OxDbText& text) {
 // The characters of a text without its control codes, over- and underlined where all of them are.
 void SetDecoded(TylModel::Text& element, const std::wstring& text) {
     const encoding::DecodedText decoded = encoding::DecodeControlCodes(text, true);
-    element.SetContent(encoding::Quoted(decoded.characters));
+    element.SetContent(encoding::QuotedSafely(decoded.characters));
     if (!decoded.characters.empty() && decoded.underlined) {
         element.SetUnderlined(encoding::BooleanString(true));
     }
@@ -132,7 +132,10 @@ std::unique_ptr<TylModel::Parameter> AttributeParameter(OxDbAttributeDefinition&
     parameter->SetIdentifier(host::TextOf(attribute.tagConst()));
     parameter->SetDisplayName(host::TextOf(attribute.promptConst()));
     parameter->SetDescription(host::TextOf(attribute.promptConst()));
-    parameter->SetDefaultValue(encoding::Quoted(host::TextOf(attribute.textStringConst())));
+    const std::wstring value = host::TextOf(attribute.textStringConst());
+    parameter->SetDefaultValue(
+        block::IsFaithful() ? encoding::QuotedSafely(encoding::DecodeControlCodes(value, true).characters)
+                            : encoding::Quoted(value));
     block::SetDataType(*parameter, block::kTextType);
     return parameter;
 }
@@ -211,7 +214,7 @@ void BlockConverter::CollectLinesFromMText(OxDbBlockTableRecord& record, OxDbMTe
         element->SetPositionX(Double2TylString(location.x - sine * above));
         element->SetPositionY(Double2TylString(location.y + cosine * above));
         AlignLine(*element, column);
-        element->SetContent(encoding::Quoted(line));
+        element->SetContent(encoding::QuotedSafely(line));
         element->SetTextColor(color);
         if (!line.empty()) {
             symbol.Adopt(std::move(element));
