@@ -4,6 +4,7 @@
 #include "StyleConversion/block/Limits.h"
 #include "StyleConversion/block/Opened.h"
 #include "StyleConversion/block/ShapeFileSource.h"
+#include "StyleConversion/encoding/Degrees.h"
 #include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/shx/ShxUtility.h"
@@ -12,8 +13,6 @@
 #include <cstdio>
 
 namespace {
-
-constexpr double kDegreesPerRadian = 57.29577951308232;
 
 // Shape units above the base line, as the font's information has it: a signed byte. 0 when there is none.
 double HeightAboveBaseLine(const ShxUtility::ShapesInFile& shapes) {
@@ -122,7 +121,7 @@ std::wstring BlockConverter::ProcessShape(const ShxUtility::ShapesInFile& shapes
     pen.x = x;
     pen.y = y;
     pen.scale = scale;
-    pen.rotation = rotation * kDegreesPerRadian;
+    pen.rotation = rotation * encoding::kDegreesPerRadian;
     std::wstring path;
     const ShxUtility::ShxResult result =
         ShxUtility::DrawGlyph(shapes, static_cast<std::uint16_t>(shapeNumber), shapes.kind, pen, path);

@@ -2,6 +2,7 @@
 #include "StyleConversion/linetype/CLinVisitor.h"
 
 #include "StyleConversion/encoding/ControlCodes.h"
+#include "StyleConversion/encoding/Degrees.h"
 #include "StyleConversion/encoding/PathCommands.h"
 #include "StyleConversion/encoding/ValueForms.h"
 #include "StyleConversion/linetype/LinNames.h"
@@ -21,8 +22,6 @@ using TylModel::SimpleSymbolDefinition;
 constexpr std::size_t kHeightByte = 0;
 constexpr std::size_t kModesByte = 2;
 constexpr std::uint8_t kBothOrientations = 2;
-
-constexpr double kDegreesPerRadian = 57.29577951308232;
 
 // Whether an element keeps its angle to the drawing: a rotation against the line goes before.
 bool HasFixedAngle(const ElementTransform& transform) {
@@ -161,7 +160,7 @@ CLinVisitor::Place CLinVisitor::PlaceInFixedFrame(const ElementTransform& transf
     if (!policy_.faithful || y == 0.0 || transform.absoluteRotation == 0.0) {
         return {0.0, y};
     }
-    const double angle = transform.absoluteRotation / kDegreesPerRadian;
+    const double angle = transform.absoluteRotation * encoding::kRadiansPerDegree;
     return {y * std::sin(angle), y * std::cos(angle)};
 }
 

@@ -2,6 +2,7 @@
 #include "StyleConversion/linetype/LinElements.h"
 
 #include "StyleConversion/encoding/ControlCodes.h"
+#include "StyleConversion/encoding/Degrees.h"
 #include "StyleConversion/encoding/NumberReader.h"
 #include "StyleConversion/linetype/LinNames.h"
 #include "StyleConversion/platform/Characters.h"
@@ -17,8 +18,6 @@ namespace {
 using encoding::TextCursor;
 
 constexpr double kDegreesPerGrad = 0.9;
-constexpr double kRadiansPerDegree = 0.017453292519943295;
-constexpr double kDegreesPerRadian = 57.29577951308232;
 
 bool IsUnit(char c) {
     return c == 'd' || c == 'g' || c == 'r';
@@ -30,7 +29,7 @@ double ToDegrees(double value, char unit, bool faithful) {
         return value * kDegreesPerGrad;
     case 'r':
         // Required: R32
-        return faithful ? value * kDegreesPerRadian : value * kRadiansPerDegree;
+        return value * (faithful ? encoding::kDegreesPerRadian : encoding::kRadiansPerDegree);
     default:
         return value;
     }
