@@ -20,12 +20,12 @@ using diagnostics::Severity;
 using ShxUtility::ShapeFileError;
 
 // What is wrong, and with what.
-struct Finding {
+struct ShapeFileFinding {
     Code code;
     std::vector<std::string> subjects;
 };
 
-Finding CutShort(const std::string& part) {
+ShapeFileFinding CutShort(const std::string& part) {
     return {Code::kTruncatedShapeFile, {part}};
 }
 
@@ -33,7 +33,7 @@ std::string Entry(std::uint16_t number) {
     return number == 0 ? "the font information (shape 0)" : "shape " + std::to_string(number);
 }
 
-Finding HeaderFinding(ShapeFileError error) {
+ShapeFileFinding HeaderFinding(ShapeFileError error) {
     switch (error) {
     case ShapeFileError::MagicCutShort:
         return CutShort("its signature");
@@ -62,7 +62,7 @@ Finding HeaderFinding(ShapeFileError error) {
     }
 }
 
-Finding FindingOf(const ShxUtility::ShapeFileReport& report) {
+ShapeFileFinding FindingOf(const ShxUtility::ShapeFileReport& report) {
     switch (report.error) {
     case ShapeFileError::EntryHeadCutShort:
         return CutShort("its list of shapes: there are fewer than it counts");
@@ -108,7 +108,7 @@ bool ReadShapeFile(std::string_view bytes, bool tolerant, ShxUtility::ShapesInFi
 }
 
 Diagnostic RefusalOf(const std::string& file, const ShxUtility::ShapeFileReport& report) {
-    Finding finding = FindingOf(report);
+    ShapeFileFinding finding = FindingOf(report);
     Diagnostic diagnostic;
     diagnostic.code = finding.code;
     diagnostic.place.file = file;
