@@ -44,8 +44,8 @@ constexpr std::size_t kRounds = 33'400;
 
 constexpr std::size_t kConversionsOfARound = 3;
 constexpr std::size_t kRoundsBefore = kRounds / 50;
-// A byte lost in each conversion would take more.
-constexpr std::ptrdiff_t kMostGrowth = 96 * 1024;
+// The smallest block of malloc lost in each conversion would take three times this.
+constexpr std::ptrdiff_t kMostGrowth = 1024 * 1024;
 
 std::ptrdiff_t CountOpenFiles() {
 #if defined(_WIN32)
