@@ -25,11 +25,11 @@ if(WIN32)
 endif()
 
 # Flags that change what an operation rounds to. PreciseMath.h refuses what a compiler tells by a macro; these are the
-# ones that it does not tell, or not every compiler does.
+# ones that it does not tell, or not every compiler does, and -Ofast, which a later -O3 would hide.
 string(TOUPPER "${CMAKE_BUILD_TYPE}" build_type)
 foreach(flags CMAKE_CXX_FLAGS "CMAKE_CXX_FLAGS_${build_type}")
   if(" ${${flags}} " MATCHES
-      " (-f(unsafe-math-optimizations|associative-math|reciprocal-math|approx-func|fp-model=fast|no-signed-zeros|single-precision-constant)|-mrecip[^ ]*|-mfpmath=[^ ]*387[^ ]*) ")
+      " (-f(unsafe-math-optimizations|associative-math|reciprocal-math|approx-func|fp-model=fast|no-signed-zeros|single-precision-constant)|-Ofast|-mrecip[^ ]*|-mfpmath=[^ ]*387[^ ]*) ")
     message(FATAL_ERROR
       "StyleConversion cannot be built with ${CMAKE_MATCH_1}, which ${flags} has: digits would change.")
   endif()

@@ -217,10 +217,11 @@ fi
 row "TOOL=OFF, the rest as it is" by_itself "" -DSTYLECONVERSION_TOOL=OFF
 row "benchmarks without tool and tests" by_itself "block_benchmark shapes_benchmark geometry_benchmark" \
   -DSTYLECONVERSION_TOOL=OFF -DSTYLECONVERSION_BENCHMARKS=ON
-for flags in -ffast-math -Ofast -ffinite-math-only; do
+for flags in -ffast-math -ffinite-math-only; do
   row "$flags is refused" fast_math "$flags"
 done
-for flag in -funsafe-math-optimizations -fassociative-math -freciprocal-math -fno-signed-zeros -mrecip=all; do
+for flag in -Ofast -funsafe-math-optimizations -fassociative-math -freciprocal-math -fno-signed-zeros \
+  -mrecip=all; do
   row "$flag is refused, clang++" unsafe_math "$flag"
 done
 row "CLI11 missing" missing CLI11 libcli11-dev
