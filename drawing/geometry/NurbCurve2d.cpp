@@ -12,12 +12,7 @@
 namespace {
 
 std::vector<OxGePoint2d> ToPoints(const OxGePoint2dArray& points) {
-    std::vector<OxGePoint2d> list;
-    list.reserve(static_cast<std::size_t>(points.length()));
-    for (int index = 0; index < points.length(); ++index) {
-        list.push_back(points[index]);
-    }
-    return list;
+    return {points.begin(), points.end()};
 }
 
 // The curve from control points, or null when the data makes none.
