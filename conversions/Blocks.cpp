@@ -3,14 +3,18 @@
 #include "OxDb/OxDb.h"
 #include "StyleConversion/block/BlockConverter.h"
 #include "StyleConversion/block/Opened.h"
+#include "StyleConversion/platform/Files.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "conversions/checking/BlockCheck.h"
 #include "conversions/reading/Drawing.h"
 #include "conversions/reading/DrawingShapeFiles.h"
 #include "conversions/reading/FileKind.h"
 #include "conversions/reading/Shown.h"
+#include "drawing/entities/Recolor.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <map>
 #include <utility>
 
 namespace conversions {
@@ -22,13 +26,33 @@ using diagnostics::Outcome;
 using diagnostics::Severity;
 
 // False, which is said, where there are none.
-bool ConvertibleBlocks(const Input& input, BlockConverter& converter, std::vector<std::wstring>& names,
-                       Diagnostics& diagnostics) {
+bool ConvertibleBlocks(const Input& input, const drawing::Database& drawing, BlockConverter& converter,
+                       std::vector<std::wstring>& names, Diagnostics& diagnostics) {
     if (converter.GetBlockNames(names) == 0 && !names.empty()) {
         return true;
     }
-    diagnostics.push_back({Severity::kError, Code::kNoBlocks, {input.name}, {}});
+    diagnostics.push_back(NoBlocks(input.name, drawing));
     return false;
+}
+
+// The name of the file without folders and its end; empty for a stream without a name.
+std::wstring FileStem(const std::string& file) {
+    if (file == "standard input") {
+        return {};
+    }
+    return platform::SplitPath(platform::PathFromBytes(file)).fileName;
+}
+
+bool ChangesCopies(const drawing::BlockCopyOptions& options) {
+    return options.expandsInserts || options.startsAtBasePoint || options.leavesOutHidden;
+}
+
+// Whether a block takes its unit from a drawing that has none.
+bool UsesMissingUnit(const drawing::Database& drawing, const std::vector<std::wstring>& names) {
+    return std::any_of(names.begin(), names.end(), [&](const std::wstring& name) {
+        const drawing::BlockRecord* const block = drawing.FindBlock(name);
+        return block != nullptr && block->Data().units == OxDb::kUnitsUndefined;
+    });
 }
 
 class BlockConversion {
@@ -46,8 +70,21 @@ public:
 
     void Run() {
         std::vector<std::wstring> names = options_.names;
-        if (names.empty() && !ConvertibleBlocks(input_, converter_, names, result_.diagnostics)) {
+        if (options_.modelSpace) {
+            const drawing::BlockRecord* const space = ModelSpaceOf(drawing_);
+            if (space == nullptr) {
+                result_.diagnostics.push_back({Severity::kError, Code::kNoModelSpace, {input_.name}, {}});
+                return;
+            }
+            names = {space->Name()};
+        } else if (names.empty() &&
+                   !ConvertibleBlocks(input_, drawing_, converter_, names, result_.diagnostics)) {
             return;
+        }
+        if (!UsesMissingUnit(drawing_, names)) {
+            std::erase_if(result_.diagnostics, [](const diagnostics::Diagnostic& diagnostic) {
+                return diagnostic.code == Code::kNoUnit;
+            });
         }
         front_.BeginStage("Converting", names.size());
         Diagnostics found;
@@ -69,7 +106,12 @@ private:
     // Or says why not.
     void ConvertOne(const std::wstring& name, Diagnostics& found) {
         const std::uint64_t tooDense = drawing_.HatchesTooDense();
-        std::unique_ptr<TylModel::SymbolDefinition> symbol(converter_.Convert(name));
+        std::unique_ptr<drawing::BlockRecord> copy;
+        if (ChangesCopies(options_.seenAs) && !Copy(name, copy, found)) {
+            return;
+        }
+        std::unique_ptr<TylModel::SymbolDefinition> symbol(copy ? converter_.Convert(copy.get())
+                                                                : converter_.Convert(name));
         if (const std::uint64_t dense = drawing_.HatchesTooDense() - tooDense;
             !options_.tolerant && dense > 0) {
             // It cannot be evaluated; the rest of the block, and the other blocks, are worth having.
@@ -90,10 +132,57 @@ private:
                              {"block", ShownText(name)}});
             return;
         }
+        if (const std::wstring stem = FileStem(input_.name); options_.modelSpace && !stem.empty()) {
+            symbol->SetName(stem);
+        }
         result_.owned.push_back(std::move(symbol));
-        if (options_.tolerant) {
+        if (options_.tolerant && copy) {
+            check_.AddLosses(*copy, found);
+        } else if (options_.tolerant) {
             TellLosses(name, found);
         }
+    }
+
+    // The block as it is to be seen; null where there is none of the name. False, which is said, where that
+    // is too much.
+    bool Copy(const std::wstring& name, std::unique_ptr<drawing::BlockRecord>& copy, Diagnostics& found) {
+        const drawing::BlockRecord* const block = drawing_.FindBlock(name);
+        if (block == nullptr) {
+            return true;
+        }
+        drawing::BlockCopyLosses losses;
+        copy = CopyBlock(drawing_, *block, options_.seenAs, losses);
+        diagnostics::Place place;
+        place.file = input_.name;
+        place.item = ItemOf(*block);
+        if (losses.isCut) {
+            found.push_back({Severity::kError,
+                             Code::kTooManyEntities,
+                             std::move(place),
+                             {std::to_string(drawing::kMostCopiedEntities)}});
+            return false;
+        }
+        if (losses.recursive > 0) {
+            found.push_back({Severity::kWarning,
+                             Code::kRecursiveInsert,
+                             place,
+                             {std::to_string(drawing::kDeepestInsert)},
+                             Outcome::kNone,
+                             losses.recursive});
+        }
+        std::map<std::wstring, std::size_t> missing;
+        for (const std::wstring& inserted : losses.missing) {
+            ++missing[inserted];
+        }
+        for (const auto& [inserted, count] : missing) {
+            found.push_back({Severity::kWarning,
+                             Code::kMissingBlock,
+                             place,
+                             {ShownText(inserted)},
+                             Outcome::kNone,
+                             count});
+        }
+        return true;
     }
 
     void TellLosses(const std::wstring& name, Diagnostics& found) {
@@ -125,6 +214,16 @@ private:
 Conversion ConvertBlocks(const Input& input, const BlocksOptions& options, Front& front) {
     Conversion result;
     if (const auto drawing = ReadDrawing(input, options.tolerant, result.diagnostics)) {
+        if (options.units != OxDb::kUnitsUndefined && drawing->insunits() == OxDb::kUnitsUndefined) {
+            drawing->SetInsunits(options.units);
+            std::erase_if(result.diagnostics, [](const diagnostics::Diagnostic& diagnostic) {
+                return diagnostic.code == Code::kNoUnit;
+            });
+        }
+        if (options.whiteAs) {
+            constexpr std::uint8_t kWhite = 7;
+            drawing::ReplaceColor(*drawing, kWhite, *options.whiteAs);
+        }
         BlockConversion(input, *drawing, options, front, result).Run();
     }
     if (result.isConverted) {
@@ -141,7 +240,7 @@ Listing ListBlocks(const Input& input) {
     if (const auto drawing = ReadDrawing(input, false, listing.diagnostics)) {
         BlockConverter converter(drawing.get());
         std::vector<std::wstring> names;
-        listing.isListed = ConvertibleBlocks(input, converter, names, listing.diagnostics);
+        listing.isListed = ConvertibleBlocks(input, *drawing, converter, names, listing.diagnostics);
         for (const std::wstring& name : names) {
             listing.names.push_back(platform::WideToValidUtf8(name));
         }

@@ -10,6 +10,7 @@ BlockNode::BlockNode() {
     Bind("layout", layout_);
     Bind("anonymous", anonymous_);
     Bind("units", units_);
+    Bind("basePoint", basePoint_);
     Bind("entities", entities_, kRequired);
     Bind("drawOrder", drawOrder_);
 }
@@ -34,7 +35,7 @@ bool BlockNode::Finish(ReadState& state) {
         return false;
     }
     const drawing::BlockData data = {layout_.Value(), anonymous_.Value(),
-                                     static_cast<OxDb::UnitsValue>(units_.Value())};
+                                     static_cast<OxDb::UnitsValue>(units_.Value()), basePoint_.Point3d()};
     if (state.Target().AddBlock(name_.Value(), data, std::move(block_.record)) == nullptr) {
         return RefuseName(state, "block", name_.Value());
     }

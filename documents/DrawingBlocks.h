@@ -6,6 +6,12 @@
 
 namespace documents {
 
+/// A unit code: beyond those that are known, any, which scales nothing.
+class UnitsNode : public IntegerNode {
+public:
+    UnitsNode() : IntegerNode(0, 0) {}
+};
+
 class BlockNode : public ObjectNode {
 public:
     BlockNode();
@@ -24,7 +30,8 @@ private:
     TextNode name_;
     BooleanNode layout_;
     BooleanNode anonymous_;
-    IntegerNode units_{0, 0, 20};
+    UnitsNode units_;
+    PointNode basePoint_;
     ListNode<EntityNode> entities_{block_};
     WordsNode drawOrder_;
 };
@@ -41,7 +48,7 @@ protected:
 private:
     FixedTextNode format_{"styleconversion/drawing"};
     IntegerNode version_{1, 1, 1};
-    IntegerNode insunits_{0, 0, 20};
+    UnitsNode insunits_;
     ListNode<LayerNode> layers_;
     ListNode<LinetypeNode> linetypes_;
     ListNode<TextStyleNode> textStyles_;

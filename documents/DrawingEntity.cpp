@@ -5,8 +5,11 @@
 #include "drawing/entities/CurveEntities.h"
 #include "drawing/entities/SimpleEntities.h"
 #include "drawing/entities/Texts.h"
+#include "drawing/geometry/EdgeChain.h"
+#include "drawing/geometry/FullTurn.h"
 
 #include <numbers>
+#include <type_traits>
 
 namespace documents {
 namespace {
@@ -31,12 +34,42 @@ enum EntityType : std::size_t {
 
 } // namespace
 
+AttributeNode::AttributeNode(std::vector<Attribute>& attributes) : attributes_(attributes) {
+    Bind("layer", layer_);
+    Bind("color", color_);
+    Bind("lineWeight", lineWeight_);
+    Bind("linetype", linetype_);
+    Bind("hidden", hidden_);
+    Bind("position", position_, kRequired);
+    Bind("height", height_, kRequired);
+    Bind("text", text_, kRequired);
+    Bind("rotation", rotation_);
+    Bind("style", style_);
+    Bind("horizontalMode", horizontalMode_);
+    Bind("verticalMode", verticalMode_);
+    Bind("alignmentPoint", alignmentPoint_);
+}
+
+bool AttributeNode::Finish(ReadState& /*state*/) {
+    attributes_.push_back(
+        {{layer_.Value(), color_.Value(), static_cast<OxDb::LineWeight>(lineWeight_.Value()),
+          linetype_.Value(), hidden_.Value()},
+         {position_.Point3d(), height_.Value(), rotation_.Value(), text_.Value(), style_.Value(),
+          static_cast<OxDb::TextHorzMode>(horizontalMode_.Value()),
+          static_cast<OxDb::TextVertMode>(verticalMode_.Value())}});
+    if (Has(alignmentPoint_)) {
+        attributes_.back().data.alignmentPoint = alignmentPoint_.Point3d();
+    }
+    return true;
+}
+
 EntityNode::EntityNode(BlockInReading& block) : ObjectNode("an entity"), block_(block) {
     BindCommon("id", id_);
     BindCommon("layer", layer_);
     BindCommon("color", color_);
     BindCommon("lineWeight", lineWeight_);
     BindCommon("linetype", linetype_);
+    BindCommon("hidden", hidden_);
     BindGeometry();
     spline_.BindTo(*this);
     BindAreasAndTexts();
@@ -81,6 +114,13 @@ void EntityNode::BindAreasAndTexts() {
     Bind("actualHeight", actualHeight_);
     Bind("attachment", attachment_);
     Bind("block", insertedBlock_);
+    Bind("scale", scale_);
+    Bind("mirrored", mirrored_);
+    Bind("columns", columns_);
+    Bind("rows", rows_);
+    Bind("columnSpacing", columnSpacing_);
+    Bind("rowSpacing", rowSpacing_);
+    Bind("attributes", attributesNode_);
     Bind("class", className_);
 }
 
@@ -99,24 +139,51 @@ void EntityNode::AddTypes() {
             {&rotation_, &style_, &horizontalMode_, &verticalMode_, &alignmentPoint_});
     AddType("mtext", {&location_, &textHeight_, &contents_},
             {&rotation_, &style_, &actualWidth_, &actualHeight_, &attachment_});
-    AddType("insert", {&insertedBlock_}, {});
+    AddType("insert", {&insertedBlock_},
+            {&position_, &scale_, &rotation_, &mirrored_, &columns_, &rows_, &columnSpacing_, &rowSpacing_,
+             &attributesNode_});
     AddType("other", {&className_}, {});
 }
 
 drawing::EntityProperties EntityNode::Properties() const {
     return {layer_.Value(), color_.Value(), static_cast<OxDb::LineWeight>(lineWeight_.Value()),
-            linetype_.Value()};
+            linetype_.Value(), hidden_.Value()};
 }
 
 template <class T, class... Args>
 bool EntityNode::Add(ReadState& state, Args&&... args) {
-    const T& added = block_.record->Add<T>(Properties(), std::forward<Args>(args)...);
+    T& added = block_.record->Add<T>(Properties(), std::forward<Args>(args)...);
+    if constexpr (std::is_same_v<T, drawing::BlockReference>) {
+        for (AttributeNode::Attribute& attribute : attributes_) {
+            added.template AddAttribute<drawing::Text>(attribute.properties, std::move(attribute.data));
+        }
+        attributes_.clear();
+    }
     if (Has(id_) && !block_.ids.emplace(id_.Value(), added.objectId()).second) {
         return state.RefuseSpare(diagnostics::Code::kInvalidValue,
                                  {"an id that no other entity of the block has", Shown(id_.Value())},
                                  PathOf(id_), "the id");
     }
     return true;
+}
+
+drawing::InsertPlace EntityNode::Place() const {
+    drawing::InsertPlace place;
+    place.position = position_.Point3d();
+    place.scaleX = scale_[0];
+    place.scaleY = scale_[1];
+    place.rotation = rotation_.Value();
+    place.isMirrored = mirrored_.Value();
+    place.columns = columns_.Value();
+    place.rows = rows_.Value();
+    place.columnSpacing = columnSpacing_.Value();
+    place.rowSpacing = rowSpacing_.Value();
+    return place;
+}
+
+void EntityNode::Reset() {
+    attributes_.clear(); // of an insert that was left out before its end
+    ObjectNode::Reset();
 }
 
 bool EntityNode::Finish(ReadState& state) {
@@ -134,7 +201,7 @@ bool EntityNode::Finish(ReadState& state) {
     case kMText:
         return AddText(state);
     case kInsert:
-        return Add<drawing::BlockReference>(state, insertedBlock_.Value());
+        return Add<drawing::BlockReference>(state, insertedBlock_.Value(), Place());
     case kOther:
         return Add<drawing::OtherEntity>(state, className_.Value());
     default:
@@ -151,13 +218,15 @@ bool EntityNode::AddCurve(ReadState& state) {
     case kArc:
         return Add<drawing::Arc>(state,
                                  drawing::ArcData{center_.Point3d(), radius_.Value(), startAngle_.Value(),
-                                                  endAngle_.Value(), normal_.Vector3d()});
+                                                  geometry::FullTurn(startAngle_.Value(), endAngle_.Value()),
+                                                  normal_.Vector3d()});
     case kCircle:
         return Add<drawing::Circle>(state, center_.Point3d(), radius_.Value());
     default:
         break;
     }
-    const double endAngle = Has(endAngle_) ? endAngle_.Value() : 2.0 * std::numbers::pi;
+    const double endAngle =
+        Has(endAngle_) ? geometry::FullTurn(startAngle_.Value(), endAngle_.Value()) : 2.0 * std::numbers::pi;
     return Add<drawing::Ellipse>(state,
                                  drawing::EllipseData{center_.Point3d(), majorAxis_.Vector3d(),
                                                       radiusRatio_.Value(), startAngle_.Value(), endAngle});
@@ -196,6 +265,11 @@ bool EntityNode::AddHatch(ReadState& state) {
     drawing::HatchData data;
     data.solid = solid_.Value();
     data.loops = std::move(loops_.Values());
+    if (!data.solid) { // the areas of filled ones are drawn by their edges as they stand
+        for (drawing::HatchLoop& loop : data.loops) {
+            geometry::ChainEdges(loop.edges);
+        }
+    }
     if (Has(pattern_)) {
         data.pattern = std::move(pattern_.Values());
     }

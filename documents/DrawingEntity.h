@@ -3,7 +3,9 @@
 
 #include "documents/DrawingLoops.h"
 #include "documents/DrawingSplines.h"
+#include "drawing/database/BlockReference.h"
 #include "drawing/database/Blocks.h"
+#include "drawing/entities/Texts.h"
 
 #include <string>
 #include <unordered_map>
@@ -16,11 +18,42 @@ struct BlockInReading {
     std::unordered_map<std::string, OxDbObjectId> ids; // of the entities that have one
 };
 
+/// An attribute of an insert: a text; added to a list.
+class AttributeNode : public ObjectNode {
+public:
+    struct Attribute {
+        drawing::EntityProperties properties;
+        drawing::TextData data;
+    };
+
+    explicit AttributeNode(std::vector<Attribute>& attributes);
+
+protected:
+    bool Finish(ReadState& state) override;
+
+private:
+    std::vector<Attribute>& attributes_;
+    TextNode layer_{L"0"};
+    ColorNode color_{ByLayerColor()};
+    IntegerNode lineWeight_{OxDb::kLnWtByLayer};
+    TextNode linetype_{L"ByLayer"};
+    BooleanNode hidden_;
+    PointNode position_;
+    NumberNode height_;
+    TextNode text_;
+    NumberNode rotation_;
+    TextNode style_{L"STANDARD"};
+    IntegerNode horizontalMode_;
+    IntegerNode verticalMode_;
+    PointNode alignmentPoint_;
+};
+
 /// One entity of any type; added to a block.
 class EntityNode : public ObjectNode {
 public:
     explicit EntityNode(BlockInReading& block);
     std::string_view Part() const override { return "entity"; }
+    void Reset() override;
 
 protected:
     bool Finish(ReadState& state) override;
@@ -31,6 +64,7 @@ private:
     void AddTypes();
 
     drawing::EntityProperties Properties() const;
+    drawing::InsertPlace Place() const;
     template <class T, class... Args>
     bool Add(ReadState& state, Args&&... args);
     bool AddCurve(ReadState& state);
@@ -46,6 +80,7 @@ private:
     ColorNode color_{ByLayerColor()};
     IntegerNode lineWeight_{OxDb::kLnWtByLayer};
     TextNode linetype_{L"ByLayer"};
+    BooleanNode hidden_;
 
     PointNode position_;
     PointNode start_;
@@ -85,6 +120,14 @@ private:
     IntegerNode attachment_{1, 1, 9};
 
     TextNode insertedBlock_;
+    TupleNode scale_{2, 2, "factors [x, y]", nullptr, {1.0, 1.0}};
+    BooleanNode mirrored_;
+    IntegerNode columns_{1};
+    IntegerNode rows_{1};
+    NumberNode columnSpacing_;
+    NumberNode rowSpacing_;
+    std::vector<AttributeNode::Attribute> attributes_;
+    ListNode<AttributeNode> attributesNode_{attributes_};
     TextNode className_;
 };
 

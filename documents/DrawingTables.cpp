@@ -19,12 +19,20 @@ LayerNode::LayerNode() {
     Bind("name", name_, kRequired);
     Bind("color", color_);
     Bind("lineWeight", lineWeight_);
+    Bind("off", off_);
+    Bind("frozen", frozen_);
 }
 
 bool LayerNode::Finish(ReadState& state) {
     const auto lineWeight = static_cast<OxDb::LineWeight>(lineWeight_.Value());
-    return state.Target().AddLayer(name_.Value(), color_.Value(), lineWeight) != nullptr ||
-           RefuseName(state, "layer", name_.Value());
+    drawing::LayerRecord* const layer = state.Target().AddLayer(name_.Value(), color_.Value(), lineWeight);
+    if (layer == nullptr) {
+        return RefuseName(state, "layer", name_.Value());
+    }
+    layer->SetState(frozen_.Value() ? drawing::LayerState::kFrozen
+                    : off_.Value()  ? drawing::LayerState::kOff
+                                    : drawing::LayerState::kShown);
+    return true;
 }
 
 DashNode::DashNode(std::vector<drawing::Dash>& dashes) : dashes_(dashes) {

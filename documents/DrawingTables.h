@@ -27,6 +27,8 @@ protected:
 private:
     TextNode name_;
     ColorNode color_{IndexColor(7)};
+    BooleanNode off_;
+    BooleanNode frozen_;
     IntegerNode lineWeight_{OxDb::kLnWtByLwDefault};
 };
 

@@ -90,6 +90,11 @@ void JsonText::Integer(std::int64_t value) {
     text_ += std::to_string(value);
 }
 
+void JsonText::Boolean(bool value) {
+    BeginValue();
+    text_ += value ? "true" : "false";
+}
+
 void JsonText::Number(double value) {
     BeginValue();
     text_ += nlohmann::json(value).dump();
@@ -105,7 +110,7 @@ void JsonText::Begin(char bracket) {
 
 void JsonText::End(char bracket) {
     --level_;
-    if (!isEmpty_) {
+    if (!isEmpty_ && !staysOnLine_) {
         text_ += '\n';
         text_.append(level_ * kBlanksPerLevel, ' ');
     }
@@ -124,9 +129,12 @@ void JsonText::BeginValue() {
 
 void JsonText::BeginLine() {
     if (!isEmpty_) {
-        text_ += ',';
+        text_ += staysOnLine_ ? ", " : ",";
     }
     isEmpty_ = false;
+    if (staysOnLine_) {
+        return;
+    }
     text_ += '\n';
     text_.append(level_ * kBlanksPerLevel, ' ');
 }

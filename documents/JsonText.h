@@ -25,6 +25,10 @@ public:
     void BeginList() { Begin('['); }
     void EndList() { End(']'); }
 
+    /// From here on, members and items stand in the line that is written, as does the bracket behind them; or
+    /// on lines of their own again.
+    void StayOnLine(bool stays) { staysOnLine_ = stays; }
+
     /// The name of the next member, of letters alone.
     void Key(std::string_view key);
 
@@ -33,6 +37,7 @@ public:
     /// Of letters alone.
     void PlainText(std::string_view value);
     void Integer(std::int64_t value);
+    void Boolean(bool value);
     /// The shortest digits that stand for `value`, with a point or an exponent; null where it is not finite.
     void Number(double value);
 
@@ -44,6 +49,7 @@ private:
 
     std::string& text_;
     std::size_t level_;
+    bool staysOnLine_ = false;
     // Whether the object or list that is open has nothing in it yet.
     bool isEmpty_ = true;
     // Whether the next value stands on a line of its own: it is an item of a list. Behind a key it does not.

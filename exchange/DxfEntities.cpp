@@ -1,19 +1,23 @@
 // Entities of a DXF file.
 #include "exchange/DxfEntities.h"
 
-#include "StyleConversion/platform/Utf8.h"
+#include "diagnostics/ShownText.h"
 #include "drawing/database/BlockReference.h"
 #include "drawing/entities/CurveEntities.h"
 #include "drawing/entities/SimpleEntities.h"
 #include "drawing/entities/Texts.h"
+#include "drawing/geometry/FullTurn.h"
 #include "exchange/DxfAngles.h"
 #include "exchange/DxfHatch.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
 namespace exchange {
 namespace {
+
+using diagnostics::Code;
 
 constexpr double kTurn = 2.0 * std::numbers::pi;
 
@@ -24,12 +28,25 @@ constexpr std::int32_t kNotPlane = 8 | 16 | 64; // polylines in space, meshes
 constexpr std::int32_t kFrameVertex = 16;
 constexpr std::int32_t kRunsOn = 128; // dashes run on over the vertices
 
+constexpr std::int32_t kInvisibleAttribute = 1;
+
+// Group code 71 of a paragraph text.
+constexpr std::int32_t kTopLeft = 1;
+constexpr std::int32_t kBottomRight = 9;
+
+constexpr std::int32_t kHidden = 1; // group code 60
+
 constexpr std::int32_t kColorByBlock = 0;
 constexpr std::int32_t kColorByLayer = 256;
 constexpr std::int32_t kLastColorIndex = 255;
 constexpr std::int32_t kWhite = 7; // colour of a layer that has none
 
 const std::wstring kDefaultLayer = L"0";
+
+// What the format calls an entity.
+std::string TypeOf(const DxfRecord& record) {
+    return diagnostics::ShownText(record.type);
+}
 
 OxGePoint3d Point(const DxfRecord& record, int code, bool isMirrored = false) {
     const double x = record.Number(code, 0.0);
@@ -128,16 +145,12 @@ void DxfEntityReader::Begin(DxfBlock* block) {
 
 void DxfEntityReader::End() {
     FinishPolyline();
+    insert_ = nullptr;
     block_ = nullptr;
 }
 
-void DxfEntityReader::Note(const DxfRecord& record, std::string_view what, std::string_view consequence) {
-    notes_.Add(record.place, std::string(record.type) + ": " + std::string(what), consequence,
-               block_ != nullptr ? block_->name : std::string());
-}
-
-void DxfEntityReader::LeaveOut(const DxfRecord& record, std::string_view why) {
-    Note(record, why, "the entity is left out");
+DxfPlace DxfEntityReader::PlaceOf(const DxfRecord& record) const {
+    return {record.place, block_ != nullptr ? block_->name : std::string()};
 }
 
 bool DxfEntityReader::IsMirrored(const DxfRecord& record) {
@@ -146,10 +159,9 @@ bool DxfEntityReader::IsMirrored(const DxfRecord& record) {
     const double z = record.Find(230) != nullptr ? record.Number(230, 1.0) : 1.0;
     constexpr double kUpright = 1e-6;
     if (x == 0.0 && y == 0.0 && z == 0.0) {
-        Note(record, "the extrusion direction is zero", "read as upright");
+        notes_.Repair(PlaceOf(record), Code::kZeroExtrusion, {TypeOf(record)});
     } else if (std::fabs(x) > kUpright || std::fabs(y) > kUpright) {
-        Note(record, "the entity lies in a tilted plane",
-             "its own coordinates are taken as those of the drawing");
+        notes_.Repair(PlaceOf(record), Code::kTiltedPlane, {TypeOf(record)});
     }
     return z < 0.0;
 }
@@ -166,6 +178,7 @@ const drawing::EntityProperties& DxfEntityReader::Properties(const DxfRecord& re
     std::string_view layer;
     std::string_view linetype;
     const DxfPair* weight = nullptr;
+    bool hidden = false;
     for (const DxfPair& pair : record.pairs) {
         if (pair.code == 8) {
             layer = pair.Word();
@@ -173,6 +186,8 @@ const drawing::EntityProperties& DxfEntityReader::Properties(const DxfRecord& re
             linetype = pair.Word();
         } else if (pair.code == 370) {
             weight = &pair;
+        } else if (pair.code == 60) {
+            hidden = pair.Integer().value_or(0) == kHidden;
         }
     }
     const std::wstring& layerName = layer.empty() ? kDefaultLayer : Name(layer, {});
@@ -182,6 +197,7 @@ const drawing::EntityProperties& DxfEntityReader::Properties(const DxfRecord& re
         RequireLayer(record);
     }
     properties_.linetype = linetype.empty() ? L"ByLayer" : Name(linetype, {});
+    properties_.hidden = hidden;
     properties_.color = ReadColor(record, ByLayerColor());
     properties_.lineWeight = static_cast<OxDb::LineWeight>(
         weight != nullptr ? weight->Integer().value_or(OxDb::kLnWtByLayer) : OxDb::kLnWtByLayer);
@@ -192,18 +208,16 @@ const drawing::EntityProperties& DxfEntityReader::Properties(const DxfRecord& re
 void DxfEntityReader::RequireLayer(const DxfRecord& record) {
     if (database_.AddLayer(properties_.layer, IndexColor(kWhite)) != nullptr &&
         properties_.layer != kDefaultLayer) {
-        notes_.Add(record.place,
-                   "the table of layers has no layer \"" + platform::WideToValidUtf8(properties_.layer) +
-                       "\"",
-                   "it is made", {});
+        notes_.Add(PlaceOf(record), diagnostics::Severity::kNote, Code::kMissingLayer,
+                   {diagnostics::ShownText(properties_.layer)}, diagnostics::Outcome::kRepaired);
     }
 }
 
 template <class T, class... Args>
-void DxfEntityReader::Add(const DxfRecord& record, Args&&... args) {
-    block_->record->Add<T>(Properties(record), std::forward<Args>(args)...);
+T& DxfEntityReader::Add(const DxfRecord& record, Args&&... args) {
     const DxfPair* const handle = record.Find(5);
     block_->handles.push_back(handle != nullptr ? handle->Handle() : 0);
+    return block_->record->Add<T>(Properties(record), std::forward<Args>(args)...);
 }
 
 void DxfEntityReader::Take(const DxfRecord& record) {
@@ -216,6 +230,11 @@ void DxfEntityReader::Take(const DxfRecord& record) {
     }
     FinishPolyline();
     // Attributes belong to the insert before them, and their end to neither.
+    if (record.type == "ATTRIB" && insert_ != nullptr) {
+        AddAttribute(record);
+        return;
+    }
+    insert_ = nullptr;
     if (record.type == "SEQEND" || record.type == "ATTRIB" || record.type == "VERTEX") {
         return;
     }
@@ -259,12 +278,7 @@ bool DxfEntityReader::TakeText(const DxfRecord& record) {
     } else if (type == "MTEXT") {
         AddParagraphText(record);
     } else if (type == "INSERT") {
-        const std::string_view name = record.Word(2);
-        if (name.empty()) {
-            LeaveOut(record, "it names no block");
-        } else {
-            Add<drawing::BlockReference>(record, Name(name, {}));
-        }
+        AddInsert(record);
     } else {
         return false;
     }
@@ -277,7 +291,7 @@ void DxfEntityReader::AddArc(const DxfRecord& record) {
     arc.center = Point(record, 10, isMirrored);
     arc.radius = record.Number(40, 0.0);
     arc.startAngle = Radians(record.Number(50, 0.0));
-    arc.endAngle = FullTurn(arc.startAngle, Radians(record.Number(51, 0.0)));
+    arc.endAngle = geometry::FullTurn(arc.startAngle, Radians(record.Number(51, 0.0)));
     if (arc.endAngle < arc.startAngle) {
         arc.endAngle += kTurn;
     }
@@ -296,7 +310,7 @@ void DxfEntityReader::AddEllipse(const DxfRecord& record) {
     if (end < start) {
         end += kTurn * std::ceil((start - end) / kTurn);
     }
-    end = FullTurn(start, end);
+    end = geometry::FullTurn(start, end);
     const bool isMirrored = IsMirrored(record); // the minor axis points the other way
     ellipse.startAngle = isMirrored ? -end : start;
     ellipse.endAngle = isMirrored ? -start : end;
@@ -359,7 +373,7 @@ void DxfEntityReader::AddSpline(const DxfRecord& record) {
     drawing::FitData fit;
     fit.points = Points(record, 11, Count(record, 74));
     if (fit.points.empty()) {
-        LeaveOut(record, "it has no points");
+        notes_.Skip(PlaceOf(record), Code::kEntityWithoutPoints, {TypeOf(record)});
         return;
     }
     fit.degree = record.Integer(71, 3);
@@ -375,7 +389,7 @@ void DxfEntityReader::AddSpline(const DxfRecord& record) {
 void DxfEntityReader::AddHatch(const DxfRecord& record) {
     std::optional<drawing::HatchData> data = ReadHatch(record, IsMirrored(record));
     if (!data) {
-        LeaveOut(record, "its boundary cannot be read");
+        notes_.Lose(PlaceOf(record), Code::kInvalidBoundary, {TypeOf(record)});
         return;
     }
     Add<drawing::Hatch>(record, std::move(*data));
@@ -384,7 +398,7 @@ void DxfEntityReader::AddHatch(const DxfRecord& record) {
 void DxfEntityReader::AddMPolygon(const DxfRecord& record) {
     std::optional<std::vector<drawing::PolylineLoop>> loops = ReadMPolygonLoops(record, IsMirrored(record));
     if (!loops) {
-        LeaveOut(record, "its boundary cannot be read");
+        notes_.Lose(PlaceOf(record), Code::kInvalidBoundary, {TypeOf(record)});
         return;
     }
     const std::int32_t index = record.Integer(63, kColorByLayer);
@@ -392,7 +406,38 @@ void DxfEntityReader::AddMPolygon(const DxfRecord& record) {
     Add<drawing::MPolygon>(record, std::move(*loops), fill);
 }
 
-void DxfEntityReader::AddText(const DxfRecord& record, bool isDefinition) {
+void DxfEntityReader::AddInsert(const DxfRecord& record) {
+    const std::string_view name = record.Word(2);
+    if (name.empty()) {
+        notes_.Skip(PlaceOf(record), Code::kInsertWithoutBlock, {TypeOf(record)});
+        return;
+    }
+    drawing::InsertPlace place;
+    place.position = Point(record, 10);
+    place.scaleX = record.Number(41, 1.0);
+    place.scaleY = record.Number(42, 1.0);
+    place.rotation = Radians(record.Number(50, 0.0));
+    place.isMirrored = IsMirrored(record);
+    place.columns = record.Integer(70, 1);
+    place.rows = record.Integer(71, 1);
+    place.columnSpacing = record.Number(44, 0.0);
+    place.rowSpacing = record.Number(45, 0.0);
+    for (double* const scale : {&place.scaleX, &place.scaleY}) {
+        if (*scale == 0.0) {
+            notes_.Repair(PlaceOf(record), Code::kZeroScale, {TypeOf(record)});
+            *scale = 1.0;
+        }
+    }
+    insert_ = &Add<drawing::BlockReference>(record, Name(name, {}), place);
+}
+
+void DxfEntityReader::AddAttribute(const DxfRecord& record) {
+    drawing::EntityProperties properties = Properties(record);
+    properties.hidden = properties.hidden || (record.Integer(70, 0) & kInvisibleAttribute) != 0;
+    insert_->AddAttribute<drawing::Text>(properties, ReadText(record, 74));
+}
+
+drawing::TextData DxfEntityReader::ReadText(const DxfRecord& record, int verticalCode) {
     const bool isMirrored = IsMirrored(record);
     const DxfPair* const characters = record.Find(1);
     drawing::TextData data;
@@ -402,7 +447,15 @@ void DxfEntityReader::AddText(const DxfRecord& record, bool isDefinition) {
     data.text = characters != nullptr ? texts_.Decode(characters->value) : std::wstring();
     data.style = Name(record.Word(7, "STANDARD"), L"STANDARD");
     data.horizontalMode = static_cast<OxDb::TextHorzMode>(record.Integer(72, 0));
-    data.verticalMode = static_cast<OxDb::TextVertMode>(record.Integer(isDefinition ? 74 : 73, 0));
+    data.verticalMode = static_cast<OxDb::TextVertMode>(record.Integer(verticalCode, 0));
+    if (record.Find(11) != nullptr && (data.horizontalMode != 0 || data.verticalMode != 0)) {
+        data.alignmentPoint = Point(record, 11, isMirrored);
+    }
+    return data;
+}
+
+void DxfEntityReader::AddText(const DxfRecord& record, bool isDefinition) {
+    drawing::TextData data = ReadText(record, isDefinition ? 74 : 73);
     if (!isDefinition) {
         Add<drawing::Text>(record, std::move(data));
         return;
@@ -432,6 +485,7 @@ void DxfEntityReader::AddParagraphText(const DxfRecord& record) {
     data.style = Name(record.Word(7, "STANDARD"), L"STANDARD");
     data.actualWidth = record.Number(42, 0.0);
     data.actualHeight = record.Number(43, 0.0);
+    data.attachment = std::clamp(record.Integer(71, 1), kTopLeft, kBottomRight);
     Add<drawing::ParagraphText>(record, std::move(data));
 }
 

@@ -1,7 +1,9 @@
 // Entities of a DXF file, on their way into a block of the drawing.
 #pragma once
 
+#include "drawing/database/BlockReference.h"
 #include "drawing/database/Database.h"
+#include "drawing/entities/Texts.h"
 #include "drawing/geometry/BulgeVertex.h"
 #include "exchange/DxfNotes.h"
 #include "exchange/DxfRecords.h"
@@ -42,9 +44,8 @@ public:
 
 private:
     template <class T, class... Args>
-    void Add(const DxfRecord& record, Args&&... args);
-    void LeaveOut(const DxfRecord& record, std::string_view why);
-    void Note(const DxfRecord& record, std::string_view what, std::string_view consequence);
+    T& Add(const DxfRecord& record, Args&&... args);
+    DxfPlace PlaceOf(const DxfRecord& record) const;
     bool IsMirrored(const DxfRecord& record);
     const drawing::EntityProperties& Properties(const DxfRecord& record);
     void RequireLayer(const DxfRecord& record);
@@ -58,6 +59,9 @@ private:
     void AddSpline(const DxfRecord& record);
     void AddHatch(const DxfRecord& record);
     void AddMPolygon(const DxfRecord& record);
+    void AddInsert(const DxfRecord& record);
+    void AddAttribute(const DxfRecord& record);
+    drawing::TextData ReadText(const DxfRecord& record, int verticalCode);
     void AddText(const DxfRecord& record, bool isDefinition);
     void AddParagraphText(const DxfRecord& record);
     void AddOther(const DxfRecord& record);
@@ -76,6 +80,7 @@ private:
     DxfNotes& notes_;
     DxfBlock* block_ = nullptr;
     std::optional<OpenPolyline> polyline_;
+    drawing::BlockReference* insert_ = nullptr;                // that attributes belong to
     drawing::EntityProperties properties_;                     // of the entity that is read
     bool hasLayer_ = false;                                    // its layer is in the table
     std::unordered_map<std::string_view, std::wstring> names_; // by their bytes in the file

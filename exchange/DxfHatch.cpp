@@ -3,6 +3,7 @@
 
 #include "drawing/entities/SplineCurves.h"
 #include "drawing/geometry/EdgeChain.h"
+#include "drawing/geometry/FullTurn.h"
 #include "exchange/DxfAngles.h"
 
 #include <cmath>
@@ -25,9 +26,12 @@ public:
         while (at_ < pairs_.size() && pairs_[at_].code != 91) {
             ++at_;
         }
+        if (at_ == pairs_.size()) {
+            return true; // a hatch without loops
+        }
         std::int32_t count = 0;
         if (!Count(91, count)) {
-            return at_ == pairs_.size(); // a hatch without loops
+            return false;
         }
         for (std::int32_t index = 0; index < count; ++index) {
             drawing::HatchLoop loop;
@@ -165,7 +169,7 @@ private:
             return false;
         }
         start = Radians(start);
-        end = FullTurn(start, Radians(end));
+        end = geometry::FullTurn(start, Radians(end));
         isClockwise = (isCounterClockwise == 0) != isMirrored_;
         return true;
     }

@@ -1,44 +1,53 @@
 // What a reading of a DXF file has left out or read otherwise than it stands.
 #pragma once
 
+#include "diagnostics/Diagnostic.h"
+
 #include <cstddef>
 #include <map>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace exchange {
 
-/// One thing to say of a file, with the place where it was met first.
-struct DxfNote {
-    std::size_t place = 0;   ///< line from 1, or byte from 0
-    std::string what;        ///< "TEXT: the extrusion direction is zero"
-    std::string consequence; ///< "read as upright"
-    std::string block;       ///< as UTF-8; empty outside blocks
-    std::size_t count = 1;   ///< how often, in this block
+/// Where in a file: a line from 1, or in binary files a byte from 0, and the block as UTF-8, if any.
+struct DxfPlace {
+    std::size_t position = 0;
+    std::string block;
 };
 
+/// One of each cause, with the place where it was met first and the count. Errors are what the drawing lost,
+/// warnings and notes what was read as it is meant, or is not missed.
 class DxfNotes {
 public:
-    /// In the order of the file; the same text in the same block only counts.
-    void Add(std::size_t place, std::string_view what, std::string_view consequence,
-             const std::string& block) {
-        const auto [known, isNew] = kinds_.try_emplace(std::pair(block, std::string(what)), notes_.size());
-        if (isNew) {
-            notes_.push_back({place, std::string(what), std::string(consequence), block});
-        } else {
-            ++notes_[known->second].count;
-        }
-    }
-    const std::vector<DxfNote>& All() const { return notes_; }
+    /// The file is binary.
+    void CountBytes() { placesAreBytes_ = true; }
 
-    /// Places are bytes, not lines.
-    bool placesAreBytes = false;
+    void Lose(const DxfPlace& place, diagnostics::Code code, std::vector<std::string> subjects) {
+        Add(place, diagnostics::Severity::kError, code, std::move(subjects), diagnostics::Outcome::kSkipped);
+    }
+    void Skip(const DxfPlace& place, diagnostics::Code code, std::vector<std::string> subjects) {
+        Add(place, diagnostics::Severity::kWarning, code, std::move(subjects),
+            diagnostics::Outcome::kSkipped);
+    }
+    void Repair(const DxfPlace& place, diagnostics::Code code, std::vector<std::string> subjects) {
+        Add(place, diagnostics::Severity::kWarning, code, std::move(subjects),
+            diagnostics::Outcome::kRepaired);
+    }
+    void Add(const DxfPlace& place, diagnostics::Severity severity, diagnostics::Code code,
+             std::vector<std::string> subjects, diagnostics::Outcome outcome);
+
+    /// In the order of the file.
+    const diagnostics::Diagnostics& All() const { return all_; }
+
+    /// The place as diagnostics have it.
+    diagnostics::Place PlaceOf(const DxfPlace& place) const;
 
 private:
-    std::vector<DxfNote> notes_;
-    std::map<std::pair<std::string, std::string>, std::size_t> kinds_;
+    diagnostics::Diagnostics all_;
+    std::map<std::pair<diagnostics::Code, std::vector<std::string>>, std::size_t> kinds_;
+    bool placesAreBytes_ = false;
 };
 
 } // namespace exchange

@@ -3,6 +3,7 @@
 
 #include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/Utf8.h"
+#include "diagnostics/ShownText.h"
 #include "exchange/DxfEntities.h"
 #include "exchange/DxfTables.h"
 #include "exchange/DxfText.h"
@@ -14,6 +15,8 @@
 
 namespace exchange {
 namespace {
+
+using diagnostics::Code;
 
 enum class Section { kNone, kTables, kBlocks, kEntities, kObjects, kOther };
 
@@ -55,12 +58,15 @@ class Reader {
 public:
     Reader(std::string_view bytes, DxfNotes& notes)
         : notes_(notes), cursor_(bytes), isUtf8_(platform::IsUtf8(bytes)) {
-        notes_.placesAreBytes = cursor_.IsBinary();
+        if (cursor_.IsBinary()) {
+            notes_.CountBytes();
+        }
     }
 
-    std::unique_ptr<drawing::Database> Read(DxfFault& fault);
+    std::unique_ptr<drawing::Database> Read(diagnostics::Diagnostic& fault);
 
 private:
+    std::unique_ptr<drawing::Database> Refuse(const DxfFault& why, diagnostics::Diagnostic& fault) const;
     void Take(const DxfRecord& record);
     void BeginSection(const DxfRecord& record);
     void BeginBlock(const DxfRecord& record);
@@ -93,7 +99,14 @@ void Reader::Open(const Header& header) {
     }
 }
 
-std::unique_ptr<drawing::Database> Reader::Read(DxfFault& fault) {
+// Null, for a file that is refused.
+std::unique_ptr<drawing::Database> Reader::Refuse(const DxfFault& why, diagnostics::Diagnostic& fault) const {
+    fault = {diagnostics::Severity::kError, why.code,
+             notes_.PlaceOf({why.place, current_ != nullptr ? current_->name : std::string()}), why.subjects};
+    return nullptr;
+}
+
+std::unique_ptr<drawing::Database> Reader::Read(diagnostics::Diagnostic& fault) {
     DxfRecord record;
     bool hasSection = false;
     bool isAtEnd = false;
@@ -104,22 +117,21 @@ std::unique_ptr<drawing::Database> Reader::Read(DxfFault& fault) {
             break;
         }
         if (!hasSection) {
-            fault = {record.place, cursor_.IsBinary(), "expected the start of a section", {}};
-            return nullptr;
+            return Refuse({record.place, Code::kNoSection, {diagnostics::ShownText(record.type)}}, fault);
         }
         Take(record);
     }
     if (!isAtEnd && cursor_.IsBroken()) {
-        fault = cursor_.Fault();
-        fault.block = current_ != nullptr ? current_->name : std::string();
-        return nullptr;
+        return Refuse(cursor_.Fault(), fault);
     }
     if (!hasSection) {
-        fault = {1, false, "expected the start of a section, found nothing", {}};
-        return nullptr;
+        return Refuse({1, Code::kNoSection, {"nothing"}}, fault);
     }
     if (!isAtEnd) {
-        notes_.Add(record.place, "the file has no end mark", "it is read to its last line", {});
+        notes_.Repair({record.place, {}}, Code::kMissingEndMark, {});
+    }
+    if (database_->insunits() == OxDb::kUnitsUndefined) {
+        notes_.Add({}, diagnostics::Severity::kWarning, Code::kNoUnit, {}, diagnostics::Outcome::kNone);
     }
     tables_->Finish();
     entities_->End();
@@ -165,7 +177,7 @@ void Reader::Take(const DxfRecord& record) {
 
 void Reader::BeginSection(const DxfRecord& record) {
     if (section_ != Section::kNone) {
-        notes_.Add(record.place, "the section before has no end mark", "it ends here", {});
+        notes_.Repair({record.place, {}}, Code::kMissingSectionEnd, {});
         entities_->End();
     }
     const std::string_view name = record.Word(2);
@@ -189,14 +201,20 @@ void Reader::BeginBlock(const DxfRecord& record) {
     drawing::BlockData data;
     data.layout = IsLayoutName(name);
     data.anonymous = (record.Integer(70, 0) & kAnonymous) != 0;
+    data.basePoint = {record.Number(10, 0.0), record.Number(20, 0.0), record.Number(30, 0.0)};
     if (properties != tables_->Blocks().end()) {
         data.units = properties->second.units;
     }
     drawing::BlockRecord* const added = name.empty() ? nullptr : database_->AddBlock(wide, data);
     current_ = nullptr;
     if (added == nullptr) {
-        notes_.Add(record.place, name.empty() ? "a block has no name" : "the block is given twice",
-                   name.empty() ? "it is left out" : "the first one counts", platform::WideToValidUtf8(wide));
+        const std::string shown = platform::WideToValidUtf8(wide);
+        if (name.empty()) {
+            notes_.Lose({record.place, {}}, Code::kUnnamedBlock, {});
+        } else {
+            notes_.Lose({record.place, {}}, Code::kDuplicateEntry,
+                        {"block", diagnostics::ShownText(std::string_view(shown))});
+        }
     } else {
         blocks_.push_back({added, platform::WideToValidUtf8(wide), {}});
         current_ = &blocks_.back();
@@ -289,7 +307,8 @@ bool LooksLikeDxf(std::string_view bytes) {
     return pair.code == 0 && pair.Word() == "SECTION";
 }
 
-std::unique_ptr<drawing::Database> ReadDxf(std::string_view bytes, DxfFault& fault, DxfNotes& notes) {
+std::unique_ptr<drawing::Database> ReadDxf(std::string_view bytes, diagnostics::Diagnostic& fault,
+                                           DxfNotes& notes) {
     return Reader(bytes, notes).Read(fault);
 }
 

@@ -3,7 +3,6 @@
 
 #include "drawing/database/Database.h"
 #include "exchange/DxfNotes.h"
-#include "exchange/DxfRecords.h"
 
 #include <memory>
 #include <string_view>
@@ -15,12 +14,13 @@ namespace exchange {
 bool LooksLikeDxf(std::string_view bytes);
 
 /// Reads a whole DXF file, ASCII or binary, of any version. What can be read as it is meant, or left out by
-/// itself, is; `notes` says of each such thing. Null when the file is refused, with `fault` set: it is none,
-/// or breaks off within a pair.
+/// itself, is; `notes` says of each such thing. Null when the file is refused, with `fault` set but for the
+/// file's name: it is none, or breaks off within a pair.
 ///
 /// Entities of the sections ENTITIES and BLOCKS become entities of the blocks, those of the model space and
 /// the layouts in layout blocks; see docs for what becomes of which entity. Names are those of the file,
 /// texts are decoded.
-std::unique_ptr<drawing::Database> ReadDxf(std::string_view bytes, DxfFault& fault, DxfNotes& notes);
+std::unique_ptr<drawing::Database> ReadDxf(std::string_view bytes, diagnostics::Diagnostic& fault,
+                                           DxfNotes& notes);
 
 } // namespace exchange

@@ -52,21 +52,20 @@ DxfRecordCursor::DxfRecordCursor(std::string_view bytes) : cursor_(bytes) {
     if (hasStart_ && start_.code != kStart) {
         hasStart_ = false;
         isBroken_ = true;
-        fault_ = {start_.place,
-                  cursor_.IsBinary(),
-                  "expected the start of a section, found the group code " + std::to_string(start_.code),
-                  {}};
+        fault_ = {
+            start_.place, diagnostics::Code::kNoSection, {"the group code " + std::to_string(start_.code)}};
     }
 }
 
 bool DxfRecordCursor::Take(DxfPair& pair) {
     const DxfPairCursor::Outcome outcome = cursor_.Next(pair);
     if (outcome == DxfPairCursor::Outcome::kNoCode) {
-        fault_ = {pair.place, cursor_.IsBinary(), "expected a group code, found " + Shown(pair.value), {}};
+        fault_ = {pair.place, diagnostics::Code::kInvalidGroupCode, {Shown(pair.value)}};
+        isBroken_ = true;
     } else if (outcome == DxfPairCursor::Outcome::kCut) {
-        fault_ = {pair.place, cursor_.IsBinary(), "the file ends within a pair of group code and value", {}};
+        fault_ = {pair.place, diagnostics::Code::kTruncatedPair, {}};
+        isBroken_ = true;
     }
-    isBroken_ = isBroken_ || !fault_.what.empty();
     return outcome == DxfPairCursor::Outcome::kPair;
 }
 

@@ -1,6 +1,7 @@
 // The records of a DXF file: the pairs from one group code 0 to the next.
 #pragma once
 
+#include "diagnostics/Code.h"
 #include "exchange/DxfPairs.h"
 
 #include <cstddef>
@@ -28,10 +29,9 @@ struct DxfRecord {
 
 /// Why a file is refused.
 struct DxfFault {
-    std::size_t place = 0;    ///< line from 1, or byte from 0
-    bool placeIsByte = false; ///< in binary files
-    std::string what;         ///< "expected a group code, found "x""
-    std::string block;        ///< the name of the block as UTF-8; empty outside blocks
+    std::size_t place = 0; ///< line from 1, or in binary files byte from 0
+    diagnostics::Code code = diagnostics::Code::kNoSection;
+    std::vector<std::string> subjects;
 };
 
 /// Hands out the records of a file from the first to the last.

@@ -2,7 +2,7 @@
 #include "exchange/DxfTables.h"
 
 #include "StyleConversion/platform/Characters.h"
-#include "StyleConversion/platform/Utf8.h"
+#include "diagnostics/ShownText.h"
 #include "exchange/DxfAngles.h"
 #include "exchange/DxfEntities.h"
 
@@ -20,6 +20,9 @@ constexpr std::int32_t kShape = 4;
 // Group code 1071 of a style's extended data.
 constexpr std::int32_t kItalic = 0x01000000;
 constexpr std::int32_t kBold = 0x02000000;
+
+// Group code 70 of a layer.
+constexpr std::int32_t kFrozen = 1;
 
 constexpr std::uint8_t kColorOfLayers = 7; // colour of a layer that has none
 
@@ -49,9 +52,16 @@ void DxfTableReader::TakeLayer(const DxfRecord& record) {
     white.setColorIndex(kColorOfLayers);
     const std::wstring name = texts_.Decode(record.Word(2));
     const auto weight = static_cast<OxDb::LineWeight>(record.Integer(370, OxDb::kLnWtByLwDefault));
-    if (database_.AddLayer(name, ReadColor(record, white), weight) == nullptr) {
-        notes_.Add(record.place, "the layer \"" + platform::WideToValidUtf8(name) + "\" is given twice",
-                   "the first one counts", {});
+    drawing::LayerRecord* const layer = database_.AddLayer(name, ReadColor(record, white), weight);
+    if (layer != nullptr) {
+        const bool isFrozen = (record.Integer(70, 0) & kFrozen) != 0;
+        const bool isOff = record.Integer(62, 0) < 0;
+        layer->SetState(isFrozen ? drawing::LayerState::kFrozen
+                        : isOff  ? drawing::LayerState::kOff
+                                 : drawing::LayerState::kShown);
+    } else {
+        notes_.Repair({record.place, {}}, diagnostics::Code::kDuplicateEntry,
+                      {"layer", diagnostics::ShownText(name)});
     }
 }
 
@@ -78,8 +88,8 @@ void DxfTableReader::TakeStyle(const DxfRecord& record) {
         styles_[handle->Handle()] = name;
     }
     if (database_.AddTextStyle(name, std::move(style)) == nullptr) {
-        notes_.Add(record.place, "the style \"" + platform::WideToValidUtf8(name) + "\" is given twice",
-                   "the first one counts", {});
+        notes_.Repair({record.place, {}}, diagnostics::Code::kDuplicateEntry,
+                      {"text style", diagnostics::ShownText(name)});
     }
 }
 
@@ -150,8 +160,8 @@ void DxfTableReader::AddLinetype(const DxfRecord& record) {
     const DxfPair* const length = record.Find(40);
     const std::optional<double> patternLength = length != nullptr ? length->Number() : std::nullopt;
     if (database_.AddLinetype(name, std::move(dashes), patternLength) == nullptr) {
-        notes_.Add(record.place, "the linetype \"" + platform::WideToValidUtf8(name) + "\" is given twice",
-                   "the first one counts", {});
+        notes_.Repair({record.place, {}}, diagnostics::Code::kDuplicateEntry,
+                      {"linetype", diagnostics::ShownText(name)});
     }
 }
 

@@ -27,6 +27,7 @@ void AddCommands(CommandLine& line, LimitOptions& limits, bool& quiet) {
     AddLinetypesCommand(line);
     AddPatternsCommand(line);
     AddBlocksCommand(line);
+    AddDrawingCommand(line);
     AddGlyphsCommand(line);
     AddListCommand(line);
     AddCheckCommand(line);

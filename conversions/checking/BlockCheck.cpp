@@ -15,8 +15,8 @@ using diagnostics::Code;
 using diagnostics::Outcome;
 using diagnostics::Severity;
 
-std::wstring LayerOf(OxDbEntity& entity) {
-    const block::LayerName layer(entity);
+std::wstring LayerOf(const OxDbEntity& entity) {
+    const block::LayerName layer(const_cast<OxDbEntity&>(entity)); // which it does not change
     return layer.Get() != nullptr ? layer.Get() : L"";
 }
 
@@ -51,6 +51,11 @@ std::string ItemOf(const OxDbBlockTableRecord& record) {
            (record.getName(name) == Oxsys::eOk && name != nullptr ? ShownText(name) : std::string());
 }
 
+const drawing::BlockRecord* BlockCheck::BlockOf(const OxDbBlockTableRecord& record) const {
+    const wchar_t* name = nullptr;
+    return record.getName(name) == Oxsys::eOk && name != nullptr ? drawing_.FindBlock(name) : nullptr;
+}
+
 BlockCheck::BlockCheck(std::string file, const drawing::Database& drawing, DrawingShapeFiles& files,
                        const std::vector<std::wstring>& layersToIgnore)
     : file_(std::move(file)), drawing_(drawing), dashShapes_(drawing, files),
@@ -71,6 +76,16 @@ void BlockCheck::Check(const OxDbBlockTableRecord& record, diagnostics::Diagnost
     const std::string item = ItemOf(record);
     for (const auto& [kind, count] : counts_) {
         AddCounted(kind, count, std::get<Severity>(kind), item, diagnostics);
+    }
+    const drawing::BlockRecord* const block = BlockOf(record);
+    if (const OxGePoint3d base = block != nullptr ? block->Data().basePoint : OxGePoint3d();
+        base.x != 0.0 || base.y != 0.0) {
+        constexpr double kParts = 1000.0;
+        AddCounted({Severity::kWarning,
+                    false,
+                    {Code::kBasePoint, {RoundedText(base.x, kParts) + "," + RoundedText(base.y, kParts)}},
+                    Outcome::kNone},
+                   1, Severity::kWarning, item, diagnostics);
     }
     if (hasColorByBlock_ && IsNeverInserted(record)) {
         AddCounted({Severity::kWarning, false, {Code::kColorByBlock, {}}, Outcome::kNone}, 1,
@@ -133,8 +148,18 @@ void BlockCheck::CountEntity(OxDbEntity& entity) {
     }
     const block::EntityClass entityClass = block::ClassOf(entity);
     if (entityClass == block::EntityClass::kNotDrawn) {
-        Surprise(true, Code::kUnsupportedClass, {ShownText(entity.isA()->name())});
+        if (entity.isA() == OxDbBlockReference::desc()) {
+            Surprise(true, Code::kInsertNotDrawn);
+        } else {
+            Surprise(true, Code::kUnsupportedClass, {ShownText(entity.isA()->name())});
+        }
         return;
+    }
+    if (IsHidden(entity)) {
+        Surprise(false, Code::kHiddenEntity);
+    }
+    if (IsWhite(entity)) {
+        ++counts_[{Severity::kNote, false, {Code::kDrawnWhite, {}}, Outcome::kNone}];
     }
     hasColorByBlock_ = hasColorByBlock_ || entity.color().isByBlock();
     if (entityClass == block::EntityClass::kHatch) {
@@ -149,6 +174,20 @@ void BlockCheck::CountEntity(OxDbEntity& entity) {
     } else if (block::HasDashes(entityClass)) {
         CountLinetype(entity);
     }
+}
+
+bool BlockCheck::IsHidden(const OxDbEntity& entity) const {
+    const drawing::LayerRecord* const layer = drawing_.FindLayer(LayerOf(entity));
+    return entity.objectId().stub()->hidden ||
+           (layer != nullptr && layer->State() != drawing::LayerState::kShown);
+}
+
+bool BlockCheck::IsWhite(const OxDbEntity& entity) const {
+    OxCmColor white;
+    white.setColorIndex(7);
+    const drawing::LayerRecord* const layer =
+        entity.color().isByLayer() ? drawing_.FindLayer(LayerOf(entity)) : nullptr;
+    return (layer != nullptr ? layer->color() : entity.color()) == white;
 }
 
 void BlockCheck::CountHatch(OxDbHatch& hatch) {

@@ -34,6 +34,9 @@ private:
 
     void Count(const OxDbBlockTableRecord& record);
     void CountEntity(OxDbEntity& entity);
+    bool IsHidden(const OxDbEntity& entity) const;
+    bool IsWhite(const OxDbEntity& entity) const;
+    const drawing::BlockRecord* BlockOf(const OxDbBlockTableRecord& record) const;
     void CountHatch(OxDbHatch& hatch);
     void CountLinetype(const OxDbEntity& entity);
     void CountTextStyle(OxDbObjectId styleId);

@@ -49,7 +49,7 @@ public:
             }
         }
         if (!hasBlocks) {
-            found_.push_back({Severity::kError, Code::kNoBlocks, {input_.name}, {}});
+            found_.push_back(NoBlocks(input_.name, drawing_));
         }
     }
 
@@ -79,7 +79,7 @@ private:
 
 Diagnostics CheckDrawing(const Input& input, const std::vector<std::wstring>& layersToIgnore, Front& front) {
     Diagnostics found;
-    if (const auto drawing = CheckDrawingDocument(input, found)) {
+    if (const auto drawing = CheckDrawingFile(input, found)) {
         DrawingCheck(input, *drawing, layersToIgnore, front, found).Check();
     }
     return found;

@@ -1,62 +1,140 @@
 #include "conversions/reading/Drawing.h"
 
+#include "conversions/reading/FileKind.h"
 #include "documents/DrawingReader.h"
+#include "exchange/DxfReader.h"
 
+#include <array>
+#include <cstdio>
+#include <string>
 #include <utility>
 
 namespace conversions {
 
 using diagnostics::Diagnostic;
 using diagnostics::Diagnostics;
+using diagnostics::Outcome;
+using diagnostics::Severity;
 
 namespace {
 
-Diagnostic RefusalOf(const Input& input, const documents::DrawingError& error) {
-    Diagnostic diagnostic;
-    diagnostic.code = error.code;
+enum class Manner : std::uint8_t { kStrict, kTolerant, kCheck };
+
+// What a reading says of a part of the file that it left out or read otherwise.
+Diagnostic Told(Diagnostic diagnostic, const Input& input, Manner manner) {
     diagnostic.place.file = input.name;
-    diagnostic.place.path = error.path;
-    diagnostic.subjects = error.subjects;
+    if (manner != Manner::kTolerant && diagnostic.severity == Severity::kError) {
+        diagnostic.outcome = Outcome::kNone;
+    } else if (diagnostic.severity == Severity::kError) {
+        diagnostic.severity = Severity::kWarning;
+    }
     return diagnostic;
 }
 
-std::unique_ptr<drawing::Database> Read(const Input& input, documents::DrawingError& error,
-                                        documents::ToleratedErrors* tolerated) {
-    return input.stream != nullptr ? documents::ReadDrawing(input.stream, error, tolerated)
-                                   : documents::ReadDrawing(input.bytes, error, tolerated);
+std::unique_ptr<drawing::Database> ReadDocument(const Input& input, std::string_view bytes, Manner manner,
+                                                Diagnostics& diagnostics) {
+    documents::DrawingError error;
+    documents::ToleratedErrors tolerated;
+    documents::ToleratedErrors* const kept = manner == Manner::kStrict ? nullptr : &tolerated;
+    auto drawing = input.stream != nullptr && bytes.empty()
+                       ? documents::ReadDrawing(input.stream, error, kept)
+                       : documents::ReadDrawing(bytes, error, kept);
+    if (drawing == nullptr) {
+        Diagnostic refusal;
+        refusal.code = error.code;
+        refusal.place.file = input.name;
+        refusal.place.path = error.path;
+        refusal.subjects = error.subjects;
+        diagnostics.push_back(std::move(refusal));
+    }
+    if (drawing != nullptr || manner == Manner::kTolerant) {
+        for (Diagnostic diagnostic : tolerated.All()) {
+            diagnostic.severity = Severity::kError;
+            diagnostics.push_back(Told(std::move(diagnostic), input, manner));
+        }
+    }
+    return drawing;
+}
+
+std::unique_ptr<drawing::Database> ReadDxfFile(const Input& input, std::string_view bytes, Manner manner,
+                                               Diagnostics& diagnostics) {
+    Diagnostic fault;
+    exchange::DxfNotes notes;
+    auto drawing = exchange::ReadDxf(bytes, fault, notes);
+    if (drawing == nullptr) {
+        fault.place.file = input.name;
+        diagnostics.push_back(std::move(fault));
+        return drawing;
+    }
+    for (const Diagnostic& note : notes.All()) {
+        diagnostics.push_back(Told(note, input, manner));
+    }
+    if (manner == Manner::kStrict && CountOf(notes.All(), Severity::kError) > 0) {
+        drawing.reset();
+    }
+    return drawing;
+}
+
+// False where reading failed.
+bool ReadRest(std::FILE* stream, std::string& bytes) {
+    std::array<char, 1 << 16> block{};
+    std::size_t count = 0;
+    while ((count = std::fread(block.data(), 1, block.size(), stream)) > 0) {
+        bytes.append(block.data(), count);
+    }
+    return std::ferror(stream) == 0;
+}
+
+// Drawing documents are read as they come; what begins as none is read whole.
+std::unique_ptr<drawing::Database> Read(const Input& input, Manner manner, Diagnostics& diagnostics) {
+    std::string read;
+    std::string_view bytes = input.bytes;
+    if (input.stream != nullptr) {
+        const int first = std::getc(input.stream);
+        if (first == '{' || first == EOF) {
+            std::ungetc(first, input.stream);
+            return ReadDocument(input, {}, manner, diagnostics);
+        }
+        read += static_cast<char>(first);
+        if (!ReadRest(input.stream, read)) {
+            diagnostics.push_back({Severity::kError,
+                                   diagnostics::Code::kUnreadableFile,
+                                   {input.name},
+                                   {"reading failed before its end"}});
+            return nullptr;
+        }
+        bytes = read;
+    }
+    return IsDxf(input.name, bytes) ? ReadDxfFile(input, bytes, manner, diagnostics)
+                                    : ReadDocument(input, bytes, manner, diagnostics);
 }
 
 } // namespace
 
 std::unique_ptr<drawing::Database> ReadDrawing(const Input& input, bool tolerant, Diagnostics& diagnostics) {
-    documents::DrawingError error;
-    documents::ToleratedErrors tolerated;
-    auto drawing = Read(input, error, tolerant ? &tolerated : nullptr);
-    if (drawing == nullptr) {
-        diagnostics.push_back(RefusalOf(input, error));
-    }
-    for (Diagnostic diagnostic : tolerated.All()) {
-        diagnostic.place.file = input.name;
-        diagnostics.push_back(std::move(diagnostic));
-    }
-    return drawing;
+    return Read(input, tolerant ? Manner::kTolerant : Manner::kStrict, diagnostics);
 }
 
-std::unique_ptr<drawing::Database> CheckDrawingDocument(const Input& input, Diagnostics& diagnostics) {
-    documents::DrawingError error;
-    documents::ToleratedErrors tolerated;
-    auto drawing = Read(input, error, &tolerated);
-    if (drawing == nullptr) {
-        diagnostics.push_back(RefusalOf(input, error));
-        return drawing;
+std::unique_ptr<drawing::Database> CheckDrawingFile(const Input& input, Diagnostics& diagnostics) {
+    return Read(input, Manner::kCheck, diagnostics);
+}
+
+const drawing::BlockRecord* ModelSpaceOf(const drawing::Database& drawing) {
+    for (const wchar_t* const name : {L"*Model_Space", L"$Model_Space"}) { // the latter in old files
+        if (const drawing::BlockRecord* const space = drawing.FindBlock(name)) {
+            return space;
+        }
     }
-    for (Diagnostic diagnostic : tolerated.All()) {
-        diagnostic.place.file = input.name;
-        diagnostic.severity = diagnostics::Severity::kError;
-        diagnostic.outcome = diagnostics::Outcome::kNone;
-        diagnostics.push_back(std::move(diagnostic));
+    return nullptr;
+}
+
+Diagnostic NoBlocks(const std::string& file, const drawing::Database& drawing) {
+    const drawing::BlockRecord* const space = ModelSpaceOf(drawing);
+    if (space == nullptr || space->EntityCount() == 0) {
+        return {Severity::kError, diagnostics::Code::kNoBlocks, {file}, {}};
     }
-    return drawing;
+    return {
+        Severity::kError, diagnostics::Code::kOnlyModelSpace, {file}, {std::to_string(space->EntityCount())}};
 }
 
 } // namespace conversions

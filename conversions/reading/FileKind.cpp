@@ -2,6 +2,7 @@
 
 #include "StyleConversion/encoding/NumberReader.h"
 #include "StyleConversion/platform/Characters.h"
+#include "exchange/DxfReader.h"
 
 #include <algorithm>
 #include <string>
@@ -24,12 +25,15 @@ constexpr KindWords kKinds[] = {
     {FileKind::kPatterns, ".pat", "pattern file", "patterns"},
     {FileKind::kShapes, ".shx", "shape file", "glyphs"},
     {FileKind::kDrawing, ".json", "drawing", "blocks"},
+    {FileKind::kDrawing, ".dxf", "drawing", "blocks"},
 };
 
 const KindWords& WordsOf(FileKind kind) {
     return *std::find_if(std::begin(kKinds), std::end(kKinds),
                          [&](const KindWords& words) { return words.kind == kind; });
 }
+
+constexpr std::string_view kDxfExtension = ".dxf";
 
 bool EndsWithIgnoringCase(std::string_view text, std::string_view end) {
     return text.size() >= end.size() &&
@@ -81,9 +85,11 @@ FileKind KindOfText(std::string_view text) {
 diagnostics::Diagnostic WrongKind(const Input& input, FileKind kind, FileKind found, KindAdvice advice,
                                   Severity severity) {
     const KindWords& words = WordsOf(found);
-    std::string help = advice == KindAdvice::kOtherCommand
-                           ? std::string("use \"styleconv ") + words.command + "\""
-                           : "its name should end in " + std::string(words.extension);
+    std::string help =
+        advice == KindAdvice::kOtherCommand
+            ? std::string("use \"styleconv ") + words.command + "\""
+            : "its name should end in " +
+                  std::string(exchange::LooksLikeDxf(input.bytes) ? kDxfExtension : words.extension);
     return {severity,
             diagnostics::Code::kWrongFileKind,
             {input.name},
@@ -109,7 +115,15 @@ FileKind KindByContents(std::string_view bytes) {
         bytes.find("styleconversion/drawing") != std::string_view::npos) {
         return FileKind::kDrawing;
     }
+    if (exchange::LooksLikeDxf(bytes)) {
+        return FileKind::kDrawing;
+    }
     return KindOfText(platform::WithoutByteOrderMark(bytes));
+}
+
+bool IsDxf(std::string_view name, std::string_view bytes) {
+    return exchange::LooksLikeDxf(bytes) ||
+           (EndsWithIgnoringCase(name, kDxfExtension) && !platform::WithoutBlanks(bytes).starts_with('{'));
 }
 
 void TellWrongKind(const Input& input, FileKind kind, KindAdvice advice,

@@ -11,11 +11,19 @@ namespace conversions {
 
 enum class FileKind : std::uint8_t { kUnknown, kLinetypes, kPatterns, kShapes, kDrawing };
 
-/// By the end of the name: .lin, .pat, .shx or .json, in upper or lower case.
+/// By the end of the name: .lin, .pat, .shx, .json or .dxf, in upper or lower case.
 FileKind KindByName(std::string_view name);
 
 /// By what the file begins with; kUnknown where that is not clear.
 FileKind KindByContents(std::string_view bytes);
+
+/// Whether the contents are clearly a drawing's.
+inline bool IsDrawing(std::string_view bytes) {
+    return KindByContents(bytes) == FileKind::kDrawing;
+}
+
+/// Whether a drawing is a DXF file, and not a drawing document.
+bool IsDxf(std::string_view name, std::string_view bytes);
 
 /// What helps where a file is of another kind.
 enum class KindAdvice : std::uint8_t { kOtherCommand, kOtherName };

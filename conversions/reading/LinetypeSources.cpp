@@ -44,6 +44,9 @@ LinetypeSources::LinetypeSources(const Input& input, const LinetypeSourceOptions
 bool LinetypeSources::ReadDrawing(diagnostics::Diagnostics& diagnostics) {
     if (options_.drawing) {
         drawing_ = conversions::ReadDrawing(*options_.drawing, options_.tolerant, diagnostics);
+        std::erase_if(diagnostics, [](const Diagnostic& diagnostic) {
+            return diagnostic.code == Code::kNoUnit; // only its styles are of use here
+        });
     } else {
         MakeDefaultDrawing();
     }

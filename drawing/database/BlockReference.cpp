@@ -3,10 +3,13 @@
 
 namespace drawing {
 
-BlockReference::BlockReference(Core& core, const EntityProperties& properties, const std::wstring& blockName)
-    : ResidentEntity(core, properties), block_(core.names.Intern(blockName)) {
+BlockReference::BlockReference(Core& core, const EntityProperties& properties, const std::wstring& blockName,
+                               const InsertPlace& place)
+    : ResidentEntity(core, properties), block_(core.names.Intern(blockName)), place_(place) {
     core.names.Things(block_).references.push_back(&Stub());
 }
+
+BlockReference::~BlockReference() = default;
 
 OxDbObjectId BlockReference::blockTableRecord() const {
     return IdOrMissing(SharedCore(), SharedCore().names.Things(block_).block, block_);

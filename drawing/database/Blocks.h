@@ -16,6 +16,8 @@ struct BlockData {
     bool layout = false;                            // model space or a sheet
     bool anonymous = false;                         // named by a program
     OxDb::UnitsValue units = OxDb::kUnitsUndefined; // of its coordinates
+    OxGePoint3d basePoint = {};                     // what inserts put to their own place; a conversion
+                                                    // draws from 0, 0 unless it is asked to
 };
 
 /// A block's own draw order.
@@ -25,6 +27,8 @@ public:
     SortentsTable(Core& core, std::vector<OxDbObjectId> order);
     ~SortentsTable() override;
     Oxsys::ErrorStatus getFullDrawOrder(OxDbObjectIdArray& ids, std::uint8_t honourMask) const override;
+    /// The ids without a failure.
+    const std::vector<OxDbObjectId>& Order() const { return order_; }
 
 private:
     std::vector<OxDbObjectId> order_;
@@ -48,6 +52,12 @@ public:
     }
     /// Gives the block a draw-order table, which may be empty or leave entities out.
     void SetDrawOrder(std::vector<OxDbObjectId> order);
+    /// Null where the block has no draw-order table.
+    const std::vector<OxDbObjectId>* DrawOrder() const {
+        return sortentsTable_ ? &sortentsTable_->Order() : nullptr;
+    }
+    /// What was set with its name.
+    const BlockData& Data() const { return data_; }
     /// Erased ones count, too.
     std::size_t EntityCount() const { return entities_.Stubs().size(); }
     /// The id of an entity by its place in the order of creation, from 0.
@@ -78,6 +88,8 @@ public:
 
     /// Takes the record over as the last one, and returns it.
     BlockRecord& Adopt(std::unique_ptr<BlockRecord> record) { return records_.Adopt(std::move(record)); }
+    /// All records, in order.
+    const ObjectList& Records() const { return records_; }
 
     Oxsys::ErrorStatus getAt(const wchar_t* name, OxDbBlockTableRecord*& record, OxDb::OpenMode mode,
                              bool openErased) const override;

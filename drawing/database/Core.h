@@ -36,6 +36,7 @@ struct OxDbStub {
     std::uint32_t openCount = 0;
     bool erased = false;
     bool resident = true; // false: can be opened, but says that it is in no database
+    bool hidden = false;  // an entity that is not shown; conversions look at it only where they are asked to
 };
 
 namespace drawing {

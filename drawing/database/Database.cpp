@@ -29,6 +29,16 @@ using TextStyleTable = LookupTable<OxDbTextStyleTable, OxDbTextStyleTableRecord,
 
 namespace {
 
+template <class Record>
+std::vector<Record*> RecordsOf(const ObjectList& list) {
+    std::vector<Record*> records;
+    records.reserve(list.Stubs().size());
+    for (const OxDbStub* const stub : list.Stubs()) {
+        records.push_back(static_cast<Record*>(stub->object));
+    }
+    return records;
+}
+
 constexpr std::array<const wchar_t*, 3> kBuiltInLinetypes = {L"ByLayer", L"ByBlock", L"Continuous"};
 
 } // namespace
@@ -130,6 +140,34 @@ void Database::Discard(std::unique_ptr<BlockRecord> block) {
         std::erase_if(core_->names.Things(name).references,
                       [&](OxDbStub* reference) { return inserts.contains(reference); });
     }
+}
+
+std::vector<LayerRecord*> Database::Layers() const {
+    return RecordsOf<LayerRecord>(tables_->layers);
+}
+
+std::vector<LinetypeRecord*> Database::Linetypes() const {
+    return RecordsOf<LinetypeRecord>(tables_->linetypes);
+}
+
+std::vector<TextStyleRecord*> Database::TextStyles() const {
+    return RecordsOf<TextStyleRecord>(tables_->textStyles);
+}
+
+std::vector<BlockRecord*> Database::Blocks() const {
+    return RecordsOf<BlockRecord>(tables_->blockTable.Records());
+}
+
+LayerRecord* Database::FindLayer(const std::wstring& name) const {
+    const NamedThings* const things = core_->names.Find(name);
+    return things != nullptr && things->layer != nullptr ? static_cast<LayerRecord*>(things->layer->object)
+                                                         : nullptr;
+}
+
+BlockRecord* Database::FindBlock(const std::wstring& name) const {
+    const NamedThings* const things = core_->names.Find(name);
+    return things != nullptr && things->block != nullptr ? static_cast<BlockRecord*>(things->block->object)
+                                                         : nullptr;
 }
 
 const std::wstring* Database::MissingName(OxDbObjectId id) const {

@@ -42,6 +42,15 @@ public:
     /// more.
     void Discard(std::unique_ptr<BlockRecord> block);
 
+    /// The records of each table in the order of addition; of the linetypes, not those that are always there.
+    std::vector<LayerRecord*> Layers() const;
+    std::vector<LinetypeRecord*> Linetypes() const;
+    std::vector<TextStyleRecord*> TextStyles() const;
+    std::vector<BlockRecord*> Blocks() const;
+    /// The record of a name in any case of its letters; null where there is none.
+    LayerRecord* FindLayer(const std::wstring& name) const;
+    BlockRecord* FindBlock(const std::wstring& name) const;
+
     /// The name by which the drawing refers to something that it does not have; null for any other id.
     const std::wstring* MissingName(OxDbObjectId id) const;
 

@@ -25,12 +25,22 @@ public:
         return status;
     }
 
+    /// The name without a failure.
+    const std::wstring& Name() const { return name_; }
+
 protected:
     NamedRecord(Core& core, std::wstring name) : Resident<Interface>(core), name_(std::move(name)) {}
     void SetName(std::wstring name) { name_ = std::move(name); }
 
 private:
     std::wstring name_;
+};
+
+/// Whether what is on a layer is shown. Conversions look at it only where they are asked to.
+enum class LayerState : std::uint8_t {
+    kShown,
+    kOff,
+    kFrozen, ///< with all that is in the blocks inserted on it
 };
 
 /// A layer: what entities by layer are drawn in.
@@ -41,9 +51,16 @@ public:
     OxCmColor color() const override { return color_; }
     OxDb::LineWeight lineWeight() const override { return lineWeight_; }
 
+    /// Shown unless it was set otherwise.
+    LayerState State() const { return state_; }
+    void SetState(LayerState state) { state_ = state; }
+    /// Before the drawing is converted.
+    void Recolor(const OxCmColor& color) { color_ = color; }
+
 private:
     OxCmColor color_;
     OxDb::LineWeight lineWeight_;
+    LayerState state_ = LayerState::kShown;
 };
 
 /// One dash of a linetype and what it carries.
@@ -74,6 +91,9 @@ public:
     double shapeScaleAt(int index) const override;
     double shapeRotationAt(int index) const override;
     Oxsys::ErrorStatus textAt(int index, const wchar_t*& text) const override;
+
+    /// The dashes in order.
+    const std::vector<Dash>& Dashes() const { return dashes_; }
 
 private:
     const Dash& DashAt(int index) const;
@@ -116,6 +136,9 @@ public:
     double obliquingAngle() const override { return data_.obliquingAngle; }
     double textSize() const override { return data_.textSize; }
     double xScale() const override { return data_.xScale; }
+
+    /// All of it.
+    const TextStyleData& Data() const { return data_; }
 
 private:
     Oxsys::ErrorStatus HandOut(Operation operation, const std::wstring& text, wchar_t*& out) const;

@@ -43,6 +43,7 @@ struct EntityProperties {
     /// A name of the linetype table, or "ByLayer", "ByBlock" or "Continuous". A name that the table does not
     /// have gives the entity an id that cannot be opened.
     std::wstring linetype = L"ByLayer";
+    bool hidden = false; ///< conversions look at it only where they are asked to
 
     /// The colour of the entity's layer.
     static OxCmColor ByLayerColor() {
@@ -70,6 +71,14 @@ public:
         return IdOrMissing(core, core.names.Things(linetype_).linetype, linetype_);
     }
 
+    /// What it was made with.
+    EntityProperties Properties() const {
+        const NamePool& names = this->SharedCore().names;
+        return {names.Text(layer_), color_, lineWeight_, names.Text(linetype_), this->Stub().hidden};
+    }
+    /// Before the drawing is converted.
+    void Recolor(const OxCmColor& color) { color_ = color; }
+
     // Drawings are open for reading.
     Oxsys::ErrorStatus setColor(const OxCmColor& /*color*/) override { return Oxsys::eNotApplicable; }
     Oxsys::ErrorStatus setLineWeight(OxDb::LineWeight /*lineWeight*/) override {
@@ -82,7 +91,9 @@ protected:
     ResidentEntity(Core& core, const EntityProperties& properties, const Args&... args)
         : Resident<Interface>(core, args...), layer_(core.names.Intern(properties.layer)),
           linetype_(core.names.Intern(properties.linetype)), color_(properties.color),
-          lineWeight_(properties.lineWeight) {}
+          lineWeight_(properties.lineWeight) {
+        this->Stub().hidden = properties.hidden;
+    }
 
 private:
     NameIndex layer_;

@@ -46,6 +46,9 @@ public:
     int numHatchLines() const override;
     Oxsys::ErrorStatus getHatchLineDataAt(int index, OxGePoint2d& start, OxGePoint2d& end) const override;
 
+    /// What it was made with.
+    const HatchData& Data() const { return data_; }
+
 private:
     HatchData data_;
     std::vector<HatchLine> evaluated_;
@@ -64,6 +67,11 @@ public:
     Oxsys::ErrorStatus getMPolygonLoopAt(int index, OxGePoint2dArray& vertices,
                                          OxGeDoubleArray& bulges) const override;
     OxCmColor fillColor() const override { return fillColor_; }
+
+    /// All loops in order.
+    const std::vector<PolylineLoop>& Loops() const { return loops_; }
+    /// Before the drawing is converted.
+    void RecolorFill(const OxCmColor& color) { fillColor_ = color; }
 
 private:
     std::vector<PolylineLoop> loops_;

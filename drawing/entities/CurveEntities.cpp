@@ -2,6 +2,7 @@
 #include "drawing/entities/CurveEntities.h"
 
 #include "drawing/database/Lists.h"
+#include "drawing/entities/PolylineData.h"
 #include "drawing/entities/SplineCurves.h"
 
 namespace drawing {
@@ -14,6 +15,10 @@ Polyline::Polyline(Core& core, const EntityProperties& properties, const std::ve
     }
     OxDbPolyline::setClosed(closed);
     OxDbPolyline::setPlinegen(plinegen);
+}
+
+const std::vector<BulgeVertex>& Polyline::Vertices() const {
+    return data().vertices;
 }
 
 Oxsys::ErrorStatus Polyline::getLineSegAt(unsigned int index, OxGeLineSeg2d& segment) const {

@@ -22,6 +22,9 @@ public:
 
     Oxsys::ErrorStatus getLineSegAt(unsigned int index, OxGeLineSeg2d& segment) const override;
     Oxsys::ErrorStatus getArcSegAt(unsigned int index, OxGeCircArc3d& segment) const override;
+
+    /// All vertices in order.
+    const std::vector<BulgeVertex>& Vertices() const;
 };
 
 /// A spline, by what it was drawn with.
@@ -40,6 +43,9 @@ public:
                                     OxGeDoubleArray& weights, double& controlPointTolerance,
                                     double& knotTolerance) const override;
     bool isClosed() const override;
+
+    /// What it was made with.
+    const SplineData& Data() const { return data_; }
 
 protected:
     // A spline whose data makes no curve has parameters and points 0.

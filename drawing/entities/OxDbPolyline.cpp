@@ -2,8 +2,7 @@
 #include "OxDb/OxDbPolyline.h"
 
 #include "drawing/database/Core.h"
-#include "drawing/database/Resident.h"
-#include "drawing/geometry/BulgeVertex.h"
+#include "drawing/entities/PolylineData.h"
 
 #include <cmath>
 #include <memory>
@@ -40,23 +39,6 @@ OxGePoint3d PointOfArc(const OxGeCircArc3d& arc, double part) {
 }
 
 } // namespace
-
-struct OxDbPolyline::Data {
-    std::vector<BulgeVertex> vertices;
-    bool closed = false;
-    bool plinegen = false;
-    // Of a free-standing polyline; one of a drawing has its own.
-    OxCmColor color = drawing::EntityProperties::ByLayerColor();
-    OxDb::LineWeight lineWeight = OxDb::kLnWtByLayer;
-    OxDbObjectId linetypeId;
-
-    std::size_t SegmentCount() const {
-        return closed || vertices.empty() ? vertices.size() : vertices.size() - 1;
-    }
-    const OxGePoint2d& SegmentEnd(std::size_t index) const {
-        return vertices[index + 1 < vertices.size() ? index + 1 : 0].point;
-    }
-};
 
 OxDbPolyline::OxDbPolyline(unsigned int vertexCount) {
     auto data = std::make_unique<Data>();

@@ -57,6 +57,9 @@ public:
     OxGeVector3d normal() const override { return data_.normal; }
     bool isClosed() const override { return false; }
 
+    /// What it was made with.
+    const ArcData& Data() const { return data_; }
+
 protected:
     double StartParameter() const override { return data_.startAngle; }
     double EndParameter() const override { return data_.endAngle; }
@@ -104,6 +107,9 @@ public:
     double startAngle() const override { return data_.startAngle; }
     double endAngle() const override { return data_.endAngle; }
     bool isClosed() const override;
+
+    /// What it was made with.
+    const EllipseData& Data() const { return data_; }
 
 protected:
     double StartParameter() const override { return data_.startAngle; }

@@ -44,6 +44,13 @@ public:
     OxGePoint3d alignmentPoint() const override { return data_.alignmentPoint.value_or(data_.position); }
     const wchar_t* textStringConst() const override { return data_.text.c_str(); }
 
+    /// What it was made with.
+    TextData Data() const {
+        TextData data = data_;
+        data.style = this->SharedCore().names.Text(style_);
+        return data;
+    }
+
 private:
     NameIndex style_;
     TextData data_;
@@ -107,6 +114,13 @@ public:
     double actualWidth() const override { return data_.actualWidth; }
     double actualHeight() const override { return data_.actualHeight; }
     const wchar_t* contents() const override { return data_.contents.c_str(); }
+
+    /// What it was made with.
+    ParagraphTextData Data() const {
+        ParagraphTextData data = data_;
+        data.style = SharedCore().names.Text(style_);
+        return data;
+    }
 
 private:
     NameIndex style_;

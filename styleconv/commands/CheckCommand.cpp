@@ -44,14 +44,13 @@ std::unique_ptr<conversions::Front> FrontFor(FileKind kind, const std::string& f
 }
 
 Diagnostics CheckOne(const CheckOptions& options, const std::string& path) {
-    const FileKind kind = conversions::KindByName(path);
     InputFile input(path);
+    FileKind kind = FileKind::kUnknown;
+    if (const auto problem = OpenForKind(input, path, kind)) {
+        return {*problem};
+    }
     if (kind == FileKind::kUnknown) {
         return {{Severity::kError, Code::kUnknownFileKind, {input.Name()}, {}}};
-    }
-    // Drawings are read as they come, for they may be large; what else there is, as a whole.
-    if (const auto problem = kind == FileKind::kDrawing ? input.Open() : input.Read()) {
-        return {*problem};
     }
     conversions::CheckOptions job;
     job.linetypes.font = options.font;
@@ -109,7 +108,7 @@ void AddCheckCommand(CommandLine& line) {
     const auto options = std::make_shared<CheckOptions>();
     Command command = line.AddCommand("check", "Report errors and likely surprises, one per line",
                                       [options] { return CheckFiles(*options); });
-    command.AddFiles(options->files, ".lin, .pat, .shx and drawing .json files");
+    command.AddFiles(options->files, ".lin, .pat, .shx, .dxf and drawing .json files");
     AddStyleOptions(command, *options);
     AddIgnoreLayerOption(command, options->layersToIgnore);
     command.AddFlag("--notes", options->notes,

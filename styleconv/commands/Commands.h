@@ -9,6 +9,7 @@ namespace styleconv {
 void AddLinetypesCommand(CommandLine& line);
 void AddPatternsCommand(CommandLine& line);
 void AddBlocksCommand(CommandLine& line);
+void AddDrawingCommand(CommandLine& line);
 void AddGlyphsCommand(CommandLine& line);
 void AddListCommand(CommandLine& line);
 void AddCheckCommand(CommandLine& line);

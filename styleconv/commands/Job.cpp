@@ -1,6 +1,7 @@
 #include "styleconv/commands/Job.h"
 
 #include "diagnostics/ShownText.h"
+#include "styleconv/files/InputFile.h"
 #include "styleconv/files/OutputFile.h"
 #include "styleconv/files/ShapeSearch.h"
 #include "styleconv/process/Messages.h"
@@ -68,6 +69,9 @@ bool IsLocal(const Diagnostic& diagnostic) {
     case Code::kNoPatterns:
     case Code::kNoShapes:
     case Code::kNoBlocks:
+    case Code::kOnlyModelSpace:
+    case Code::kNoModelSpace:
+    case Code::kTooManyEntities:
     case Code::kNotAShapeFile:
     case Code::kTruncatedShapeFile:
     case Code::kUnknownShapeFileKind:
@@ -101,6 +105,16 @@ std::unique_ptr<conversions::Front> FrontForDrawing(const SearchOptions& search,
 
 std::unique_ptr<conversions::Front> FrontWithoutFiles(bool toStandardOutput) {
     return std::make_unique<ToolFront>(toStandardOutput);
+}
+
+std::optional<Diagnostic> OpenForKind(InputFile& input, const std::string& path,
+                                      conversions::FileKind& kind) {
+    kind = conversions::KindByName(path);
+    auto problem = kind == conversions::FileKind::kDrawing ? input.Open() : input.Read();
+    if (!problem && kind == conversions::FileKind::kUnknown && conversions::IsDrawing(input.ForJob().bytes)) {
+        kind = conversions::FileKind::kDrawing;
+    }
+    return problem;
 }
 
 ExitStatus SayProblem(const Diagnostic& problem) {

@@ -4,6 +4,7 @@
 
 #include "conversions/Conversion.h"
 #include "conversions/Forms.h"
+#include "conversions/reading/FileKind.h"
 #include "styleconv/commands/CommandLine.h"
 #include "styleconv/commands/Options.h"
 
@@ -14,6 +15,7 @@
 
 namespace styleconv {
 
+class InputFile;
 struct SearchOptions;
 
 /// Shape files as linetype files name them, and as drawings do; and no files for jobs that need none. Where
@@ -21,6 +23,11 @@ struct SearchOptions;
 std::unique_ptr<conversions::Front> FrontForLinetypes(const SearchOptions& search, bool toStandardOutput);
 std::unique_ptr<conversions::Front> FrontForDrawing(const SearchOptions& search, bool toStandardOutput);
 std::unique_ptr<conversions::Front> FrontWithoutFiles(bool toStandardOutput);
+
+/// Opens a file of any kind, which its name tells, or of a drawing else its contents. Drawings are read as
+/// they come, for they may be large; what else there is, as a whole.
+std::optional<diagnostics::Diagnostic> OpenForKind(InputFile& input, const std::string& path,
+                                                   conversions::FileKind& kind);
 
 /// Says what is wrong; what gave nothing is kInputFault.
 ExitStatus SayProblem(const diagnostics::Diagnostic& problem);

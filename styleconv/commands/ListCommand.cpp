@@ -48,9 +48,8 @@ ExitStatus List(const ListOptions& options) {
         return kUsageFault;
     }
     InputFile input(options.file);
-    const FileKind kind = conversions::KindByName(options.file);
-    // Drawings are read as they come, for they may be large; what else there is, as a whole.
-    if (const auto problem = kind == FileKind::kDrawing ? input.Open() : input.Read()) {
+    FileKind kind = FileKind::kUnknown;
+    if (const auto problem = OpenForKind(input, options.file, kind)) {
         return SayProblem(*problem);
     }
     if (!CheckEncoding(options.codePage)) {
@@ -73,7 +72,7 @@ void AddListCommand(CommandLine& line) {
     const auto options = std::make_shared<ListOptions>();
     Command command = line.AddCommand("list", "Print the names of what a file holds, one per line",
                                       [options] { return List(*options); });
-    command.AddFile(options->file, "A .lin, .pat, .shx or drawing .json file");
+    command.AddFile(options->file, "A .lin, .pat, .shx, .dxf or drawing .json file");
     AddOutputOption(command, options->output);
     // For those who give it to every command.
     command.AddOnlyChoice("--format", "json");

@@ -69,8 +69,9 @@ void AddPointOption(Command& command, const std::string& name, double& x, double
 }
 
 void AddStyleOptions(Command& command, StyleOptions& options) {
-    command.AddText("--drawing", options.drawing, "DRAWING.json",
-                    "Take text styles from this drawing document (default: one style STANDARD with txt.shx)");
+    command.AddText(
+        "--drawing", options.drawing, "DRAWING",
+        "Take text styles from this DXF file or drawing document (default: one style STANDARD with txt.shx)");
     command.AddText(
         "--font", options.font, "FILE.shx|TYPEFACE",
         "Without --drawing, the font of the style STANDARD: an SHX file, or the name of a typeface");

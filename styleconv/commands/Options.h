@@ -27,7 +27,7 @@ void AddPointOption(Command& command, const std::string& name, double& x, double
 
 /// Where linetypes find their text styles and shape files.
 struct StyleOptions {
-    std::string drawing;                   // a drawing document; empty for the one style STANDARD
+    std::string drawing;                   // a DXF file or drawing document; empty for the one style STANDARD
     std::vector<std::string> shapeFolders; // where shape files are looked for, too
     std::string font;                      // of STANDARD without a drawing: a file or a typeface
 };

@@ -1,7 +1,7 @@
 # Completion of styleconv for bash. Commands and options are those that the installed tool tells of itself.
 
 _styleconv_options() {
-    "$1" ${2:+"$2"} --help 2>/dev/null | grep -oE '^ +(-[a-z],)?--[a-z-]+' | grep -oE -- '--[a-z-]+'
+    "$1" ${2:+"$2"} --help 2>/dev/null | grep -oE '^ +(-[a-z],)?--[a-z0-9-]+' | grep -oE -- '--[a-z0-9-]+'
 }
 
 _styleconv() {

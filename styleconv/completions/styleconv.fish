@@ -10,7 +10,7 @@ function __styleconv_commands
 end
 
 function __styleconv_options
-    styleconv (__styleconv_command) --help 2>/dev/null | grep -oE '^ +(-[a-z],)?--[a-z-]+' | grep -oE -- '--[a-z-]+'
+    styleconv (__styleconv_command) --help 2>/dev/null | grep -oE '^ +(-[a-z],)?--[a-z0-9-]+' | grep -oE -- '--[a-z0-9-]+'
 end
 
 # The word before the one that is being typed.

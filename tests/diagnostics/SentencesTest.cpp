@@ -57,9 +57,9 @@ TEST(Sentences, TellWhatAStrictConversionMakesOfItOrWhatBecameOfIt) {
 
 TEST(Sentences, CountEntitiesOrPlaces) {
     Diagnostic entities = Of(Code::kUnsupportedClass, {"Ray"});
-    EXPECT_EQ(SentenceOf(entities), "1 entity of the class Ray is not drawn");
+    EXPECT_EQ(SentenceOf(entities), "1 entity of the type Ray is not drawn");
     entities.count = 2;
-    EXPECT_EQ(SentenceOf(entities), "2 entities of the class Ray are not drawn");
+    EXPECT_EQ(SentenceOf(entities), "2 entities of the type Ray are not drawn");
     Diagnostic places = Of(Code::kUnexpectedBlank);
     places.count = 2;
     EXPECT_EQ(SentenceOf(places), "a blank is not allowed here; the same in 1 more place");

@@ -70,7 +70,8 @@ TEST(DrawingFaults, AKeyOfAnotherTypeIsRefused) {
 
 TEST(DrawingFaults, AValueOfTheWrongTypeIsRefused) {
     ExpectRefused({
-        {Document(R"("insunits": "mm")"), "insunits: expected a whole number from 0 to 20, found a string"},
+        {Document(R"("insunits": "mm")"),
+         "insunits: expected a whole number from 0 to 2147483647, found a string"},
         {Document(R"("layers": {})"), "layers: expected an array, found an object"},
         {Document(R"("layers": [[]])"), "layers[0]: expected an object, found an array"},
         {Document(R"("layers": [{"name": 5}])"), "layers[0].name: expected a string, found a number"},
@@ -223,11 +224,12 @@ TEST(DrawingFaults, ANumberThatIsNotFiniteIsRefused) {
 
 TEST(DrawingFaults, AValueOutOfItsRangeIsRefused) {
     ExpectRefused({
-        {Document(R"("insunits": 21)"), "insunits: expected a whole number from 0 to 20, found 21"},
-        {Document(R"("insunits": -1)"), "insunits: expected a whole number from 0 to 20, found -1"},
-        {Document(R"("insunits": 1.5)"), "insunits: expected a whole number from 0 to 20, found 1.5"},
-        {Document(R"("blocks": [{"name": "A", "units": 21, "entities": []}])"),
-         "blocks[0].units: expected a whole number from 0 to 20, found 21"},
+        {Document(R"("insunits": 2147483648)"),
+         "insunits: expected a whole number from 0 to 2147483647, found 2147483648"},
+        {Document(R"("insunits": -1)"), "insunits: expected a whole number from 0 to 2147483647, found -1"},
+        {Document(R"("insunits": 1.5)"), "insunits: expected a whole number from 0 to 2147483647, found 1.5"},
+        {Document(R"("blocks": [{"name": "A", "units": 2147483648, "entities": []}])"),
+         "blocks[0].units: expected a whole number from 0 to 2147483647, found 2147483648"},
         {Document(R"("layers": [{"name": "A", "lineWeight": 2147483648}])"),
          "layers[0].lineWeight: expected a whole number of 32 bits, found 2147483648"},
         {Document(R"("layers": [{"name": "A", "lineWeight": 18446744073709551615}])"),

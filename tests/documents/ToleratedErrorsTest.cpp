@@ -140,7 +140,7 @@ TEST(ToleratedErrors, InsertsOfABlockThatIsLeftOutAreNoReferences) {
     const char* const another = R"({"name": "A", "entities": [{"type": "insert", "block": "b"}]})";
     for (const char* const wrong :
          {R"({"name": "C", "entities": [{"type": "insert", "block": "b"}, {"type": "insert", "block": "b"}],
-              "units": 99})",
+              "units": -1})",
           R"({"name": "B", "entities": [{"type": "insert", "block": "b"}]})"}) {
         documents::DrawingError fault;
         documents::ToleratedErrors errors;
@@ -188,8 +188,8 @@ TEST(ToleratedErrors, WhatNothingKnowsIsSkippedAlone) {
          "(block "
          "B)\n",
          {1}},
-        {Document(R"("insunits": 21)"),
-         "insunits: expected a whole number from 0 to 20, found 21; the value is skipped\n",
+        {Document(R"("insunits": 2147483648)"),
+         "insunits: expected a whole number from 0 to 2147483647, found 2147483648; the value is skipped\n",
          {}},
         {Document(R"("layers": {"name": ["0"]}, "blocks": [)" + BlockOf(kPoint) + "]"),
          "layers: expected an array, found an object; the value is skipped\n",
@@ -220,7 +220,8 @@ TEST(ToleratedErrors, ARecordWithAWrongValueIsLeftOutByName) {
          {}},
         {Document(R"("blocks": [{"name": "C", "units": "mm", "entities": [5, 6]}, )" + BlockOf(kPoint) + "," +
                   BlockOf("7") + "]"),
-         "blocks[0].units: expected a whole number from 0 to 20, found a string; the block is skipped "
+         "blocks[0].units: expected a whole number from 0 to 2147483647, found a string; the block is "
+         "skipped "
          "(block "
          "C)\n"
          "blocks[2].entities[0]: expected an object, found a number; the entity is skipped (block B)\n"

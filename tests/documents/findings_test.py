@@ -17,6 +17,7 @@ EXAMPLES = os.path.join(ROOT, "examples")
 ON_PURPOSE = {
     ("simple.lin", "linetype MARGIN"),
     ("marsh.pat", "pattern MARSH"),
+    ("street-furniture.dxf", "block SIGN"),
     ("draw-order.json", "block BUS_STOP"),
     ("survey-symbols.json", "block ORCHARD"),
     ("boundaries.json", "block FOOTPATH_RUNNING"),
@@ -58,6 +59,9 @@ class Examples(unittest.TestCase):
 
     def test_shapes(self):
         self.of_folder("shapes", ".shx")
+
+    def test_dxf_files(self):
+        self.of_folder("drawings", ".dxf")
 
     def test_drawings(self):
         self.of_folder("drawings", ".json", "--shapes", os.path.join(EXAMPLES, "shapes"))

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "StyleConversion/block/BlockConverter.h"
+#include "diagnostics/Sentences.h"
 #include "documents/DrawingReader.h"
 #include "documents/SymbolsDocument.h"
 #include "exchange/DxfReader.h"
@@ -44,15 +45,13 @@ inline std::string SymbolsOf(drawing::Database& database) {
     return document;
 }
 
-/// The same of a file, or the fault: "line 3: what".
+/// The same of a file "f", or the message of its refusal.
 inline std::string SymbolsOfDxf(const std::string& bytes, exchange::DxfNotes* notes = nullptr) {
-    exchange::DxfFault fault;
+    diagnostics::Diagnostic fault;
     exchange::DxfNotes own;
     const auto database = exchange::ReadDxf(bytes, fault, notes != nullptr ? *notes : own);
-    return database != nullptr
-               ? SymbolsOf(*database)
-               : (fault.placeIsByte ? "byte " : "line ") + std::to_string(fault.place) + ": " + fault.what +
-                     (fault.block.empty() ? "" : " (block " + fault.block + ")");
+    fault.place.file = "f";
+    return database != nullptr ? SymbolsOf(*database) : diagnostics::MessageOf(fault);
 }
 
 /// The symbols of a drawing document with one block "B" of these entities, and with the layer 0, which a file

@@ -9,13 +9,16 @@ std::string Json(double number) {
     return nlohmann::json(number).dump();
 }
 
-// The notes as "place what; consequence".
+// The messages for what was left out or read otherwise, without the file.
 std::vector<std::string> NotesOf(const std::string& bytes) {
     exchange::DxfNotes notes;
     SymbolsOfDxf(bytes, &notes);
     std::vector<std::string> all;
-    for (const exchange::DxfNote& note : notes.All()) {
-        all.push_back(std::to_string(note.place) + " " + note.what + "; " + note.consequence);
+    for (const diagnostics::Diagnostic& note : notes.All()) {
+        if (note.code == diagnostics::Code::kNoUnit) {
+            continue; // none of these files has one
+        }
+        all.push_back(diagnostics::MessageOf(note));
     }
     return all;
 }
@@ -308,7 +311,7 @@ TEST(DxfReader, GroupsOfOtherProgramsAndMarksAreSkipped) {
 
 TEST(DxfReader, EntitiesOfTheModelSpaceAreNoBlock) {
     const DxfWriter line = DxfWriter().Text(0, "LINE").Point(10, 0, 0).Point(11, 1, 0);
-    exchange::DxfFault fault;
+    diagnostics::Diagnostic fault;
     exchange::DxfNotes notes;
     const auto database = exchange::ReadDxf(Section("ENTITIES", line).Text(0, "EOF").Ascii(), fault, notes);
     ASSERT_NE(database, nullptr);
@@ -324,11 +327,12 @@ TEST(DxfReader, WhatDoesNoHarmIsReadAndNoted) {
     const DxfWriter line = DxfWriter().Text(0, "LINE").Text(8, "Roads").Point(10, 0, 0).Point(11, 1, 0);
     std::string file = FileOf(line).Ascii();
     EXPECT_EQ(NotesOf(file),
-              (std::vector<std::string>{"17 the table of layers has no layer \"Roads\"; it is made"}));
+              (std::vector<std::string>{":17: note: the drawing has no layer Roads; it is added (block B)"}));
     EXPECT_TRUE(NotesOf(FileOf(DxfWriter()).Ascii() + "junk\n").empty());
     const std::string unended = Section("BLOCKS", DxfWriter()).Ascii();
-    EXPECT_EQ(NotesOf(unended),
-              (std::vector<std::string>{"5 the file has no end mark; it is read to its last line"}));
+    EXPECT_EQ(
+        NotesOf(unended),
+        (std::vector<std::string>{":5: warning: missing EOF at the end of the file; read to its last line"}));
     EXPECT_EQ(NotesOf(FileOf(DxfWriter()
                                  .Text(0, "CIRCLE")
                                  .Point(10, 0, 0)
@@ -337,24 +341,35 @@ TEST(DxfReader, WhatDoesNoHarmIsReadAndNoted) {
                                  .Number(220, 0)
                                  .Number(230, 0))
                           .Ascii()),
-              (std::vector<std::string>{"17 CIRCLE: the extrusion direction is zero; read as upright"}));
+              (std::vector<std::string>{
+                  ":17: warning: the extrusion direction of CIRCLE is zero; read as upright (block B)"}));
+}
+
+TEST(DxfReader, AFileWithoutAUnitIsToldOf) {
+    DxfWriter header;
+    header.Text(9, "$INSUNITS").Integer(70, 0);
+    for (const DxfWriter& start : {DxfWriter(), Section("HEADER", header)}) {
+        exchange::DxfNotes notes;
+        SymbolsOfDxf(DxfWriter(start).Append(FileOf(DxfWriter())).Ascii(), &notes);
+        ASSERT_EQ(notes.All().size(), 1U);
+        EXPECT_EQ(notes.All()[0].code, diagnostics::Code::kNoUnit);
+    }
 }
 
 TEST(DxfReader, WhatIsNoFileOrBreaksOffIsRefusedWithItsPlace) {
-    EXPECT_EQ(SymbolsOfDxf(""), "line 1: expected the start of a section, found nothing");
-    EXPECT_EQ(SymbolsOfDxf("hello\nworld\n"), "line 1: expected a group code, found \"hello\"");
-    EXPECT_EQ(SymbolsOfDxf("0\nLINE\n"), "line 1: expected the start of a section");
+    EXPECT_EQ(SymbolsOfDxf(""), "f:1: error: expected the start of a section, found nothing");
+    EXPECT_EQ(SymbolsOfDxf("hello\nworld\n"), "f:1: error: expected a group code, found \"hello\"");
+    EXPECT_EQ(SymbolsOfDxf("0\nLINE\n"), "f:1: error: expected the start of a section, found LINE");
     EXPECT_EQ(SymbolsOfDxf("0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n2\nB\n0\nLINE\n10\n"),
-              "line 11: the file ends within a pair of group code and value (block B)");
+              "f:11: error: the file ends within a pair of group code and value (block B)");
 }
 
 TEST(DxfReader, HatchesWhoseCountsPromiseTooMuchAreLeftOut) {
     DxfWriter hatch = HatchHead();
     hatch.Integer(91, 2147483647).Integer(92, 2).Integer(93, 2147483647);
-    exchange::DxfNotes notes;
-    SymbolsOfDxf(FileOf(hatch).Ascii(), &notes);
-    ASSERT_EQ(notes.All().size(), 1U);
-    EXPECT_EQ(notes.All()[0].what, "HATCH: its boundary cannot be read");
+    EXPECT_EQ(
+        NotesOf(FileOf(hatch).Ascii()),
+        (std::vector<std::string>{":17: error: the boundary of HATCH cannot be read; skipped (block B)"}));
 }
 
 TEST(DxfReader, OtherEntitiesKeepTheirClass) {

@@ -20,7 +20,7 @@ def help_of(*command):
 
 
 def options_of(text):
-    return set(re.findall(r"(?m)^ +(?:-\w,)?(--[a-z-]+)", text))
+    return set(re.findall(r"(?m)^ +(?:-\w,)?(--[a-z0-9-]+)", text))
 
 
 COMMANDS = re.findall(r"(?m)^  ([a-z]+) ", help_of().partition("Commands:")[2])

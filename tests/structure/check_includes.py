@@ -21,7 +21,7 @@ ALLOWED = {
     "drawing/entities": ["StyleConversion/interfaces/OxDb", "drawing/database", "drawing/geometry"],
     "diagnostics": ["StyleConversion/encoding", "StyleConversion/platform"],
     "documents": ["diagnostics", "drawing", "StyleConversion"],
-    "exchange": ["drawing", "StyleConversion/encoding", "StyleConversion/platform"],
+    "exchange": ["diagnostics", "drawing", "StyleConversion/encoding", "StyleConversion/platform"],
     "preview": ["StyleConversion"],
     # Jobs over checks over reading; none opens a file or shows anything.
     "conversions": ["diagnostics", "documents", "preview", "drawing", "StyleConversion"],
@@ -37,7 +37,7 @@ ALLOWED = {
     "tests": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "conversions", "styleconv", "fuzz",
               "examples"],
     "fuzz": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "conversions", "tests/support"],
-    "benchmarks": ["StyleConversion", "drawing", "documents", "preview", "tests/support"],
+    "benchmarks": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "tests/support"],
     "examples": ["StyleConversion", "drawing", "documents", "tests/support"],
 }
 

@@ -250,7 +250,7 @@ TEST_F(Check, EntitiesThatWillNotBeDrawnAreCountedByBlock) {
               "[missing-linetype]\n"
               ": error: 1 entity is drawn without the shapes of linetype GAS: shape file marks.shx not found "
               "beside the drawing (block BAD) [dash-file-missing]\n"
-              ": warning: 2 entities of the class Ray are not drawn (block BAD) [unsupported-class]\n"
+              ": warning: 2 entities of the type Ray are not drawn (block BAD) [unsupported-class]\n"
               ": warning: colours by block are drawn black; no insert gives the block a colour (block BAD) "
               "[color-by-block]\n"
               "3 errors, 2 warnings in 1 file\n");
@@ -263,13 +263,13 @@ std::string DrawingOf(const std::string& blocks) {
 TEST_F(Check, WhatADrawingIsRefusedForIsFoundAllAtOnce) {
     EXPECT_EQ(
         Found("drawing.json", DrawingOf(R"({"name": "A", "entities": [7, {"type": "ray"}, 8]}, {"name": 5},
-                                                {"name": "B", "units": 21, "entities": []})")),
+                                                {"name": "B", "units": -1, "entities": []})")),
         ": error: blocks[0].entities[0]: expected an object, found a number; the same in 1 more place (block "
         "A) [invalid-value]\n"
         ": error: blocks[0].entities[1].type: expected the type of an entity, found \"ray\" (block A) "
         "[invalid-value]\n"
         ": error: blocks[1].name: expected a string, found a number [invalid-value]\n"
-        ": error: blocks[2].units: expected a whole number from 0 to 20, found 21 (block B) "
+        ": error: blocks[2].units: expected a whole number from 0 to 2147483647, found -1 (block B) "
         "[invalid-value]\n"
         "4 errors, 0 warnings in 1 file\n");
     EXPECT_EQ(Found("other.json", "{}"),
@@ -301,7 +301,7 @@ TEST_F(Check, EntitiesOnIgnoredLayersAreCountedWhereSomeAreIgnored) {
               ": warning: 2 entities on the ignored layer Notes are not drawn (block TREE) [ignored-layer]\n"
               "0 errors, 1 warning in 1 file\n");
     EXPECT_EQ(Found("drawing.json", text),
-              ": warning: 1 entity of the class Ray is not drawn (block TREE) [unsupported-class]\n"
+              ": warning: 1 entity of the type Ray is not drawn (block TREE) [unsupported-class]\n"
               "0 errors, 1 warning in 1 file\n");
 }
 
@@ -323,7 +323,7 @@ TEST_F(Check, FilesAreSortedAndFaultsOfOneDoNotHideTheOthers) {
     EXPECT_EQ(result.output,
               a + ":1: error: the pattern has no lines (pattern X) [empty-pattern]\n" + b +
                   ":2:3: error: expected a dash length or \"[\": A,x (linetype X) [invalid-dash]\n" + other +
-                  ": error: unknown kind of file: the name must end in .lin, .pat, .shx or .json "
+                  ": error: unknown kind of file: the name must end in .lin, .pat, .shx, .json or .dxf "
                   "[unknown-file-kind]\n" +
                   folder / "none.lin" +
                   ": error: not found [missing-file]\n4 errors, 0 warnings in 4 files\n");

@@ -287,7 +287,7 @@ TEST(ListCommand, NeedsAFileOfAKnownKind) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.txt", "*A\n0,0,0,0,1\n");
     EXPECT_EQ(RunTool({"list", file}).errors,
-              file + ": error: unknown kind of file: the name must end in .lin, .pat, .shx or .json\n");
+              file + ": error: unknown kind of file: the name must end in .lin, .pat, .shx, .json or .dxf\n");
     EXPECT_EQ(RunTool({"list", file}).status, 1);
     EXPECT_EQ(RunTool({"list", "-"}, "*A\n").status, 2);
 }

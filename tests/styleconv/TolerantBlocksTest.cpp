@@ -139,7 +139,7 @@ TEST_F(TolerantBlocks, WhatAConversionLeavesOutIsNamedByBlock) {
         "(block TREE)\n"
         "drawing.json: warning: 1 entity (text) is written without a font: the drawing has no text style "
         "ROMAN (block TREE)\n"
-        "drawing.json: warning: 1 entity of the class Ray is not drawn (block TREE)\n"
+        "drawing.json: warning: 1 entity of the type Ray is not drawn (block TREE)\n"
         "drawing.json: warning: 1 entity (hatch) is not drawn: no line of the pattern lies inside the "
         "boundary (block TREE)\n"
         "drawing.json: warning: 1 entity is not drawn: missing in the draw order of the block (block "

@@ -5,7 +5,7 @@ import subprocess
 import sys
 import unittest
 
-COMMANDS = ("linetypes", "patterns", "blocks", "glyphs", "list", "check")
+COMMANDS = ("linetypes", "patterns", "blocks", "drawing", "glyphs", "list", "check")
 FIRST_SCREEN = 20  # lines
 
 
@@ -18,10 +18,10 @@ class Readme(unittest.TestCase):
         text = self.read("README.md")
         for command in COMMANDS:
             run = subprocess.run([tool, command, "--help"], capture_output=True, text=True, check=True)
-            options = set(re.findall(r"--[a-z][a-z-]*", run.stdout)) - {"--help", "--output"}
+            options = set(re.findall(r"--[a-z][a-z0-9-]*", run.stdout)) - {"--help", "--output"}
             self.assertIn("--time-limit", options)
             for option in options:
-                self.assertRegex(text, re.escape(option) + r"(?![a-z-])", command)
+                self.assertRegex(text, re.escape(option) + r"(?![a-z0-9-])", command)
 
     def test_links_lead_somewhere(self):
         links = re.findall(r"\]\(([^)#]+)\)", self.read("README.md"))

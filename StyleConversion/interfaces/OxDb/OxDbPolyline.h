@@ -70,7 +70,10 @@ public:
     Oxsys::ErrorStatus getEndPoint(OxGePoint3d& point) const override;
     bool isClosed() const override;
 
-private:
     struct Data;
+    /// For the database itself, which alone knows what it is.
+    const Data& data() const { return *data_; }
+
+private:
     Data* data_;
 };

@@ -1,0 +1,152 @@
+// Copies of blocks as they are seen in the drawing.
+#include "drawing/entities/BlockCopy.h"
+
+#include "drawing/database/BlockReference.h"
+#include "drawing/entities/PlacedEntities.h"
+#include "drawing/entities/Texts.h"
+
+#include <algorithm>
+#include <numbers>
+
+namespace drawing {
+namespace {
+
+const std::wstring kInheritingLayer = L"0";
+
+class BlockCopier {
+public:
+    BlockCopier(Database& database, const BlockCopyOptions& options, BlockRecord& target,
+                BlockCopyLosses& losses)
+        : database_(database), options_(options), target_(target), losses_(losses) {}
+
+    void CopyTop(const BlockRecord& block) {
+        const OxGePoint3d base = block.Data().basePoint;
+        const PlaneMap map = options_.startsAtBasePoint ? PlaneMap::Move(-base.x, -base.y) : PlaneMap();
+        Copy(block, map, nullptr);
+    }
+
+private:
+    // `insert`: the properties of the insert that the block is put by; null for the block that is copied.
+    void Copy(const BlockRecord& block, const PlaneMap& map, const EntityProperties* insert) {
+        path_.push_back(&block);
+        const std::vector<OxDbObjectId>* const order = block.DrawOrder();
+        const bool isOrdered = order != nullptr && !order->empty();
+        const std::size_t count = isOrdered ? order->size() : block.EntityCount();
+        for (std::size_t i = 0; i < count && !losses_.isCut; ++i) {
+            CopyEntity(isOrdered ? (*order)[i] : block.EntityId(i), map, insert);
+        }
+        path_.pop_back();
+    }
+
+    void CopyEntity(OxDbObjectId entity, const PlaneMap& map, const EntityProperties* insert) {
+        if (entity.stub()->erased || !Counts()) {
+            return;
+        }
+        const EntityProperties properties = Inherited(PropertiesOf(entity), insert);
+        const bool isInsert = entity.stub()->object->isA() == OxDbBlockReference::desc();
+        if (options_.leavesOutHidden && IsHidden(properties, isInsert && options_.expandsInserts)) {
+            ++losses_.hidden;
+            return;
+        }
+        if (isInsert && options_.expandsInserts) {
+            Expand(static_cast<const BlockReference&>(*entity.stub()->object), map, properties);
+        } else if (insert == nullptr || entity.stub()->object->isA() != OxDbAttributeDefinition::desc()) {
+            AddPlaced(target_, entity, properties, map);
+        }
+    }
+
+    // False where the copy has come to its limit.
+    bool Counts() {
+        losses_.isCut = losses_.isCut || ++count_ > kMostCopiedEntities;
+        return !losses_.isCut;
+    }
+
+    static EntityProperties Inherited(EntityProperties properties, const EntityProperties* insert) {
+        if (insert == nullptr) {
+            return properties;
+        }
+        if (properties.layer == kInheritingLayer) {
+            properties.layer = insert->layer;
+        }
+        if (properties.color.isByBlock()) {
+            properties.color = insert->color;
+        }
+        if (properties.lineWeight == OxDb::kLnWtByBlock) {
+            properties.lineWeight = insert->lineWeight;
+        }
+        if (IsByBlock(properties.linetype)) {
+            properties.linetype = insert->linetype;
+        }
+        return properties;
+    }
+
+    static bool IsByBlock(const std::wstring& linetype) {
+        constexpr std::wstring_view kByBlock = L"byblock";
+        return std::equal(
+            linetype.begin(), linetype.end(), kByBlock.begin(), kByBlock.end(),
+            [](wchar_t c, wchar_t small) { return (c >= L'A' && c <= L'Z' ? c + 32 : c) == small; });
+    }
+
+    // What is inserted on a layer that is off is shown where it is on another one itself.
+    bool IsHidden(const EntityProperties& properties, bool isExpanded) {
+        if (properties.hidden) {
+            return true;
+        }
+        const LayerRecord* const layer = database_.FindLayer(properties.layer);
+        const LayerState state = layer != nullptr ? layer->State() : LayerState::kShown;
+        return state == LayerState::kFrozen || (state == LayerState::kOff && !isExpanded);
+    }
+
+    void Expand(const BlockReference& insert, const PlaneMap& map, const EntityProperties& properties) {
+        const BlockRecord* const block = database_.FindBlock(insert.BlockText());
+        if (block == nullptr) {
+            losses_.missing.push_back(insert.BlockText());
+        } else if (path_.size() > kDeepestInsert ||
+                   std::find(path_.begin(), path_.end(), block) != path_.end()) {
+            ++losses_.recursive;
+        } else {
+            const InsertPlace& place = insert.Place();
+            for (std::int32_t row = 0; row < std::max(place.rows, 1) && !losses_.isCut; ++row) {
+                for (std::int32_t column = 0; column < std::max(place.columns, 1) && !losses_.isCut;
+                     ++column) {
+                    Copy(*block, map.After(MapOf(place, row, column, block->Data().basePoint)), &properties);
+                    Counts();
+                }
+            }
+        }
+        for (const OxDbStub* const attribute : insert.Attributes()) {
+            const OxDbObjectId id = attribute->object->objectId();
+            CopyEntity(id, map, &properties);
+        }
+    }
+
+    static PlaneMap MapOf(const InsertPlace& place, std::int32_t row, std::int32_t column,
+                          const OxGePoint3d& base) {
+        const PlaneMap own = PlaneMap::Move(place.position.x, place.position.y)
+                                 .After(PlaneMap::Turn(place.rotation))
+                                 .After(PlaneMap::Move(column * place.columnSpacing, row * place.rowSpacing))
+                                 .After(PlaneMap::Scale(place.scaleX, place.scaleY))
+                                 .After(PlaneMap::Move(-base.x, -base.y));
+        return place.isMirrored ? PlaneMap::Scale(-1.0, 1.0).After(own) : own;
+    }
+
+    Database& database_;
+    const BlockCopyOptions& options_;
+    BlockRecord& target_;
+    BlockCopyLosses& losses_;
+    std::vector<const BlockRecord*> path_; // the block, and those inserted around this place
+    std::size_t count_ = 0;
+};
+
+} // namespace
+
+std::unique_ptr<BlockRecord> CopyBlock(Database& database, const BlockRecord& block,
+                                       const BlockCopyOptions& options, BlockCopyLosses& losses) {
+    std::unique_ptr<BlockRecord> copy = database.MakeBlock();
+    copy->Set(block.Name(), block.Data());
+    losses = {};
+    BlockCopier(database, options, *copy, losses).CopyTop(block);
+    return copy;
+}
+
+} // namespace drawing

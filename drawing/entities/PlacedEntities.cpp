@@ -1,0 +1,326 @@
+// Copies of entities, put through a map of the plane.
+#include "drawing/entities/PlacedEntities.h"
+
+#include "drawing/entities/EntityVisit.h"
+#include "drawing/geometry/NurbCurveData.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <numbers>
+#include <utility>
+#include <variant>
+
+namespace drawing {
+namespace {
+
+constexpr double kTurn = 2.0 * std::numbers::pi;
+
+/// An ellipse through centre + u cos t + v sin t, by its axes: the point at t is at the parameter t - shift,
+/// counted the other way round where it is reversed.
+struct Axes {
+    OxGeVector2d major;
+    double ratio = 1.0;
+    double shift = 0.0;
+    bool isReversed = false;
+};
+
+Axes AxesOf(const OxGeVector2d& u, const OxGeVector2d& v) {
+    // The turn by which the two conjugate radii become the axes.
+    double shift =
+        0.5 * std::atan2(2.0 * (u.x * v.x + u.y * v.y), u.x * u.x + u.y * u.y - v.x * v.x - v.y * v.y);
+    const auto at = [&](double t) {
+        return OxGeVector2d{u.x * std::cos(t) + v.x * std::sin(t), u.y * std::cos(t) + v.y * std::sin(t)};
+    };
+    Axes axes;
+    axes.major = at(shift);
+    const OxGeVector2d minor = at(shift + std::numbers::pi / 2.0);
+    const double length = std::hypot(axes.major.x, axes.major.y);
+    axes.ratio = length > 0.0 ? std::hypot(minor.x, minor.y) / length : 1.0;
+    axes.shift = shift;
+    axes.isReversed = axes.major.x * minor.y - axes.major.y * minor.x < 0.0;
+    return axes;
+}
+
+// Chords instead of the arcs of a polyline, which would not be circular any more.
+std::vector<BulgeVertex> WithChords(const std::vector<BulgeVertex>& vertices, bool closed) {
+    constexpr double kChord = kTurn / 128.0; // a chord leaves its arc by 0.03 % of the radius
+    std::vector<BulgeVertex> chords;
+    for (std::size_t i = 0; i < vertices.size(); ++i) {
+        const BulgeVertex& from = vertices[i];
+        chords.push_back({from.point, 0.0});
+        if (from.bulge == 0.0 || (i + 1 == vertices.size() && !closed)) {
+            continue;
+        }
+        const OxGePoint2d to = vertices[(i + 1) % vertices.size()].point;
+        const double sweep = 4.0 * std::atan(from.bulge);
+        const double x = to.x - from.point.x;
+        const double y = to.y - from.point.y;
+        const double toCenter = (1.0 - from.bulge * from.bulge) / (4.0 * from.bulge);
+        const OxGePoint2d center = {(from.point.x + to.x) * 0.5 - y * toCenter,
+                                    (from.point.y + to.y) * 0.5 + x * toCenter};
+        const OxGeVector2d radius = {from.point.x - center.x, from.point.y - center.y};
+        const int count = static_cast<int>(std::ceil(std::fabs(sweep) / kChord));
+        for (int chord = 1; chord < count; ++chord) {
+            const OxGeVector2d turned = PlaneMap::Turn(sweep * chord / count).OfVector(radius);
+            chords.push_back({{center.x + turned.x, center.y + turned.y}, 0.0});
+        }
+    }
+    return chords;
+}
+
+std::vector<BulgeVertex> Placed(const std::vector<BulgeVertex>& vertices, bool closed, const PlaneMap& map) {
+    const bool hasArcs = std::any_of(vertices.begin(), vertices.end(),
+                                     [](const BulgeVertex& vertex) { return vertex.bulge != 0.0; });
+    std::vector<BulgeVertex> placed =
+        hasArcs && !map.KeepsCircles() ? WithChords(vertices, closed) : vertices;
+    for (BulgeVertex& vertex : placed) {
+        vertex.point = map.Of(vertex.point);
+        vertex.bulge = map.IsMirrored() ? -vertex.bulge : vertex.bulge;
+    }
+    return placed;
+}
+
+PolylineLoop Placed(const PolylineLoop& loop, const PlaneMap& map) {
+    return {Placed(loop.vertices, true, map), loop.hasBulges};
+}
+
+class PlaceEdge {
+public:
+    explicit PlaceEdge(const PlaneMap& map) : map_(map) {}
+
+    HatchEdge operator()(const OxGeLineSeg2d& line) const {
+        return OxGeLineSeg2d(map_.Of(line.startPoint()), map_.Of(line.endPoint()));
+    }
+    HatchEdge operator()(const OxGeCircArc2d& arc) const {
+        if (!map_.KeepsCircles()) {
+            return (*this)(OxGeEllipArc2d(arc.center(), {arc.radius(), 0.0}, 1.0, arc.startAng(),
+                                          arc.endAng(), arc.isClockWise()));
+        }
+        // Angles of clockwise arcs count clockwise, and go on doing so unless the map mirrors.
+        const bool isClockwise = arc.isClockWise() != map_.IsMirrored();
+        const double base = map_.Direction(0.0);
+        const double shift = isClockwise ? -base : base;
+        return OxGeCircArc2d(map_.Of(arc.center()), arc.radius() * map_.Stretch(0.0), arc.startAng() + shift,
+                             arc.endAng() + shift, isClockwise);
+    }
+    HatchEdge operator()(const OxGeEllipArc2d& arc) const {
+        const Axes axes = AxesOf(map_.OfVector(arc.majorAxis()), map_.OfVector(arc.minorAxis()));
+        return OxGeEllipArc2d(map_.Of(arc.center()), axes.major, axes.ratio, arc.startAng() - axes.shift,
+                              arc.endAng() - axes.shift, axes.isReversed);
+    }
+    HatchEdge operator()(const std::shared_ptr<const OxGeNurbCurve2d>& spline) const {
+        if (!spline->isDefined()) {
+            return spline;
+        }
+        const geometry::NurbsCurve& curve = spline->data()->curve;
+        OxGePoint2dArray points;
+        OxGeDoubleArray weights;
+        for (const geometry::Point& point : curve.controlPoints) {
+            points.append(map_.Of(point));
+        }
+        for (const double weight : curve.weights) {
+            weights.append(weight);
+        }
+        const OxGeKnotVector knots(static_cast<int>(curve.knots.size()), curve.knots.data());
+        return curve.weights.empty()
+                   ? std::make_shared<const OxGeNurbCurve2d>(curve.degree, knots, points)
+                   : std::make_shared<const OxGeNurbCurve2d>(curve.degree, knots, points, weights);
+    }
+
+private:
+    const PlaneMap& map_;
+};
+
+HatchLoop Placed(const HatchLoop& loop, const PlaneMap& map) {
+    HatchLoop placed;
+    if (loop.polyline) {
+        placed.polyline = Placed(*loop.polyline, map);
+    }
+    for (const HatchEdge& edge : loop.edges) {
+        placed.edges.push_back(std::visit(PlaceEdge(map), edge));
+    }
+    return placed;
+}
+
+HatchFamily Placed(const HatchFamily& family, const PlaneMap& map) {
+    HatchFamily placed;
+    placed.angle = map.Direction(family.angle);
+    placed.base = map.Of(family.base);
+    const OxGeVector2d offset = map.OfVector(OxGeVector2d{family.offset.x, family.offset.y});
+    placed.offset = {offset.x, offset.y};
+    const double stretch = map.Stretch(family.angle);
+    for (const double dash : family.dashes) {
+        placed.dashes.push_back(dash * stretch);
+    }
+    return placed;
+}
+
+class PlaceSpline {
+public:
+    explicit PlaceSpline(const PlaneMap& map) : map_(map) {}
+
+    SplineData operator()(FitData fit) const {
+        Place(fit.points);
+        fit.startTangent = map_.OfVector(fit.startTangent);
+        fit.endTangent = map_.OfVector(fit.endTangent);
+        return fit;
+    }
+    SplineData operator()(NurbsData nurbs) const {
+        Place(nurbs.controlPoints);
+        return nurbs;
+    }
+
+private:
+    void Place(std::vector<OxGePoint3d>& points) const {
+        for (OxGePoint3d& point : points) {
+            point = map_.Of(point);
+        }
+    }
+
+    const PlaneMap& map_;
+};
+
+class PlaceEntity {
+public:
+    PlaceEntity(BlockRecord& block, const EntityProperties& properties, const PlaneMap& map)
+        : block_(block), properties_(properties), map_(map) {}
+
+    void operator()(const Point& point) { Add<Point>(map_.Of(point.position())); }
+    void operator()(const Line& line) { Add<Line>(map_.Of(line.startPoint()), map_.Of(line.endPoint())); }
+
+    void operator()(const Arc& arc) {
+        ArcData data = arc.Data();
+        const bool isMirrored = data.normal.z < 0.0; // cosines are negated
+        if (!map_.KeepsCircles()) {
+            AddEllipse(data.center, {isMirrored ? -data.radius : data.radius, 0.0}, {0.0, data.radius},
+                       data.startAngle, data.endAngle);
+            return;
+        }
+        const bool becomesMirrored = isMirrored != map_.IsMirrored();
+        // Where the parameter 0 has gone: to the direction `zero`, which a mirrored arc calls pi - zero.
+        const double zero = map_.Direction(isMirrored ? std::numbers::pi : 0.0);
+        const double shift = becomesMirrored ? std::numbers::pi - zero : zero;
+        data.center = map_.Of(data.center);
+        data.radius *= map_.Stretch(0.0);
+        data.startAngle += shift;
+        data.endAngle += shift;
+        data.normal = {0.0, 0.0, becomesMirrored ? -1.0 : 1.0};
+        Add<Arc>(data);
+    }
+
+    void operator()(const Circle& circle) {
+        if (map_.KeepsCircles()) {
+            Add<Circle>(map_.Of(circle.center()), circle.radius() * map_.Stretch(0.0));
+        } else {
+            AddEllipse(circle.center(), {circle.radius(), 0.0}, {0.0, circle.radius()}, 0.0, kTurn);
+        }
+    }
+
+    void operator()(const Ellipse& ellipse) {
+        const OxGeVector3d major = ellipse.majorAxis();
+        const OxGeVector3d minor = ellipse.minorAxis();
+        AddEllipse(ellipse.center(), {major.x, major.y}, {minor.x, minor.y}, ellipse.startAngle(),
+                   ellipse.endAngle());
+    }
+
+    void operator()(const Polyline& polyline) {
+        Add<Polyline>(Placed(polyline.Vertices(), polyline.isClosed(), map_), polyline.isClosed(),
+                      polyline.hasPlinegen());
+    }
+    void operator()(const Spline& spline) { Add<Spline>(std::visit(PlaceSpline(map_), spline.Data())); }
+
+    void operator()(const Hatch& hatch) {
+        const HatchData& data = hatch.Data();
+        HatchData placed;
+        placed.solid = data.solid;
+        for (const HatchLoop& loop : data.loops) {
+            placed.loops.push_back(Placed(loop, map_));
+        }
+        if (data.pattern) {
+            placed.pattern.emplace();
+            for (const HatchFamily& family : *data.pattern) {
+                placed.pattern->push_back(Placed(family, map_));
+            }
+        }
+        if (data.lines) {
+            placed.lines.emplace();
+            for (const HatchLine& line : *data.lines) {
+                placed.lines->push_back({map_.Of(line.start), map_.Of(line.end)});
+            }
+        }
+        Add<Hatch>(std::move(placed));
+    }
+
+    void operator()(const MPolygon& polygon) {
+        std::vector<PolylineLoop> loops;
+        for (const PolylineLoop& loop : polygon.Loops()) {
+            loops.push_back(Placed(loop, map_));
+        }
+        Add<MPolygon>(std::move(loops), polygon.fillColor());
+    }
+
+    void operator()(const Text& text) { Add<Text>(PlacedText(text.Data())); }
+    void operator()(const AttributeDefinition& definition) {
+        Add<AttributeDefinition>(PlacedText(definition.Data()), definition.tagConst(),
+                                 definition.promptConst());
+    }
+    void operator()(const ParagraphText& text) {
+        ParagraphTextData data = text.Data();
+        const double width = map_.Stretch(data.rotation);
+        const double height = map_.Stretch(data.rotation + std::numbers::pi / 2.0);
+        data.location = map_.Of(data.location);
+        data.rotation = map_.Direction(data.rotation);
+        data.textHeight *= height;
+        data.actualWidth *= width;
+        data.actualHeight *= height;
+        Add<ParagraphText>(std::move(data));
+    }
+
+    void operator()(const BlockReference& /*insert*/) { Add<OtherEntity>(std::wstring(L"insert")); }
+    void operator()(const OtherEntity& other) { Add<OtherEntity>(std::wstring(other.isA()->name())); }
+
+private:
+    template <class T, class... Args>
+    void Add(Args&&... args) {
+        block_.Add<T>(properties_, std::forward<Args>(args)...);
+    }
+
+    void AddEllipse(const OxGePoint3d& center, const OxGeVector2d& u, const OxGeVector2d& v, double start,
+                    double end) {
+        const Axes axes = AxesOf(map_.OfVector(u), map_.OfVector(v));
+        EllipseData data;
+        data.center = map_.Of(center);
+        data.majorAxis = {axes.major.x, axes.major.y, 0.0};
+        data.radiusRatio = axes.ratio;
+        data.startAngle = axes.isReversed ? axes.shift - end : start - axes.shift;
+        data.endAngle = axes.isReversed ? axes.shift - start : end - axes.shift;
+        Add<Ellipse>(data);
+    }
+
+    TextData PlacedText(TextData data) const {
+        data.position = map_.Of(data.position);
+        if (data.alignmentPoint) {
+            data.alignmentPoint = map_.Of(*data.alignmentPoint);
+        }
+        data.height *= map_.Stretch(data.rotation + std::numbers::pi / 2.0);
+        data.rotation = map_.Direction(data.rotation);
+        return data;
+    }
+    BlockRecord& block_;
+    const EntityProperties& properties_;
+    const PlaneMap& map_;
+};
+
+} // namespace
+
+void AddPlaced(BlockRecord& block, OxDbObjectId entity, const EntityProperties& properties,
+               const PlaneMap& map) {
+    VisitEntity(entity, PlaceEntity(block, properties, map));
+}
+
+EntityProperties PropertiesOf(OxDbObjectId entity) {
+    return VisitEntity(entity, [](const auto& itself) { return itself.Properties(); });
+}
+
+} // namespace drawing

@@ -1,0 +1,18 @@
+// Copies of entities, put through a map of the plane.
+#pragma once
+
+#include "drawing/database/Blocks.h"
+#include "drawing/entities/PlaneMap.h"
+
+namespace drawing {
+
+/// Adds a copy of an entity of the same drawing to a block. Where circles do not stay circles, arcs become
+/// arcs of ellipses, and arcs of polylines chords. Texts keep their letters upright and unmirrored. Inserts
+/// become entities of which only the type is known, "insert".
+OXDB_API void AddPlaced(BlockRecord& block, OxDbObjectId entity, const EntityProperties& properties,
+                        const PlaneMap& map);
+
+/// What the entity was made with.
+OXDB_API EntityProperties PropertiesOf(OxDbObjectId entity);
+
+} // namespace drawing

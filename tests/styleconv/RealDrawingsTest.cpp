@@ -1,0 +1,223 @@
+// What drawings of other programs need: the model space, units, inserts, base points, what is hidden,
+// colour 7.
+#include "tests/support/DxfWriter.h"
+#include "tests/support/ToolRun.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+
+using Texts = std::vector<std::string>;
+
+Texts ValuesOf(const std::string& document, const std::string& key) {
+    Texts values;
+    const std::string start = "\"" + key + "\": \"";
+    for (std::size_t at = document.find(start); at != std::string::npos; at = document.find(start, at)) {
+        at += start.size();
+        values.push_back(document.substr(at, document.find('"', at) - at));
+    }
+    return values;
+}
+
+DxfWriter Line(double x0, double y0, double x1, double y1) {
+    return DxfWriter().Text(0, "LINE").Text(8, "0").Integer(62, 1).Point(10, x0, y0).Point(11, x1, y1);
+}
+
+DxfWriter Section(const std::string& name, const DxfWriter& pairs) {
+    return DxfWriter().Text(0, "SECTION").Text(2, name).Append(pairs).Text(0, "ENDSEC");
+}
+
+DxfWriter Block(const std::string& name, const DxfWriter& entities, double x = 0, double y = 0) {
+    return DxfWriter().Text(0, "BLOCK").Text(2, name).Point(10, x, y).Append(entities).Text(0, "ENDBLK");
+}
+
+DxfWriter Layer(const std::string& name, int color, int flags = 0) {
+    return DxfWriter().Text(0, "LAYER").Text(2, name).Integer(70, flags).Integer(62, color);
+}
+
+// A file of these blocks and entities in that unit, without a header where it is 0.
+std::string File(const DxfWriter& blocks, const DxfWriter& entities = {}, int unit = 4) {
+    DxfWriter file;
+    if (unit != 0) {
+        file.Append(Section("HEADER", DxfWriter().Text(9, "$INSUNITS").Integer(70, unit)));
+    }
+    DxfWriter layers;
+    layers.Text(0, "TABLE").Text(2, "LAYER").Append(Layer("0", 7)).Append(Layer("OFF", -3));
+    layers.Append(Layer("FROZEN", 3, 1)).Text(0, "ENDTAB");
+    file.Append(Section("TABLES", layers)).Append(Section("BLOCKS", blocks));
+    return file.Append(Section("ENTITIES", entities)).Text(0, "EOF").Ascii();
+}
+
+class RealDrawings : public testing::Test {
+protected:
+    Texts Geometries(const std::string& file, const Texts& options = {}) {
+        Texts arguments = {"blocks", file};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        result = RunTool(arguments);
+        return ValuesOf(result.output, "geometry");
+    }
+
+    ScratchFolder folder;
+    ToolResult result;
+};
+
+TEST_F(RealDrawings, ADrawingWithoutBlocksNamesTheModelSpace) {
+    const std::string file = folder.Write("valve 2.dxf", File({}, Line(0, 0, 1, 0).Append(Line(0, 1, 1, 1))));
+    EXPECT_EQ(Geometries(file), Texts());
+    EXPECT_EQ(result.status, 1);
+    const std::string message = file +
+                                ": error: the drawing has no block to convert, but a model space with 2 "
+                                "entities; --model-space converts it";
+    EXPECT_EQ(result.errors, message + "\n");
+    EXPECT_EQ(RunTool({"list", file}).errors, message + "\n");
+    EXPECT_EQ(RunTool({"check", file}).output,
+              message + " [only-model-space]\n1 error, 0 warnings in 1 file\n");
+    EXPECT_EQ(Geometries(file, {"--model-space"}), (Texts{"M 0.0,0.0 L 1.0,0.0", "M 0.0,1.0 L 1.0,1.0"}));
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"valve 2"}));
+    const std::string empty = folder.Write("empty.dxf", File({}));
+    Geometries(empty);
+    EXPECT_EQ(result.errors, empty +
+                                 ": error: the drawing has no block to convert; layouts and anonymous blocks "
+                                 "are converted only by --name\n");
+    Geometries(empty, {"--model-space"});
+    EXPECT_EQ(result.errors, empty + ": error: the drawing has no model space\n");
+    Geometries(file, {"--model-space", "--name", "A"});
+    EXPECT_EQ(result.status, 2);
+}
+
+TEST_F(RealDrawings, ADrawingWithoutAUnitIsInMetresOrInTheOneNamed) {
+    const std::string file = folder.Write("a.dxf", File(Block("A", Line(0, 0, 1, 0)), {}, 0));
+    const std::string message =
+        file + ": warning: the drawing has no unit; its lengths are read as metres: --units names another";
+    EXPECT_EQ(Geometries(file), (Texts{"M 0.0,0.0 L 1000.0,0.0"}));
+    EXPECT_EQ(result.errors, message + "\n");
+    EXPECT_EQ(RunTool({"check", file}).output, message + " [no-unit]\n0 errors, 1 warning in 1 file\n");
+    for (const auto& [unit, end] : std::vector<std::pair<std::string, std::string>>{{"mm", "1.0"},
+                                                                                    {"cm", "10.0"},
+                                                                                    {"dm", "100.0"},
+                                                                                    {"m", "1000.0"},
+                                                                                    {"km", "1000000.0"},
+                                                                                    {"inch", "25.4"},
+                                                                                    {"foot", "304.8"},
+                                                                                    {"yard", "914.4"},
+                                                                                    {"mile", "1609344.0"}}) {
+        EXPECT_EQ(Geometries(file, {"--units", unit}), (Texts{"M 0.0,0.0 L " + end + ",0.0"}));
+        EXPECT_EQ(result.errors, "");
+    }
+    const std::string inches = folder.Write("b.dxf", File(Block("A", Line(0, 0, 1, 0)), {}, 1));
+    EXPECT_EQ(Geometries(inches, {"--units", "mm"}), (Texts{"M 0.0,0.0 L 25.4,0.0"}));
+    Geometries(file, {"--units", "ell"});
+    EXPECT_EQ(result.status, 2);
+}
+
+TEST_F(RealDrawings, AUnitThatIsNoneScalesNothing) {
+    const std::string file = folder.Write("a.dxf", File(Block("A", Line(0, 0, 1, 0)), {}, 21));
+    EXPECT_EQ(Geometries(file), (Texts{"M 0.0,0.0 L 1.0,0.0"}));
+    EXPECT_EQ(result.errors, "");
+    const std::string document = folder.Write("a.json", RunTool({"drawing", file}).output);
+    EXPECT_EQ(Geometries(document), (Texts{"M 0.0,0.0 L 1.0,0.0"}));
+}
+
+TEST_F(RealDrawings, InsertsAreExpandedInPlace) {
+    DxfWriter insert;
+    insert.Text(0, "INSERT").Text(8, "0").Text(2, "INNER").Integer(66, 1).Point(10, 10, 5).Number(41, 2);
+    insert.Number(50, 90).Text(0, "ATTRIB").Text(8, "0").Point(10, 1, 1).Number(40, 3).Text(1, "value");
+    insert.Text(2, "TAG").Text(0, "SEQEND");
+    const std::string file =
+        folder.Write("a.dxf", File(Block("INNER", Line(1, 0, 2, 0), 1, 0).Append(Block("OUTER", insert))));
+    EXPECT_EQ(Geometries(file, {"--name", "OUTER"}), Texts());
+    const std::string lost = ": warning: 1 entity (insert) is not drawn; --expand draws what is inserted "
+                             "(block OUTER)";
+    EXPECT_NE(RunTool({"check", file}).output.find(file + lost + " [insert]\n"), std::string::npos);
+    EXPECT_EQ(Geometries(file, {"--name", "OUTER", "--expand"}), (Texts{"M 10.0,5.0 L 10.0,7.0"}));
+    EXPECT_EQ(ValuesOf(result.output, "content"), (Texts{"'value'"}));
+    EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"OUTER"}));
+    // The document of the file says as much.
+    const std::string expanded = result.output;
+    const std::string document = folder.Write("a.json", RunTool({"drawing", file}).output);
+    Geometries(document, {"--name", "OUTER", "--expand"});
+    EXPECT_EQ(result.output, expanded);
+}
+
+TEST_F(RealDrawings, WhatCannotBeExpandedIsTold) {
+    const auto insert = [](const std::string& name) { return DxfWriter().Text(0, "INSERT").Text(2, name); };
+    const std::string file =
+        folder.Write("a.dxf", File(Block("A", insert("A").Append(insert("NONE")).Append(Line(0, 0, 1, 0)))));
+    EXPECT_EQ(Geometries(file, {"--expand"}), (Texts{"M 0.0,0.0 L 1.0,0.0"}));
+    EXPECT_EQ(result.errors,
+              file +
+                  ": warning: 1 entity (insert) is not drawn: in the inserted block itself, or more than 32 "
+                  "blocks deep (block A)\n" +
+                  file +
+                  ": warning: 1 entity (insert) is not drawn: the drawing has no block NONE (block A)\n");
+    DxfWriter blocks;
+    for (int i = 0; i < 7; ++i) {
+        DxfWriter rows = insert("R" + std::to_string(i + 1));
+        blocks.Append(Block("R" + std::to_string(i), rows.Integer(70, 100).Integer(71, 100)));
+    }
+    const std::string large = folder.Write("b.dxf", File(blocks.Append(Block("R7", Line(0, 0, 1, 0)))));
+    EXPECT_EQ(Geometries(large, {"--expand", "--name", "R0"}), Texts());
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              large + ": error: the block comes to more than 1000000 entities with what is inserted "
+                      "(block R0)\n");
+}
+
+TEST_F(RealDrawings, BlocksAreDrawnAroundTheirBasePoints) {
+    const std::string file = folder.Write("a.dxf", File(Block("A", Line(5, 5, 6, 5), 5, 4)));
+    EXPECT_EQ(Geometries(file), (Texts{"M 5.0,5.0 L 6.0,5.0"}));
+    EXPECT_EQ(Geometries(file, {"--from-base-point"}), (Texts{"M 0.0,1.0 L 1.0,1.0"}));
+    EXPECT_EQ(RunTool({"check", file}).output,
+              file + ": warning: the base point of the block is 5,4, and 0,0 its place on the map; "
+                     "--from-base-point makes it that point (block A) [base-point]\n"
+                     "0 errors, 1 warning in 1 file\n");
+}
+
+TEST_F(RealDrawings, WhatIsHiddenIsLeftOutWhereThatIsAskedFor) {
+    const auto line = [](double y, const std::string& layer, int hidden) {
+        DxfWriter pairs;
+        return pairs.Text(0, "LINE").Text(8, layer).Integer(60, hidden).Point(10, 0, y).Point(11, 1, y);
+    };
+    DxfWriter lines = line(0, "0", 0);
+    lines.Append(line(1, "0", 1)).Append(line(2, "OFF", 0)).Append(line(3, "FROZEN", 0));
+    const std::string file = folder.Write("a.dxf", File(Block("A", lines)));
+    EXPECT_EQ(Geometries(file).size(), 4U);
+    EXPECT_EQ(Geometries(file, {"--visible-only"}), (Texts{"M 0.0,0.0 L 1.0,0.0"}));
+    EXPECT_EQ(
+        RunTool({"check", file}).output,
+        file +
+            ": warning: 3 entities are drawn that the drawing does not show; --visible-only leaves out what "
+            "is hidden, off or frozen (block A) [hidden-entity]\n0 errors, 1 warning in 1 file\n");
+}
+
+TEST_F(RealDrawings, Color7IsTheOneThatIsAskedFor) {
+    DxfWriter lines;
+    lines.Text(0, "LINE").Text(8, "0").Point(11, 1, 0);
+    lines.Text(0, "LINE").Text(8, "0").Integer(62, 7).Point(11, 1, 0);
+    lines.Text(0, "LINE").Text(8, "0").Integer(420, 0xffffff).Point(11, 1, 0);
+    const std::string file = folder.Write("a.dxf", File(Block("A", lines)));
+    const auto colors = [&](const Texts& options) {
+        Geometries(file, options);
+        return ValuesOf(result.output, "lineColor");
+    };
+    const auto layerColor = [&] { return ValuesOf(result.output, "defaultValue").front(); };
+    const Texts white = {"%COLORBYLAYER0%", "ffffffff", "ffffffff"};
+    EXPECT_EQ(colors({}), white);
+    EXPECT_EQ(layerColor(), "ffffffff");
+    EXPECT_EQ(colors({"--color-7", "white"}), white);
+    EXPECT_EQ(colors({"--color-7", "black"}), (Texts{"%COLORBYLAYER0%", "ff000000", "ffffffff"}));
+    EXPECT_EQ(layerColor(), "ff000000");
+    EXPECT_EQ(colors({"--color-7", "#12aBcd"}), (Texts{"%COLORBYLAYER0%", "ff12abcd", "ffffffff"}));
+    EXPECT_EQ(RunTool({"blocks", file, "--color-7", "red"}).status, 2);
+    EXPECT_EQ(RunTool({"check", "--notes", file}).output,
+              file +
+                  ": note: 2 entities are drawn white (colour 7); --color-7 names another colour (block A) "
+                  "[drawn-white]\n0 errors, 0 warnings in 1 file\n");
+}
+
+} // namespace
