@@ -2,6 +2,7 @@
 #include "StyleConversion/pattern/PatternConverter.h"
 #include "StyleConversion/platform/Files.h"
 #include "documents/DrawingReader.h"
+#include "exchange/DxfReader.h"
 #include "tests/faults/Documents.h"
 #include "tests/support/Allocations.h"
 
@@ -125,6 +126,30 @@ TEST(FailedAllocations, OfReadingADrawingReachTheCaller) {
                   EXPECT_NE(database, nullptr) << fault.Text();
               }),
               100U);
+}
+
+TEST(FailedAllocations, OfReadingADxfFileReachTheCaller) {
+    const std::string bytes =
+        "0\nSECTION\n2\nTABLES\n0\nLTYPE\n2\nDASHED\n49\n1\n49\n-"
+        "1\n74\n2\n9\ntext\n0\nSTYLE\n2\nS\n5\nA\n3\nf.shx\n"
+        "0\nENDSEC\n0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n2\nA BLOCK OF A LONG NAME\n"
+        "0\nPOLYLINE\n8\nA LAYER THAT IS IN NO TABLE\n0\nVERTEX\n10\n1\n20\n2\n0\nSEQEND\n"
+        "0\nHATCH\n70\n0\n91\n1\n92\n1\n93\n2\n72\n1\n10\n0\n20\n0\n11\n4\n21\n0\n72\n1\n10\n0\n20\n1\n11\n4"
+        "\n21\n0\n"
+        "97\n0\n78\n1\n53\n0\n43\n0\n44\n0\n45\n0\n46\n1\n79\n0\n"
+        "0\nSPLINE\n71\n3\n74\n2\n11\n0\n21\n0\n11\n1\n21\n1\n"
+        "0\nINSERT\n2\nNONE\n210\n1\n0\nATTRIB\n1\nthe value of an attribute\n0\nSEQEND\n"
+        "0\nMTEXT\n1\na text of \\U+00e4 and more than a few letters\n0\nENDBLK\n0\nENDSEC\n";
+    if (!kCountsAllocationsOfLibraries) {
+        GTEST_SKIP() << kWhyNot;
+    }
+    EXPECT_GE(FailEach([&] {
+                  diagnostics::Diagnostic fault;
+                  exchange::DxfNotes notes;
+                  EXPECT_NE(exchange::ReadDxf(bytes, fault, notes), nullptr);
+                  EXPECT_FALSE(notes.All().empty());
+              }),
+              60U);
 }
 
 } // namespace
