@@ -1,6 +1,7 @@
 // What a job comes to.
 #pragma once
 
+#include "StyleConversion/encoding/Fidelity.h"
 #include "TylModel/TylModel.h"
 #include "conversions/reading/Front.h"
 #include "conversions/reading/Input.h"
@@ -17,6 +18,7 @@ using Symbols = std::vector<std::unique_ptr<TylModel::SymbolDefinition>>;
 /// Symbols of a file. Where it is not converted, errors say why and there are none.
 struct Conversion {
     bool isConverted = false;
+    encoding::Fidelity fidelity = encoding::Fidelity::kStrict; // of the symbols
     Symbols owned;
     std::vector<TylModel::SymbolDefinition*> symbols; // as asked for; one may be there more than once
     diagnostics::Diagnostics diagnostics;

@@ -29,11 +29,12 @@ bool WriteAll(const SymbolList& symbols, Writer&& writer, Front& front) {
 
 } // namespace
 
-bool WriteSymbols(const SymbolList& symbols, Form form, const TextSink& sink, Front& front) {
+bool WriteSymbols(const SymbolList& symbols, Form form, const TextSink& sink, Front& front,
+                  encoding::Fidelity fidelity) {
     front.BeginStage("Writing", symbols.size());
     switch (form) {
     case Form::kJson:
-        return WriteAll(symbols, documents::SymbolsWriter(sink), front);
+        return WriteAll(symbols, documents::SymbolsWriter(sink, fidelity), front);
     case Form::kHtml:
         return WriteAll(symbols, preview::GalleryWriter(symbols.size(), sink), front);
     case Form::kSvg:

@@ -1,6 +1,7 @@
 // The forms in which symbols are written.
 #pragma once
 
+#include "StyleConversion/encoding/Fidelity.h"
 #include "TylModel/TylModel.h"
 #include "conversions/reading/Front.h"
 
@@ -20,8 +21,9 @@ enum class Form : std::uint8_t {
 /// Takes the next piece of a result; false ends the writing.
 using TextSink = std::function<bool(std::string_view text)>;
 
-/// Writes symbols, which may be in the list more than once. False when the sink refuses a text.
+/// Writes symbols of that fidelity, which may be in the list more than once. False when the sink refuses a
+/// text.
 bool WriteSymbols(const std::vector<TylModel::SymbolDefinition*>& symbols, Form form, const TextSink& sink,
-                  Front& front);
+                  Front& front, encoding::Fidelity fidelity = encoding::Fidelity::kStrict);
 
 } // namespace conversions

@@ -1,6 +1,7 @@
 #include "conversions/Patterns.h"
 
 #include "StyleConversion/pattern/AreaSymbol.h"
+#include "StyleConversion/pattern/FaithfulSymbol.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "conversions/reading/FileKind.h"
@@ -23,6 +24,7 @@ public:
         : input_(input), options_(options), front_(front) {}
 
     Conversion Run() {
+        result_.fidelity = options_.fidelity;
         Diagnostics& found = result_.diagnostics;
         if (ReadPatterns(input_, Policy(), loaded_, found)) {
             if (options_.tolerant) {
@@ -54,6 +56,7 @@ private:
         pattern::PatternPolicy policy =
             options_.tolerant ? pattern::kTolerantPatternPolicy : pattern::PatternPolicy();
         policy.wantedUnit = options_.unit;
+        policy.fidelity = options_.fidelity;
         return policy;
     }
 
@@ -89,7 +92,7 @@ private:
     bool ConvertOne(const std::string& name) {
         front_.AtItem(PatternItem(name));
         std::vector<pattern::PatternLine>& lines = loaded_.file.patterns.at(name);
-        if (auto symbol = pattern::BuildAreaSymbol(name, lines)) {
+        if (auto symbol = Build(name, lines)) {
             result_.owned.push_back(std::move(symbol));
             return true;
         }
@@ -104,6 +107,16 @@ private:
                                        {},
                                        isError ? Outcome::kNone : Outcome::kSkipped});
         return false;
+    }
+
+    std::unique_ptr<TylModel::SymbolDefinition> Build(const std::string& name,
+                                                      std::vector<pattern::PatternLine>& lines) {
+        if (options_.fidelity == encoding::Fidelity::kStrict) {
+            return pattern::BuildAreaSymbol(name, lines);
+        }
+        const pattern::FaithfulTiles tiles = pattern::FindFaithfulTiles(lines);
+        Append(result_.diagnostics, FaithfulLosses(input_, loaded_, name, tiles));
+        return pattern::BuildFaithfulSymbol(name, lines, tiles);
     }
 
     const Input& input_;

@@ -14,6 +14,7 @@ struct PatternsOptions {
     bool tolerant = false;
     /// The unit to which a file that says another one is scaled; none where nothing is scaled.
     pattern::Unit unit = pattern::Unit::kNone;
+    encoding::Fidelity fidelity = encoding::Fidelity::kStrict;
 };
 
 /// All patterns that have a repeat tile, in the order of their names, or those asked for, and then all of

@@ -99,6 +99,8 @@ enum class Code : std::uint8_t {
     kPatternWithoutTile,
     kTinyTile,
     kDuplicatePattern,
+    kUnplacedFamily,
+    kMissedTile,
     // Shape files.
     kTruncatedShapeFile,
     kNotAShapeFile,

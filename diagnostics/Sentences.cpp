@@ -202,6 +202,10 @@ constexpr auto kRows = std::to_array<Row>({
      "the repeat tile of the pattern is too small to draw: its sides are shorter than 0.0001", "", ""},
     {Code::kDuplicatePattern, "duplicate-pattern",
      "the name is already used in line {0}", "both make one pattern", ""},
+    {Code::kUnplacedFamily, "unplaced-family",
+     "the numbers of the family are too large or too small to draw its lines", "", "skipped"},
+    {Code::kMissedTile, "missed-tile",
+     "no tile that is small enough repeats the pattern: from one tile to the next the dashes are off by {0} drawing units ({1} % of the shortest dash)", "", ""},
     // Shape files.
     {Code::kTruncatedShapeFile, "truncated-shape-file",
      "the file ends within {0}", "", ""},

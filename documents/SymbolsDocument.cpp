@@ -145,15 +145,20 @@ private:
     JsonText& json_;
 };
 
-constexpr std::string_view kHead = "{\n"
-                                   "  \"format\": \"styleconversion/symbols\",\n"
-                                   "  \"version\": 1,\n"
-                                   "  \"symbols\": [";
+std::string Head(encoding::Fidelity fidelity) {
+    std::string head = "{\n"
+                       "  \"format\": \"styleconversion/symbols\",\n"
+                       "  \"version\": 1,\n";
+    if (fidelity == encoding::Fidelity::kFaithful) {
+        head += "  \"fidelity\": \"faithful\",\n";
+    }
+    return head + "  \"symbols\": [";
+}
 
 } // namespace
 
 bool SymbolsWriter::Add(TylModel::SymbolDefinition& symbol) {
-    text_ = started_ ? "," : kHead;
+    text_ = started_ ? "," : Head(fidelity_);
     started_ = true;
     text_ += "\n    ";
     JsonText json(text_, kSymbolLevel);
@@ -164,7 +169,7 @@ bool SymbolsWriter::Add(TylModel::SymbolDefinition& symbol) {
 
 bool SymbolsWriter::Finish() {
     if (!started_) {
-        return sink_(kHead) && sink_("]\n}\n");
+        return sink_(Head(fidelity_)) && sink_("]\n}\n");
     }
     return sink_("\n  ]\n}\n");
 }

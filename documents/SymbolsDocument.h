@@ -1,6 +1,7 @@
 // Symbol definitions as a JSON document, written symbol by symbol.
 #pragma once
 
+#include "StyleConversion/encoding/Fidelity.h"
 #include "TylModel/TylModel.h"
 
 #include <functional>
@@ -16,7 +17,8 @@ using TextSink = std::function<bool(std::string_view)>;
 /// time is held in memory. Keys of empty properties and of usages that were never adopted are left out.
 class SymbolsWriter {
 public:
-    explicit SymbolsWriter(TextSink sink) : sink_(std::move(sink)) {}
+    explicit SymbolsWriter(TextSink sink, encoding::Fidelity fidelity = encoding::Fidelity::kStrict)
+        : sink_(std::move(sink)), fidelity_(fidelity) {}
 
     /// False when the sink refused a piece; nothing more is to be written then.
     bool Add(TylModel::SymbolDefinition& symbol);
@@ -24,7 +26,8 @@ public:
 
 private:
     TextSink sink_;
-    std::string text_; // of the last symbol, kept for its room
+    encoding::Fidelity fidelity_; // which the document says where it is not strict
+    std::string text_;            // of the last symbol, kept for its room
     bool started_ = false;
 };
 

@@ -2,7 +2,6 @@
 #include "StyleConversion/pattern/AreaSymbol.h"
 
 #include "StyleConversion/encoding/TrimmedNumber.h"
-#include "StyleConversion/interfaces/HostNames.h"
 #include "StyleConversion/pattern/LinePath.h"
 #include "StyleConversion/pattern/PatternLimits.h"
 #include "StyleConversion/platform/CodePage.h"
@@ -14,24 +13,7 @@
 namespace pattern {
 namespace {
 
-using TylModel::SimpleSymbolDefinition;
 using TylModel::SymbolDefinition;
-
-// What the parameters stand for, in the numbers of the symbol model.
-constexpr int kAngleType = 5;
-constexpr int kFillColorType = 6;
-
-const std::wstring kHatchColor = L"HATCHCOLOR";
-const std::wstring kHatchColorReference = L"%HATCHCOLOR%";
-const std::wstring kHatchColorDefault = L"0xff000000";
-const std::wstring kHatchColorDisplayName = L"&Hatch Color";
-const std::wstring kHatchColorDescription = L"Color for the hatch style";
-const std::wstring kHatchAngle = L"HATCHANGLE";
-const std::wstring kHatchAngleReference = L"%HATCHANGLE%";
-const std::wstring kHatchAngleDefault = L"0.0";
-// The angle's display name speaks of a colour: hosts know it by this text.
-const std::wstring kHatchAngleDisplayName = L"Hatch &Color";
-const std::wstring kHatchAngleDescription = L"Rotation angle for the hatch style";
 
 Tile TileOf(const PatternLine& line) {
     return {line.rotatedTile ? 0.0 : line.angle, std::fabs(line.repeatX), std::fabs(line.repeatY)};
@@ -65,59 +47,9 @@ bool IsDrawnBefore(const PatternLine& first, const PatternLine& second) {
     return false;
 }
 
-void AdoptParameter(SimpleSymbolDefinition& definition, const std::wstring& identifier,
-                    const std::wstring& defaultValue, const std::wstring& displayName,
-                    const std::wstring& description, int type) {
-    auto parameter = std::make_unique<TylModel::Parameter>();
-    parameter->SetIdentifier(identifier);
-    parameter->SetDefaultValue(defaultValue);
-    parameter->SetDisplayName(displayName);
-    parameter->SetDescription(description);
-    parameter->SetDataType(static_cast<TylModel::Parameter::DataType>(type));
-    host::Adopt(definition.GetParameterDefinition(), std::move(parameter));
-}
-
-void AdoptUsage(SimpleSymbolDefinition& definition, const Tile& tile) {
-    auto usage = std::make_unique<TylModel::AreaUsage>();
-    std::wstring angle = kHatchAngleReference;
-    if (tile.angle != 0) {
-        angle += L'+' + encoding::Double2TrimmedString(tile.angle);
-    }
-    usage->SetAngle(angle);
-    usage->SetRepeatX(encoding::Double2TrimmedString(tile.width));
-    usage->SetRepeatY(encoding::Double2TrimmedString(tile.height));
-    definition.AdoptAreaUsage(usage.release());
-}
-
-// The symbol of one group, without its path.
-std::unique_ptr<SimpleSymbolDefinition> MakeDefinition(const std::wstring& name, const Tile& tile) {
-    auto definition = std::make_unique<SimpleSymbolDefinition>();
-    definition->SetName(name);
-    AdoptUsage(*definition, tile);
-    AdoptParameter(*definition, kHatchColor, kHatchColorDefault, kHatchColorDisplayName,
-                   kHatchColorDescription, kFillColorType);
-    AdoptParameter(*definition, kHatchAngle, kHatchAngleDefault, kHatchAngleDisplayName,
-                   kHatchAngleDescription, kAngleType);
-    return definition;
-}
-
-void AdoptPath(SimpleSymbolDefinition& definition, const std::wstring& geometry) {
-    auto path = std::make_unique<TylModel::Path>();
-    path->SetGeometry(geometry);
-    path->SetLineColor(kHatchColorReference);
-    host::Adopt(definition.GetGraphics(), std::move(path));
-}
-
-std::unique_ptr<SymbolDefinition>
-MakeCompound(const std::wstring& name, std::vector<std::unique_ptr<SimpleSymbolDefinition>>& definitions) {
-    auto compound = std::make_unique<TylModel::CompoundSymbolDefinition>();
-    compound->SetName(name);
-    for (std::unique_ptr<SimpleSymbolDefinition>& definition : definitions) {
-        auto symbol = std::make_unique<TylModel::SimpleSymbol>();
-        symbol->AdoptSymbolDefinition(definition.release());
-        host::Adopt(compound->GetSymbols(), std::move(symbol));
-    }
-    return compound;
+UsageTexts TextsOf(const Tile& tile) {
+    return {tile.angle != 0 ? encoding::Double2TrimmedString(tile.angle) : std::wstring(),
+            encoding::Double2TrimmedString(tile.width), encoding::Double2TrimmedString(tile.height)};
 }
 
 } // namespace
@@ -136,15 +68,12 @@ std::unique_ptr<SymbolDefinition> AreaSymbolBuilder::Build(const std::string& na
         return nullptr;
     }
     AdoptPath(*definitions_.back(), path_); // though it may be empty
-    if (definitions_.size() == 1) {
-        return std::move(definitions_.front());
-    }
-    return MakeCompound(name_, definitions_);
+    return Joined(name_, definitions_);
 }
 
 void AreaSymbolBuilder::Take(PatternLine& line) {
     if (line.rowCount < 0) {
-        return;
+        return; // Required: R42
     }
     const Tile tile = TileOf(line);
     if (IsSameTile(tile, previous_)) {
@@ -170,7 +99,7 @@ void AreaSymbolBuilder::StartGroup(PatternLine& line, const Tile& tile) {
     if (!definitions_.empty() && !path_.empty()) {
         AdoptPath(*definitions_.back(), path_);
     }
-    definitions_.push_back(MakeDefinition(name_, tile));
+    definitions_.push_back(MakeDefinition(name_, TextsOf(tile)));
     path_.clear();
     AppendLinePath(path_, line);
 }

@@ -1,6 +1,7 @@
 // Turns the families of one pattern into an area symbol.
 #pragma once
 
+#include "StyleConversion/pattern/AreaDefinition.h"
 #include "StyleConversion/pattern/PatternLine.h"
 #include "TylModel/TylModel.h"
 
@@ -36,9 +37,9 @@ private:
     void StartGroup(PatternLine& line, const Tile& tile);
 
     std::wstring name_;
-    std::vector<std::unique_ptr<TylModel::SimpleSymbolDefinition>> definitions_; // one for each group
-    std::wstring path_;                                                          // of the last group
-    Tile previous_;                                                              // of the line before
+    Definitions definitions_; // one for each group
+    std::wstring path_;       // of the last group
+    Tile previous_;           // of the line before
 };
 
 /// What AreaSymbolBuilder::Build makes of one pattern.

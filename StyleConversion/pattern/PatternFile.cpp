@@ -57,7 +57,8 @@ Unit UnitOf(std::string_view remark) {
 // An empty number behind a dash, say, is one more dot that the dash takes in.
 bool GiveTheSame(const FamilyNumbers& first, const FamilyNumbers& second) {
     return first.leading == second.leading &&
-           MakePatternLine(FamilyNumbers(first)).dashes == MakePatternLine(FamilyNumbers(second)).dashes;
+           MakePatternLine(FamilyNumbers(first), encoding::Fidelity::kFaithful).dashes ==
+               MakePatternLine(FamilyNumbers(second), encoding::Fidelity::kFaithful).dashes;
 }
 
 // Takes the lines of a file one after another.
@@ -91,6 +92,7 @@ public:
 
 private:
     // A name that stands there already keeps its first description, and its families go on.
+    // Required: R43
     void TakeHeader(std::string_view text, std::size_t number) {
         Header header = ParseHeader(text.substr(0, policy_.looseForm ? text.find(';') : text.npos));
         const bool hasRemark = policy_.looseForm && text.find(';') != text.npos;
@@ -112,7 +114,7 @@ private:
             NoteFamilyWithoutHeader(line, number);
             return;
         }
-        current_->second.push_back(MakePatternLine(NumbersOf(line, number)));
+        current_->second.push_back(MakePatternLine(NumbersOf(line, number), policy_.fidelity));
         if (reading_ != nullptr) {
             reading_->familyLines[current_->first].push_back(number);
         }

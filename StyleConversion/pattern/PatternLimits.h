@@ -32,4 +32,37 @@ inline constexpr double kLargestPhaseError = 0.25;
 /// In degrees and drawing units: families whose angle and tile differ by less are drawn by one symbol.
 inline constexpr double kSameTileTolerance = 0.0001;
 
+// Tiles of faithful symbols.
+
+/// A dash or gap that is a smaller share of its cycle than this is a dot, written as people write dots.
+inline constexpr double kDotShare = 0.0001;
+
+/// Families with numbers of this size, or below its reciprocal, are beyond what a picture can hold.
+inline constexpr double kLargestNumber = 1e15;
+
+/// How far one side of a tile may miss a family's lattice, as a share of the family's shortest dash: so
+/// little that after 50 tiles it is still below a hundredth; so little that it is after ten; a hundredth; and
+/// so much as families of one picture that were rounded one by one miss each other's.
+inline constexpr double kUnseenMiss = 0.0001;
+inline constexpr double kSlightMiss = 0.001;
+inline constexpr double kSmallMiss = 0.01;
+inline constexpr double kRoundedMiss = 0.02;
+
+/// The most dash cycles of one family in a tile that misses unseen or slightly, and in one that all families
+/// share though it misses by more: larger ones come about by chance.
+inline constexpr double kMostExactCells = 256;
+inline constexpr double kMostSlightCells = 1024;
+inline constexpr double kMostSharedCells = 64;
+
+/// The most dash cycles of one family in any tile, and the most dashes in a tile beside those that the
+/// families have in one cycle each.
+inline constexpr double kMostCells = 4096;
+inline constexpr double kMostDashes = 16384;
+
+/// Groups of families for which all others are tried; what is left has a tile for each.
+inline constexpr int kMostGroups = 64;
+
+/// How many vectors of one lattice are tried as the side of a tile.
+inline constexpr int kMostSides = 2048;
+
 } // namespace pattern

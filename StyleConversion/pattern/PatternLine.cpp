@@ -52,7 +52,7 @@ void FindTile(PatternLine& line) {
 
 } // namespace
 
-PatternLine MakePatternLine(FamilyNumbers&& numbers) {
+PatternLine MakePatternLine(FamilyNumbers&& numbers, encoding::Fidelity fidelity) {
     PatternLine line;
     line.angle = numbers.leading[0];
     line.originX = numbers.leading[1];
@@ -72,7 +72,9 @@ PatternLine MakePatternLine(FamilyNumbers&& numbers) {
     if (line.offset < 0) {
         line.offset += line.dashTotal;
     }
-    FindTile(line);
+    if (fidelity == encoding::Fidelity::kStrict) {
+        FindTile(line);
+    }
     return line;
 }
 

@@ -1,6 +1,8 @@
 // One family of parallel lines of a hatch pattern, with the tile that repeats it.
 #pragma once
 
+#include "StyleConversion/encoding/Fidelity.h"
+
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -33,8 +35,9 @@ struct PatternLine {
 /// continuous line. The tile is found as well.
 PatternLine ParsePatternLine(std::string_view line);
 
-/// The family of these numbers.
+/// The family of these numbers; its tile only where that of a strict symbol is asked for.
 struct FamilyNumbers;
-PatternLine MakePatternLine(FamilyNumbers&& numbers);
+PatternLine MakePatternLine(FamilyNumbers&& numbers,
+                            encoding::Fidelity fidelity = encoding::Fidelity::kStrict);
 
 } // namespace pattern

@@ -1,6 +1,8 @@
 // How far a pattern file may stray from its form and still be read.
 #pragma once
 
+#include "StyleConversion/encoding/Fidelity.h"
+
 #include <cstdint>
 
 namespace pattern {
@@ -17,6 +19,8 @@ struct PatternPolicy {
     bool looseForm = false;
     /// Lengths behind a remark "%UNITS=" of another unit are scaled to this one; not under kNone.
     Unit wantedUnit = Unit::kNone;
+    /// What the families are read for: those for faithful symbols come without the tiles of strict ones.
+    encoding::Fidelity fidelity = encoding::Fidelity::kStrict;
 };
 
 inline constexpr PatternPolicy kTolerantPatternPolicy{true, true, Unit::kNone};

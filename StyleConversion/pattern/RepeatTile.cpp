@@ -141,6 +141,7 @@ bool FindStackedTile(PatternLine& line) {
             phase -= T;
         }
     }
+    // Required: R41
     if (!(best < d * kLargestPhaseError)) {
         return false;
     }

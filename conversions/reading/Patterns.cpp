@@ -13,6 +13,7 @@ namespace {
 
 using diagnostics::Code;
 using diagnostics::Diagnostic;
+using diagnostics::Diagnostics;
 using diagnostics::Outcome;
 using diagnostics::Severity;
 using pattern::PatternError;
@@ -103,6 +104,24 @@ public:
         }
     }
 
+    // What a faithful symbol of the pattern does not draw as it is.
+    void AddLosses(const std::string& name, const pattern::FaithfulTiles& tiles) {
+        const std::vector<std::size_t>& lines = loaded_.reading.familyLines.at(name);
+        for (const std::size_t family : tiles.unplaced) {
+            Add(lines[family], name, Severity::kWarning, Code::kUnplacedFamily, {}, Outcome::kSkipped);
+        }
+        pattern::TiledFamily worst;
+        for (const pattern::FaithfulTile& tile : tiles.tiles) {
+            for (const pattern::TiledFamily& family : tile.families) {
+                worst = family.fit.share > worst.fit.share ? family : worst;
+            }
+        }
+        if (worst.fit.share > pattern::kRoundedMiss) {
+            Add(lines[worst.family], name, Severity::kWarning, Code::kMissedTile,
+                {RoundedText(worst.fit.length, 1e6), RoundedText(worst.fit.share * 100.0, 10.0)});
+        }
+    }
+
     diagnostics::Diagnostics Take() {
         diagnostics::SortByLine(found_);
         return std::move(found_);
@@ -185,6 +204,13 @@ diagnostics::Diagnostics ToleratedPatterns(const Input& input, const LoadedPatte
                   Outcome::kRepaired);
     }
     found.AddSkippedFamilies();
+    return found.Take();
+}
+
+Diagnostics FaithfulLosses(const Input& input, const LoadedPatterns& loaded, const std::string& name,
+                           const pattern::FaithfulTiles& tiles) {
+    PatternDiagnostics found(input, loaded);
+    found.AddLosses(name, tiles);
     return found.Take();
 }
 

@@ -1,6 +1,7 @@
 // A pattern file to families of lines, and what is said of it.
 #pragma once
 
+#include "StyleConversion/pattern/FaithfulTiles.h"
 #include "StyleConversion/pattern/PatternFile.h"
 #include "conversions/reading/Input.h"
 #include "diagnostics/Diagnostic.h"
@@ -24,6 +25,10 @@ diagnostics::Diagnostics CheckedPatterns(const Input& input, const LoadedPattern
 
 /// What a tolerant reading made of it, and which families it leaves out: warnings.
 diagnostics::Diagnostics ToleratedPatterns(const Input& input, const LoadedPatterns& loaded);
+
+/// Which families of a pattern a faithful symbol lacks, and how far its worst tile misses: warnings.
+diagnostics::Diagnostics FaithfulLosses(const Input& input, const LoadedPatterns& loaded,
+                                        const std::string& name, const pattern::FaithfulTiles& tiles);
 
 /// Why a pattern of these families becomes nothing.
 diagnostics::Code WhyNoSymbol(const std::vector<pattern::PatternLine>& lines);

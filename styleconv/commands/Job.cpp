@@ -154,7 +154,7 @@ ExitStatus Finish(const conversions::Conversion& conversion, const std::string& 
     }
     SayAll(conversion.diagnostics);
     return WriteResult(options.output, [&](const conversions::TextSink& sink) {
-        return WriteSymbols(conversion.symbols, FormNamed(options.format), sink, front);
+        return WriteSymbols(conversion.symbols, FormNamed(options.format), sink, front, conversion.fidelity);
     });
 }
 

@@ -124,6 +124,11 @@ void AddTolerantOption(Command& command, bool& tolerant) {
                     "Convert what is valid and report the rest, instead of refusing the file");
 }
 
+void AddFaithfulOption(Command& command, bool& faithful) {
+    command.AddFlag("--faithful", faithful,
+                    "Draw what the definition says, where the required output draws something else");
+}
+
 void AddLimitOptions(Command& command, LimitOptions& options) {
     AddLimitOption(command, "--time-limit", options.timeText, options.time, "SECONDS",
                    "Stop after so many seconds (default: 60)");

@@ -62,6 +62,9 @@ void AddIgnoreLayerOption(Command& command, std::vector<std::string>& layers);
 /// Adds --tolerant to a converting command.
 void AddTolerantOption(Command& command, bool& tolerant);
 
+/// Adds --faithful to a converting command.
+void AddFaithfulOption(Command& command, bool& faithful);
+
 /// Adds --time-limit and --memory-limit to a command.
 void AddLimitOptions(Command& command, LimitOptions& options);
 

@@ -15,6 +15,7 @@ struct PatternsOptions : CommonOptions {
     std::string codePage;
     std::string units;
     bool tolerant = false;
+    bool faithful = false;
 };
 
 pattern::Unit UnitNamed(const std::string& units) {
@@ -33,8 +34,9 @@ ExitStatus Patterns(const PatternsOptions& options) {
         return kUsageFault;
     }
     const auto front = FrontWithoutFiles(options.output.empty());
-    const conversions::PatternsOptions job = {WideTexts(options.names), options.tolerant,
-                                              UnitNamed(options.units)};
+    const conversions::PatternsOptions job = {
+        WideTexts(options.names), options.tolerant, UnitNamed(options.units),
+        options.faithful ? encoding::Fidelity::kFaithful : encoding::Fidelity::kStrict};
     return Finish(ConvertPatterns(input.ForJob(options.codePage), job, *front), options.file,
                   options.tolerant, options, *front);
 }
@@ -48,6 +50,7 @@ void AddPatternsCommand(CommandLine& line) {
     command.AddFile(options->file, "A pattern file, or - for standard input");
     AddNameOption(command, options->names, "Convert only this pattern; may be given again");
     AddTolerantOption(command, options->tolerant);
+    AddFaithfulOption(command, options->faithful);
     command.AddChoice("--units", options->units, {"mm", "inch"},
                       "Scale to this unit, mm or inch, a file that says ;%UNITS= otherwise");
     AddCodePageOption(command, options->codePage);

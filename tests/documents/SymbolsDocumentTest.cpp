@@ -57,6 +57,19 @@ TEST(SymbolsDocument, WithoutSymbolsIsAnEmptyList) {
     EXPECT_EQ(Written({}), std::string(kHead) + "]\n}\n");
 }
 
+TEST(SymbolsDocument, SaysThatItsSymbolsAreFaithful) {
+    std::string text;
+    SymbolsWriter writer(
+        [&](std::string_view piece) {
+            text += piece;
+            return true;
+        },
+        encoding::Fidelity::kFaithful);
+    EXPECT_TRUE(writer.Finish());
+    EXPECT_EQ(text, "{\n  \"format\": \"styleconversion/symbols\",\n  \"version\": 1,\n"
+                    "  \"fidelity\": \"faithful\",\n  \"symbols\": []\n}\n");
+}
+
 TEST(SymbolsDocument, EmptyPropertiesAreLeftOutButNotTypeNameAndLists) {
     TylModel::SimpleSymbolDefinition simple;
     TylModel::CompoundSymbolDefinition compound;
