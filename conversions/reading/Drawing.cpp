@@ -18,12 +18,12 @@ using diagnostics::Severity;
 
 namespace {
 
-enum class Manner : std::uint8_t { kStrict, kTolerant, kCheck };
+enum class Reading : std::uint8_t { kStrict, kTolerant, kCheck };
 
 // What a reading says of a part of the file that it left out or read otherwise.
-Diagnostic Told(Diagnostic diagnostic, const Input& input, Manner manner) {
+Diagnostic Told(Diagnostic diagnostic, const Input& input, Reading reading) {
     diagnostic.place.file = input.name;
-    if (manner != Manner::kTolerant && diagnostic.severity == Severity::kError) {
+    if (reading != Reading::kTolerant && diagnostic.severity == Severity::kError) {
         diagnostic.outcome = Outcome::kNone;
     } else if (diagnostic.severity == Severity::kError) {
         diagnostic.severity = Severity::kWarning;
@@ -31,11 +31,11 @@ Diagnostic Told(Diagnostic diagnostic, const Input& input, Manner manner) {
     return diagnostic;
 }
 
-std::unique_ptr<drawing::Database> ReadDocument(const Input& input, std::string_view bytes, Manner manner,
+std::unique_ptr<drawing::Database> ReadDocument(const Input& input, std::string_view bytes, Reading reading,
                                                 Diagnostics& diagnostics) {
     documents::DrawingError error;
     documents::ToleratedErrors tolerated;
-    documents::ToleratedErrors* const kept = manner == Manner::kStrict ? nullptr : &tolerated;
+    documents::ToleratedErrors* const kept = reading == Reading::kStrict ? nullptr : &tolerated;
     auto drawing = input.stream != nullptr && bytes.empty()
                        ? documents::ReadDrawing(input.stream, error, kept)
                        : documents::ReadDrawing(bytes, error, kept);
@@ -47,16 +47,16 @@ std::unique_ptr<drawing::Database> ReadDocument(const Input& input, std::string_
         refusal.subjects = error.subjects;
         diagnostics.push_back(std::move(refusal));
     }
-    if (drawing != nullptr || manner == Manner::kTolerant) {
+    if (drawing != nullptr || reading == Reading::kTolerant) {
         for (Diagnostic diagnostic : tolerated.All()) {
             diagnostic.severity = Severity::kError;
-            diagnostics.push_back(Told(std::move(diagnostic), input, manner));
+            diagnostics.push_back(Told(std::move(diagnostic), input, reading));
         }
     }
     return drawing;
 }
 
-std::unique_ptr<drawing::Database> ReadDxfFile(const Input& input, std::string_view bytes, Manner manner,
+std::unique_ptr<drawing::Database> ReadDxfFile(const Input& input, std::string_view bytes, Reading reading,
                                                Diagnostics& diagnostics) {
     Diagnostic fault;
     exchange::DxfNotes notes;
@@ -67,9 +67,9 @@ std::unique_ptr<drawing::Database> ReadDxfFile(const Input& input, std::string_v
         return drawing;
     }
     for (const Diagnostic& note : notes.All()) {
-        diagnostics.push_back(Told(note, input, manner));
+        diagnostics.push_back(Told(note, input, reading));
     }
-    if (manner == Manner::kStrict && CountOf(notes.All(), Severity::kError) > 0) {
+    if (reading == Reading::kStrict && CountOf(notes.All(), Severity::kError) > 0) {
         drawing.reset();
     }
     return drawing;
@@ -86,14 +86,14 @@ bool ReadRest(std::FILE* stream, std::string& bytes) {
 }
 
 // Drawing documents are read as they come; what begins as none is read whole.
-std::unique_ptr<drawing::Database> Read(const Input& input, Manner manner, Diagnostics& diagnostics) {
+std::unique_ptr<drawing::Database> Read(const Input& input, Reading reading, Diagnostics& diagnostics) {
     std::string read;
     std::string_view bytes = input.bytes;
     if (input.stream != nullptr) {
         const int first = std::getc(input.stream);
         if (first == '{' || first == EOF) {
             std::ungetc(first, input.stream);
-            return ReadDocument(input, {}, manner, diagnostics);
+            return ReadDocument(input, {}, reading, diagnostics);
         }
         read += static_cast<char>(first);
         if (!ReadRest(input.stream, read)) {
@@ -105,18 +105,18 @@ std::unique_ptr<drawing::Database> Read(const Input& input, Manner manner, Diagn
         }
         bytes = read;
     }
-    return IsDxf(input.name, bytes) ? ReadDxfFile(input, bytes, manner, diagnostics)
-                                    : ReadDocument(input, bytes, manner, diagnostics);
+    return IsDxf(input.name, bytes) ? ReadDxfFile(input, bytes, reading, diagnostics)
+                                    : ReadDocument(input, bytes, reading, diagnostics);
 }
 
 } // namespace
 
 std::unique_ptr<drawing::Database> ReadDrawing(const Input& input, bool tolerant, Diagnostics& diagnostics) {
-    return Read(input, tolerant ? Manner::kTolerant : Manner::kStrict, diagnostics);
+    return Read(input, tolerant ? Reading::kTolerant : Reading::kStrict, diagnostics);
 }
 
 std::unique_ptr<drawing::Database> CheckDrawingFile(const Input& input, Diagnostics& diagnostics) {
-    return Read(input, Manner::kCheck, diagnostics);
+    return Read(input, Reading::kCheck, diagnostics);
 }
 
 const drawing::BlockRecord* ModelSpaceOf(const drawing::Database& drawing) {
