@@ -2,6 +2,7 @@
 
 #include "OxDb/OxDb.h"
 #include "StyleConversion/block/BlockConverter.h"
+#include "StyleConversion/block/Faithful.h"
 #include "StyleConversion/block/Opened.h"
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/platform/Utf8.h"
@@ -15,6 +16,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <utility>
 
 namespace conversions {
@@ -63,6 +65,10 @@ public:
           files_(input.name, options.tolerant, front), filesInUse_(files_),
           check_(input.name, drawing, files_, options.layersToIgnore), result_(result) {
         converter_.SetLayersToIgnore(options.layersToIgnore);
+        if (options.fidelity == encoding::Fidelity::kFaithful) {
+            faithful_.emplace();
+        }
+        result.fidelity = options.fidelity;
         if (options.tolerant) {
             drawing.LimitHatchLines(kMostHatchLines);
         }
@@ -205,6 +211,7 @@ private:
     BlockConverter converter_;
     DrawingShapeFiles files_;
     block::ShapeFilesInUse filesInUse_;
+    std::optional<block::FaithfulInUse> faithful_;
     BlockCheck check_;
     Conversion& result_;
 };

@@ -19,6 +19,7 @@ struct BlocksOptions {
     OxDb::UnitsValue units = OxDb::kUnitsUndefined; // of a drawing that has none
     drawing::BlockCopyOptions seenAs;               // what is converted of each block
     std::optional<OxCmColor> whiteAs;               // the colour in the place of colour 7
+    encoding::Fidelity fidelity = encoding::Fidelity::kStrict;
 };
 
 /// All blocks in table order, or those asked for, and then all of them. A tolerant conversion skips what is

@@ -44,8 +44,10 @@ public:
 
 private:
     bool ConvertAll() {
-        const LineConverter::LinPolicy policy =
+        LineConverter::LinPolicy policy =
             options_.tolerant ? LineConverter::kTolerantLinPolicy : LineConverter::LinPolicy();
+        policy.faithful = options_.fidelity == encoding::Fidelity::kFaithful;
+        result_.fidelity = options_.fidelity;
         LineConverter::LinResult result = ReadLinetypes(input_.bytes, policy, file_, log_);
         if (result == LineConverter::kSuccess) {
             result = ResolveNames(file_, &sources_, &sources_, policy, log_);

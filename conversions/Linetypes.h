@@ -12,6 +12,7 @@ namespace conversions {
 struct LinetypesOptions : LinetypeSourceOptions {
     std::vector<std::wstring> names; // only linetypes of these names, in their order; all where it is empty
     double scale = 1.0;              // multiplies all lengths
+    encoding::Fidelity fidelity = encoding::Fidelity::kStrict;
 };
 
 /// All that are asked for, or none: a tolerant conversion skips what is wrong, and needs one.

@@ -23,6 +23,7 @@ struct BlocksOptions : CommonOptions {
     bool expand = false;
     bool fromBasePoint = false;
     bool visibleOnly = false;
+    bool faithful = false;
     std::string units;
     std::optional<OxCmColor> whiteAs;
 };
@@ -92,8 +93,9 @@ ExitStatus Blocks(const BlocksOptions& options) {
     job.tolerant = options.tolerant;
     job.modelSpace = options.modelSpace;
     job.units = UnitNamed(options.units);
-    job.seenAs = {options.expand, options.fromBasePoint, options.visibleOnly};
+    job.seenAs = {options.expand, options.fromBasePoint, options.visibleOnly || options.faithful};
     job.whiteAs = options.whiteAs;
+    job.fidelity = FidelityOf(options.faithful);
     return Finish(ConvertBlocks(input.ForJob(), job, *front), options.file, options.tolerant, options,
                   *front);
 }
@@ -120,6 +122,7 @@ void AddBlocksCommand(CommandLine& line) {
     command.AddChoice("--units", options->units, UnitNames(),
                       "The unit of a drawing that names none (default: m)");
     AddTolerantOption(command, options->tolerant);
+    AddFaithfulOption(command, options->faithful);
     AddCommonOptions(command, *options);
 }
 

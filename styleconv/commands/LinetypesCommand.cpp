@@ -17,6 +17,7 @@ struct LinetypesOptions : CommonOptions, StyleOptions {
     std::string codePage;
     double scale = 1.0;
     bool tolerant = false;
+    bool faithful = false;
 };
 
 ExitStatus Linetypes(const LinetypesOptions& options) {
@@ -39,6 +40,7 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
     job.scale = options.scale;
     job.font = options.font;
     job.tolerant = options.tolerant;
+    job.fidelity = FidelityOf(options.faithful);
     if (!options.drawing.empty()) {
         job.drawing = drawing.ForJob();
     }
@@ -59,6 +61,7 @@ void AddLinetypesCommand(CommandLine& line) {
     AddScaleOption(command, "--scale", options->scale, "Multiply all lengths by this (default: 1)");
     AddStyleOptions(command, *options);
     AddTolerantOption(command, options->tolerant);
+    AddFaithfulOption(command, options->faithful);
     AddCodePageOption(command, options->codePage);
     AddCommonOptions(command, *options);
 }

@@ -129,6 +129,10 @@ void AddFaithfulOption(Command& command, bool& faithful) {
                     "Draw what the definition says, where the required output draws something else");
 }
 
+encoding::Fidelity FidelityOf(bool faithful) {
+    return faithful ? encoding::Fidelity::kFaithful : encoding::Fidelity::kStrict;
+}
+
 void AddLimitOptions(Command& command, LimitOptions& options) {
     AddLimitOption(command, "--time-limit", options.timeText, options.time, "SECONDS",
                    "Stop after so many seconds (default: 60)");

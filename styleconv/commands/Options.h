@@ -1,6 +1,7 @@
 // The options that commands share.
 #pragma once
 
+#include "StyleConversion/encoding/Fidelity.h"
 #include "styleconv/commands/CommandLine.h"
 
 #include <string>
@@ -64,6 +65,8 @@ void AddTolerantOption(Command& command, bool& tolerant);
 
 /// Adds --faithful to a converting command.
 void AddFaithfulOption(Command& command, bool& faithful);
+/// What the option asks for.
+encoding::Fidelity FidelityOf(bool faithful);
 
 /// Adds --time-limit and --memory-limit to a command.
 void AddLimitOptions(Command& command, LimitOptions& options);

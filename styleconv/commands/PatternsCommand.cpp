@@ -34,9 +34,8 @@ ExitStatus Patterns(const PatternsOptions& options) {
         return kUsageFault;
     }
     const auto front = FrontWithoutFiles(options.output.empty());
-    const conversions::PatternsOptions job = {
-        WideTexts(options.names), options.tolerant, UnitNamed(options.units),
-        options.faithful ? encoding::Fidelity::kFaithful : encoding::Fidelity::kStrict};
+    const conversions::PatternsOptions job = {WideTexts(options.names), options.tolerant,
+                                              UnitNamed(options.units), FidelityOf(options.faithful)};
     return Finish(ConvertPatterns(input.ForJob(options.codePage), job, *front), options.file,
                   options.tolerant, options, *front);
 }

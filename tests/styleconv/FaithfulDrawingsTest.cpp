@@ -1,0 +1,59 @@
+// styleconv blocks and linetypes --faithful: what is drawn where the required output draws something else.
+#include "tests/support/ToolRun.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+
+constexpr const char* kFaithful = "\"fidelity\": \"faithful\"";
+
+class FaithfulDrawings : public ::testing::Test {
+protected:
+    ToolResult Run(const std::string& command, const std::string& name, const std::string& text,
+                   std::vector<std::string> more) {
+        std::vector<std::string> arguments{command, folder_.Write(name, text)};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return RunTool(arguments);
+    }
+
+    const ScratchFolder folder_;
+};
+
+TEST_F(FaithfulDrawings, BlocksAreWrittenWithAllDigitsInADocumentThatSaysSo) {
+    const std::string drawing =
+        R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4, "blocks": [
+        {"name": "B", "entities": [{"type": "line", "start": [0.105, 0], "end": [3.003333, 1]}]}]})";
+    const ToolResult faithful = Run("blocks", "a.json", drawing, {"--faithful"});
+    EXPECT_EQ(faithful.status, 0);
+    EXPECT_EQ(faithful.errors, "");
+    EXPECT_NE(faithful.output.find(kFaithful), std::string::npos);
+    EXPECT_NE(faithful.output.find("\"M 0.105,0 L 3.003333,1\""), std::string::npos) << faithful.output;
+    const ToolResult strict = Run("blocks", "a.json", drawing, {});
+    EXPECT_EQ(strict.output.find("fidelity"), std::string::npos);
+    EXPECT_NE(strict.output.find("\"M 0.1,0.0 L 3.0,1.0\""), std::string::npos) << strict.output;
+}
+
+TEST_F(FaithfulDrawings, HiddenEntitiesAreNotDrawn) {
+    const std::string drawing =
+        R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4, "blocks": [
+        {"name": "B", "entities": [{"type": "point", "position": [1, 0]}, {"type": "point", "position": [2, 0],
+        "hidden": true}]}]})";
+    EXPECT_EQ(Run("blocks", "a.json", drawing, {"--faithful"}).output.find("M 2,0"), std::string::npos);
+    EXPECT_NE(Run("blocks", "a.json", drawing, {}).output.find("M 2.0,0.0"), std::string::npos);
+}
+
+TEST_F(FaithfulDrawings, LinetypesTakeRadiansAsSuch) {
+    const std::string linetypes = "*A,\nA,4,[\"GAS\",STANDARD,R=1r]\n";
+    const std::vector<std::string> font{"--font", "Arial"};
+    const ToolResult strict = Run("linetypes", "a.lin", linetypes, font);
+    EXPECT_NE(strict.output.find("0.0174532925199433"), std::string::npos) << strict.errors;
+    const ToolResult faithful = Run("linetypes", "a.lin", linetypes, {"--font", "Arial", "--faithful"});
+    EXPECT_NE(faithful.output.find(kFaithful), std::string::npos);
+    EXPECT_NE(faithful.output.find("57.2957795130823"), std::string::npos);
+}
+
+} // namespace
