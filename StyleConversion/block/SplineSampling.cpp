@@ -14,7 +14,9 @@ namespace {
 
 // Parts of the curve's extent that the samples may be off by.
 constexpr double kToleranceOfExtent = 0.001;
+constexpr double kCloseToleranceOfExtent = 1e-6;
 constexpr double kKnotTolerance = 1e-9;
+constexpr double kIntervalTolerance = 1e-12;
 
 // The points below those of space.
 void Flatten(host::Points3d& points, host::Points2d& flat) {
@@ -66,6 +68,30 @@ SplineCurve CurveFromControlPoints(OxDbSpline& spline) {
     return {std::move(curve), host::LengthOf(points)};
 }
 
+// How far the samples may be off the curve, in drawing units: that part of its extent, of one where it has
+// none.
+double PartOfExtent(OxGeNurbCurve2d& curve, double part) {
+    OxGePoint2d minimum;
+    OxGePoint2d maximum;
+    curve.boundBlock().getMinMaxPoints(minimum, maximum);
+    const double extent = std::max(maximum.x - minimum.x, maximum.y - minimum.y);
+    return part * extent == 0.0 ? part : part * extent;
+}
+
+std::vector<OxGePoint2d> Sample(OxGeNurbCurve2d& curve, double tolerance) {
+    const host::ParameterRange range = host::ParametersOf(curve, kIntervalTolerance);
+    host::Points2d points;
+    host::Doubles parameters;
+    curve.getSamplePoints(range.lower, range.upper, tolerance, points, parameters);
+    const int count = host::LengthOf(points);
+    std::vector<OxGePoint2d> samples;
+    samples.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        samples.push_back(host::ElementAt(points, i));
+    }
+    return samples;
+}
+
 // Halves the tolerance while there are fewer samples than defining points, else doubles it while there are
 // very many. A curve of very many defining points could go back and forth between two tolerances for ever: it
 // gets the finer of the two.
@@ -74,7 +100,7 @@ std::vector<OxGePoint2d> SampleEvenly(OxGeNurbCurve2d& curve, int definingPoints
     bool halved = false;
     bool doubled = false;
     for (;;) {
-        std::vector<OxGePoint2d> points = SampleCurve(curve, tolerance);
+        std::vector<OxGePoint2d> points = Sample(curve, tolerance);
         const auto count = static_cast<int>(points.size());
         const bool tooFew = count < definingPoints;
         double next = tolerance;
@@ -89,7 +115,7 @@ std::vector<OxGePoint2d> SampleEvenly(OxGeNurbCurve2d& curve, int definingPoints
             return points;
         }
         if (halved && doubled) {
-            return SampleCurve(curve, next);
+            return Sample(curve, next);
         }
         tolerance = next;
     }
@@ -104,6 +130,10 @@ std::vector<OxGePoint2d> SampleSpline(OxDbSpline& spline) {
         return {};
     }
     return IsFaithful() ? SampleClosely(*source.curve) : SampleEvenly(*source.curve, source.definingPoints);
+}
+
+std::vector<OxGePoint2d> SampleClosely(OxGeNurbCurve2d& curve) {
+    return Sample(curve, PartOfExtent(curve, kCloseToleranceOfExtent));
 }
 
 } // namespace block

@@ -3,8 +3,7 @@
 
 #include "StyleConversion/interfaces/HostNames.h"
 
-#include <algorithm>
-#include <cstddef>
+#include <type_traits>
 #include <vector>
 
 namespace block {
@@ -13,45 +12,17 @@ namespace block {
 /// possible, than the points that define it. None when the spline cannot be read or makes no curve.
 std::vector<OxGePoint2d> SampleSpline(OxDbSpline& spline);
 
-/// Points along a curve of the plane from its start to its end, `tolerance` (drawing units) off it at most.
-template <class Curve>
-std::vector<OxGePoint2d> SampleCurve(Curve& curve, double tolerance) {
-    constexpr double kIntervalTolerance = 1e-12;
-    const host::ParameterRange range = host::ParametersOf(curve, kIntervalTolerance);
-    host::Points2d points;
-    host::Doubles parameters;
-    curve.getSamplePoints(range.lower, range.upper, tolerance, points, parameters);
-    const int count = host::LengthOf(points);
-    std::vector<OxGePoint2d> samples;
-    samples.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        samples.push_back(host::ElementAt(points, i));
-    }
-    return samples;
-}
+/// Points along a curve from its start to its end, off it by at most a millionth of its extent.
+std::vector<OxGePoint2d> SampleClosely(OxGeNurbCurve2d& curve);
 
-/// That part of the larger side of the box around a curve; of one drawing unit where it has no extent.
-template <class Curve>
-double PartOfExtent(Curve& curve, double part) {
-    OxGePoint2d minimum;
-    OxGePoint2d maximum;
-    curve.boundBlock().getMinMaxPoints(minimum, maximum);
-    const double extent = std::max(maximum.x - minimum.x, maximum.y - minimum.y);
-    return part * extent == 0.0 ? part : part * extent;
-}
-
-/// Points along a curve, off it by at most a millionth of its extent. None where the database cannot sample
-/// curves of its class.
-template <class Curve>
-std::vector<OxGePoint2d> SampleClosely(Curve& curve) {
-    constexpr double kPart = 1e-6;
-    if constexpr (requires(host::Points2d & points, host::Doubles & parameters) {
-                      curve.boundBlock();
-                      curve.getSamplePoints(0.0, 1.0, kPart, points, parameters);
-                  }) {
-        return SampleCurve(curve, PartOfExtent(curve, kPart));
+/// An edge of a hatch as a spline; null when it is none, or the database's curves cannot be told apart.
+template <class Edge>
+OxGeNurbCurve2d* AsSpline(Edge& edge) {
+    if constexpr (std::is_polymorphic_v<Edge>) {
+        // Sampling changes no curve.
+        return const_cast<OxGeNurbCurve2d*>(dynamic_cast<const OxGeNurbCurve2d*>(&edge));
     } else {
-        return {};
+        return nullptr;
     }
 }
 

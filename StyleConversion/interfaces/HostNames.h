@@ -166,8 +166,7 @@ struct ParameterRange {
     double lower = 0.0;
     double upper = 0.0;
 };
-template <class Curve>
-ParameterRange ParametersOf(Curve& curve, double tolerance) {
+inline ParameterRange ParametersOf(OxGeNurbCurve2d& curve, double tolerance) {
     OxGeInterval interval(tolerance);
     curve.getInterval(interval);
     return {interval.lowerBound(), interval.upperBound()};
@@ -288,28 +287,6 @@ inline Oxsys::ErrorStatus ReadFont(OxDbTextStyleTableRecord& style, wchar_t*& ty
     std::int32_t characterSet = 0;
     std::int32_t pitchAndFamily = 0;
     return style.font(typeface, bold, italic, characterSet, pitchAndFamily);
-}
-
-/// Where a text that is not aligned left on its base line is aligned, and how a paragraph text stands to its
-/// location: 1 to 9, from the top left by rows. No required result needs them: a database that has no such
-/// operations leaves a text at the left end of its base line, a paragraph text below its location.
-template <class Text>
-OxGePoint3d AlignmentPointOf(Text& text, bool& isKnown) {
-    isKnown = false;
-    if constexpr (requires { text.hasAlignmentPoint(); }) {
-        isKnown = text.hasAlignmentPoint();
-        return text.alignmentPoint();
-    } else {
-        return text.position();
-    }
-}
-template <class Text>
-int AttachmentOf(Text& text) {
-    if constexpr (requires { text.attachment(); }) {
-        return static_cast<int>(text.attachment());
-    } else {
-        return 1;
-    }
 }
 
 // ---- Services of the host's application ----

@@ -77,8 +77,8 @@ private:
             } else {
                 AppendArc(*ellipse, ellipse->majorRadius(), ellipse->minorRadius());
             }
-        } else if (block::IsFaithful()) {
-            AppendPoints(block::SampleClosely(edge));
+        } else if (OxGeNurbCurve2d* const spline = block::IsFaithful() ? block::AsSpline(edge) : nullptr) {
+            AppendPoints(block::SampleClosely(*spline));
         }
     }
 

@@ -5,6 +5,7 @@
 #include "StyleConversion/block/Faithful.h"
 #include "StyleConversion/block/Opened.h"
 #include "StyleConversion/block/ParagraphText.h"
+#include "StyleConversion/block/TextPlaces.h"
 #include "StyleConversion/encoding/ControlCodes.h"
 #include "StyleConversion/encoding/IntegerConversion.h"
 #include "StyleConversion/encoding/TrimmedNumber.h"
@@ -98,7 +99,7 @@ OxGePoint3d AlignExactly(TylModel::Text& element, OxDbText& text) {
     const auto vertical = static_cast<int>(text.verticalMode());
     const bool isPlain = horizontal == kLeft && vertical == kBase;
     bool isKnown = false;
-    const OxGePoint3d point = host::AlignmentPointOf(text, isKnown);
+    const OxGePoint3d point = block::AlignmentPointOf(text, isKnown);
     const bool isAligned = horizontal <= kRight || horizontal == kMiddle;
     if (!isKnown || isPlain || !isAligned) {
         AlignLine(element, kLeft);
@@ -198,7 +199,7 @@ void BlockConverter::CollectLinesFromMText(OxDbBlockTableRecord& record, OxDbMTe
     const std::vector<std::wstring> lines = block::LinesOf(host::TextOf(text.contents()));
     const double height = text.textHeight();
     const double extent = height * (1.0 + kLineSpacing * (static_cast<double>(lines.size()) - 1.0));
-    const int attachment = std::clamp(host::AttachmentOf(text), 1, 9) - 1;
+    const int attachment = std::clamp(block::AttachmentOf(text), 1, 9) - 1;
     const int column = attachment % 3;
     const int row = attachment / 3;
     const OxGePoint3d location = text.location();
