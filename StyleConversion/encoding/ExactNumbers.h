@@ -8,12 +8,14 @@ namespace encoding {
 /// The longest text that WriteShortest makes: "-2.2250738585072014e-308".
 inline constexpr std::size_t kLongestShortest = 24;
 
-/// Writes the shortest text that reads back as the same double, with an exponent where that is shorter, without a
-/// terminator. Zero of either sign is "0"; infinities and NaN are "inf", "-inf", "nan" and "-nan". No locale changes the
-/// text. `target` has room for kLongestShortest characters. Returns the end of the text.
+/// Writes the shortest text that reads back as the same double, with an exponent where that is shorter,
+/// without a terminator. Zero of either sign is "0"; infinities and NaN are "inf", "-inf", "nan" and "-nan".
+/// No locale changes the text. `target` has room for kLongestShortest characters. Returns the end of the
+/// text.
 wchar_t* WriteShortest(wchar_t* target, double value);
 
-/// As long as it lives, its thread writes numbers by WriteShortest wherever it would trim them (WriteTrimmed).
+/// As long as it lives, its thread writes numbers by WriteShortest wherever it would trim them
+/// (WriteTrimmed).
 class ExactNumbersInUse {
 public:
     ExactNumbersInUse();

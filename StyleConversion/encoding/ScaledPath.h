@@ -22,8 +22,8 @@ inline constexpr std::wstring_view kLine = L" L ";
 void AppendPoint(std::wstring& path, std::wstring_view command, Point point, double scale);
 
 /// " L x,y" to `to`, or, where the segment is vertical or horizontal within 1e-6 drawing units, the relative
-/// " v dy" or " h dx". Where one difference equals 1e-6 exactly and the other exceeds it, nothing is written. Where exact numbers are in use, always the point.
-/// Required: R3
+/// " v dy" or " h dx". Where one difference equals 1e-6 exactly and the other exceeds it, nothing is written.
+/// Where exact numbers are in use, always the point. Required: R3
 void AppendLineToString(std::wstring& path, Point from, Point to, double scale);
 
 /// " A rx,ry rotation large sweep x,y": an elliptic arc from the path's current point to `end`. The radii are
