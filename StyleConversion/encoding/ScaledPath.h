@@ -23,7 +23,8 @@ void AppendPoint(std::wstring& path, std::wstring_view command, Point point, dou
 
 /// " L x,y" to `to`, or, where the segment is vertical or horizontal within 1e-6 drawing units, the relative
 /// " v dy" or " h dx". Where one difference equals 1e-6 exactly and the other exceeds it, nothing is written.
-/// Where exact numbers are in use, always the point. Required: R3
+/// Where exact numbers are in use, always the point.
+/// Required: R3
 void AppendLineToString(std::wstring& path, Point from, Point to, double scale);
 
 /// " A rx,ry rotation large sweep x,y": an elliptic arc from the path's current point to `end`. The radii are

@@ -72,7 +72,7 @@ class Help(unittest.TestCase):
             page = file.read().partition(".SH EXIT STATUS")[0].replace("\\-", "-")
         self.assertEqual(re.findall(r"(?m)^\.BI ([a-z]+) ", page), COMMANDS)
         told = set.union(options_of(help_of()), *OPTIONS.values())
-        self.assertEqual(set(re.findall(r"--[a-z]+(?:-[a-z]+)*", page)), told)
+        self.assertEqual(set(re.findall(r"--[a-z]+(?:-[a-z0-9]+)*", page)), told)
 
     def test_shells_complete_commands(self):
         for shell, completions in SHELLS.items():
