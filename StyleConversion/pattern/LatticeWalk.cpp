@@ -1,11 +1,13 @@
 // A box becomes a square by scaling; in a reduced basis few combinations reach into it that do not lie in it.
 #include "StyleConversion/pattern/LatticeWalk.h"
 
+#include "StyleConversion/encoding/IntegerConversion.h"
 #include "StyleConversion/pattern/PatternLimits.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 
 namespace pattern {
@@ -92,6 +94,12 @@ struct Interval {
     }
 };
 
+// The whole numbers from 1 up to that one, but for more than anybody looks at; -1 where it is below 0 or no
+// number.
+std::int32_t CountUpTo(double most) {
+    return most >= 0.0 ? encoding::ToInt32(std::min(most, 2.0 * kMostSides)) : -1;
+}
+
 } // namespace
 
 LatticeBasis ReducedBasis(const FamilyLattice& lattice, double unitX, double unitY) {
@@ -115,13 +123,14 @@ std::vector<LatticeStep> StepsAlongX(const FamilyLattice& lattice, double from, 
     if (!(apart > 0.0)) {
         return steps;
     }
-    const double lines = std::min(std::floor(std::sqrt(2.0) / apart), static_cast<double>(kMostSides));
-    for (double q = -lines; q <= lines; ++q) {
+    const std::int32_t lines = CountUpTo(std::sqrt(2.0) / apart);
+    for (std::int32_t q = -lines; q <= lines; ++q) {
         Interval interval;
         interval.Cut(q * second.vector.x, first.vector.x);
         interval.Cut(q * second.vector.y, first.vector.y);
-        for (double p = interval.low; p <= interval.high && steps.size() < 2 * std::size_t{kMostSides}; ++p) {
-            const LatticePoint point = Combined(first.point, p, second.point, q);
+        const std::int32_t points = CountUpTo(interval.high - interval.low);
+        for (std::int32_t i = 0; i <= points && steps.size() < 2 * std::size_t{kMostSides}; ++i) {
+            const LatticePoint point = Combined(first.point, interval.low + i, second.point, q);
             const Vector vector = lattice.At(point);
             if (vector.x > from && vector.x <= to && !IsLarge(point)) {
                 steps.push_back({point, vector});

@@ -69,13 +69,15 @@ const FamilyLattice& Coarsest(const Lattices& lattices) {
 // The shortest vector along the x axis that lies in all lattices.
 std::optional<double> FindSide(const Lattices& lattices, const TileBounds& bounds) {
     constexpr double kGrowth = 8.0;
+    constexpr int kMostRounds = 64; // a cell may be so narrow that its area is 0
     constexpr double kNoMiss = 1e-7;
     const FamilyLattice& coarsest = Coarsest(lattices);
     const double height =
         std::max(coarsest.AlongFor(bounds.share), coarsest.AcrossFor(bounds.share)) * std::numbers::sqrt2;
     const double longest = bounds.mostCells * std::max(coarsest.Cycle(), std::fabs(coarsest.Spacing()));
     double from = 0.0;
-    for (double to = 2.0 * std::sqrt(coarsest.CellArea()); from < longest; to *= kGrowth) {
+    double to = 2.0 * std::sqrt(coarsest.CellArea());
+    for (int round = 0; round < kMostRounds && from < longest; ++round) {
         to = std::min(to, longest);
         for (const LatticeStep& step : StepsAlongX(coarsest, from, to, height)) {
             const double share = WorstShare(lattices, step.vector.x, 2.0 * bounds.share);
@@ -90,6 +92,7 @@ std::optional<double> FindSide(const Lattices& lattices, const TileBounds& bound
             }
         }
         from = to;
+        to *= kGrowth;
     }
     return std::nullopt;
 }
