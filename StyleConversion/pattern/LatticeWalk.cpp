@@ -123,13 +123,16 @@ std::vector<LatticeStep> StepsAlongX(const FamilyLattice& lattice, double from, 
     if (!(apart > 0.0)) {
         return steps;
     }
+    // Many more than lie in the square, unless numbers differ so much that the basis cannot be reduced.
+    constexpr std::int32_t kMostTried = 8 * kMostSides;
+    std::int32_t tried = 0;
     const std::int32_t lines = CountUpTo(std::sqrt(2.0) / apart);
     for (std::int32_t q = -lines; q <= lines; ++q) {
         Interval interval;
         interval.Cut(q * second.vector.x, first.vector.x);
         interval.Cut(q * second.vector.y, first.vector.y);
         const std::int32_t points = CountUpTo(interval.high - interval.low);
-        for (std::int32_t i = 0; i <= points && steps.size() < 2 * std::size_t{kMostSides}; ++i) {
+        for (std::int32_t i = 0; i <= points && tried < kMostTried; ++i, ++tried) {
             const LatticePoint point = Combined(first.point, interval.low + i, second.point, q);
             const Vector vector = lattice.At(point);
             if (vector.x > from && vector.x <= to && !IsLarge(point)) {
