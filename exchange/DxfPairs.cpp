@@ -117,7 +117,7 @@ std::string_view DxfPair::Word() const {
 std::optional<double> DxfPair::Number() const {
     const Kind kind = isBinary ? KindOf(code) : Kind::kText;
     if (kind == Kind::kDouble) {
-        const double number = std::bit_cast<double>(Assemble(value));
+        const auto number = std::bit_cast<double>(Assemble(value));
         return std::isfinite(number) ? std::optional(number) : std::nullopt;
     }
     if (SizeOf(kind) > 0) {
