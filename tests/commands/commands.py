@@ -51,7 +51,7 @@ OTHERS = [
      [("ctest --preset", "ctest -N --preset")]),
     (r"cmake --build --preset release --target \w+", "checkout", []),
     (r"build/release/bin/make_example_shapes \S+\.jhf examples/shapes", "checkout",
-     [(" examples/shapes", " build/examples"), ("build/release", "mkdir -p build/examples && build/release")]),
+     [(".jhf examples/shapes", ".jhf build/examples"), ("build/release", "mkdir -p build/examples && build/release")]),
 ]
 
 
