@@ -42,7 +42,7 @@ OTHERS = [
     (r"cmake -S \. -B build -DSTYLECONVERSION_HOST_FILE=/path/to/our-libraries\.cmake .*", "clone",
      [("/path/to/our-libraries.cmake", "tests/host/foreign/Foreign.cmake"),
       ("/path/to/OurNames.h", "$PWD/tests/host/foreign/ForeignNames.h"), ("=Our", "=Foreign"),
-      ("-B build", "-B build/foreign")]),
+      ("-B build", "-B build/foreign -DCMAKE_UNITY_BUILD=ON")]),
     (r"cmake --build build && cmake --install build --prefix /where/to", "clone",
      [(" build", " build/foreign"), ("/where/to", "build/foreign/prefix")]),
     (r"cpack --config build/library/CPackConfig\.cmake", "clone", []),
