@@ -1,12 +1,16 @@
-// A drawing document to symbols.
+// A drawing document to symbols: by the converter of hosts, and by the tool's whole job.
+#include "conversions/Blocks.h"
 #include "documents/DrawingReader.h"
 #include "drawing/database/HostServices.h"
 #include "fuzz/Documents.h"
 #include "fuzz/Fuzzing.h"
 #include "fuzz/Inputs.h"
+#include "fuzz/Jobs.h"
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
+#include <iterator>
 #include <nlohmann/json.hpp>
 #include <string>
 
@@ -16,6 +20,10 @@ using fuzzing::Require;
 using Json = nlohmann::json;
 
 // Only shape files that load are found: a host is to give out no others.
+bool IsFound(const std::wstring& shapeFile) {
+    return shapeFile == L"marks.shx" || shapeFile == L"single-stroke.shx";
+}
+
 class Services : public drawing::HostServices {
 public:
     Services() : HostServices({ShapesFolder()}) {}
@@ -23,15 +31,27 @@ public:
     Oxsys::ErrorStatus findFile(wchar_t* path, int pathLength, const wchar_t* fileName,
                                 OxDbDatabase* database, FindFileHint hint) override {
         const std::wstring name = fileName == nullptr ? L"" : fileName;
-        const bool known = name == L"marks.shx" || name == L"single-stroke.shx";
-        return known ? HostServices::findFile(path, pathLength, fileName, database, hint)
-                     : Oxsys::eFileNotFound;
+        return IsFound(name) ? HostServices::findFile(path, pathLength, fileName, database, hint)
+                             : Oxsys::eFileNotFound;
     }
 
 private:
     static std::wstring ShapesFolder() {
         const std::string folder = EXAMPLE_SHAPES_FOLDER;
         return {folder.begin(), folder.end()};
+    }
+};
+
+// The same files for a job.
+class Front : public conversions::Front {
+public:
+    conversions::FoundFile FindShapeFile(const std::wstring& name) override {
+        if (!IsFound(name)) {
+            return {};
+        }
+        const std::string file = EXAMPLE_SHAPES_FOLDER "/" + std::string(name.begin(), name.end());
+        std::ifstream stream(file, std::ios::binary);
+        return {true, file, "", {std::istreambuf_iterator<char>(stream), {}}};
     }
 };
 
@@ -109,5 +129,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string document = fuzzing::TextOf(symbols);
     fuzzing::RequireDocument(document, symbols.size());
     Require(fuzzing::TextOf(fuzzing::ConvertBlocks(*database)) == document, "the same document twice");
+    if (database->HatchesTooDense() == 0) {
+        Front front;
+        const std::string fromJob =
+            fuzzing::DocumentOf(conversions::ConvertBlocks(fuzzing::InputOf(text), {}, front));
+        Require(fromJob == (symbols.empty() ? "" : document), "the same document from the whole job");
+    }
     return 0;
 }

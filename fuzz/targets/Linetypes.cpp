@@ -1,17 +1,32 @@
-// A linetype file with its shape file to symbols.
+// A linetype file with its shape file to symbols: by the converter of hosts, and by the tool's whole job.
 //
 // Input: the linetype file and, from the last "Vorlanx-86 " on, the shape file that every name finds.
+#include "conversions/Linetypes.h"
 #include "StyleConversion/linetype/LinParser.h"
 #include "StyleConversion/linetype/LineConverter.h"
 #include "fuzz/Documents.h"
 #include "fuzz/Fuzzing.h"
 #include "fuzz/Inputs.h"
+#include "fuzz/Jobs.h"
 #include "fuzz/LinetypeServices.h"
 #include "fuzz/ShapeWork.h"
 
 #include <algorithm>
 
 using fuzzing::Require;
+
+namespace {
+
+constexpr double kScale = 2.0;
+
+std::string DocumentOfJob(std::string_view text, std::string_view shapeFile) {
+    conversions::LinetypesOptions options;
+    options.scale = kScale;
+    fuzzing::OneShapeFile front(shapeFile);
+    return fuzzing::DocumentOf(conversions::ConvertLinetypes(fuzzing::InputOf(text), options, front));
+}
+
+} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static fuzzing::InputOnDisk input;
@@ -33,8 +48,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require((result == LineConverter::kSuccess) == parser.errorLog().errors().empty(),
             "an error with every failure");
 
-    auto* const converted = LineConverter::Convert(path.c_str(), &services, &services, 2.0);
-    auto* const again = LineConverter::Convert(path.c_str(), &services, &services, 2.0);
+    auto* const converted = LineConverter::Convert(path.c_str(), &services, &services, kScale);
+    auto* const again = LineConverter::Convert(path.c_str(), &services, &services, kScale);
     Require((converted != nullptr) == (again != nullptr), "the same result twice");
     Require(converted == nullptr || result == LineConverter::kSuccess,
             "no symbols from a file that is refused");
@@ -44,5 +59,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string document = fuzzing::TextOf(symbols);
     fuzzing::RequireDocument(document, symbols.size());
     Require(fuzzing::TextOf(fuzzing::Owned(again)) == document, "the same document twice");
+    // The text styles of the job are others.
+    const std::string fromJob = DocumentOfJob(text, shapeFile);
+    Require(fromJob.empty() || !parser.file().fontInfos.empty() || fromJob == document,
+            "the same document from the whole job");
     return 0;
 }
