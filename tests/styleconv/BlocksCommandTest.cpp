@@ -11,20 +11,10 @@ namespace {
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
+using support::ValuesOf;
 using test_support::ShapeFileBuilder;
 
 using Texts = std::vector<std::string>;
-
-// The values of all keys of this name, in document order.
-Texts ValuesOf(const std::string& document, const std::string& key) {
-    Texts values;
-    const std::string start = "\"" + key + "\": \"";
-    for (std::size_t at = document.find(start); at != std::string::npos; at = document.find(start, at)) {
-        at += start.size();
-        values.push_back(document.substr(at, document.find('"', at) - at));
-    }
-    return values;
-}
 
 // A drawing in millimetres with these blocks.
 std::string Drawing(const std::string& blocks, const std::string& tables = "") {

@@ -10,17 +10,7 @@ namespace {
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
-
-// The values of all keys of this name, in document order.
-std::vector<std::string> ValuesOf(const std::string& document, const std::string& key) {
-    std::vector<std::string> values;
-    const std::string start = "\"" + key + "\": \"";
-    for (std::size_t at = document.find(start); at != std::string::npos; at = document.find(start, at)) {
-        at += start.size();
-        values.push_back(document.substr(at, document.find('"', at) - at));
-    }
-    return values;
-}
+using support::ValuesOf;
 
 using Texts = std::vector<std::string>;
 

@@ -10,18 +10,9 @@ namespace {
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
+using support::ValuesOf;
 
 using Texts = std::vector<std::string>;
-
-Texts ValuesOf(const std::string& document, const std::string& key) {
-    Texts values;
-    const std::string start = "\"" + key + "\": \"";
-    for (std::size_t at = document.find(start); at != std::string::npos; at = document.find(start, at)) {
-        at += start.size();
-        values.push_back(document.substr(at, document.find('"', at) - at));
-    }
-    return values;
-}
 
 DxfWriter Line(double x0, double y0, double x1, double y1) {
     return DxfWriter().Text(0, "LINE").Text(8, "0").Integer(62, 1).Point(10, x0, y0).Point(11, x1, y1);

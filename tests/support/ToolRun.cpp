@@ -141,6 +141,16 @@ ToolResult Run(const std::vector<std::string>& arguments, const std::string& inp
 
 } // namespace
 
+std::vector<std::string> ValuesOf(const std::string& document, const std::string& key) {
+    std::vector<std::string> values;
+    const std::string start = "\"" + key + "\": \"";
+    for (std::size_t at = document.find(start); at != std::string::npos; at = document.find(start, at)) {
+        at += start.size();
+        values.push_back(document.substr(at, document.find('"', at) - at));
+    }
+    return values;
+}
+
 ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input) {
     return Run(arguments, input);
 }

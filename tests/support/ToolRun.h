@@ -20,6 +20,9 @@ inline std::string HelpBehindErrors(const std::string& file) {
            file + "\" shows all errors\n";
 }
 
+/// The texts of all keys of this name in a document, in its order.
+std::vector<std::string> ValuesOf(const std::string& document, const std::string& key);
+
 /// Runs styleconv with the arguments. `input` is its standard input.
 ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input = "");
 
