@@ -59,7 +59,7 @@ def findings(root):
             yield f"{PAGE}: {number} stands where R{order} should"
         if number not in places:
             yield f"{PAGE}: nothing in the code is marked {number}"
-        for label in ("- Example:", "- Seen:", "- Test:"):
+        for label in ("- Example:", "- Seen:", "- Faithful:", "- Test:"):
             if text.count(label) != 1:
                 yield f"{PAGE}: {number} needs one line \"{label}\""
         named = NAMED.findall(text.partition("- Test:")[2])

@@ -68,7 +68,7 @@ class Checks(unittest.TestCase):
         self.assertEqual(found, ["StyleConversion/shx/B.cpp:1", "drawing/C.cpp:1"])
 
     PAGE = "docs/required-behaviour.md"
-    ENTRY = "### {} It is so\n- Example: x\n- Seen: y\n- Test: `{}`\n\n"
+    ENTRY = "### {} It is so\n- Example: x\n- Seen: y\n- Faithful: z\n- Test: `{}`\n\n"
     TESTS = {"tests/ATest.cpp": "TEST(A, IsSo) {}\nTEST_F(B, IsSo) {}\n"}
 
     def required(self, page, code):
@@ -91,10 +91,16 @@ class Checks(unittest.TestCase):
         self.assertEqual([line.split(": ", 1)[1] for line in found],
                          ["R1: there is no test A.IsNot", "R2 names no test"])
 
-    def test_more_than_numbers_behind_the_mark_a_gap_and_an_entry_without_an_example_are_found(self):
-        page = self.ENTRY.format("R2", "A.IsSo").replace("- Example: x\n", "")
-        found = self.required(page, "// Required: R2\n// Required: R2, since it is so\n")
-        self.assertEqual(len(found), 3)
+    def test_more_than_numbers_behind_the_mark_and_a_gap_are_found(self):
+        found = self.required(self.ENTRY.format("R2", "A.IsSo"), "// Required: R2\n// Required: R2, since it is so\n")
+        self.assertEqual(len(found), 2)
+
+    def test_an_entry_that_lacks_a_line_is_found(self):
+        for line in ("- Example: x", "- Seen: y", "- Faithful: z"):
+            page = self.ENTRY.format("R1", "A.IsSo").replace(line + "\n", "")
+            label = line.partition(":")[0] + ":"
+            self.assertEqual(self.required(page, "// Required: R1\n"),
+                             [f'{self.PAGE}: R1 needs one line "{label}"'])
 
 
 if __name__ == "__main__":
