@@ -136,6 +136,7 @@ enum class Code : std::uint8_t {
     // Drawings: DXF files.
     kNoSection,
     kInvalidGroupCode,
+    kInvalidGroupValue,
     kTruncatedPair,
     kMissingEndMark,
     kMissingSectionEnd,

@@ -273,6 +273,8 @@ constexpr auto kRows = std::to_array<Row>({
      "expected the start of a section, found {0}", "", ""},
     {Code::kInvalidGroupCode, "invalid-group-code",
      "expected a group code, found {0}", "", ""},
+    {Code::kInvalidGroupValue, "invalid-group-value",
+     "expected a number in group {1} of {0}, found {2}", "", "read as if it were missing"},
     {Code::kTruncatedPair, "truncated-pair",
      "the file ends within a pair of group code and value", "", ""},
     {Code::kMissingEndMark, "missing-end-mark",

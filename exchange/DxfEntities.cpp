@@ -39,6 +39,12 @@ constexpr std::int32_t kHidden = 1; // group code 60
 constexpr std::int32_t kColorByBlock = 0;
 constexpr std::int32_t kColorByLayer = 256;
 constexpr std::int32_t kLastColorIndex = 255;
+constexpr std::int32_t kNoColor = 257;
+constexpr DxfRange kColors = {-kNoColor, kNoColor};
+constexpr DxfRange kCounts = {0};
+// Group codes 72 of a text, and 73 or 74.
+constexpr DxfRange kHorizontalModes = {0, 5};
+constexpr DxfRange kVerticalModes = {0, 3};
 constexpr std::int32_t kWhite = 7; // colour of a layer that has none
 
 const std::wstring kDefaultLayer = L"0";
@@ -86,11 +92,11 @@ std::vector<OxGePoint3d> Points(const DxfRecord& record, int code, std::size_t m
             if (points.size() == most) {
                 break;
             }
-            points.push_back({pair.Number().value_or(0.0), 0.0, 0.0});
+            points.push_back({record.NumberOf(pair, 0.0), 0.0, 0.0});
         } else if (pair.code == code + 10 && !points.empty()) {
-            points.back().y = pair.Number().value_or(0.0);
+            points.back().y = record.NumberOf(pair, 0.0);
         } else if (pair.code == code + 20 && !points.empty()) {
-            points.back().z = pair.Number().value_or(0.0);
+            points.back().z = record.NumberOf(pair, 0.0);
         }
     }
     return points;
@@ -100,7 +106,7 @@ std::vector<double> Numbers(const DxfRecord& record, int code, std::size_t most)
     std::vector<double> numbers;
     for (const DxfPair& pair : record.pairs) {
         if (pair.code == code && numbers.size() < most) {
-            numbers.push_back(pair.Number().value_or(0.0));
+            numbers.push_back(record.NumberOf(pair, 0.0));
         }
     }
     return numbers;
@@ -108,8 +114,8 @@ std::vector<double> Numbers(const DxfRecord& record, int code, std::size_t most)
 
 std::size_t Count(const DxfRecord& record, int code) {
     const DxfPair* const pair = record.Find(code);
-    const std::optional<std::int32_t> count = pair != nullptr ? pair->Integer() : std::nullopt;
-    return count && *count >= 0 ? static_cast<std::size_t>(*count) : record.pairs.size();
+    return pair != nullptr ? static_cast<std::size_t>(record.IntegerOf(*pair, 0, kCounts))
+                           : record.pairs.size();
 }
 
 } // namespace
@@ -122,11 +128,12 @@ OxCmColor ByLayerColor() {
 
 OxCmColor ReadColor(const DxfRecord& record, const OxCmColor& fallback) {
     if (const DxfPair* const trueColor = record.Find(420)) {
-        if (const std::optional<std::int32_t> bits = trueColor->Integer()) {
-            return TrueColor(*bits);
+        constexpr std::int32_t kNone = -1;
+        if (const std::int32_t bits = record.IntegerOf(*trueColor, kNone, kCounts); bits != kNone) {
+            return TrueColor(bits);
         }
     }
-    const std::int32_t index = std::abs(record.Integer(62, kColorByLayer + 1)); // below 0: the layer is off
+    const std::int32_t index = std::abs(record.Integer(62, kNoColor, kColors)); // below 0: the layer is off
     if (index == kColorByBlock) {
         OxCmColor color;
         color.setByBlock();
@@ -187,7 +194,7 @@ const drawing::EntityProperties& DxfEntityReader::Properties(const DxfRecord& re
         } else if (pair.code == 370) {
             weight = &pair;
         } else if (pair.code == 60) {
-            hidden = pair.Integer().value_or(0) == kHidden;
+            hidden = record.IntegerOf(pair, 0) == kHidden;
         }
     }
     const std::wstring& layerName = layer.empty() ? kDefaultLayer : Name(layer, {});
@@ -200,7 +207,8 @@ const drawing::EntityProperties& DxfEntityReader::Properties(const DxfRecord& re
     properties_.hidden = hidden;
     properties_.color = ReadColor(record, ByLayerColor());
     properties_.lineWeight = static_cast<OxDb::LineWeight>(
-        weight != nullptr ? weight->Integer().value_or(OxDb::kLnWtByLayer) : OxDb::kLnWtByLayer);
+        weight != nullptr ? record.IntegerOf(*weight, OxDb::kLnWtByLayer, kLineWeights) : OxDb::kLnWtByLayer);
+    TellRepaired(record);
     return properties_;
 }
 
@@ -213,11 +221,24 @@ void DxfEntityReader::RequireLayer(const DxfRecord& record) {
     }
 }
 
+bool DxfEntityReader::IsLost(const DxfRecord& record) {
+    return record.invalid && notes_.LoseInvalid(PlaceOf(record), record);
+}
+
+void DxfEntityReader::TellRepaired(const DxfRecord& record) {
+    if (record.invalid) {
+        notes_.RepairInvalid(PlaceOf(record), record);
+    }
+}
+
 template <class T, class... Args>
-T& DxfEntityReader::Add(const DxfRecord& record, Args&&... args) {
+T* DxfEntityReader::Add(const DxfRecord& record, Args&&... args) {
+    if (IsLost(record)) {
+        return nullptr;
+    }
     const DxfPair* const handle = record.Find(5);
     block_->handles.push_back(handle != nullptr ? handle->Handle() : 0);
-    return block_->record->Add<T>(Properties(record), std::forward<Args>(args)...);
+    return &block_->record->Add<T>(Properties(record), std::forward<Args>(args)...);
 }
 
 void DxfEntityReader::Take(const DxfRecord& record) {
@@ -258,7 +279,8 @@ bool DxfEntityReader::TakeCurve(const DxfRecord& record) {
     } else if (type == "LWPOLYLINE") {
         AddLightPolyline(record);
     } else if (type == "POLYLINE" && (record.Integer(70, 0) & kNotPlane) == 0) {
-        polyline_ = OpenPolyline{record, {}, IsMirrored(record)};
+        const bool isMirrored = IsMirrored(record);
+        polyline_ = OpenPolyline{record, {}, isMirrored, false};
     } else if (type == "SPLINE" || type == "HELIX") {
         AddSpline(record);
     } else if (type == "HATCH") {
@@ -322,12 +344,12 @@ void DxfEntityReader::AddLightPolyline(const DxfRecord& record) {
     std::vector<geometry::BulgeVertex> vertices;
     for (const DxfPair& pair : record.pairs) {
         if (pair.code == 10) {
-            const double x = pair.Number().value_or(0.0);
+            const double x = record.NumberOf(pair, 0.0);
             vertices.push_back({{isMirrored ? -x : x, 0.0}, 0.0});
         } else if (pair.code == 20 && !vertices.empty()) {
-            vertices.back().point.y = pair.Number().value_or(0.0);
+            vertices.back().point.y = record.NumberOf(pair, 0.0);
         } else if (pair.code == 42 && !vertices.empty()) {
-            const double bulge = pair.Number().value_or(0.0);
+            const double bulge = record.NumberOf(pair, 0.0);
             vertices.back().bulge = isMirrored ? -bulge : bulge;
         }
     }
@@ -342,12 +364,16 @@ void DxfEntityReader::TakeVertex(const DxfRecord& record) {
     const double bulge = record.Number(42, 0.0);
     polyline_->vertices.push_back(
         {InPlane(Point(record, 10, polyline_->isMirrored)), polyline_->isMirrored ? -bulge : bulge});
+    polyline_->isDamaged = IsLost(record) || polyline_->isDamaged;
 }
 
 void DxfEntityReader::FinishPolyline() {
     if (polyline_) {
         const OpenPolyline polyline = std::move(*polyline_);
         polyline_.reset();
+        if (polyline.isDamaged) {
+            return;
+        }
         const std::int32_t flags = polyline.record.Integer(70, 0);
         Add<drawing::Polyline>(polyline.record, polyline.vertices, (flags & kClosed) != 0,
                                (flags & kRunsOn) != 0);
@@ -373,7 +399,9 @@ void DxfEntityReader::AddSpline(const DxfRecord& record) {
     drawing::FitData fit;
     fit.points = Points(record, 11, Count(record, 74));
     if (fit.points.empty()) {
-        notes_.Skip(PlaceOf(record), Code::kEntityWithoutPoints, {TypeOf(record)});
+        if (!IsLost(record)) {
+            notes_.Skip(PlaceOf(record), Code::kEntityWithoutPoints, {TypeOf(record)});
+        }
         return;
     }
     fit.degree = record.Integer(71, 3);
@@ -428,26 +456,32 @@ void DxfEntityReader::AddInsert(const DxfRecord& record) {
             *scale = 1.0;
         }
     }
-    insert_ = &Add<drawing::BlockReference>(record, Name(name, {}), place);
+    insert_ = Add<drawing::BlockReference>(record, Name(name, {}), place);
 }
 
 void DxfEntityReader::AddAttribute(const DxfRecord& record) {
+    drawing::TextData data = ReadText(record, 74);
+    const bool isInvisible = (record.Integer(70, 0) & kInvisibleAttribute) != 0;
+    if (IsLost(record)) {
+        return;
+    }
     drawing::EntityProperties properties = Properties(record);
-    properties.hidden = properties.hidden || (record.Integer(70, 0) & kInvisibleAttribute) != 0;
-    insert_->AddAttribute<drawing::Text>(properties, ReadText(record, 74));
+    properties.hidden = properties.hidden || isInvisible;
+    insert_->AddAttribute<drawing::Text>(properties, std::move(data));
 }
 
 drawing::TextData DxfEntityReader::ReadText(const DxfRecord& record, int verticalCode) {
     const bool isMirrored = IsMirrored(record);
     const DxfPair* const characters = record.Find(1);
     drawing::TextData data;
+    data.horizontalMode = static_cast<OxDb::TextHorzMode>(record.Integer(72, 0, kHorizontalModes));
+    data.verticalMode = static_cast<OxDb::TextVertMode>(record.Integer(verticalCode, 0, kVerticalModes));
+    TellRepaired(record);
     data.position = Point(record, 10, isMirrored);
     data.height = record.Number(40, 0.0);
     data.rotation = Rotation(record, isMirrored);
     data.text = characters != nullptr ? texts_.Decode(characters->value) : std::wstring();
     data.style = Name(record.Word(7, "STANDARD"), L"STANDARD");
-    data.horizontalMode = static_cast<OxDb::TextHorzMode>(record.Integer(72, 0));
-    data.verticalMode = static_cast<OxDb::TextVertMode>(record.Integer(verticalCode, 0));
     if (record.Find(11) != nullptr && (data.horizontalMode != 0 || data.verticalMode != 0)) {
         data.alignmentPoint = Point(record, 11, isMirrored);
     }
@@ -466,18 +500,20 @@ void DxfEntityReader::AddText(const DxfRecord& record, bool isDefinition) {
 }
 
 void DxfEntityReader::AddParagraphText(const DxfRecord& record) {
+    drawing::ParagraphTextData data;
+    data.attachment = record.Integer(71, kTopLeft, {kTopLeft, kBottomRight});
+    TellRepaired(record);
     std::string contents;
     double rotation = 0.0;
     for (const DxfPair& pair : record.pairs) {
         if (pair.code == 3 || pair.code == 1) { // long texts come in pieces, the last one as 1
             contents += pair.value;
         } else if (pair.code == 50) { // of an angle and a direction the last one counts
-            rotation = Radians(pair.Number().value_or(0.0));
+            rotation = Radians(record.NumberOf(pair, 0.0));
         } else if (pair.code == 11) {
-            rotation = std::atan2(record.Number(21, 0.0), pair.Number().value_or(1.0));
+            rotation = std::atan2(record.Number(21, 0.0), record.NumberOf(pair, 1.0));
         }
     }
-    drawing::ParagraphTextData data;
     data.location = Point(record, 10);
     data.textHeight = record.Number(40, 0.0);
     data.rotation = rotation;
@@ -485,7 +521,6 @@ void DxfEntityReader::AddParagraphText(const DxfRecord& record) {
     data.style = Name(record.Word(7, "STANDARD"), L"STANDARD");
     data.actualWidth = record.Number(42, 0.0);
     data.actualHeight = record.Number(43, 0.0);
-    data.attachment = std::clamp(record.Integer(71, 1), kTopLeft, kBottomRight);
     Add<drawing::ParagraphText>(record, std::move(data));
 }
 

@@ -43,9 +43,13 @@ public:
     const std::map<std::string, std::size_t>& Others() const { return others_; }
 
 private:
+    // Null for one that is left out, since a number that it takes is none.
     template <class T, class... Args>
-    T& Add(const DxfRecord& record, Args&&... args);
+    T* Add(const DxfRecord& record, Args&&... args);
     DxfPlace PlaceOf(const DxfRecord& record) const;
+    // Whether a number of what must be right is none, and else that one of the rest is; both are told.
+    bool IsLost(const DxfRecord& record);
+    void TellRepaired(const DxfRecord& record);
     bool IsMirrored(const DxfRecord& record);
     const drawing::EntityProperties& Properties(const DxfRecord& record);
     void RequireLayer(const DxfRecord& record);
@@ -73,6 +77,7 @@ private:
         DxfRecord record;
         std::vector<geometry::BulgeVertex> vertices;
         bool isMirrored = false;
+        bool isDamaged = false; // has been told of
     };
 
     drawing::Database& database_;
@@ -86,6 +91,9 @@ private:
     std::unordered_map<std::string_view, std::wstring> names_; // by their bytes in the file
     std::map<std::string, std::size_t> others_;
 };
+
+/// Group code 370, in hundredths of a millimetre; below 0 by layer, by block and default.
+inline constexpr DxfRange kLineWeights = {OxDb::kLnWtByLwDefault, 211};
 
 /// The colour of group codes 62 and 420; `fallback` where there is none.
 OxCmColor ReadColor(const DxfRecord& record, const OxCmColor& fallback);

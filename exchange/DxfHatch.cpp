@@ -55,11 +55,7 @@ private:
         ++at_;
         return number.has_value();
     }
-    void Optional(int code, double& value) {
-        if (Is(code)) {
-            Number(code, value);
-        }
-    }
+    bool Optional(int code, double& value) { return !Is(code) || Number(code, value); }
     bool Integer(int code, std::int32_t& value) {
         if (!Is(code)) {
             return false;
@@ -114,10 +110,9 @@ private:
         polyline.hasBulges = hasBulges != 0;
         for (std::int32_t index = 0; index < count; ++index) {
             drawing::BulgeVertex vertex;
-            if (!Point(10, vertex.point)) {
+            if (!Point(10, vertex.point) || !Optional(42, vertex.bulge)) {
                 return false;
             }
-            Optional(42, vertex.bulge);
             vertex.bulge = isMirrored_ ? -vertex.bulge : vertex.bulge;
             polyline.vertices.push_back(vertex);
         }
@@ -295,13 +290,17 @@ private:
     bool isMirrored_;
 };
 
+bool IsOfFamily(int code) {
+    return (code >= 43 && code <= 46) || code == 49 || code == 53;
+}
+
 // The families stand behind code 78, each from its angle to its dashes.
 std::vector<drawing::HatchFamily> ReadFamilies(const DxfRecord& record, bool isMirrored) {
     std::vector<drawing::HatchFamily> families;
     bool hasBegun = false;
     for (const DxfPair& pair : record.pairs) {
         hasBegun = hasBegun || pair.code == 78;
-        const double number = hasBegun ? pair.Number().value_or(0.0) : 0.0;
+        const double number = hasBegun && IsOfFamily(pair.code) ? record.NumberOf(pair, 0.0) : 0.0;
         if (hasBegun && pair.code == 53) {
             families.push_back({Radians(number), {}, {}, {}});
         }

@@ -25,14 +25,38 @@ diagnostics::Place DxfNotes::PlaceOf(const DxfPlace& place) const {
 void DxfNotes::Add(const DxfPlace& place, diagnostics::Severity severity, Code code,
                    std::vector<std::string> subjects, diagnostics::Outcome outcome) {
     // A file without a table of layers lacks all of them for one cause.
-    const std::vector<std::string> cause =
-        code == Code::kMissingLayer ? std::vector<std::string>() : subjects;
-    const auto [known, isNew] = kinds_.try_emplace(std::pair(code, cause), all_.size());
+    // Values are told of by what they stand in.
+    std::vector<std::string> cause = subjects;
+    cause.resize(code == Code::kMissingLayer ? 0 : code == Code::kInvalidGroupValue ? 1 : subjects.size());
+    const auto [known, isNew] = kinds_.try_emplace(Kind(code, outcome, std::move(cause)), all_.size());
     if (isNew) {
         all_.push_back({severity, code, PlaceOf(place), std::move(subjects), outcome, 1});
     } else {
         ++all_[known->second].count;
     }
+}
+
+bool DxfNotes::AddInvalid(const DxfPlace& place, const DxfRecord& record, diagnostics::Severity severity,
+                          diagnostics::Outcome outcome) {
+    if (!record.invalid) {
+        return false;
+    }
+    const DxfPair pair = *record.invalid;
+    record.invalid.reset();
+    // Binary values are no text.
+    Add({pair.place, place.block}, severity, Code::kInvalidGroupValue,
+        {diagnostics::ShownText(record.type), std::to_string(pair.code),
+         pair.isBinary ? "another value" : ShownValue(pair.value)},
+        outcome);
+    return true;
+}
+
+bool DxfNotes::LoseInvalid(const DxfPlace& place, const DxfRecord& record) {
+    return AddInvalid(place, record, diagnostics::Severity::kError, diagnostics::Outcome::kSkipped);
+}
+
+void DxfNotes::RepairInvalid(const DxfPlace& place, const DxfRecord& record) {
+    AddInvalid(place, record, diagnostics::Severity::kWarning, diagnostics::Outcome::kRepaired);
 }
 
 } // namespace exchange

@@ -2,11 +2,12 @@
 #pragma once
 
 #include "diagnostics/Diagnostic.h"
+#include "exchange/DxfRecords.h"
 
 #include <cstddef>
 #include <map>
 #include <string>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 namespace exchange {
@@ -38,6 +39,11 @@ public:
     void Add(const DxfPlace& place, diagnostics::Severity severity, diagnostics::Code code,
              std::vector<std::string> subjects, diagnostics::Outcome outcome);
 
+    /// A value of the record that was asked for as what it is not, if there is one: what it belongs to is
+    /// left out, or has another value. The record then knows of none. Returns whether there was one.
+    bool LoseInvalid(const DxfPlace& place, const DxfRecord& record);
+    void RepairInvalid(const DxfPlace& place, const DxfRecord& record);
+
     /// In the order of the file.
     const diagnostics::Diagnostics& All() const { return all_; }
 
@@ -45,8 +51,12 @@ public:
     diagnostics::Place PlaceOf(const DxfPlace& place) const;
 
 private:
+    bool AddInvalid(const DxfPlace& place, const DxfRecord& record, diagnostics::Severity severity,
+                    diagnostics::Outcome outcome);
+
     diagnostics::Diagnostics all_;
-    std::map<std::pair<diagnostics::Code, std::vector<std::string>>, std::size_t> kinds_;
+    using Kind = std::tuple<diagnostics::Code, diagnostics::Outcome, std::vector<std::string>>;
+    std::map<Kind, std::size_t> kinds_;
     bool placesAreBytes_ = false;
 };
 

@@ -45,7 +45,7 @@ Header ReadHeader(const DxfRecord& section) {
         if (pair.code == 9) {
             variable = pair.Word();
         } else if (variable == "$INSUNITS" && pair.code == 70) {
-            header.units = static_cast<OxDb::UnitsValue>(std::max(0, pair.Integer().value_or(0)));
+            header.units = static_cast<OxDb::UnitsValue>(section.IntegerOf(pair, 0, {0}));
         } else if (pair.code == 3 && (pair.Word().starts_with("ANSI_") || pair.Word().starts_with("ansi_") ||
                                       pair.Word().starts_with("DOS") || pair.Word().starts_with("dos"))) {
             header.codePage = pair.Word(); // whatever the variable is called
@@ -182,6 +182,7 @@ void Reader::BeginSection(const DxfRecord& record) {
     }
     const std::string_view name = record.Word(2);
     Open(name == "HEADER" ? ReadHeader(record) : Header{database_->insunits(), {}});
+    notes_.RepairInvalid({record.place, {}}, record);
     current_ = nullptr;
     section_ = name == "TABLES"     ? Section::kTables
                : name == "BLOCKS"   ? Section::kBlocks
@@ -205,6 +206,7 @@ void Reader::BeginBlock(const DxfRecord& record) {
     if (properties != tables_->Blocks().end()) {
         data.units = properties->second.units;
     }
+    notes_.RepairInvalid({record.place, {}}, record);
     drawing::BlockRecord* const added = name.empty() ? nullptr : database_->AddBlock(wide, data);
     current_ = nullptr;
     if (added == nullptr) {

@@ -11,15 +11,22 @@ constexpr int kGroup = 102; // "{NAME" begins a group of another program, "}" en
 constexpr int kComment = 999;
 constexpr std::size_t kShownBytes = 40;
 
-std::string Shown(std::string_view bytes) {
+// The first one stays.
+void Keep(std::optional<DxfPair>& kept, const DxfPair& pair) {
+    if (!kept) {
+        kept = pair;
+    }
+}
+
+} // namespace
+
+std::string ShownValue(std::string_view bytes) {
     std::string shown;
     for (const char c : bytes.substr(0, kShownBytes)) {
         shown += c >= ' ' && c <= '~' ? c : '?';
     }
     return '"' + shown + (bytes.size() > kShownBytes ? "..." : "") + '"';
 }
-
-} // namespace
 
 const DxfPair* DxfRecord::Find(int code) const {
     for (const DxfPair& pair : pairs) {
@@ -32,12 +39,29 @@ const DxfPair* DxfRecord::Find(int code) const {
 
 double DxfRecord::Number(int code, double fallback) const {
     const DxfPair* const pair = Find(code);
-    return pair != nullptr ? pair->Number().value_or(fallback) : fallback;
+    return pair != nullptr ? NumberOf(*pair, fallback) : fallback;
 }
 
-std::int32_t DxfRecord::Integer(int code, std::int32_t fallback) const {
+std::int32_t DxfRecord::Integer(int code, std::int32_t fallback, DxfRange range) const {
     const DxfPair* const pair = Find(code);
-    return pair != nullptr ? pair->Integer().value_or(fallback) : fallback;
+    return pair != nullptr ? IntegerOf(*pair, fallback, range) : fallback;
+}
+
+double DxfRecord::NumberOf(const DxfPair& pair, double fallback) const {
+    const std::optional<double> number = pair.Number();
+    if (!number) {
+        Keep(invalid, pair);
+    }
+    return number.value_or(fallback);
+}
+
+std::int32_t DxfRecord::IntegerOf(const DxfPair& pair, std::int32_t fallback, DxfRange range) const {
+    const std::optional<std::int32_t> number = pair.Integer();
+    if (!number || *number < range.first || *number > range.last) {
+        Keep(invalid, pair);
+        return fallback;
+    }
+    return *number;
 }
 
 std::string_view DxfRecord::Word(int code, std::string_view fallback) const {
@@ -60,7 +84,7 @@ DxfRecordCursor::DxfRecordCursor(std::string_view bytes) : cursor_(bytes) {
 bool DxfRecordCursor::Take(DxfPair& pair) {
     const DxfPairCursor::Outcome outcome = cursor_.Next(pair);
     if (outcome == DxfPairCursor::Outcome::kNoCode) {
-        fault_ = {pair.place, diagnostics::Code::kInvalidGroupCode, {Shown(pair.value)}};
+        fault_ = {pair.place, diagnostics::Code::kInvalidGroupCode, {ShownValue(pair.value)}};
         isBroken_ = true;
     } else if (outcome == DxfPairCursor::Outcome::kCut) {
         fault_ = {pair.place, diagnostics::Code::kTruncatedPair, {}};
@@ -76,6 +100,7 @@ bool DxfRecordCursor::Next(DxfRecord& record) {
     record.type = start_.Word();
     record.place = start_.place;
     record.pairs.clear();
+    record.invalid.reset();
     bool isInGroup = false;
     bool isEmbedded = false;
     DxfPair pair;

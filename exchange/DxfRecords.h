@@ -6,11 +6,19 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace exchange {
+
+/// The whole numbers that a value may have.
+struct DxfRange {
+    std::int32_t first = std::numeric_limits<std::int32_t>::min();
+    std::int32_t last = std::numeric_limits<std::int32_t>::max();
+};
 
 /// An entity, an entry of a table, or a mark such as the start of a section.
 struct DxfRecord {
@@ -21,10 +29,19 @@ struct DxfRecord {
 
     /// The first pair of that code; null when there is none.
     const DxfPair* Find(int code) const;
-    /// The value of the first pair of that code, or `fallback`, also where the value is not of that kind.
+    /// The value of the first pair of that code, or `fallback` where there is none.
     double Number(int code, double fallback) const;
-    std::int32_t Integer(int code, std::int32_t fallback) const;
+    std::int32_t Integer(int code, std::int32_t fallback, DxfRange range = {}) const;
     std::string_view Word(int code, std::string_view fallback = {}) const;
+
+    /// The value of a pair of this record. A value that is no number, or not within the range, is read as
+    /// `fallback`, and kept in `invalid`.
+    double NumberOf(const DxfPair& pair, double fallback) const;
+    std::int32_t IntegerOf(const DxfPair& pair, std::int32_t fallback, DxfRange range = {}) const;
+
+    /// The first pair whose value was asked for as what it is not, until that is told of. What a reading has
+    /// met is no part of the record.
+    mutable std::optional<DxfPair> invalid;
 };
 
 /// Why a file is refused.
@@ -33,6 +50,9 @@ struct DxfFault {
     diagnostics::Code code = diagnostics::Code::kNoSection;
     std::vector<std::string> subjects;
 };
+
+/// Bytes of the file as messages show them, in quotes.
+std::string ShownValue(std::string_view bytes);
 
 /// Hands out the records of a file from the first to the last.
 class DxfRecordCursor {

@@ -45,13 +45,15 @@ void DxfTableReader::Take(const DxfRecord& record) {
     } else if (record.type == "BLOCK_RECORD") {
         TakeBlockRecord(record);
     }
+    notes_.RepairInvalid({record.place, {}}, record);
 }
 
 void DxfTableReader::TakeLayer(const DxfRecord& record) {
     OxCmColor white;
     white.setColorIndex(kColorOfLayers);
     const std::wstring name = texts_.Decode(record.Word(2));
-    const auto weight = static_cast<OxDb::LineWeight>(record.Integer(370, OxDb::kLnWtByLwDefault));
+    const auto weight =
+        static_cast<OxDb::LineWeight>(record.Integer(370, OxDb::kLnWtByLwDefault, kLineWeights));
     drawing::LayerRecord* const layer = database_.AddLayer(name, ReadColor(record, white), weight);
     if (layer != nullptr) {
         const bool isFrozen = (record.Integer(70, 0) & kFrozen) != 0;
@@ -97,7 +99,7 @@ void DxfTableReader::TakeBlockRecord(const DxfRecord& record) {
     const DxfPair* const handle = record.Find(5);
     DxfBlockProperties properties;
     properties.handle = handle != nullptr ? handle->Handle() : 0;
-    properties.units = static_cast<OxDb::UnitsValue>(std::max(0, record.Integer(70, 0)));
+    properties.units = static_cast<OxDb::UnitsValue>(record.Integer(70, 0, {0}));
     blocks_.emplace(FoldedName(record.Word(2)), properties);
 }
 
@@ -119,7 +121,7 @@ void DxfTableReader::AddLinetype(const DxfRecord& record) {
     for (const DxfPair& pair : record.pairs) {
         if (pair.code == 49) {
             dashes.emplace_back();
-            dashes.back().length = pair.Number().value_or(0.0);
+            dashes.back().length = record.NumberOf(pair, 0.0);
             carriesText = false;
             continue;
         }
@@ -129,25 +131,25 @@ void DxfTableReader::AddLinetype(const DxfRecord& record) {
         drawing::Dash& dash = dashes.back();
         switch (pair.code) {
         case 74:
-            carriesText = (pair.Integer().value_or(0) & (kText | kShape)) == kText;
+            carriesText = (record.IntegerOf(pair, 0) & (kText | kShape)) == kText;
             break;
         case 75:
-            dash.shapeNumber = carriesText ? 0 : pair.Integer().value_or(0);
+            dash.shapeNumber = carriesText ? 0 : record.IntegerOf(pair, 0);
             break;
         case 340:
             dash.shapeStyle = StyleOf(pair);
             break;
         case 46:
-            dash.scale = pair.Number().value_or(1.0);
+            dash.scale = record.NumberOf(pair, 1.0);
             break;
         case 50:
-            dash.rotation = Radians(pair.Number().value_or(0.0));
+            dash.rotation = Radians(record.NumberOf(pair, 0.0));
             break;
         case 44:
-            dash.offset.x = pair.Number().value_or(0.0);
+            dash.offset.x = record.NumberOf(pair, 0.0);
             break;
         case 45:
-            dash.offset.y = pair.Number().value_or(0.0);
+            dash.offset.y = record.NumberOf(pair, 0.0);
             break;
         case 9:
             dash.text = texts_.Decode(pair.value);
@@ -158,7 +160,11 @@ void DxfTableReader::AddLinetype(const DxfRecord& record) {
     }
     const std::wstring name = texts_.Decode(record.Word(2));
     const DxfPair* const length = record.Find(40);
-    const std::optional<double> patternLength = length != nullptr ? length->Number() : std::nullopt;
+    const std::optional<double> patternLength =
+        length != nullptr ? std::optional(record.NumberOf(*length, 0.0)) : std::nullopt;
+    if (notes_.LoseInvalid({record.place, {}}, record)) {
+        return;
+    }
     if (database_.AddLinetype(name, std::move(dashes), patternLength) == nullptr) {
         notes_.Repair({record.place, {}}, diagnostics::Code::kDuplicateEntry,
                       {"linetype", diagnostics::ShownText(name)});

@@ -345,6 +345,71 @@ TEST(DxfReader, WhatDoesNoHarmIsReadAndNoted) {
                   ":17: warning: the extrusion direction of CIRCLE is zero; read as upright (block B)"}));
 }
 
+TEST(DxfReader, EntitiesWithNumbersThatAreNoneAreLeftOut) {
+    struct Row {
+        DxfWriter entity;
+        std::string found;
+    };
+    const auto line = [](const std::string& x) {
+        return DxfWriter().Text(0, "LINE").Text(8, "0").Text(10, x).Number(20, 1).Point(11, 3, 4);
+    };
+    DxfWriter old;
+    old.Text(0, "POLYLINE").Integer(70, 0).Text(0, "VERTEX").Point(10, 0, 0).Text(0, "VERTEX");
+    old.Text(10, "x").Number(20, 1).Text(0, "SEQEND");
+    const Row rows[] = {
+        {line("1,5"), ":21: error: expected a number in group 10 of LINE, found \"1,5\""},
+        {line(""), ":21: error: expected a number in group 10 of LINE, found \"\""},
+        {line("1e999"), ":21: error: expected a number in group 10 of LINE, found \"1e999\""},
+        {line("nan"), ":21: error: expected a number in group 10 of LINE, found \"nan\""},
+        {DxfWriter().Text(0, "LWPOLYLINE").Point(10, 0, 0).Text(42, "?").Point(10, 1, 1),
+         ":23: error: expected a number in group 42 of LWPOLYLINE, found \"?\""},
+        {DxfWriter().Text(0, "SPLINE").Integer(73, -1).Point(10, 0, 0),
+         ":19: error: expected a number in group 73 of SPLINE, found \"-1\""},
+        {old, ":29: error: expected a number in group 10 of VERTEX, found \"x\""},
+    };
+    for (const Row& row : rows) {
+        const std::string file = FileOf(row.entity).Ascii();
+        EXPECT_EQ(NotesOf(file), (std::vector<std::string>{row.found + "; skipped (block B)"}));
+        EXPECT_EQ(SymbolsOfDxf(file), SymbolsOfJson(""));
+    }
+    EXPECT_EQ(
+        NotesOf(FileOf(line("a").Append(line("b")).Append(line("2"))).Ascii()),
+        (std::vector<std::string>{":21: error: expected a number in group 10 of LINE, found \"a\"; skipped; "
+                                  "the same in 1 more place (block B)"}));
+}
+
+TEST(DxfReader, WhatIsLessThanAPlaceIsReadAsIfItWereMissing) {
+    const auto line = [] { return DxfWriter().Text(0, "LINE").Text(8, "0").Point(10, 0, 0).Point(11, 1, 0); };
+    const std::string json = SymbolsOfJson(R"({"type": "line", "start": [0, 0], "end": [1, 0]})");
+    const std::pair<int, std::string> rows[] = {
+        {62, "300"}, {62, "red"}, {370, "1.5"}, {370, "212"}, {60, "-"}};
+    for (const auto& [code, value] : rows) {
+        const std::string file = FileOf(line().Text(code, value)).Ascii();
+        EXPECT_EQ(NotesOf(file),
+                  (std::vector<std::string>{":29: warning: expected a number in group " +
+                                            std::to_string(code) + " of LINE, found \"" + value +
+                                            "\"; read as if it were missing (block B)"}));
+        EXPECT_EQ(SymbolsOfDxf(file), json);
+    }
+}
+
+TEST(DxfReader, TablesWithNumbersThatAreNoneAreToldOf) {
+    DxfWriter tables;
+    tables.Text(0, "TABLE").Text(2, "LAYER").Text(0, "LAYER").Text(2, "L").Text(62, "x").Text(0, "ENDTAB");
+    tables.Text(0, "TABLE").Text(2, "LTYPE").Text(0, "LTYPE").Text(2, "D").Text(49, "long").Text(0, "ENDTAB");
+    EXPECT_EQ(
+        NotesOf(Section("TABLES", tables).Append(FileOf(DxfWriter())).Ascii()),
+        (std::vector<std::string>{
+            ":13: warning: expected a number in group 62 of LAYER, found \"x\"; read as if it were missing",
+            ":25: error: expected a number in group 49 of LTYPE, found \"long\"; skipped"}));
+    DxfWriter header;
+    header.Text(9, "$INSUNITS").Integer(70, -4);
+    EXPECT_EQ(NotesOf(Section("HEADER", header).Append(FileOf(DxfWriter())).Ascii()),
+              (std::vector<std::string>{
+                  ":7: warning: expected a number in group 70 of SECTION, found \"-4\"; read as if it were "
+                  "missing"}));
+}
+
 TEST(DxfReader, AFileWithoutAUnitIsToldOf) {
     DxfWriter header;
     header.Text(9, "$INSUNITS").Integer(70, 0);
