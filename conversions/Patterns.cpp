@@ -30,6 +30,7 @@ public:
             if (options_.tolerant) {
                 found = ToleratedPatterns(input_, loaded_);
             }
+            TellMissingUnit(input_, loaded_, options_.unit, found);
             result_.isConverted = options_.names.empty() ? ConvertAll() : ConvertNamed();
             if (options_.tolerant) {
                 SortByLine(found);

@@ -173,16 +173,54 @@ LinResult ReadStyle(LinReading& reading, TextCursor& cursor, ComplexElement& ele
     return kSuccess;
 }
 
-// From behind the opening quote to the "]".
+// Whether the form is loose and a "\"" stands at the start of `text`.
+bool IsEscapedQuote(const LinReading& reading, std::string_view text) {
+    return reading.policy.looseForm && text.starts_with("\\\"");
+}
+
+// Whether what stands behind a text's closing quote begins here.
+bool IsBehindText(std::string_view text) {
+    const std::string_view start = PastBlanks(text);
+    return start.starts_with(',') || start.starts_with(']');
+}
+
+// Takes a text and its closing quote, which a loose form may escape as it may quotes in the text. False where
+// there is none.
+bool TakeText(LinReading& reading, TextCursor& cursor, bool opensEscaped, std::string& text) {
+    for (;;) {
+        const std::string_view rest = cursor.Rest();
+        const std::size_t quote = platform::FindInMultiByte(rest, '"');
+        if (quote == std::string_view::npos) {
+            return false;
+        }
+        text.append(rest.substr(0, quote));
+        cursor.Skip(quote + 1);
+        const bool isEscaped = quote > 0 && IsEscapedQuote(reading, rest.substr(quote - 1));
+        const bool isEnd = !isEscaped || IsBehindText(cursor.Rest());
+        if (isEscaped && (opensEscaped || !isEnd)) {
+            reading.Tolerate(LinErrorKind::kEscapedQuote, rest.substr(quote - 1));
+            text.pop_back();
+        }
+        if (isEnd) {
+            return true;
+        }
+        text += '"';
+    }
+}
+
+// From the opening quote to the "]".
 LinResult ReadText(LinReading& reading, TextCursor& cursor, ComplexElement& element) {
+    const bool opensEscaped = IsEscapedQuote(reading, cursor.Rest());
+    if (opensEscaped) {
+        reading.Tolerate(LinErrorKind::kEscapedQuote, cursor.Rest());
+        cursor.Skip();
+    }
+    cursor.Skip();
     const std::string_view rest = cursor.Rest();
-    const std::size_t quote = platform::FindInMultiByte(rest, '"');
-    if (quote == std::string_view::npos) {
+    if (!TakeText(reading, cursor, opensEscaped, element.text)) {
         return reading.SyntaxError(LinErrorKind::kTextNotClosed, rest);
     }
-    element.text = rest.substr(0, quote);
     NoteCharacterCodes(reading, element.text, rest);
-    cursor.Skip(quote + 1);
     reading.SkipBlanks(cursor);
     if (cursor.Peek() == ']') {
         // Required: R34
@@ -240,10 +278,7 @@ LinResult ReadComplexElement(LinReading& reading, TextCursor& cursor, LinElement
     element.complex = std::make_unique<ComplexElement>();
     cursor.Skip();
     reading.SkipBlanks(cursor);
-    const bool isText = cursor.Peek() == '"';
-    if (isText) {
-        cursor.Skip();
-    }
+    const bool isText = cursor.Peek() == '"' || IsEscapedQuote(reading, cursor.Rest());
     const LinResult result =
         isText ? ReadText(reading, cursor, *element.complex) : ReadShape(reading, cursor, *element.complex);
     if (result != kSuccess) {

@@ -65,6 +65,7 @@ enum class LinErrorKind : std::uint8_t {
     kBlank,
     kCommaBeforeBracket,
     kStyleLeftOut,
+    kEscapedQuote,
     kUprightRotation,
     kSemicolonInText,
     kCharacterCodeInText,

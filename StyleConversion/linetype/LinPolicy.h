@@ -14,8 +14,8 @@ struct LinPolicy {
     /// A line is one line, however long.
     bool linesOfAnyLength = false;
     /// Forms that people write and whose meaning is plain: blanks around marks, a lower-case alignment
-    /// letter, a text without a style, a comma before "]", "U=" for "R=", ";" and "\U+hhhh" in a text, lines
-    /// of another kind before a pattern, a byte-order mark.
+    /// letter, a text without a style, a comma before "]", "\\"" for a quote, "U=" for "R=", ";" and
+    /// "\U+hhhh" in a text, lines of another kind before a pattern, a byte-order mark.
     bool looseForm = false;
     /// A text style that nobody knows is replaced by STANDARD.
     bool unknownStylesAreStandard = false;

@@ -93,6 +93,8 @@ Finding FormFinding(const LinError& error) {
         return {Code::kUnexpectedComma, {}, true};
     case LinErrorKind::kStyleLeftOut:
         return {Code::kTextWithoutStyle, {ShownLine(error.lineText)}, true};
+    case LinErrorKind::kEscapedQuote:
+        return {Code::kEscapedQuote, {}, true};
     case LinErrorKind::kUprightRotation:
         return {Code::kUprightKey, {}, true};
     case LinErrorKind::kSemicolonInText:

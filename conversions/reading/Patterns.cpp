@@ -207,6 +207,13 @@ diagnostics::Diagnostics ToleratedPatterns(const Input& input, const LoadedPatte
     return found.Take();
 }
 
+void TellMissingUnit(const Input& input, const LoadedPatterns& loaded, pattern::Unit wanted,
+                     Diagnostics& diagnostics) {
+    if (wanted != pattern::Unit::kNone && loaded.reading.unit == pattern::Unit::kNone) {
+        diagnostics.push_back({Severity::kWarning, Code::kNoFileUnit, {input.name}, {}});
+    }
+}
+
 Diagnostics FaithfulLosses(const Input& input, const LoadedPatterns& loaded, const std::string& name,
                            const pattern::FaithfulTiles& tiles) {
     PatternDiagnostics found(input, loaded);

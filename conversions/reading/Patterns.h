@@ -26,6 +26,10 @@ diagnostics::Diagnostics CheckedPatterns(const Input& input, const LoadedPattern
 /// What a tolerant reading made of it, and which families it leaves out: warnings.
 diagnostics::Diagnostics ToleratedPatterns(const Input& input, const LoadedPatterns& loaded);
 
+/// Warns where lengths are to be scaled to a unit and the file does not say its own.
+void TellMissingUnit(const Input& input, const LoadedPatterns& loaded, pattern::Unit wanted,
+                     diagnostics::Diagnostics& diagnostics);
+
 /// Which families of a pattern a faithful symbol lacks, and how far its worst tile misses: warnings.
 diagnostics::Diagnostics FaithfulLosses(const Input& input, const LoadedPatterns& loaded,
                                         const std::string& name, const pattern::FaithfulTiles& tiles);

@@ -82,6 +82,10 @@ ExitStatus Blocks(const BlocksOptions& options) {
         SayLine("styleconv: --model-space cannot be used with --name: it converts no blocks");
         return kUsageFault;
     }
+    const std::optional<conversions::Form> form = FormOf(options);
+    if (!form) {
+        return kUsageFault;
+    }
     InputFile input(options.file);
     if (const auto problem = input.Open()) {
         return SayProblem(*problem);
@@ -96,7 +100,7 @@ ExitStatus Blocks(const BlocksOptions& options) {
     job.seenAs = {options.expand, options.fromBasePoint, options.visibleOnly || options.faithful};
     job.whiteAs = options.whiteAs;
     job.fidelity = FidelityOf(options.faithful);
-    return Finish(ConvertBlocks(input.ForJob(), job, *front), options.file, options.tolerant, options,
+    return Finish(ConvertBlocks(input.ForJob(), job, *front), options.file, options.tolerant, options, *form,
                   *front);
 }
 

@@ -16,6 +16,10 @@ struct GlyphsOptions : CommonOptions, conversions::GlyphsOptions {
 };
 
 ExitStatus Glyphs(const GlyphsOptions& options) {
+    const std::optional<conversions::Form> form = FormOf(options);
+    if (!form) {
+        return kUsageFault;
+    }
     InputFile input(options.file);
     if (const auto problem = input.Read()) {
         return SayProblem(*problem);
@@ -30,7 +34,7 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     }
     SayAll(glyphs.diagnostics);
     return WriteResult(options.output, [&](const conversions::TextSink& sink) {
-        return WriteGlyphs(glyphs, options, FormNamed(options.format), sink, *front);
+        return WriteGlyphs(glyphs, options, *form, sink, *front);
     });
 }
 

@@ -1,5 +1,7 @@
 #include "styleconv/commands/Job.h"
 
+#include "StyleConversion/platform/Characters.h"
+#include "StyleConversion/platform/Files.h"
 #include "diagnostics/ShownText.h"
 #include "styleconv/files/InputFile.h"
 #include "styleconv/files/OutputFile.h"
@@ -59,6 +61,16 @@ public:
 private:
     DrawingShapeSearch search_;
 };
+
+struct FormName {
+    std::string_view format;
+    conversions::Form form;
+};
+
+constexpr FormName kForms[] = {{"", conversions::Form::kJson},
+                               {"json", conversions::Form::kJson},
+                               {"svg", conversions::Form::kSvg},
+                               {"html", conversions::Form::kHtml}};
 
 // Whether it is of a part of the file, so that the rest may be worth having.
 bool IsLocal(const Diagnostic& diagnostic) {
@@ -148,21 +160,31 @@ ExitStatus WriteResult(const std::string& output,
 }
 
 ExitStatus Finish(const conversions::Conversion& conversion, const std::string& file, bool isTolerant,
-                  const CommonOptions& options, conversions::Front& front) {
+                  const CommonOptions& options, conversions::Form form, conversions::Front& front) {
     if (!conversion.isConverted) {
         return SayFailure(file, isTolerant, conversion.diagnostics);
     }
     SayAll(conversion.diagnostics);
     return WriteResult(options.output, [&](const conversions::TextSink& sink) {
-        return WriteSymbols(conversion.symbols, FormNamed(options.format), sink, front, conversion.fidelity);
+        return WriteSymbols(conversion.symbols, form, sink, front, conversion.fidelity);
     });
 }
 
-conversions::Form FormNamed(const std::string& format) {
-    if (format == "svg") {
-        return conversions::Form::kSvg;
+std::optional<conversions::Form> FormOf(const CommonOptions& options) {
+    const bool isToldByName = options.format.empty();
+    const std::string extension =
+        platform::PathToBytes(platform::SplitPath(platform::PathFromBytes(options.output)).extension);
+    std::string format = isToldByName && !extension.empty() ? extension.substr(1) : options.format;
+    std::transform(format.begin(), format.end(), format.begin(),
+                   [](char c) { return platform::AsciiLower(c); });
+    for (const FormName& name : kForms) {
+        if (format == name.format) {
+            return name.form;
+        }
     }
-    return format == "html" ? conversions::Form::kHtml : conversions::Form::kJson;
+    SayLine("styleconv: -o " + diagnostics::ShownText(options.output) +
+            ": the end of the name tells no format; use .json, .svg or .html, or --format");
+    return std::nullopt;
 }
 
 } // namespace styleconv

@@ -44,9 +44,10 @@ ExitStatus WriteResult(const std::string& output,
 
 /// Says what a conversion told and writes its symbols.
 ExitStatus Finish(const conversions::Conversion& conversion, const std::string& file, bool isTolerant,
-                  const CommonOptions& options, conversions::Front& front);
+                  const CommonOptions& options, conversions::Form form, conversions::Front& front);
 
-/// "json", "svg" or "html".
-conversions::Form FormNamed(const std::string& format);
+/// The form that was asked for, or else the one that the end of the output's name tells; documents where
+/// there is no end. None, with a message, where it is another.
+std::optional<conversions::Form> FormOf(const CommonOptions& options);
 
 } // namespace styleconv

@@ -24,6 +24,10 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
     if (!CheckStyleOptions(options)) {
         return kUsageFault;
     }
+    const std::optional<conversions::Form> form = FormOf(options);
+    if (!form) {
+        return kUsageFault;
+    }
     InputFile input(options.file);
     if (const auto problem = input.Read()) {
         return SayProblem(*problem);
@@ -47,7 +51,7 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
     const auto front =
         FrontForLinetypes({options.file, options.shapeFolders, options.font}, options.output.empty());
     return Finish(ConvertLinetypes(input.ForJob(options.codePage), job, *front), options.file,
-                  options.tolerant, options, *front);
+                  options.tolerant, options, *form, *front);
 }
 
 } // namespace

@@ -93,7 +93,7 @@ void AddOutputOption(Command& command, std::string& output) {
 void AddCommonOptions(Command& command, CommonOptions& options) {
     AddOutputOption(command, options.output);
     command.AddChoice("--format", options.format, {"json", "svg", "html"},
-                      "Form of the result: json, svg or html");
+                      "Form of the result: json, svg or html (default: by the end of -o, else json)");
 }
 
 void AddNameOption(Command& command, std::vector<std::string>& names, const std::string& description) {

@@ -42,7 +42,7 @@ bool CheckStyleOptions(const StyleOptions& options);
 /// Options that every command takes.
 struct CommonOptions {
     std::string output; // a path; standard output when empty
-    std::string format = "json";
+    std::string format; // where it is empty, the end of the output's name tells
 };
 
 /// Adds -o to a command.

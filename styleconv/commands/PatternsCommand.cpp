@@ -26,6 +26,10 @@ pattern::Unit UnitNamed(const std::string& units) {
 }
 
 ExitStatus Patterns(const PatternsOptions& options) {
+    const std::optional<conversions::Form> form = FormOf(options);
+    if (!form) {
+        return kUsageFault;
+    }
     InputFile input(options.file);
     if (const auto problem = input.Read()) {
         return SayProblem(*problem);
@@ -37,7 +41,7 @@ ExitStatus Patterns(const PatternsOptions& options) {
     const conversions::PatternsOptions job = {WideTexts(options.names), options.tolerant,
                                               UnitNamed(options.units), FidelityOf(options.faithful)};
     return Finish(ConvertPatterns(input.ForJob(options.codePage), job, *front), options.file,
-                  options.tolerant, options, *front);
+                  options.tolerant, options, *form, *front);
 }
 
 } // namespace

@@ -77,6 +77,13 @@ INSTANTIATE_TEST_SUITE_P(
                     LooseForm{"A,[\"A\",,S=2],1", "A,[\"A\",STANDARD,S=2],1", LinErrorKind::kStyleLeftOut},
                     LooseForm{"A,[\"A\",],1", "A,[\"A\",STANDARD],1", LinErrorKind::kStyleLeftOut}));
 
+INSTANTIATE_TEST_SUITE_P(
+    Quotes, TolerantForms,
+    testing::Values(LooseForm{R"(A,[\"GAS\",ST,S=2],1)", R"(A,["GAS",ST,S=2],1)",
+                              LinErrorKind::kEscapedQuote},
+                    LooseForm{R"(A,[\"GAS",ST],1)", R"(A,["GAS",ST],1)", LinErrorKind::kEscapedQuote},
+                    LooseForm{R"(A,[\"\",ST],1)", R"(A,["",ST],1)", LinErrorKind::kEscapedQuote}));
+
 INSTANTIATE_TEST_SUITE_P(Lines, TolerantForms,
                          testing::Values(LooseForm{"Pipes of the water works\nA,1,-1", "A,1,-1",
                                                    LinErrorKind::kLineSkipped}));
@@ -91,6 +98,23 @@ TEST_F(TolerantReading, SemicolonBetweenQuotesIsOfTheText) {
 TEST_F(TolerantReading, SemicolonBehindAQuoteThatNothingClosesIsAComment) {
     EXPECT_EQ(Elements("A,1,-1;it's 2\" wide"), "dash 1;gap 1;");
     EXPECT_TRUE(parser.errors().empty());
+}
+
+TEST_F(TolerantReading, EscapedQuoteInATextIsOfTheText) {
+    EXPECT_EQ(Elements(R"(A,["8\"",ST],1)"), R"(text 8" in Arial of 0 at nan 0 1 0 0;dash 1;)");
+    EXPECT_EQ(ErrorKinds(), Kinds{LinErrorKind::kEscapedQuote});
+    EXPECT_EQ(Elements(R"(A,["a\"b\"c",ST])"), R"(text a"b"c in Arial of 0 at nan 0 1 0 0;)");
+}
+
+TEST_F(TolerantReading, BackslashBeforeTheLastQuoteIsOfTheTextAsInAStrictReading) {
+    const std::string text = "*X\nA,[\"GAS\\\",ST],1\n";
+    EXPECT_EQ(Walk(text), StrictWalk(text));
+    EXPECT_TRUE(parser.errors().empty());
+}
+
+TEST_F(TolerantReading, EscapedTextThatNothingClosesIsAnError) {
+    EXPECT_EQ(Names("*WRONG\nA,[\\\"GAS\\\" x\n*AFTER\nA,2\n"), "AFTER;");
+    EXPECT_EQ(parser.errors().back().kind, LinErrorKind::kTextNotClosed);
 }
 
 TEST_F(TolerantReading, DoubleBracketBehindATextWithoutStyleIsStillOne) {

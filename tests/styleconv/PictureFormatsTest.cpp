@@ -4,7 +4,9 @@
 #include "tests/support/ToolRun.h"
 
 #include <cmath>
+#include <filesystem>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace {
 
@@ -132,6 +134,46 @@ TEST(PictureFormats, AreWrittenWholeOrNotAtAll) {
         EXPECT_EQ(folder.Read(format), WithFormat({"patterns", file}, format));
     }
     EXPECT_EQ(RunTool({"patterns", file, "--format", "png"}).status, 2);
+}
+
+TEST(PictureFormats, EndOfTheOutputsNameTellsTheFormat) {
+    const ScratchFolder folder;
+    for (const Kind& kind : Kinds(folder)) {
+        for (const auto& [name, format] :
+             std::vector<std::pair<std::string, std::string>>{{"a.svg", "svg"},
+                                                              {"a.HTML", "html"},
+                                                              {"a.json", "json"},
+                                                              {"a", "json"},
+                                                              {"a.b/c", "json"}}) {
+            std::vector<std::string> arguments = kind.arguments;
+            arguments.insert(arguments.end(), {"-o", folder / ("of " + name)});
+            std::filesystem::create_directories(std::filesystem::path(folder / ("of " + name)).parent_path());
+            EXPECT_EQ(RunTool(arguments).status, 0) << name;
+            EXPECT_EQ(folder.Read("of " + name), WithFormat(kind.arguments, format)) << name;
+        }
+    }
+}
+
+TEST(PictureFormats, FormatThatIsGivenWinsOverTheOutputsName) {
+    const ScratchFolder folder;
+    for (const Kind& kind : Kinds(folder)) {
+        WithFormat(kind.arguments, "svg", {"-o", folder / "a.html"});
+        EXPECT_EQ(folder.Read("a.html"), WithFormat(kind.arguments, "svg"));
+    }
+}
+
+TEST(PictureFormats, NameThatTellsNoFormatIsAFaultOfTheCommandLine) {
+    const ScratchFolder folder;
+    for (const Kind& kind : Kinds(folder)) {
+        std::vector<std::string> arguments = kind.arguments;
+        arguments.insert(arguments.end(), {"-o", folder / "a.png"});
+        const ToolResult result = RunTool(arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.errors, "styleconv: -o " + (folder / "a.png") +
+                                     ": the end of the name tells no format; use .json, .svg or .html, or "
+                                     "--format\n");
+        EXPECT_EQ(folder.Read("a.png"), "(none)");
+    }
 }
 
 // The pixels that the strokes of a picture "M0 0v-123" are high.

@@ -79,4 +79,15 @@ TEST_F(TolerantPatternsCommand, UnitsScaleAFileOfAnotherUnit) {
     EXPECT_EQ(Run(text, {"--units", "feet"}).status, 2);
 }
 
+TEST_F(TolerantPatternsCommand, UnitsSayThatAFileOfNoUnitIsNotScaled) {
+    const std::string said =
+        ": warning: the file does not say its unit; --units scales nothing: a line ;%UNITS=MM or "
+        ";%UNITS=INCH says it\n";
+    const ToolResult result = Run("*X\n0,0,0,0,1\n", {"--units", "mm"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(Said(result), said);
+    EXPECT_EQ(Said(Run("*X\n0,0,0,0,1\n", {"--units", "inch", "--tolerant"})), said);
+    EXPECT_EQ(Said(Run(";%UNITS=MM\n*X\n0,0,0,0,1\n", {"--units", "mm"})), "");
+}
+
 } // namespace
