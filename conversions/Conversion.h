@@ -3,6 +3,7 @@
 
 #include "StyleConversion/encoding/Fidelity.h"
 #include "TylModel/TylModel.h"
+#include "conversions/Captions.h"
 #include "conversions/reading/Front.h"
 #include "conversions/reading/Input.h"
 #include "diagnostics/Diagnostic.h"
@@ -21,6 +22,7 @@ struct Conversion {
     encoding::Fidelity fidelity = encoding::Fidelity::kStrict; // of the symbols
     Symbols owned;
     std::vector<TylModel::SymbolDefinition*> symbols; // as asked for; one may be there more than once
+    Captions captions;
     diagnostics::Diagnostics diagnostics;
 
     /// Every symbol once, in their order.

@@ -27,16 +27,65 @@ bool WriteAll(const SymbolList& symbols, Writer&& writer, Front& front) {
            writer.Finish();
 }
 
+// A document of no symbols, which those that a reader takes out of a gallery are put into.
+std::string EmptyDocument(encoding::Fidelity fidelity) {
+    std::string text;
+    documents::SymbolsWriter writer(
+        [&](std::string_view piece) {
+            text += piece;
+            return true;
+        },
+        fidelity);
+    writer.Finish();
+    return text;
+}
+
+// A gallery's writer with what is said of each symbol.
+class CaptionedGallery {
+public:
+    CaptionedGallery(const SymbolList& symbols, const Captions& captions, encoding::Fidelity fidelity,
+                     const TextSink& sink)
+        : captions_(captions), writer_(PageOf(symbols, captions, fidelity), sink) {
+        for (TylModel::SymbolDefinition* const symbol : symbols) {
+            writer_.Measure(*symbol);
+        }
+    }
+
+    bool Add(TylModel::SymbolDefinition& symbol) {
+        preview::GalleryFacts facts;
+        if (const auto found = captions_.descriptions.find(&symbol); found != captions_.descriptions.end()) {
+            facts.description = found->second;
+        }
+        facts.json = documents::SymbolText(symbol);
+        return writer_.Add(symbol, facts);
+    }
+
+    bool Finish() { return writer_.Finish(); }
+
+private:
+    static preview::GalleryPage PageOf(const SymbolList& symbols, const Captions& captions,
+                                       encoding::Fidelity fidelity) {
+        preview::GalleryPage page;
+        page.count = symbols.size();
+        page.title = captions.title.empty() ? page.title : captions.title;
+        page.document = EmptyDocument(fidelity);
+        return page;
+    }
+
+    const Captions& captions_;
+    preview::GalleryWriter writer_;
+};
+
 } // namespace
 
 bool WriteSymbols(const SymbolList& symbols, Form form, const TextSink& sink, Front& front,
-                  encoding::Fidelity fidelity) {
+                  encoding::Fidelity fidelity, const Captions& captions) {
     front.BeginStage("Writing", symbols.size());
     switch (form) {
     case Form::kJson:
         return WriteAll(symbols, documents::SymbolsWriter(sink, fidelity), front);
     case Form::kHtml:
-        return WriteAll(symbols, preview::GalleryWriter(symbols.size(), sink), front);
+        return WriteAll(symbols, CaptionedGallery(symbols, captions, fidelity, sink), front);
     case Form::kSvg:
         break;
     }

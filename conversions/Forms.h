@@ -3,6 +3,7 @@
 
 #include "StyleConversion/encoding/Fidelity.h"
 #include "TylModel/TylModel.h"
+#include "conversions/Captions.h"
 #include "conversions/reading/Front.h"
 
 #include <cstdint>
@@ -21,9 +22,10 @@ enum class Form : std::uint8_t {
 /// Takes the next piece of a result; false ends the writing.
 using TextSink = std::function<bool(std::string_view text)>;
 
-/// Writes symbols of that fidelity, which may be in the list more than once. False when the sink refuses a
-/// text.
+/// Writes symbols of that fidelity, which may be in the list more than once. Captions stand in galleries.
+/// False when the sink refuses a text.
 bool WriteSymbols(const std::vector<TylModel::SymbolDefinition*>& symbols, Form form, const TextSink& sink,
-                  Front& front, encoding::Fidelity fidelity = encoding::Fidelity::kStrict);
+                  Front& front, encoding::Fidelity fidelity = encoding::Fidelity::kStrict,
+                  const Captions& captions = {});
 
 } // namespace conversions

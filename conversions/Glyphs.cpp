@@ -144,7 +144,7 @@ bool WritePictures(const ChosenGlyphs& glyphs, const GlyphsOptions& options, For
     if (glyphs.file.kind != ShxUtility::kShapes && options.rotation == 0.0) {
         AlignGlyphs(symbols);
     }
-    return WriteSymbols(borrowed, form, sink, front);
+    return WriteSymbols(borrowed, form, sink, front, encoding::Fidelity::kStrict, glyphs.captions);
 }
 
 } // namespace

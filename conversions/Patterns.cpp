@@ -94,6 +94,8 @@ private:
         front_.AtItem(PatternItem(name));
         std::vector<pattern::PatternLine>& lines = loaded_.file.patterns.at(name);
         if (auto symbol = Build(name, lines)) {
+            result_.captions.descriptions[symbol.get()] =
+                platform::WideToValidUtf8(platform::AnsiToWide(loaded_.file.descriptions.at(name)));
             result_.owned.push_back(std::move(symbol));
             return true;
         }

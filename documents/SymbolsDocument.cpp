@@ -157,6 +157,14 @@ std::string Head(encoding::Fidelity fidelity) {
 
 } // namespace
 
+std::string SymbolText(TylModel::SymbolDefinition& symbol) {
+    std::string text;
+    JsonText json(text, 0);
+    SymbolJson visitor(json);
+    symbol.AcceptVisitor(visitor);
+    return text;
+}
+
 bool SymbolsWriter::Add(TylModel::SymbolDefinition& symbol) {
     text_ = started_ ? "," : Head(fidelity_);
     started_ = true;

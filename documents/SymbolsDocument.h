@@ -31,4 +31,7 @@ private:
     bool started_ = false;
 };
 
+/// The JSON value of one symbol, as it stands in such a document.
+std::string SymbolText(TylModel::SymbolDefinition& symbol);
+
 } // namespace documents

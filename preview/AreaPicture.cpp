@@ -1,7 +1,7 @@
 // An area symbol over a rectangle.
 
-#include "preview/AreaScale.h"
 #include "preview/Limits.h"
+#include "preview/PictureParts.h"
 
 #include "StyleConversion/encoding/IntegerConversion.h"
 
@@ -240,8 +240,8 @@ void AreaPicture::Draw(const ResolvedSymbol& symbol) {
 
 } // namespace
 
-void DrawAreaPicture(Canvas& canvas, const ResolvedSymbol& symbol) {
-    AreaPicture(canvas, AreaScale(symbol, canvas)).Draw(symbol);
+void DrawAreaPicture(Canvas& canvas, const ResolvedSymbol& symbol, double scale) {
+    AreaPicture(canvas, scale).Draw(symbol);
 }
 
 } // namespace preview

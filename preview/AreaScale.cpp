@@ -1,4 +1,6 @@
-#include "preview/AreaScale.h"
+// How large an area symbol is shown: lines stand well apart, and yet enough of the pattern is seen.
+
+#include "preview/PictureParts.h"
 
 namespace preview {
 namespace {

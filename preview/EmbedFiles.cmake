@@ -1,8 +1,9 @@
 # Run as a script: writes a C++ source OUTPUT with the gallery's files from FOLDER as constants, and the hash by
-# which a page allows its own script and no other.
+# which a page allows its own script and no other. The script is put together from SCRIPTS, in their order.
 
 function(append_file name file)
-  file(READ "${FOLDER}/${file}" bytes HEX)
+  cmake_path(ABSOLUTE_PATH file BASE_DIRECTORY "${FOLDER}")
+  file(READ "${file}" bytes HEX)
   string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${bytes}")
   string(REGEX REPLACE "(0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,0x..,)"
          "\\1\n" bytes "${bytes}")
@@ -32,13 +33,20 @@ function(to_base64 hex result)
   set(${result} "${text}${third}=" PARENT_SCOPE)
 endfunction()
 
+set(SCRIPT "${OUTPUT}.js")
+file(WRITE "${SCRIPT}" "")
+foreach(part ${SCRIPTS})
+  file(READ "${FOLDER}/${part}" text)
+  file(APPEND "${SCRIPT}" "${text}\n")
+endforeach()
+
 set(source "// Made from the files of the gallery by EmbedFiles.cmake.\n#include \"preview/GalleryFiles.h\"\n\n")
 string(APPEND source "namespace preview::gallery_files {\n\n")
 append_file(kPage page.html)
 append_file(kCard card.html)
 append_file(kStyle gallery.css)
-append_file(kScript gallery.js)
-file(SHA256 "${FOLDER}/gallery.js" hash)
+append_file(kScript ${SCRIPT})
+file(SHA256 "${SCRIPT}" hash)
 to_base64(${hash} hash)
 string(APPEND source "const std::string_view kScriptHash = \"sha256-${hash}\";\n\n")
 string(APPEND source "} // namespace preview::gallery_files\n")

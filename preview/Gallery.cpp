@@ -16,8 +16,6 @@ namespace {
 using TylModel::Parameter;
 using Json = nlohmann::ordered_json;
 
-constexpr std::string_view kTitle = "Symbols";
-
 // The size of a card's picture in pixels; the style sheet's .picture has the same proportion.
 constexpr double kPictureWidth = 300;
 constexpr double kPictureHeight = 220;
@@ -88,6 +86,34 @@ std::string BreakableName(std::wstring_view name) {
     return markup;
 }
 
+PictureStyle StyleOfCard(std::size_t number) {
+    PictureStyle style;
+    style.width = kPictureWidth;
+    style.height = kPictureHeight;
+    style.idPrefix = 's';
+    style.idPrefix += std::to_string(number);
+    style.bindings = true;
+    return style;
+}
+
+// What the page's script needs of a symbol. `sameScale` is that of its kind, 0 for none.
+Json DataOf(const ResolvedSymbol& symbol, const Picture& picture, PictureStyle style, double sameScale) {
+    Json data = {
+        {"svg", PictureSvg(symbol, picture)}, {"scale", picture.scale}, {"parameters", ParametersOf(symbol)}};
+    if (picture.scale > 0 && sameScale > 0 && sameScale != picture.scale) {
+        style.scale = sameScale;
+        data["sameScale"] = {{"svg", PictureSvg(symbol, DrawPicture(symbol, style))}, {"scale", sameScale}};
+    }
+    return data;
+}
+
+// The data with one more member, whose text is JSON already.
+std::string WithSymbol(const Json& data, const std::string& symbol) {
+    std::string text = JsonInScript(data);
+    text.pop_back();
+    return text + ",\"symbol\":" + InScript(symbol) + "}";
+}
+
 std::string NotesMarkup(const Picture& picture) {
     std::string markup;
     for (const std::string& note : picture.notes) {
@@ -100,31 +126,52 @@ std::string NotesMarkup(const Picture& picture) {
 
 bool GalleryWriter::WriteHead() {
     const std::string_view page = SplitAt(gallery_files::kPage, "cards").before;
-    return sink_(Filled(page, {Field::Text("title", kTitle), Field::Text("count", Counted(count_, "symbol")),
-                               Field::Markup("scriptHash", gallery_files::kScriptHash),
-                               Field::Markup("style", gallery_files::kStyle)}));
+    return sink_(
+        Filled(page, {Field::Text("title", page_.title), Field::Text("count", Counted(page_.count, "symbol")),
+                      Field::Markup("scriptHash", gallery_files::kScriptHash),
+                      Field::Markup("style", gallery_files::kStyle)}));
 }
 
-bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol) {
+void GalleryWriter::Measure(TylModel::SymbolDefinition& symbol) {
     const ResolvedSymbol resolved = Resolve(symbol);
-    PictureStyle style;
-    style.width = kPictureWidth;
-    style.height = kPictureHeight;
-    style.idPrefix = 's';
-    style.idPrefix += std::to_string(added_);
-    style.bindings = true;
+    const double scale = FittingScale(resolved, StyleOfCard(0));
+    if (scale > 0) {
+        scales_[resolved.usage].push_back(scale);
+    }
+}
+
+double GalleryWriter::CommonScale(Usage usage) {
+    std::vector<double>& scales = scales_[usage];
+    if (scales.empty()) {
+        return 0.0;
+    }
+    if (!isSorted_) {
+        for (auto& [kind, each] : scales_) {
+            std::sort(each.begin(), each.end());
+        }
+        isSorted_ = true;
+    }
+    return scales[scales.size() / 2];
+}
+
+bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol, const GalleryFacts& facts) {
+    const ResolvedSymbol resolved = Resolve(symbol);
+    const PictureStyle style = StyleOfCard(added_);
     const Picture picture = DrawPicture(resolved, style);
-    const Json data = {{"svg", PictureSvg(resolved, picture)}, {"parameters", ParametersOf(resolved)}};
+    const Json data = DataOf(resolved, picture, style, CommonScale(resolved.usage));
+    const std::string description =
+        resolved.description.empty() ? facts.description : platform::WideToValidUtf8(resolved.description);
     const bool written =
         (added_ > 0 || WriteHead()) &&
         sink_(Filled(gallery_files::kCard,
-                     {Field::Text("kind", KindOf(resolved.usage)), Field::Text("name", resolved.name),
+                     {Field::Text("kind", KindOf(resolved.usage)), Field::Text("source", facts.source),
+                      Field::Text("name", resolved.name),
                       Field::Markup("breakableName", BreakableName(resolved.name)),
-                      Field::Text("description", resolved.description),
-                      Field::Text("detail", Describe(resolved)), Field::Markup("notes", NotesMarkup(picture)),
+                      Field::Text("description", description), Field::Text("detail", Describe(resolved)),
+                      Field::Markup("notes", NotesMarkup(picture)),
                       Field::Markup("noParameters", resolved.parameters.empty() ? " hidden" : ""),
                       Field::Text("parameterCount", Counted(resolved.parameters.size(), "parameter")),
-                      Field::Markup("data", JsonInScript(data))}));
+                      Field::Markup("data", WithSymbol(data, facts.json))}));
     ++added_;
     return written;
 }
@@ -132,7 +179,8 @@ bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol) {
 bool GalleryWriter::Finish() {
     const std::string_view page = SplitAt(gallery_files::kPage, "cards").after;
     return (added_ > 0 || WriteHead()) &&
-           sink_(Filled(page, {Field::Markup("script", gallery_files::kScript)}));
+           sink_(Filled(page, {Field::Markup("document", InScript(page_.document)),
+                               Field::Markup("script", gallery_files::kScript)}));
 }
 
 } // namespace preview

@@ -1,27 +1,54 @@
 // Symbols as a page for the browser.
 #pragma once
 
+#include "preview/ResolvedSymbol.h"
 #include "preview/SymbolSvg.h"
+
+#include <cstddef>
+#include <map>
+#include <string>
+#include <vector>
 
 namespace preview {
 
-/// Writes one HTML file that needs no other: a card for each symbol, a search, a zoom, light and dark, and a
-/// control for every parameter. Call Add once for each of the `count` symbols, then Finish. The text of one
-/// symbol at a time is held in memory.
+/// What a gallery says of all its symbols.
+struct GalleryPage {
+    std::size_t count = 0;         // of the symbols
+    std::string title = "Symbols"; // of the page and its tab, as UTF-8
+    std::string document = "{}";   // a symbols document without symbols: what downloaded ones stand in
+};
+
+/// What a gallery says of one symbol besides what the symbol says itself; all as UTF-8.
+struct GalleryFacts {
+    std::string source;      // the file that it comes from; empty where there is but one
+    std::string description; // where the symbol has none
+    std::string json = "{}"; // the symbol as it stands in a symbols document
+};
+
+/// Writes one HTML file that needs no other: a card for each symbol, a search, groups, light and dark, a
+/// control for every parameter, a large view, and downloads. Call Measure for each symbol, if all are to be
+/// shown at one scale, too; then Add for each, then Finish. The text of one symbol at a time is held in
+/// memory.
 class GalleryWriter {
 public:
-    GalleryWriter(std::size_t count, TextSink sink) : count_(count), sink_(std::move(sink)) {}
+    GalleryWriter(GalleryPage page, TextSink sink) : page_(std::move(page)), sink_(std::move(sink)) {}
+
+    /// Takes note of the symbol's own scale: that of a kind is the one in the middle.
+    void Measure(TylModel::SymbolDefinition& symbol);
 
     /// Each is false when the sink refused a piece; nothing more is to be written then.
-    bool Add(TylModel::SymbolDefinition& symbol);
+    bool Add(TylModel::SymbolDefinition& symbol, const GalleryFacts& facts = {});
     bool Finish();
 
 private:
     bool WriteHead();
+    double CommonScale(Usage usage);
 
-    std::size_t count_;
+    GalleryPage page_;
     TextSink sink_;
     std::size_t added_ = 0;
+    std::map<Usage, std::vector<double>> scales_; // of the symbols that were measured
+    bool isSorted_ = false;
 };
 
 } // namespace preview

@@ -257,8 +257,12 @@ void LinePicture::DrawUpright(const Member& member, const Part& part) {
 
 } // namespace
 
-void DrawLinePicture(Canvas& canvas, const ResolvedSymbol& symbol) {
-    LinePicture picture(canvas, ScaleFor(ExtentOf(symbol), canvas));
+double LineScale(const ResolvedSymbol& symbol, Canvas& canvas) {
+    return ScaleFor(ExtentOf(symbol), canvas);
+}
+
+void DrawLinePicture(Canvas& canvas, const ResolvedSymbol& symbol, double scale) {
+    LinePicture picture(canvas, scale);
     for (const Member& member : symbol.members) {
         picture.Draw(member);
     }

@@ -62,9 +62,13 @@ std::string Escaped(std::wstring_view text) {
 }
 
 std::string JsonInScript(const nlohmann::ordered_json& value) {
+    return InScript(value.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
+}
+
+std::string InScript(std::string_view text) {
     // Both stand in texts alone, where JSON takes an escape for any character.
     std::string json;
-    for (const char c : value.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace)) {
+    for (const char c : text) {
         if (c == '<') {
             json += "\\u003c";
         } else if (c == '\x7f') {

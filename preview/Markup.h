@@ -16,4 +16,7 @@ std::string Escaped(std::wstring_view text);
 /// UTF-8 is shown as U+FFFD.
 std::string JsonInScript(const nlohmann::ordered_json& value);
 
+/// The same of the text of a JSON value.
+std::string InScript(std::string_view text);
+
 } // namespace preview

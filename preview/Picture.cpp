@@ -94,6 +94,21 @@ bool DrawsNothing(const ResolvedSymbol& symbol) {
     return true;
 }
 
+double ScaleOf(const ResolvedSymbol& symbol, Canvas& canvas) {
+    if (canvas.style.scale > 0) {
+        return canvas.style.scale;
+    }
+    switch (symbol.usage) {
+    case Usage::kLine:
+        return LineScale(symbol, canvas);
+    case Usage::kArea:
+        return AreaScale(symbol, canvas);
+    case Usage::kPoint:
+        break;
+    }
+    return PointScale(symbol, canvas);
+}
+
 } // namespace
 
 void Canvas::Note(std::string_view note) {
@@ -144,20 +159,32 @@ Picture DrawPicture(const ResolvedSymbol& symbol, const PictureStyle& style) {
     if (DrawsNothing(symbol)) {
         canvas.Note("The symbol draws nothing.");
     }
+    const double scale = ScaleOf(symbol, canvas);
+    picture.scale = DrawsNothing(symbol) ? 0.0 : scale;
     canvas.svg.Open("g").Set("fill", "none").Set("stroke-linejoin", "round");
     switch (symbol.usage) {
     case Usage::kPoint:
-        DrawPointPicture(canvas, symbol);
+        DrawPointPicture(canvas, symbol, scale);
         break;
     case Usage::kLine:
-        DrawLinePicture(canvas, symbol);
+        DrawLinePicture(canvas, symbol, scale);
         break;
     case Usage::kArea:
-        DrawAreaPicture(canvas, symbol);
+        DrawAreaPicture(canvas, symbol, scale);
         break;
     }
     canvas.svg.Close();
     return picture;
+}
+
+double FittingScale(const ResolvedSymbol& symbol, const PictureStyle& style) {
+    if (DrawsNothing(symbol)) {
+        return 0.0;
+    }
+    std::string nothing;
+    std::vector<std::string> notes;
+    Canvas canvas{SvgWriter(nothing), style, notes};
+    return ScaleOf(symbol, canvas);
 }
 
 std::string Describe(const ResolvedSymbol& symbol) {

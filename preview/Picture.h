@@ -18,10 +18,13 @@ struct PictureStyle {
     bool bindings = false;
     /// Whether a point symbol that fits is drawn as large as it is, rather than as large as fits.
     bool trueSize = false;
+    /// Pixels for each unit of the symbol; 0 for as many as show it well.
+    double scale = 0;
 };
 
 struct Picture {
     std::string markup;
+    double scale = 0; // pixels for each unit of the symbol; 0 where nothing is drawn
     /// What a person should know about the picture, each a sentence.
     std::vector<std::string> notes;
 };
@@ -30,6 +33,9 @@ struct Picture {
 /// and an arc; an area symbol over a rectangle. A picture with only so much ink as a screen can show is made
 /// from any symbol; where something had to be left out the notes say so.
 Picture DrawPicture(const ResolvedSymbol& symbol, const PictureStyle& style);
+
+/// Pixels for each unit at which the symbol is shown well; 0 where nothing is drawn.
+double FittingScale(const ResolvedSymbol& symbol, const PictureStyle& style);
 
 /// What kind of symbol it is and how large: "Line symbol, repeat 0.95".
 std::string Describe(const ResolvedSymbol& symbol);

@@ -20,9 +20,18 @@ inline constexpr std::string_view kNotAllRepetitions = "Not all repetitions are 
 inline constexpr std::string_view kRepeatTooLong = "The repeat is longer than the picture.";
 inline constexpr std::string_view kTooLarge = "A part is too large to be drawn.";
 
-void DrawPointPicture(Canvas& canvas, const ResolvedSymbol& symbol);
-void DrawLinePicture(Canvas& canvas, const ResolvedSymbol& symbol);
-void DrawAreaPicture(Canvas& canvas, const ResolvedSymbol& symbol);
+/// Pixels for each unit at which a symbol is shown well. Notes where a repetition does not fit. A point
+/// symbol that draws nothing has 0.
+double PointScale(const ResolvedSymbol& symbol, Canvas& canvas);
+double LineScale(const ResolvedSymbol& symbol, Canvas& canvas);
+double AreaScale(const ResolvedSymbol& symbol, Canvas& canvas);
+
+void DrawPointPicture(Canvas& canvas, const ResolvedSymbol& symbol, double scale);
+void DrawLinePicture(Canvas& canvas, const ResolvedSymbol& symbol, double scale);
+void DrawAreaPicture(Canvas& canvas, const ResolvedSymbol& symbol, double scale);
+
+/// Pixels between the sample area and each side of the picture.
+inline constexpr double kAreaMargin = 20;
 
 /// Whether a box in units, at this scale, stays where renderers are exact.
 bool FitsPicture(const Box& box, double scale);

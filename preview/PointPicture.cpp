@@ -10,7 +10,7 @@ constexpr double kSmallestTrueSize = 24; // pixels; what is smaller is enlarged 
 
 // Pixels per unit that let a box fill the picture. Units are millimetres, so a box that fits as it is can be
 // shown so.
-double FittingScale(const Box& box, const PictureStyle& style) {
+double ScaleFor(const Box& box, const PictureStyle& style) {
     const double across = (style.width - 2 * kMargin) / box.Width();
     const double upright = (style.height - 2 * kMargin) / box.Height();
     const double scale = std::min(across, upright);
@@ -21,17 +21,25 @@ double FittingScale(const Box& box, const PictureStyle& style) {
     return style.trueSize && legible ? std::min(scale, kPixelsPerMillimetre) : scale;
 }
 
-} // namespace
-
-void DrawPointPicture(Canvas& canvas, const ResolvedSymbol& symbol) {
+Box FrameOf(const ResolvedSymbol& symbol) {
     Box bounds;
     for (const Member& member : symbol.members) {
         bounds.Include(member.frame);
     }
+    return bounds;
+}
+
+} // namespace
+
+double PointScale(const ResolvedSymbol& symbol, Canvas& canvas) {
+    return FrameOf(symbol).IsEmpty() ? 0.0 : ScaleFor(TurnedBounds(symbol, &Member::frame), canvas.style);
+}
+
+void DrawPointPicture(Canvas& canvas, const ResolvedSymbol& symbol, double scale) {
+    const Box bounds = FrameOf(symbol);
     if (bounds.IsEmpty()) {
         return;
     }
-    const double scale = FittingScale(TurnedBounds(symbol, &Member::frame), canvas.style);
     const Point middle = bounds.Middle();
     // A box wider than the largest double has no scale that fits.
     if (!(scale > 0.0) || !std::isfinite(middle.x * scale) || !std::isfinite(middle.y * scale)) {

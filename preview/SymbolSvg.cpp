@@ -42,6 +42,8 @@ constexpr double kGap = 16;
 constexpr double kLineHeight = 1.5;
 // The mean advance of a letter of the caption's font, in em; a little too much rather than too little.
 constexpr double kCaptionAdvance = 0.57;
+// A name on one line may be so many times smaller than usual.
+constexpr double kSmallestShare = 1.6;
 constexpr wchar_t kEllipsis = L'\u2026';
 
 std::wstring Shortened(const std::wstring& text, double width, double fontSize) {
@@ -62,6 +64,7 @@ public:
 
 private:
     void Paper();
+    void Name();
     void Line(const std::wstring& text, double fontSize, std::string_view color, bool bold);
 
     SvgWriter& svg_;
@@ -102,6 +105,21 @@ void CardDrawing::Line(const std::wstring& text, double fontSize, std::string_vi
     svg_.Text(Shortened(text, size_.width - 2 * size_.padding, fontSize)).Close();
 }
 
+// A long name is written smaller, and then on two lines in the room of one, so that all of it can be read.
+void CardDrawing::Name() {
+    const double width = size_.width - 2 * size_.padding;
+    const double fitting =
+        width / (kCaptionAdvance * std::max<double>(1.0, static_cast<double>(symbol_.name.size())));
+    if (fitting >= size_.nameSize / kSmallestShare) {
+        Line(symbol_.name, std::min(size_.nameSize, fitting), kNameColor, true);
+        return;
+    }
+    const std::size_t half = (symbol_.name.size() + 1) / 2;
+    const double fontSize = size_.nameSize / 2;
+    Line(symbol_.name.substr(0, half), fontSize, kNameColor, true);
+    Line(symbol_.name.substr(half), fontSize, kNameColor, true);
+}
+
 void CardDrawing::Draw(std::string& out) {
     Paper();
     const Picture picture = DrawPicture(symbol_, style_);
@@ -109,7 +127,7 @@ void CardDrawing::Draw(std::string& out) {
     out += picture.markup;
     svg_.Text("\n").Open("g").Set("font-family", kCaptionFont);
     y_ = size_.picture + 2;
-    Line(symbol_.name, size_.nameSize, kNameColor, true);
+    Name();
     Line(platform::Utf8ToWide(Describe(symbol_)), size_.detailSize, kDetailColor, false);
     if (!symbol_.description.empty()) {
         Line(symbol_.description, size_.detailSize, kDetailColor, false);

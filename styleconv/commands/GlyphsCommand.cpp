@@ -28,11 +28,12 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
         return kUsageFault;
     }
     const auto front = FrontWithoutFiles(options.output.empty());
-    const conversions::ChosenGlyphs glyphs = ChooseGlyphs(input.ForJob(options.codePage), options, *front);
+    conversions::ChosenGlyphs glyphs = ChooseGlyphs(input.ForJob(options.codePage), options, *front);
     if (!glyphs.isConverted) {
         return SayFailure(options.file, options.tolerant, glyphs.diagnostics);
     }
     SayAll(glyphs.diagnostics);
+    glyphs.captions.title = TitleOf(options.file);
     return WriteResult(options.output, [&](const conversions::TextSink& sink) {
         return WriteGlyphs(glyphs, options, *form, sink, *front);
     });

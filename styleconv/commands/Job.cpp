@@ -2,6 +2,7 @@
 
 #include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/Files.h"
+#include "StyleConversion/platform/Utf8.h"
 #include "diagnostics/ShownText.h"
 #include "styleconv/files/InputFile.h"
 #include "styleconv/files/OutputFile.h"
@@ -159,14 +160,21 @@ ExitStatus WriteResult(const std::string& output,
                                                                                            : kInputFault;
 }
 
+std::string TitleOf(const std::string& file) {
+    const platform::PathParts parts = platform::SplitPath(platform::PathFromBytes(file));
+    return file == "-" ? "" : platform::WideToValidUtf8(parts.fileName + parts.extension);
+}
+
 ExitStatus Finish(const conversions::Conversion& conversion, const std::string& file, bool isTolerant,
                   const CommonOptions& options, conversions::Form form, conversions::Front& front) {
     if (!conversion.isConverted) {
         return SayFailure(file, isTolerant, conversion.diagnostics);
     }
     SayAll(conversion.diagnostics);
+    conversions::Captions captions = conversion.captions;
+    captions.title = TitleOf(file);
     return WriteResult(options.output, [&](const conversions::TextSink& sink) {
-        return WriteSymbols(conversion.symbols, form, sink, front, conversion.fidelity);
+        return WriteSymbols(conversion.symbols, form, sink, front, conversion.fidelity, captions);
     });
 }
 

@@ -42,6 +42,9 @@ bool CheckEncoding(const std::string& encoding);
 ExitStatus WriteResult(const std::string& output,
                        const std::function<bool(const conversions::TextSink& sink)>& write);
 
+/// What a page of symbols of that file is called.
+std::string TitleOf(const std::string& file);
+
 /// Says what a conversion told and writes its symbols.
 ExitStatus Finish(const conversions::Conversion& conversion, const std::string& file, bool isTolerant,
                   const CommonOptions& options, conversions::Form form, conversions::Front& front);

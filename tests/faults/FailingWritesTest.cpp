@@ -98,7 +98,8 @@ TEST(FailingWrites, OfASheet) {
 
 TEST(FailingWrites, OfAGallery) {
     ExpectEveryFailingByteToBeTold([](FailingSink& sink) {
-        return WriteTwo(preview::GalleryWriter(2, [&](std::string_view text) { return sink.Take(text); }));
+        return WriteTwo(
+            preview::GalleryWriter({.count = 2}, [&](std::string_view text) { return sink.Take(text); }));
     });
 }
 

@@ -242,10 +242,44 @@ TEST(Picture, AMillionCommandsAreDrawnOnceEach) {
     EXPECT_FALSE(Draw(*area).notes.empty());
 }
 
+TEST(Picture, IsDrawnAtTheScaleThatIsAskedFor) {
+    auto symbol = NewSymbol(L"A");
+    AddPath(*symbol, L"M 0,0 L 2,0");
+    const ResolvedSymbol resolved = Resolve(*symbol);
+    PictureStyle style;
+    EXPECT_DOUBLE_EQ(DrawPicture(resolved, style).scale, FittingScale(resolved, style));
+    style.scale = 10; // two units are twenty pixels, in the middle
+    const Picture picture = DrawPicture(resolved, style);
+    EXPECT_EQ(picture.scale, 10);
+    EXPECT_TRUE(Has(picture.markup, "M-10 0h20")) << picture.markup;
+    EXPECT_EQ(DrawPicture(Resolve(*NewSymbol(L"empty")), style).scale, 0);
+}
+
+// Four lines of 1, 2, 4 and 8 units fill a card at 260, 130, 65 and 32.5 pixels for each unit.
+TEST(Gallery, TheScaleInTheMiddleIsTheCommonOne) {
+    std::vector<SymbolPointer> symbols;
+    std::string page;
+    GalleryWriter writer({.count = 4}, [&](std::string_view piece) {
+        page += piece;
+        return true;
+    });
+    for (const wchar_t* const path : {L"M 0,0 L 1,0", L"M 0,0 L 2,0", L"M 0,0 L 4,0", L"M 0,0 L 8,0"}) {
+        auto symbol = NewSymbol(L"A");
+        AddPath(*symbol, path);
+        writer.Measure(*symbol);
+        symbols.push_back(std::move(symbol));
+    }
+    for (const auto& symbol : symbols) {
+        ASSERT_TRUE(writer.Add(*symbol));
+    }
+    EXPECT_EQ(Count(page, "\"scale\":130.0}"), 3U);
+    EXPECT_EQ(Count(page, "\"sameScale\""), 3U) << "the one in the middle has it already";
+}
+
 TEST(Gallery, NamesOfAFileCannotBecomeMarkup) {
     std::string page;
     const auto symbols = HostileSymbols();
-    GalleryWriter writer(symbols.size(), [&](std::string_view piece) {
+    GalleryWriter writer({.count = symbols.size()}, [&](std::string_view piece) {
         page += piece;
         return true;
     });
@@ -253,15 +287,15 @@ TEST(Gallery, NamesOfAFileCannotBecomeMarkup) {
         ASSERT_TRUE(writer.Add(*symbol));
     }
     ASSERT_TRUE(writer.Finish());
-    EXPECT_EQ(Count(page, "</script>"), symbols.size() + 1);
-    EXPECT_EQ(Count(page, "<script"), symbols.size() + 1);
+    EXPECT_EQ(Count(page, "</script>"), symbols.size() + 2);
+    EXPECT_EQ(Count(page, "<script"), symbols.size() + 2);
     EXPECT_FALSE(Has(page, "<img"));
     EXPECT_FALSE(Has(page, "{{"));
 }
 
 std::string PageOf(TylModel::SymbolDefinition& symbol) {
     std::string page;
-    GalleryWriter writer(1, [&](std::string_view piece) {
+    GalleryWriter writer({.count = 1}, [&](std::string_view piece) {
         page += piece;
         return true;
     });
@@ -271,20 +305,33 @@ std::string PageOf(TylModel::SymbolDefinition& symbol) {
 
 TEST(Gallery, ALongNameMayBreakBehindEachUnderscore) {
     auto symbol = NewSymbol(L"A_<B>__C_");
-    EXPECT_TRUE(Has(PageOf(*symbol), ">A_<wbr>&lt;B&gt;_<wbr>_<wbr>C_</h2>"));
+    EXPECT_TRUE(Has(PageOf(*symbol), ">A_<wbr>&lt;B&gt;_<wbr>_<wbr>C_</h3>"));
     EXPECT_TRUE(Has(PageOf(*symbol), "aria-label=\"Enlarge A_&lt;B&gt;__C_\""));
     symbol->SetName(L"");
-    EXPECT_TRUE(Has(PageOf(*symbol), "<h2 class=\"name\"></h2>"));
+    EXPECT_TRUE(Has(PageOf(*symbol), "<h3 class=\"name\"></h3>"));
 }
 
 TEST(Gallery, HidesTheParametersOfASymbolWithoutAny) {
     EXPECT_TRUE(Has(PageOf(*NewSymbol(L"A")), "<details class=\"parameters\" hidden>"));
-    EXPECT_TRUE(Has(PageOf(*DashSymbol(L"1")), "<details class=\"parameters\"><summary>2 parameters<"));
+    EXPECT_TRUE(Has(PageOf(*DashSymbol(L"1")),
+                    "<details class=\"parameters\"><summary tabindex=\"-1\">2 parameters<"));
 }
 
 TEST(Gallery, StopsWhenItsTextCannotBeStored) {
-    GalleryWriter writer(1, [](std::string_view) { return false; });
+    GalleryWriter writer({.count = 1}, [](std::string_view) { return false; });
     EXPECT_FALSE(writer.Add(*DashSymbol(L"1")));
+}
+
+TEST(SymbolSheet, ALongNameIsWrittenSmallerAndThenOnTwoLines) {
+    const auto svgOf = [](std::size_t length) {
+        auto symbol = NewSymbol(std::wstring(length, L'W'));
+        AddPath(*symbol, L"M 0,0 L 1,0");
+        return SymbolSvg(*symbol);
+    };
+    const auto line = [](std::size_t length) { return ">" + std::string(length, 'W') + "</text>"; };
+    EXPECT_TRUE(Has(svgOf(20), "font-size=\"22\" ") && Has(svgOf(20), line(20)));
+    EXPECT_TRUE(Has(svgOf(70), line(70)) && !Has(svgOf(70), "font-size=\"22\" "));
+    EXPECT_TRUE(Has(svgOf(101), line(51)) && Has(svgOf(101), line(50)));
 }
 
 TEST(SymbolSheet, HoldsEverySymbolAndEndsWithoutAny) {

@@ -20,15 +20,40 @@ void Write(const std::string& name, const std::string& text) {
     file << text;
 }
 
-template <class Writer>
-void WriteWith(const std::string& name, const std::vector<SymbolPointer>& symbols) {
+void WriteSheet(const std::string& name, const std::vector<SymbolPointer>& symbols) {
     std::string text;
-    Writer writer(symbols.size(), [&](std::string_view piece) {
+    preview::SheetWriter writer(symbols.size(), [&](std::string_view piece) {
         text += piece;
         return true;
     });
     for (const auto& symbol : symbols) {
         writer.Add(*symbol);
+    }
+    writer.Finish();
+    Write(name, text);
+}
+
+// The first symbols come from the first file, and so on.
+void WriteGallery(const std::string& name, const std::vector<SymbolPointer>& symbols,
+                  const std::vector<std::string>& files = {}) {
+    std::string text;
+    preview::GalleryPage page;
+    page.count = symbols.size();
+    page.title = name;
+    page.document = R"({"format": "styleconversion/symbols", "version": 1, "symbols": []})";
+    preview::GalleryWriter writer(page, [&](std::string_view piece) {
+        text += piece;
+        return true;
+    });
+    for (const auto& symbol : symbols) {
+        writer.Measure(*symbol);
+    }
+    for (std::size_t i = 0; i < symbols.size(); ++i) {
+        preview::GalleryFacts facts;
+        facts.source = files.empty() ? "" : files[i * files.size() / symbols.size()];
+        facts.description = files.empty() ? "" : "from the works";
+        facts.json = R"({"name": "</script>)" + std::to_string(i) + "\"}";
+        writer.Add(*symbols[i], facts);
     }
     writer.Finish();
     Write(name, text);
@@ -61,10 +86,11 @@ int main(int argc, char** argv) {
             Write(platform::WideToValidUtf8(symbol->GetName()) + ".svg", preview::SymbolSvg(*symbol));
         }
     }
-    WriteWith<preview::SheetWriter>("typical.svg", TypicalSymbols());
-    WriteWith<preview::SheetWriter>("hostile.svg", HostileSymbols());
-    WriteWith<preview::GalleryWriter>("typical.html", TypicalSymbols());
-    WriteWith<preview::GalleryWriter>("hostile.html", HostileSymbols());
-    WriteWith<preview::GalleryWriter>("many.html", ManySymbols());
+    WriteSheet("typical.svg", TypicalSymbols());
+    WriteSheet("hostile.svg", HostileSymbols());
+    WriteGallery("typical.html", TypicalSymbols());
+    WriteGallery("hostile.html", HostileSymbols());
+    WriteGallery("many.html", ManySymbols());
+    WriteGallery("folders.html", TypicalSymbols(), {"roads/a.lin", "water/b.lin", "water/c.pat"});
     return 0;
 }

@@ -33,7 +33,7 @@ TEST_F(FaithfulPatterns, AreWrittenWithAllDigitsInADocumentThatSaysSo) {
 TEST_F(FaithfulPatterns, AreDrawnInPicturesAndGalleries) {
     const std::string text = "*X\n17,0,0,0.6180339887,1,0.5,-100.5\n";
     EXPECT_NE(Run(text, {"--format", "svg"}).output.find("<svg"), std::string::npos);
-    EXPECT_NE(Run(text, {"--format", "html"}).output.find(">X</h2>"), std::string::npos);
+    EXPECT_NE(Run(text, {"--format", "html"}).output.find(">X</h3>"), std::string::npos);
 }
 
 // Strict conversion finds no tile for the first and loses it.

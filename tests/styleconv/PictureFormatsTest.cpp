@@ -121,6 +121,19 @@ TEST(PictureFormats, HtmlIsAGalleryThatNeedsNothingElse) {
     }
 }
 
+TEST(PictureFormats, AGalleryIsCalledAsItsFileAndHoldsDescriptionsAndDefinitions) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a & b.pat", "*LEVEL,Level <lines>\n0, 0,0, 0,.125\n");
+    const std::string page = RunTool({"patterns", file, "--format", "html"}).output;
+    EXPECT_TRUE(Has(page, "<title>a &amp; b.pat</title>"));
+    EXPECT_TRUE(Has(page, "<p class=\"description\">Level &lt;lines&gt;</p>"));
+    EXPECT_EQ(Count(page, "\"symbol\":{"), 1U);
+    EXPECT_TRUE(Has(page, "\"name\": \"LEVEL\""));
+    EXPECT_TRUE(Has(page, "\"format\": \"styleconversion/symbols\""));
+    EXPECT_TRUE(Has(RunTool({"patterns", "-", "--format", "html"}, "*A\n0,0,0,0,1\n").output,
+                    "<title>Symbols</title>"));
+}
+
 TEST(PictureFormats, AreWrittenWholeOrNotAtAll) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.pat", "*LEVEL,Lines\n0, 0,0, 0,.125\n");

@@ -1,0 +1,90 @@
+// The cards of the gallery: each has a symbol's data, read when it is first needed, and the values that the
+// reader gave.
+
+// The data types of the symbol model.
+const kAngle = 5;
+const kWeight = 8;
+const kColors = [6, 7, 23];
+
+class SymbolCard {
+  constructor(card, place) {
+    this.card = card;
+    this.place = place; // in the file
+    this.picture = card.querySelector(".picture");
+    this.name = card.querySelector(".name").textContent;
+    this.kind = card.dataset.kind;
+    this.source = card.dataset.source;
+    const words = [this.name, card.querySelector(".description").textContent, this.source];
+    this.words = words.join("\n").toLocaleLowerCase();
+    this.own = new Map(); // values of this symbol alone, by identifier
+    this.isShown = false;
+  }
+
+  get data() {
+    this.cachedData ??= JSON.parse(this.card.querySelector("script").textContent);
+    return this.cachedData;
+  }
+
+  // The value in force: the symbol's own, else that for all symbols, else the default.
+  get values() {
+    return this.data.parameters.map(
+      (parameter) => this.own.get(parameter.identifier) ?? restyling.valueFor(parameter) ?? parameter.value,
+    );
+  }
+
+  get isRestyled() {
+    return this.own.size > 0 || this.data.parameters.some((parameter) => restyling.valueFor(parameter) !== undefined);
+  }
+
+  // The picture's markup with the defaults, at the scale in force.
+  get markup() {
+    return scales.isCommon && this.data.sameScale ? this.data.sameScale.svg : this.data.svg;
+  }
+
+  // Pixels per unit in a picture as wide as its markup says; undefined where nothing tells.
+  get scale() {
+    return scales.isCommon && this.data.sameScale ? this.data.sameScale.scale : this.data.scale;
+  }
+
+  // A new picture, which follows the values in force once it stands in the page.
+  draw() {
+    const parsed = new DOMParser().parseFromString(this.markup, "image/svg+xml");
+    return document.importNode(parsed.documentElement, true);
+  }
+
+  // Puts a picture into the card. It is kept: to draw it again costs more than to hold it.
+  show() {
+    if (this.isShown) {
+      return;
+    }
+    this.isShown = true;
+    const svg = this.draw();
+    this.picture.replaceChildren(svg, scaleBar(this));
+    if (this.isRestyled) {
+      restyle(svg, this.values);
+    }
+    layPaper(this.picture, inksOf(this.isRestyled ? svg.outerHTML : this.markup));
+  }
+
+  // Draws again what is seen, by the values and the scale in force.
+  refresh() {
+    if (this.isShown) {
+      this.isShown = false;
+      drawing.want(this);
+    }
+    closeup.refresh(this);
+  }
+
+  set(identifier, value) {
+    this.own.set(identifier, value);
+    this.refresh();
+  }
+
+  reset() {
+    this.own.clear();
+    this.refresh();
+  }
+}
+
+const symbols = [...document.querySelectorAll(".card")].map((card, place) => new SymbolCard(card, place));
+const symbolOf = new Map(symbols.map((symbol) => [symbol.card, symbol]));

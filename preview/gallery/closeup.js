@@ -1,0 +1,133 @@
+// One symbol, large: it zooms by a control, a wheel and two fingers, and goes on to the next.
+
+const kSmallestZoom = 100;
+const kLargestZoom = 800;
+
+const closeup = {
+  dialog: document.getElementById("closeup"),
+  picture: document.getElementById("closeup-picture"),
+  controls: document.getElementById("closeup-controls"),
+  zoom: document.getElementById("closeup-zoom"),
+  symbol: null,
+  svg: null,
+
+  open(symbol) {
+    this.symbol = symbol;
+    document.getElementById("closeup-name").textContent = symbol.name;
+    document.getElementById("closeup-description").textContent = [
+      symbol.card.querySelector(".description").textContent,
+      symbol.card.querySelector(".detail").textContent,
+    ].filter(Boolean).join(" · ");
+    this.zoom.value = kSmallestZoom;
+    if (!this.dialog.open) {
+      this.dialog.showModal();
+    }
+    buildControls(this.controls, symbol);
+    this.refresh(symbol);
+    link.keep();
+  },
+
+  // The symbol that is shown `step` cards on; the first follows the last.
+  go(step) {
+    const shown = arrangement.shown();
+    const place = shown.indexOf(this.symbol);
+    this.open(shown[(place + step + shown.length) % shown.length]);
+  },
+
+  // Draws the symbol, if it is the one that is open, by the values in force.
+  refresh(symbol) {
+    if (this.symbol !== symbol) {
+      return;
+    }
+    this.svg = symbol.draw();
+    renameIds(this.svg);
+    this.picture.replaceChildren(this.svg);
+    restyle(this.svg, symbol.values);
+    layPaper(this.picture, inksOf(this.svg.outerHTML));
+    this.applyZoom();
+  },
+
+  // What is in the middle, or at the place given, stays there.
+  applyZoom(atX = this.picture.clientWidth / 2, atY = this.picture.clientHeight / 2) {
+    const view = this.picture;
+    const x = (view.scrollLeft + atX) / view.scrollWidth;
+    const y = (view.scrollTop + atY) / view.scrollHeight;
+    this.svg.style.width = `${this.zoom.value}%`;
+    view.scrollLeft = x * view.scrollWidth - atX;
+    view.scrollTop = y * view.scrollHeight - atY;
+    const bar = document.getElementById("closeup-scale");
+    const pixels = this.svg.getBoundingClientRect().width / kPictureWidth;
+    bar.style.width = `${tellScale(bar, this.symbol.scale * pixels)}px`;
+  },
+
+  zoomBy(factor, atX, atY) {
+    this.zoom.value = Math.min(kLargestZoom, Math.max(kSmallestZoom, Number(this.zoom.value) * factor));
+    this.applyZoom(atX, atY);
+  },
+
+  closed() {
+    this.symbol = null;
+    this.svg = null;
+    this.picture.replaceChildren();
+    this.controls.replaceChildren();
+    link.keep();
+  },
+};
+
+// Two pictures of one symbol must not refer to each other's parts.
+function renameIds(svg) {
+  for (const element of svg.querySelectorAll("[id]")) {
+    element.id = `closeup-${element.id}`;
+  }
+  for (const attribute of ["href", "clip-path"]) {
+    for (const element of svg.querySelectorAll(`[${attribute}]`)) {
+      element.setAttribute(attribute, element.getAttribute(attribute).replace("#", "#closeup-"));
+    }
+  }
+}
+
+closeup.zoom.addEventListener("input", () => closeup.applyZoom());
+closeup.dialog.addEventListener("close", () => closeup.closed());
+document.getElementById("closeup-close").addEventListener("click", () => closeup.dialog.close());
+document.getElementById("closeup-previous").addEventListener("click", () => closeup.go(-1));
+document.getElementById("closeup-next").addEventListener("click", () => closeup.go(1));
+
+// Where an event is in the picture's window.
+function placeIn(view, event) {
+  const frame = view.getBoundingClientRect();
+  return [event.clientX - frame.left, event.clientY - frame.top];
+}
+
+closeup.picture.addEventListener(
+  "wheel",
+  (event) => {
+    event.preventDefault();
+    closeup.zoomBy(1.002 ** -event.deltaY, ...placeIn(closeup.picture, event));
+  },
+  { passive: false },
+);
+
+// Two fingers zoom by what their distance changes.
+const fingers = new Map();
+
+function fingerDistance() {
+  const [one, other] = [...fingers.values()];
+  return Math.hypot(one.clientX - other.clientX, one.clientY - other.clientY);
+}
+
+closeup.picture.addEventListener("pointerdown", (event) => fingers.set(event.pointerId, event));
+closeup.picture.addEventListener("pointermove", (event) => {
+  if (!fingers.has(event.pointerId)) {
+    return;
+  }
+  if (fingers.size !== 2) {
+    fingers.set(event.pointerId, event);
+    return;
+  }
+  const before = fingerDistance();
+  fingers.set(event.pointerId, event);
+  closeup.zoomBy(fingerDistance() / Math.max(before, 1), ...placeIn(closeup.picture, event));
+});
+for (const type of ["pointerup", "pointercancel", "pointerleave"]) {
+  closeup.picture.addEventListener(type, (event) => fingers.delete(event.pointerId));
+}
