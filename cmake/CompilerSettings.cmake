@@ -49,6 +49,11 @@ else()
   target_compile_options(styleconversion_flags INTERFACE
     -ffp-contract=off "SHELL:-include \"${PROJECT_SOURCE_DIR}/StyleConversion/PreciseMath.h\""
     -Wall -Wextra -Wpedantic -Wconversion -Wno-sign-conversion -Wshadow)
+  # This version takes its own string's copying for one that overlaps, wherever a literal is added to a text that it
+  # has inlined.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(styleconversion_flags INTERFACE -Wno-restrict)
+  endif()
   if(STYLECONVERSION_WARNINGS_AS_ERRORS)
     target_compile_options(styleconversion_flags INTERFACE -Werror)
   endif()
