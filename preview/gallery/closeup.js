@@ -29,7 +29,7 @@ const closeup = {
 
   // The symbol that is shown `step` cards on; the first follows the last.
   go(step) {
-    const shown = arrangement.shown();
+    const { shown } = arrangement;
     const place = shown.indexOf(this.symbol);
     this.open(shown[(place + step + shown.length) % shown.length]);
   },

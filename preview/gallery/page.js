@@ -2,7 +2,6 @@
 
 const theme = document.getElementById("theme");
 const paper = document.getElementById("paper");
-const zoom = document.getElementById("zoom");
 
 function setTheme(dark) {
   document.documentElement.dataset.theme = dark ? "dark" : "light";
@@ -21,6 +20,7 @@ paper.addEventListener("change", () => {
 });
 zoom.addEventListener("input", () => {
   document.documentElement.style.setProperty("--card", `${zoom.value}px`);
+  arrangement.resized();
 });
 document.getElementById("one-scale").addEventListener("change", (event) => scales.set(event.target.checked));
 
@@ -56,7 +56,7 @@ grid.addEventListener(
 let stop = null;
 
 function keepOneTabStop(symbol = stop) {
-  const shown = symbol && !symbol.card.hidden ? symbol : arrangement.shown()[0];
+  const shown = symbol?.card.isConnected ? symbol : arrangement.shown[0];
   for (const each of [stop, shown]) {
     if (each) {
       each.picture.tabIndex = each === shown ? 0 : -1;
@@ -73,26 +73,27 @@ grid.addEventListener("focusin", (event) => {
 
 // The card above or below: the nearest of the next row that has one.
 function inNextRow(shown, place, step) {
-  const { offsetTop, offsetLeft } = shown[place].card;
+  const placeOf = (at) => shown[at].card.getBoundingClientRect();
+  const { top, left } = placeOf(place);
   let best = place;
   let row = null;
   for (let i = place + step; i >= 0 && i < shown.length; i += step) {
-    const { card } = shown[i];
-    if (card.offsetTop === offsetTop) {
+    const at = placeOf(i);
+    if (at.top === top) {
       continue;
     }
-    row ??= card.offsetTop;
-    if (card.offsetTop !== row) {
+    row ??= at.top;
+    if (at.top !== row) {
       break;
     }
-    const distance = (at) => Math.abs(shown[at].card.offsetLeft - offsetLeft);
+    const distance = (other) => Math.abs(placeOf(other).left - left);
     best = best === place || distance(i) < distance(best) ? i : best;
   }
   return best;
 }
 
 function goBetweenCards(event) {
-  const shown = arrangement.shown();
+  const { shown } = arrangement;
   const place = shown.indexOf(symbolOf.get(event.target.closest(".card")));
   const moves = {
     ArrowLeft: () => Math.max(0, place - 1),
@@ -134,5 +135,5 @@ document.addEventListener("keydown", (event) => {
 
 setTheme(matchMedia("(prefers-color-scheme: dark)").matches);
 offerGroups();
-keepOneTabStop();
+arrangement.arrange();
 link.read();

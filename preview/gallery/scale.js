@@ -1,6 +1,7 @@
 // How large symbols are shown: bars that tell, and one scale for all pictures of a kind.
 
 const kPictureWidth = 300; // of a card's markup
+const kPictureShape = 220 / 300; // its height, as a share of its width
 const kLongestBar = 90;
 
 // The greatest of 1, 2, 5, 10, 20 … and their tenths that is no longer than `most`.

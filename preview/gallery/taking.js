@@ -97,8 +97,8 @@ document.getElementById("closeup-svg").addEventListener("click", () => {
   download(fileName(closeup.symbol.name, ".svg"), "image/svg+xml", textOf(pictureOf(closeup.symbol)));
 });
 document.getElementById("take-svg").addEventListener("click", () => {
-  download("symbols.svg", "image/svg+xml", textOf(sheetOf(arrangement.shown())));
+  download("symbols.svg", "image/svg+xml", textOf(sheetOf(arrangement.shown)));
 });
 document.getElementById("take-json").addEventListener("click", () => {
-  download("symbols.json", "application/json", documentOf(arrangement.shown()));
+  download("symbols.json", "application/json", documentOf(arrangement.shown));
 });

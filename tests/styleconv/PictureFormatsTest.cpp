@@ -110,7 +110,7 @@ TEST(PictureFormats, HtmlIsAGalleryThatNeedsNothingElse) {
     for (const Kind& kind : Kinds(folder)) {
         const std::string page = WithFormat(kind.arguments, "html");
         EXPECT_TRUE(page.starts_with("<!DOCTYPE html>")) << page.substr(0, 100);
-        EXPECT_EQ(Count(page, "<li class=\"card\""), 2U) << kind.arguments[0];
+        EXPECT_EQ(Count(page, "<div class=\"card\""), 2U) << kind.arguments[0];
         for (const std::string& name : kind.names) {
             EXPECT_TRUE(Has(page, "aria-label=\"Enlarge " + name + "\"")) << name;
         }
