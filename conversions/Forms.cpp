@@ -1,5 +1,6 @@
 #include "conversions/Forms.h"
 
+#include "conversions/Styles.h"
 #include "conversions/reading/Shown.h"
 #include "documents/SymbolsDocument.h"
 #include "preview/Gallery.h"
@@ -79,13 +80,17 @@ private:
 } // namespace
 
 bool WriteSymbols(const SymbolList& symbols, Form form, const TextSink& sink, Front& front,
-                  encoding::Fidelity fidelity, const Captions& captions) {
+                  encoding::Fidelity fidelity, const Captions& captions, StyleJob* styles) {
     front.BeginStage("Writing", symbols.size());
     switch (form) {
     case Form::kJson:
         return WriteAll(symbols, documents::SymbolsWriter(sink, fidelity), front);
     case Form::kHtml:
         return WriteAll(symbols, CaptionedGallery(symbols, captions, fidelity, sink), front);
+    case Form::kQgis: {
+        StyleJob unheard;
+        return WriteAll(symbols, QgisStyles(sink, styles != nullptr ? *styles : unheard), front);
+    }
     case Form::kSvg:
         break;
     }

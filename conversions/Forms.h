@@ -5,9 +5,11 @@
 #include "TylModel/TylModel.h"
 #include "conversions/Captions.h"
 #include "conversions/reading/Front.h"
+#include "diagnostics/Diagnostic.h"
 
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -17,15 +19,24 @@ enum class Form : std::uint8_t {
     kJson, // the symbols document
     kSvg,  // a picture of one symbol, a sheet of several
     kHtml, // a gallery for the browser
+    kQgis, // a style library for QGIS
 };
 
 /// Takes the next piece of a result; false ends the writing.
 using TextSink = std::function<bool(std::string_view text)>;
 
-/// Writes symbols of that fidelity, which may be in the list more than once. Captions stand in galleries.
-/// False when the sink refuses a text.
+/// How styles are made, and what there is to say about them.
+struct StyleJob {
+    std::string file; // as messages call it
+    bool hatchesInMillimetres = false;
+    double scale = 1.0;
+    diagnostics::Diagnostics diagnostics; // what styles do not say of the symbols is added here
+};
+
+/// Writes symbols of that fidelity, which may be in the list more than once. Captions stand in galleries; a
+/// form that is a style takes a job. False when the sink refuses a text.
 bool WriteSymbols(const std::vector<TylModel::SymbolDefinition*>& symbols, Form form, const TextSink& sink,
                   Front& front, encoding::Fidelity fidelity = encoding::Fidelity::kStrict,
-                  const Captions& captions = {});
+                  const Captions& captions = {}, StyleJob* styles = nullptr);
 
 } // namespace conversions

@@ -131,7 +131,7 @@ bool WriteDocument(const ChosenGlyphs& glyphs, const GlyphsOptions& options, con
 }
 
 bool WritePictures(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,
-                   Front& front) {
+                   Front& front, StyleJob* styles) {
     std::vector<std::unique_ptr<TylModel::SimpleSymbolDefinition>> symbols;
     std::vector<TylModel::SymbolDefinition*> borrowed;
     front.BeginStage("Drawing", glyphs.positions.size());
@@ -144,7 +144,7 @@ bool WritePictures(const ChosenGlyphs& glyphs, const GlyphsOptions& options, For
     if (glyphs.file.kind != ShxUtility::kShapes && options.rotation == 0.0) {
         AlignGlyphs(symbols);
     }
-    return WriteSymbols(borrowed, form, sink, front, encoding::Fidelity::kStrict, glyphs.captions);
+    return WriteSymbols(borrowed, form, sink, front, encoding::Fidelity::kStrict, glyphs.captions, styles);
 }
 
 } // namespace
@@ -163,9 +163,9 @@ ChosenGlyphs ChooseGlyphs(const Input& input, const GlyphsOptions& options, Fron
 }
 
 bool WriteGlyphs(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,
-                 Front& front) {
+                 Front& front, StyleJob* styles) {
     return form == Form::kJson ? WriteDocument(glyphs, options, sink, front)
-                               : WritePictures(glyphs, options, form, sink, front);
+                               : WritePictures(glyphs, options, form, sink, front, styles);
 }
 
 Listing ListGlyphs(const Input& input) {

@@ -32,9 +32,9 @@ struct ChosenGlyphs {
 /// All that are asked for, or none: a tolerant choice leaves out what cannot be drawn, and needs one.
 ChosenGlyphs ChooseGlyphs(const Input& input, const GlyphsOptions& options, Front& front);
 
-/// Draws and writes them. False when the sink refuses a text.
+/// Draws and writes them; a form that is a style takes a job. False when the sink refuses a text.
 bool WriteGlyphs(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,
-                 Front& front);
+                 Front& front, StyleJob* styles = nullptr);
 
 /// The names of all shapes that have one, in the order of the file.
 Listing ListGlyphs(const Input& input);

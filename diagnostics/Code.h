@@ -179,6 +179,15 @@ enum class Code : std::uint8_t {
     kDashShapeInvalid,
     kColorByBlock,
     kOnlyByName,
+    // Styles of map programs: what is not as it is in the symbol.
+    kStyleRenamed,
+    kStyleUnderlining,
+    kStyleTurningText,
+    kStyleTurningParts,
+    kStyleAreaText,
+    kStyleAreaFill,
+    kStyleUnrepeated,
+    kStyleTooManyMarks,
 };
 
 } // namespace diagnostics

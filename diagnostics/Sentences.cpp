@@ -357,7 +357,24 @@ constexpr auto kRows = std::to_array<Row>({
     {Code::kColorByBlock, "color-by-block",
      "colours by block are drawn black", "no insert gives the block a colour", ""},
     {Code::kOnlyByName, "only-by-name",
-     "{0} is converted only by --name", "", ""},});
+     "{0} is converted only by --name", "", ""},
+    // Styles of map programs.
+    {Code::kStyleRenamed, "style-renamed",
+     "the library has the name already; this style is named {0}", "", ""},
+    {Code::kStyleUnderlining, "style-underlining",
+     "lines under and over texts are not part of the style", "", ""},
+    {Code::kStyleTurningText, "style-turning-text",
+     "the style keeps a text at the default of the parameter that turns it", "", ""},
+    {Code::kStyleTurningParts, "style-turning-parts",
+     "the style keeps the angle at the default of its parameter", "", "", true},
+    {Code::kStyleAreaText, "style-area-text",
+     "texts that repeat over an area are not part of the style", "", ""},
+    {Code::kStyleAreaFill, "style-area-fill",
+     "filled shapes that repeat over an area are not part of the style", "", ""},
+    {Code::kStyleUnrepeated, "style-unrepeated",
+     "what does not repeat is not part of the style", "", ""},
+    {Code::kStyleTooManyMarks, "style-too-many-marks",
+     "the style has only the first {0} dots and marks of a repeat", "", ""},});
 // clang-format on
 
 constexpr bool RowsStandInTheOrderOfTheCodes() {

@@ -41,7 +41,7 @@ options+=(-nostdinc -isystem "$gcc_headers/c++" -isystem "$gcc_headers/c++/x86_6
 # what only g++ and its like know is an error where it is used.
 {
   git grep -hoE '^#include <([a-z_]+|CLI/CLI.hpp|nlohmann/json.hpp)>$' -- StyleConversion drawing diagnostics documents exchange \
-    preview conversions styleconv examples/host | sort -u
+    preview styles conversions styleconv examples/host | sort -u
   cat <<'HEADER'
 #undef __GNUC__
 #undef __GNUC_MINOR__
@@ -64,7 +64,7 @@ defined_for() {
     StyleConversion/interfaces/TylModel/*) echo -DTYLMODEL_BUILD ;;
     StyleConversion/*) echo -DSTYLECONVERSION_BUILD ;;
     drawing/*) echo -DOXDB_BUILD ;;
-    diagnostics/* | documents/* | exchange/* | preview/* | conversions/* | "$work"/*) echo -DSTYLECONVERSION_STATIC ;;
+    diagnostics/* | documents/* | exchange/* | preview/* | styles/* | conversions/* | "$work"/*) echo -DSTYLECONVERSION_STATIC ;;
     styleconv/*) echo -DSTYLECONVERSION_STATIC '-DSTYLECONVERSION_VERSION="0"' ;;
   esac
 }
@@ -79,7 +79,7 @@ check() {
 }
 
 if [ $# -eq 0 ]; then
-  folders=(StyleConversion drawing diagnostics documents exchange preview conversions styleconv examples/host)
+  folders=(StyleConversion drawing diagnostics documents exchange preview styles conversions styleconv examples/host)
   mapfile -t sources < <(git ls-files "${folders[@]/%//*.cpp}" | grep -v '/posix/')
   mapfile -t headers < <(git ls-files 'StyleConversion/interfaces/*.h' ':(glob)drawing/database/*.h' ':(glob)drawing/entities/*.h' \
     'StyleConversion/*Converter.h' StyleConversion/{Export,linetype/FontInfo,linetype/Services}.h)

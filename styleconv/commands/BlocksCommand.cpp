@@ -82,7 +82,7 @@ ExitStatus Blocks(const BlocksOptions& options) {
         SayLine("styleconv: --model-space cannot be used with --name: it converts no blocks");
         return kUsageFault;
     }
-    const std::optional<conversions::Form> form = FormOf(options);
+    const std::optional<conversions::Form> form = FormOf(options, options.faithful);
     if (!form) {
         return kUsageFault;
     }
@@ -97,9 +97,10 @@ ExitStatus Blocks(const BlocksOptions& options) {
     job.tolerant = options.tolerant;
     job.modelSpace = options.modelSpace;
     job.units = UnitNamed(options.units);
-    job.seenAs = {options.expand, options.fromBasePoint, options.visibleOnly || options.faithful};
+    job.fidelity = FidelityOf(options.faithful, options, *form);
+    job.seenAs = {options.expand, options.fromBasePoint,
+                  options.visibleOnly || job.fidelity == encoding::Fidelity::kFaithful};
     job.whiteAs = options.whiteAs;
-    job.fidelity = FidelityOf(options.faithful);
     return Finish(ConvertBlocks(input.ForJob(), job, *front), options.file, options.tolerant, options, *form,
                   *front);
 }
@@ -128,6 +129,8 @@ void AddBlocksCommand(CommandLine& line) {
     AddTolerantOption(command, options->tolerant);
     AddFaithfulOption(command, options->faithful);
     AddCommonOptions(command, *options);
+    AddStyleScaleOption(command, *options);
+    AddStrictSymbolsOption(command, *options);
 }
 
 } // namespace styleconv

@@ -34,9 +34,10 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     }
     SayAll(glyphs.diagnostics);
     glyphs.captions.title = TitleOf(options.file);
-    return WriteResult(options.output, [&](const conversions::TextSink& sink) {
-        return WriteGlyphs(glyphs, options, *form, sink, *front);
-    });
+    return WriteForm(options, options.file,
+                     [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
+                         return WriteGlyphs(glyphs, options, *form, sink, *front, &styles);
+                     });
 }
 
 } // namespace

@@ -65,13 +65,32 @@ private:
 
 struct FormName {
     std::string_view format;
+    std::string_view extension; // of the output's name
     conversions::Form form;
 };
 
-constexpr FormName kForms[] = {{"", conversions::Form::kJson},
-                               {"json", conversions::Form::kJson},
-                               {"svg", conversions::Form::kSvg},
-                               {"html", conversions::Form::kHtml}};
+constexpr FormName kForms[] = {{"json", "", conversions::Form::kJson},
+                               {"json", ".json", conversions::Form::kJson},
+                               {"svg", ".svg", conversions::Form::kSvg},
+                               {"html", ".html", conversions::Form::kHtml},
+                               {"qgis", ".xml", conversions::Form::kQgis}};
+
+// Says what options of styles cannot be used with this form, or with each other.
+bool CheckStyleForm(const StyleFormOptions& style, conversions::Form form, bool faithful) {
+    const char* const alone = style.strictSymbols         ? "--strict-symbols"
+                              : style.hatchUnits != "map" ? "--hatch-units"
+                              : style.scale != 1.0        ? "--scale"
+                                                          : nullptr;
+    if (alone != nullptr && form != conversions::Form::kQgis) {
+        SayLine("styleconv: " + std::string(alone) + " can only be used with --format qgis");
+        return false;
+    }
+    if (style.strictSymbols && faithful) {
+        SayLine("styleconv: --strict-symbols cannot be used with --faithful");
+        return false;
+    }
+    return true;
+}
 
 // Whether it is of a part of the file, so that the rest may be worth having.
 bool IsLocal(const Diagnostic& diagnostic) {
@@ -173,26 +192,45 @@ ExitStatus Finish(const conversions::Conversion& conversion, const std::string& 
     SayAll(conversion.diagnostics);
     conversions::Captions captions = conversion.captions;
     captions.title = TitleOf(file);
-    return WriteResult(options.output, [&](const conversions::TextSink& sink) {
-        return WriteSymbols(conversion.symbols, form, sink, front, conversion.fidelity, captions);
+    return WriteForm(options, file, [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
+        return WriteSymbols(conversion.symbols, form, sink, front, conversion.fidelity, captions, &styles);
     });
 }
 
-std::optional<conversions::Form> FormOf(const CommonOptions& options) {
-    const bool isToldByName = options.format.empty();
-    const std::string extension =
+ExitStatus WriteForm(
+    const CommonOptions& options, const std::string& file,
+    const std::function<bool(const conversions::TextSink& sink, conversions::StyleJob& styles)>& write) {
+    conversions::StyleJob styles;
+    styles.file = file == "-" ? "standard input" : file;
+    styles.hatchesInMillimetres = options.style.hatchUnits == "mm";
+    styles.scale = options.style.scale;
+    const ExitStatus status =
+        WriteResult(options.output, [&](const conversions::TextSink& sink) { return write(sink, styles); });
+    MergeAlike(styles.diagnostics);
+    SayAll(styles.diagnostics);
+    return status;
+}
+
+std::optional<conversions::Form> FormOf(const CommonOptions& options, bool faithful) {
+    std::string extension =
         platform::PathToBytes(platform::SplitPath(platform::PathFromBytes(options.output)).extension);
-    std::string format = isToldByName && !extension.empty() ? extension.substr(1) : options.format;
-    std::transform(format.begin(), format.end(), format.begin(),
+    std::transform(extension.begin(), extension.end(), extension.begin(),
                    [](char c) { return platform::AsciiLower(c); });
     for (const FormName& name : kForms) {
-        if (format == name.format) {
-            return name.form;
+        if (options.format.empty() ? extension == name.extension : options.format == name.format) {
+            return CheckStyleForm(options.style, name.form, faithful) ? std::optional(name.form)
+                                                                      : std::nullopt;
         }
     }
     SayLine("styleconv: -o " + diagnostics::ShownText(options.output) +
-            ": the end of the name tells no format; use .json, .svg or .html, or --format");
+            ": the end of the name tells no format; use .json, .svg, .html or .xml, or --format");
     return std::nullopt;
+}
+
+encoding::Fidelity FidelityOf(bool faithful, const CommonOptions& options, conversions::Form form) {
+    return faithful || (form == conversions::Form::kQgis && !options.style.strictSymbols)
+               ? encoding::Fidelity::kFaithful
+               : encoding::Fidelity::kStrict;
 }
 
 } // namespace styleconv

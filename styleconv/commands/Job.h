@@ -50,7 +50,17 @@ ExitStatus Finish(const conversions::Conversion& conversion, const std::string& 
                   const CommonOptions& options, conversions::Form form, conversions::Front& front);
 
 /// The form that was asked for, or else the one that the end of the output's name tells; documents where
-/// there is no end. None, with a message, where it is another.
-std::optional<conversions::Form> FormOf(const CommonOptions& options);
+/// there is no end. None, with a message, where it is another, or where options of styles are given for
+/// another form.
+std::optional<conversions::Form> FormOf(const CommonOptions& options, bool faithful = false);
+
+/// Writes by `write`, to which it gives how styles are made, and then says what those do not say of the
+/// symbols.
+ExitStatus
+WriteForm(const CommonOptions& options, const std::string& file,
+          const std::function<bool(const conversions::TextSink& sink, conversions::StyleJob& styles)>& write);
+
+/// What the options ask for: styles are made of faithful symbols where nobody says otherwise.
+encoding::Fidelity FidelityOf(bool faithful, const CommonOptions& options, conversions::Form form);
 
 } // namespace styleconv

@@ -24,7 +24,7 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
     if (!CheckStyleOptions(options)) {
         return kUsageFault;
     }
-    const std::optional<conversions::Form> form = FormOf(options);
+    const std::optional<conversions::Form> form = FormOf(options, options.faithful);
     if (!form) {
         return kUsageFault;
     }
@@ -44,7 +44,7 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
     job.scale = options.scale;
     job.font = options.font;
     job.tolerant = options.tolerant;
-    job.fidelity = FidelityOf(options.faithful);
+    job.fidelity = FidelityOf(options.faithful, options, *form);
     if (!options.drawing.empty()) {
         job.drawing = drawing.ForJob();
     }
@@ -68,6 +68,7 @@ void AddLinetypesCommand(CommandLine& line) {
     AddFaithfulOption(command, options->faithful);
     AddCodePageOption(command, options->codePage);
     AddCommonOptions(command, *options);
+    AddStrictSymbolsOption(command, *options);
 }
 
 } // namespace styleconv

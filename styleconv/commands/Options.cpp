@@ -92,8 +92,8 @@ void AddOutputOption(Command& command, std::string& output) {
 
 void AddCommonOptions(Command& command, CommonOptions& options) {
     AddOutputOption(command, options.output);
-    command.AddChoice("--format", options.format, {"json", "svg", "html"},
-                      "Form of the result: json, svg or html (default: by the end of -o, else json)");
+    command.AddChoice("--format", options.format, {"json", "svg", "html", "qgis"},
+                      "Form of the result: json, svg, html or qgis (default: by the end of -o, else json)");
 }
 
 void AddNameOption(Command& command, std::vector<std::string>& names, const std::string& description) {
@@ -129,8 +129,14 @@ void AddFaithfulOption(Command& command, bool& faithful) {
                     "Draw what the definition says, where the required output draws something else");
 }
 
-encoding::Fidelity FidelityOf(bool faithful) {
-    return faithful ? encoding::Fidelity::kFaithful : encoding::Fidelity::kStrict;
+void AddStrictSymbolsOption(Command& command, CommonOptions& options) {
+    command.AddFlag("--strict-symbols", options.style.strictSymbols,
+                    "With --format qgis: make styles of the required output, not as --faithful draws it");
+}
+
+void AddStyleScaleOption(Command& command, CommonOptions& options) {
+    AddScaleOption(command, "--scale", options.style.scale,
+                   "With --format qgis: multiply all lengths by this (default: 1)");
 }
 
 void AddLimitOptions(Command& command, LimitOptions& options) {

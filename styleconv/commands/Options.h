@@ -1,7 +1,6 @@
 // The options that commands share.
 #pragma once
 
-#include "StyleConversion/encoding/Fidelity.h"
 #include "styleconv/commands/CommandLine.h"
 
 #include <string>
@@ -39,10 +38,18 @@ void AddStyleOptions(Command& command, StyleOptions& options);
 /// False, with a message, when they contradict each other.
 bool CheckStyleOptions(const StyleOptions& options);
 
+/// How styles of map programs are made.
+struct StyleFormOptions {
+    bool strictSymbols = false; // not those of --faithful
+    std::string hatchUnits = "map";
+    double scale = 1.0;
+};
+
 /// Options that every command takes.
 struct CommonOptions {
     std::string output; // a path; standard output when empty
     std::string format; // where it is empty, the end of the output's name tells
+    StyleFormOptions style;
 };
 
 /// Adds -o to a command.
@@ -65,8 +72,10 @@ void AddTolerantOption(Command& command, bool& tolerant);
 
 /// Adds --faithful to a converting command.
 void AddFaithfulOption(Command& command, bool& faithful);
-/// What the option asks for.
-encoding::Fidelity FidelityOf(bool faithful);
+/// Adds --strict-symbols to a converting command.
+void AddStrictSymbolsOption(Command& command, CommonOptions& options);
+/// Adds --scale to a command that scales nothing else.
+void AddStyleScaleOption(Command& command, CommonOptions& options);
 
 /// Adds --time-limit and --memory-limit to a command.
 void AddLimitOptions(Command& command, LimitOptions& options);

@@ -26,7 +26,7 @@ pattern::Unit UnitNamed(const std::string& units) {
 }
 
 ExitStatus Patterns(const PatternsOptions& options) {
-    const std::optional<conversions::Form> form = FormOf(options);
+    const std::optional<conversions::Form> form = FormOf(options, options.faithful);
     if (!form) {
         return kUsageFault;
     }
@@ -39,7 +39,8 @@ ExitStatus Patterns(const PatternsOptions& options) {
     }
     const auto front = FrontWithoutFiles(options.output.empty());
     const conversions::PatternsOptions job = {WideTexts(options.names), options.tolerant,
-                                              UnitNamed(options.units), FidelityOf(options.faithful)};
+                                              UnitNamed(options.units),
+                                              FidelityOf(options.faithful, options, *form)};
     return Finish(ConvertPatterns(input.ForJob(options.codePage), job, *front), options.file,
                   options.tolerant, options, *form, *front);
 }
@@ -58,6 +59,10 @@ void AddPatternsCommand(CommandLine& line) {
                       "Scale to this unit, mm or inch, a file that says ;%UNITS= otherwise");
     AddCodePageOption(command, options->codePage);
     AddCommonOptions(command, *options);
+    command.AddChoice("--hatch-units", options->style.hatchUnits, {"map", "mm"},
+                      "With --format qgis: repeat hatches in units of the map, or in mm of the page");
+    AddStyleScaleOption(command, *options);
+    AddStrictSymbolsOption(command, *options);
 }
 
 } // namespace styleconv

@@ -23,8 +23,10 @@ ALLOWED = {
     "documents": ["diagnostics", "drawing", "StyleConversion"],
     "exchange": ["diagnostics", "drawing", "StyleConversion/encoding", "StyleConversion/platform"],
     "preview": ["StyleConversion"],
+    # Over the symbols that previews draw.
+    "styles": ["preview", "StyleConversion"],
     # Jobs over checks over reading; none opens a file or shows anything.
-    "conversions": ["diagnostics", "documents", "preview", "drawing", "StyleConversion"],
+    "conversions": ["diagnostics", "documents", "preview", "styles", "drawing", "StyleConversion"],
     "conversions/checking": ["conversions/reading", "diagnostics", "preview", "drawing", "StyleConversion"],
     "conversions/reading": ["diagnostics", "documents", "exchange", "drawing", "StyleConversion"],
     "styleconv": ["StyleConversion/platform"],
@@ -34,7 +36,7 @@ ALLOWED = {
     "styleconv/files": ["styleconv/process", "conversions/reading", "diagnostics", "drawing",
                         "StyleConversion/block", "StyleConversion/linetype", "StyleConversion/platform"],
     "styleconv/process": ["diagnostics", "StyleConversion/platform"],
-    "tests": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "conversions", "styleconv", "fuzz",
+    "tests": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "styles", "conversions", "styleconv", "fuzz",
               "examples"],
     "fuzz": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "conversions", "tests/support"],
     "benchmarks": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "tests/support"],

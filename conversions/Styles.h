@@ -1,0 +1,24 @@
+// Symbols as styles of map programs, and what is lost on the way as diagnostics.
+#pragma once
+
+#include "conversions/Forms.h"
+#include "styles/QgisLibrary.h"
+
+namespace conversions {
+
+/// Writes the symbols that it is given to a style library. What that does not say of them is added to the
+/// job.
+class QgisStyles {
+public:
+    QgisStyles(const TextSink& sink, StyleJob& job);
+
+    /// Each is false when the sink refuses a text.
+    bool Add(TylModel::SymbolDefinition& symbol);
+    bool Finish() { return writer_.Finish(); }
+
+private:
+    StyleJob& job_;
+    styles::QgisLibraryWriter writer_;
+};
+
+} // namespace conversions

@@ -1,0 +1,126 @@
+#include "styles/QgisLibrary.h"
+
+#include "StyleConversion/platform/Utf8.h"
+#include "styles/QgisSymbols.h"
+
+namespace styles {
+namespace {
+
+using preview::ResolvedSymbol;
+using preview::Usage;
+
+constexpr std::string_view kLibraryHead = "<!DOCTYPE qgis_style>\n"
+                                          "<qgis_style version=\"2\">\n"
+                                          "<symbols>\n";
+constexpr std::string_view kLibraryTail = "</symbols>\n"
+                                          "<colorramps/>\n"
+                                          "<textformats/>\n"
+                                          "<labelsettings/>\n"
+                                          "<legendpatchshapes/>\n"
+                                          "</qgis_style>\n";
+
+std::string_view KindOf(const ResolvedSymbol& symbol) {
+    switch (symbol.usage) {
+    case Usage::kArea:
+        return "hatch";
+    case Usage::kLine:
+        return "linetype";
+    case Usage::kPoint:
+        break;
+    }
+    return !symbol.members.empty() && symbol.members.front().hasUsage ? "block" : "shape";
+}
+
+// For a symbol that draws nothing: the program does not know symbols without layers.
+void WriteEmptyLayer(QgisXml& xml, Usage usage) {
+    switch (usage) {
+    case Usage::kArea:
+        xml.OpenLayer("SimpleFill");
+        xml.Option("style", "no");
+        break;
+    case Usage::kLine:
+        xml.OpenLayer("SimpleLine");
+        xml.Option("line_style", "no");
+        break;
+    case Usage::kPoint:
+        xml.OpenLayer("SimpleMarker");
+        xml.Option("color", "0,0,0,0");
+        break;
+    }
+    xml.Option("outline_style", "no");
+    xml.EndOptions();
+    xml.CloseLayer();
+}
+
+bool WriteLayers(QgisXml& xml, const ResolvedSymbol& symbol, const QgisOptions& options, AddedStyle& added) {
+    switch (symbol.usage) {
+    case Usage::kArea: {
+        const AreaParts area = AreaPartsOf(symbol, options.scale);
+        added.losses = area.losses;
+        return WriteFillLayers(xml, area, options.hatchUnit, added.name);
+    }
+    case Usage::kLine: {
+        const LineParts line = LinePartsOf(symbol, options.scale);
+        added.losses = line.losses;
+        return WriteLineLayers(xml, line, symbol, options.scale, added.name, added.losses);
+    }
+    case Usage::kPoint:
+        break;
+    }
+    const MarkerParts marker = MarkerPartsOf(symbol, options.scale);
+    added.losses = marker.losses;
+    return WriteMarkerLayers(xml, marker, symbol, options.scale);
+}
+
+std::string_view TypeOf(Usage usage) {
+    return usage == Usage::kArea ? "fill" : usage == Usage::kLine ? "line" : "marker";
+}
+
+} // namespace
+
+// Importing lets a symbol replace another one of its name, of whatever kind.
+std::string QgisLibraryWriter::UniqueName(const std::wstring& wanted, bool& isRenamed) {
+    const std::string name = wanted.empty() ? "unnamed" : platform::WideToValidUtf8(wanted);
+    std::string unique = name;
+    int& number = lastNumbers_.try_emplace(name, 1).first->second;
+    while (!names_.insert(unique).second) {
+        unique = name + " (" + std::to_string(++number) + ")";
+    }
+    isRenamed = wanted.empty() || unique != name;
+    return unique;
+}
+
+std::string QgisLibraryWriter::TagsOf(std::string_view kind) const {
+    std::string tags(kind);
+    for (const std::string& tag : options_.tags) {
+        tags += ',';
+        for (const char c : tag) {
+            tags += c == ',' ? ' ' : c;
+        }
+    }
+    return tags;
+}
+
+bool QgisLibraryWriter::Add(TylModel::SymbolDefinition& symbol, AddedStyle& added) {
+    const ResolvedSymbol resolved = preview::Resolve(symbol);
+    added = {};
+    added.name = UniqueName(resolved.name, added.isRenamed);
+    std::string text(started_ ? std::string_view() : kLibraryHead);
+    started_ = true;
+    QgisXml xml(text);
+    // Lines are not cut at the map's edge: dashes would begin there, and move with the map.
+    xml.OpenSymbol(TypeOf(resolved.usage), added.name, resolved.usage == Usage::kArea,
+                   TagsOf(KindOf(resolved)));
+    if (!WriteLayers(xml, resolved, options_, added)) {
+        WriteEmptyLayer(xml, resolved.usage);
+    }
+    xml.CloseSymbol();
+    text += '\n';
+    return sink_(text);
+}
+
+bool QgisLibraryWriter::Finish() {
+    return (started_ || sink_(kLibraryHead)) && sink_(kLibraryTail);
+}
+
+} // namespace styles

@@ -1,0 +1,55 @@
+// Symbols as one style library of QGIS, which its style manager imports.
+#pragma once
+
+#include "TylModel/TylModel.h"
+#include "styles/Loss.h"
+#include "styles/QgisExpression.h"
+
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace styles {
+
+/// Takes the next piece of a document's UTF-8 text. False stops the writing: the piece could not be stored.
+using TextSink = std::function<bool(std::string_view)>;
+
+struct QgisOptions {
+    HatchUnit hatchUnit = HatchUnit::kMap;
+    double scale = 1.0;            // multiplies all lengths but pens
+    std::vector<std::string> tags; // UTF-8, beside the one that names the kind
+};
+
+/// What became of one symbol.
+struct AddedStyle {
+    std::string name; // in the library, where no two are alike
+    bool isRenamed = false;
+    Losses losses;
+};
+
+/// Writes one library: call Add for each symbol in turn, then Finish. The text of one symbol at a time is
+/// held in memory.
+class QgisLibraryWriter {
+public:
+    QgisLibraryWriter(TextSink sink, QgisOptions options)
+        : sink_(std::move(sink)), options_(std::move(options)) {}
+
+    /// False when the sink refused a piece; nothing more is to be written then.
+    bool Add(TylModel::SymbolDefinition& symbol, AddedStyle& added);
+    bool Finish();
+
+private:
+    std::string UniqueName(const std::wstring& wanted, bool& isRenamed);
+    std::string TagsOf(std::string_view kind) const;
+
+    TextSink sink_;
+    QgisOptions options_;
+    std::set<std::string> names_;
+    std::map<std::string, int> lastNumbers_; // behind names that were wanted again
+    bool started_ = false;
+};
+
+} // namespace styles

@@ -1,0 +1,111 @@
+#include "styles/QgisExpression.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace styles;
+
+// What of the polygon the map shows, for hatches in map units.
+const std::string kSeen = "intersection(if(is_valid($geometry),$geometry,buffer($geometry,0)),"
+                          "coalesce(transform(@map_extent,@map_crs,@layer_crs),bounds($geometry)))";
+const std::string kWhole = "if(is_valid($geometry),$geometry,buffer($geometry,0))";
+
+Tiling TilingOf(double angle, double stepX, double stepY) {
+    Tiling tiling;
+    tiling.angle = angle;
+    tiling.stepX = stepX;
+    tiling.stepY = stepY;
+    return tiling;
+}
+
+TEST(QgisExpression, RowsAreLinesFromOneSideOfThePolygonToTheOther) {
+    Tiling tiling = TilingOf(0, 10, 5);
+    tiling.rows = {1.5};
+    EXPECT_EQ(
+        LinesExpression({tiling}, HatchUnit::kMap),
+        "with_variable('g'," + kSeen +
+            ",intersection(collect_geometries(array_foreach("
+            "generate_series((y_min(@g)-y_min($geometry)+-1.5)//5,(y_max(@g)-y_min($geometry)+-1.5)//5+1),"
+            "make_line(make_point(x_min(@g),y_min($geometry)+@element*5+1.5),"
+            "make_point(x_max(@g),y_min($geometry)+@element*5+1.5)))),@g))");
+}
+
+TEST(QgisExpression, ColumnsAreLinesFromItsFootToItsHead) {
+    Tiling tiling = TilingOf(0, 10, 5);
+    tiling.columns = {2};
+    EXPECT_EQ(
+        LinesExpression({tiling}, HatchUnit::kMap),
+        "with_variable('g'," + kSeen +
+            ",intersection(collect_geometries(array_foreach("
+            "generate_series((x_min(@g)-x_min($geometry)+-2)//10,(x_max(@g)-x_min($geometry)+-2)//10+1),"
+            "make_line(make_point(x_min($geometry)+@element*10+2,y_min(@g)),"
+            "make_point(x_min($geometry)+@element*10+2,y_max(@g))))),@g))");
+}
+
+TEST(QgisExpression, StrokesAreTilesOfTheTurnedPolygonThatAreTurnedBack) {
+    Tiling tiling = TilingOf(30, 4, 3);
+    tiling.strokes = {{{0, 0}, {1, 2}}, {{2, -1}, {3, 0}}};
+    const std::string anchor = ",make_point(x_min($geometry),y_min($geometry)))";
+    EXPECT_EQ(LinesExpression({tiling}, HatchUnit::kMap),
+              "rotate(with_variable('g',rotate(" + kSeen + ",30" + anchor +
+                  ",intersection(collect_geometries(with_variable('r',collect_geometries(array_foreach("
+                  "generate_series((x_min(@g)-x_min($geometry)+-3)//4,(x_max(@g)-x_min($geometry)+0)//4+1),"
+                  "translate(geom_from_wkt('MULTILINESTRING((0 0,1 2),(2 -1,3 0))'),"
+                  "x_min($geometry)+@element*4,y_min($geometry)))),array_foreach("
+                  "generate_series((y_min(@g)-y_min($geometry)+-2)//3,(y_max(@g)-y_min($geometry)+1)//3+1),"
+                  "translate(@r,0,@element*3)))),@g)),330" +
+                  anchor);
+}
+
+TEST(QgisExpression, OnThePageYPointsDown) {
+    Tiling tiling = TilingOf(30, 4, 3);
+    tiling.strokes = {{{0, 0}, {1, 2}}};
+    const std::string anchor = ",make_point(x_min($geometry),y_max($geometry)))";
+    EXPECT_EQ(LinesExpression({tiling}, HatchUnit::kMillimetre),
+              "rotate(with_variable('g',rotate(" + kWhole + ",330" + anchor +
+                  ",intersection(collect_geometries(with_variable('r',collect_geometries(array_foreach("
+                  "generate_series((x_min(@g)-x_min($geometry)+-1)//4,(x_max(@g)-x_min($geometry)+0)//4+1),"
+                  "translate(geom_from_wkt('MULTILINESTRING((0 0,1 -2))'),"
+                  "x_min($geometry)+@element*4,y_max($geometry)))),array_foreach("
+                  "generate_series((y_min(@g)-y_max($geometry)+0)//3,(y_max(@g)-y_max($geometry)+2)//3+1),"
+                  "translate(@r,0,@element*3)))),@g)),30" +
+                  anchor);
+}
+
+TEST(QgisExpression, DotsAreAnExpressionOfTheirOwn) {
+    Tiling tiling = TilingOf(0, 4, 3);
+    tiling.dots = {{1, 2}};
+    EXPECT_EQ(LinesExpression({tiling}, HatchUnit::kMap), "");
+    const std::string dots = DotsExpression({tiling}, HatchUnit::kMap);
+    EXPECT_NE(dots.find("geom_from_wkt('MULTIPOINT((1 2))')"), std::string::npos);
+    EXPECT_EQ(DotsExpression({tiling, tiling}, HatchUnit::kMap),
+              "collect_geometries(" + dots + "," + dots + ")");
+}
+
+// "--" begins a comment.
+TEST(QgisExpression, NoNumberMakesAComment) {
+    Tiling tiling = TilingOf(-400, 4, 3);
+    tiling.rows = {-1, 1};
+    tiling.columns = {-1, 1};
+    tiling.strokes = {{{-3, -4}, {3, 4}}};
+    tiling.dots = {{-1, -1}};
+    for (const HatchUnit unit : {HatchUnit::kMap, HatchUnit::kMillimetre}) {
+        EXPECT_EQ(LinesExpression({tiling}, unit).find("--"), std::string::npos);
+        EXPECT_EQ(DotsExpression({tiling}, unit).find("--"), std::string::npos);
+    }
+}
+
+// A hundred thousand strokes of four on a square unit.
+TEST(QgisExpression, ALimitOfStrokesIsALimitOfArea) {
+    EXPECT_EQ(EnabledExpression(4, HatchUnit::kMap),
+              "area(intersection(bounds($geometry),coalesce(transform(@map_extent,@map_crs,@layer_crs),"
+              "bounds($geometry))))<25000");
+    EXPECT_EQ(EnabledExpression(4, HatchUnit::kMillimetre), "area(bounds($geometry))<25000");
+}
+
+TEST(QgisExpression, QuotesAndBackslashesOfLiteralsAreDoubled) {
+    EXPECT_EQ(QgisLiteral("O'Neill \\ Sons"), "'O''Neill \\\\ Sons'");
+}
+
+} // namespace
