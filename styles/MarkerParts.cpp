@@ -40,8 +40,13 @@ double ReachOf(const preview::Part& part, Point anchor, double scale) {
     }
     const auto& path = std::get<PathPart>(part);
     const preview::Box& box = path.outline.Bounds();
-    // A whole pen beside the outline, for corners.
-    return box.IsEmpty() ? 0.0 : FarthestOf(box, anchor) * scale + PenOf(path, scale);
+    if (box.IsEmpty()) {
+        return 0.0;
+    }
+    // A whole pen beside the outline, for corners; and room for it in a symbol that is made smaller.
+    constexpr double kRoom = 1.1;
+    const double farthest = FarthestOf(box, anchor) * scale;
+    return std::max(farthest + PenOf(path, scale), farthest * kRoom);
 }
 
 void RunList::Add(const preview::Part& part, double angle) {

@@ -182,9 +182,10 @@ TEST(PictureFormats, NameThatTellsNoFormatIsAFaultOfTheCommandLine) {
         arguments.insert(arguments.end(), {"-o", folder / "a.png"});
         const ToolResult result = RunTool(arguments);
         EXPECT_EQ(result.status, 2);
-        EXPECT_EQ(result.errors, "styleconv: -o " + (folder / "a.png") +
-                                     ": the end of the name tells no format; use .json, .svg or .html, or "
-                                     "--format\n");
+        EXPECT_EQ(result.errors,
+                  "styleconv: -o " + (folder / "a.png") +
+                      ": the end of the name tells no format; use .json, .svg, .html or .xml, or "
+                      "--format\n");
         EXPECT_EQ(folder.Read("a.png"), "(none)");
     }
 }

@@ -56,8 +56,9 @@ TEST(MarkerParts, TheSquareHoldsWhatIsFarthestFromTheInsertionPoint) {
     const auto definition = preview_test::NewSymbol(L"POINT");
     preview_test::AddPath(*definition, L"M 1,1 L 2,-7").SetLineWeight(L"0.5");
     preview_test::SetPointUsage(*definition);
-    // Seven units twice as large, and a pen.
-    EXPECT_DOUBLE_EQ(MarkerPartsOf(Resolved(*definition), 2.0).reach, 14.5);
+    // Seven units, larger or smaller, and a tenth or a pen.
+    EXPECT_DOUBLE_EQ(MarkerPartsOf(Resolved(*definition), 2.0).reach, 15.4);
+    EXPECT_DOUBLE_EQ(MarkerPartsOf(Resolved(*definition), 0.5).reach, 4.0);
 }
 
 TEST(MarkerParts, UnderliningAndAnglesOfTextsThatFollowAParameterAreLost) {

@@ -1,0 +1,126 @@
+// The style libraries that commands write. How they look on a map is tested in the map program.
+#include "tests/support/ToolRun.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+
+ToolResult RunQgis(std::vector<std::string> arguments, const std::vector<std::string>& more = {}) {
+    arguments.insert(arguments.end(), {"--format", "qgis"});
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return RunTool(arguments);
+}
+
+bool Has(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
+// A pattern whose numbers the required output cuts.
+constexpr const char* kThirds = "*THIRDS\n0, 0,0, 0,.33333333\n";
+
+constexpr const char* kRod = R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,
+  "layers": [{"name": "0"}],
+  "blocks": [{"name": "ROD", "entities": [
+    {"type": "line", "start": [0, 0], "end": [500, 0], "lineWeight": 50, "color": 1}]}]})";
+
+TEST(StyleFormats, EveryCommandWritesALibraryWithTagsOfKindAndFile) {
+    const ScratchFolder folder;
+    const struct {
+        std::vector<std::string> arguments;
+        const char* symbol;
+    } kCases[] = {
+        {{"patterns", folder.Write("walls.pat", "*LEVEL\n0, 0,0, 0,.125\n")},
+         "<symbol type=\"fill\" name=\"LEVEL\" alpha=\"1\" clip_to_extent=\"1\" force_rhr=\"0\" "
+         "tags=\"hatch,walls\">"},
+        {{"linetypes", folder.Write("pipes.lin", "*GAS\nA,1,-1\n")},
+         "<symbol type=\"line\" name=\"GAS\" alpha=\"1\" clip_to_extent=\"0\" force_rhr=\"0\" "
+         "tags=\"linetype,pipes\">"},
+        {{"blocks", folder.Write("street.json", kRod)},
+         "<symbol type=\"marker\" name=\"ROD\" alpha=\"1\" clip_to_extent=\"0\" force_rhr=\"0\" "
+         "tags=\"block,street\">"},
+    };
+    for (const auto& test : kCases) {
+        const ToolResult result = RunQgis(test.arguments);
+        EXPECT_EQ(result.status, 0) << result.errors;
+        EXPECT_TRUE(Has(result.output, test.symbol)) << result.output;
+        EXPECT_TRUE(result.output.ends_with("</qgis_style>\n"));
+    }
+}
+
+TEST(StyleFormats, TheEndOfTheOutputsNameTellsTheFormat) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("pipes.lin", "*GAS\nA,1,-1\n");
+    EXPECT_EQ(RunTool({"linetypes", file, "-o", folder / "pipes.xml"}).status, 0);
+    EXPECT_EQ(folder.Read("pipes.xml"), RunQgis({"linetypes", file}).output);
+}
+
+// 0.33333333 inches are 8.466666582 mm; the required output has five decimals of it.
+TEST(StyleFormats, StylesAreMadeOfFaithfulSymbolsUnlessStrictOnesAreAskedFor) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", kThirds);
+    const std::string faithful = RunQgis({"patterns", file}).output;
+    EXPECT_TRUE(Has(faithful, "@element*0.33333333+")) << faithful;
+    const std::string strict = RunQgis({"patterns", file}, {"--strict-symbols"}).output;
+    EXPECT_TRUE(Has(strict, "@element*0.33333+")) << strict;
+    EXPECT_EQ(RunQgis({"patterns", file}, {"--faithful"}).output, faithful);
+}
+
+TEST(StyleFormats, HatchesRepeatInUnitsOfTheMapOrOfThePageTimesTheScale) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*LEVEL\n0, 0,0, 0,.125\n");
+    const std::string unit = "<Option name=\"units\" type=\"QString\" value=\"";
+    const std::string map = RunQgis({"patterns", file}, {"--scale", "4"}).output;
+    EXPECT_TRUE(Has(map, unit + "MapUnit\"/>"));
+    EXPECT_TRUE(Has(map, "y_min($geometry)+@element*0.5+0")) << map;
+    const std::string page = RunQgis({"patterns", file}, {"--hatch-units", "mm"}).output;
+    EXPECT_TRUE(Has(page, unit + "MM\"/>"));
+    EXPECT_TRUE(Has(page, "y_max($geometry)+@element*0.125+0")) << page;
+}
+
+// The square holds 500 mm and a tenth of it to each side.
+TEST(StyleFormats, BlocksAreScaledAndKeepTheirPens) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("street.json", kRod);
+    const std::string whole = RunQgis({"blocks", file}).output;
+    EXPECT_TRUE(Has(whole, "name=\"size\" type=\"QString\" value=\"1100\"")) << whole;
+    const std::string small = RunQgis({"blocks", file}, {"--scale", "0.01"}).output;
+    EXPECT_TRUE(Has(small, "name=\"size\" type=\"QString\" value=\"11\"")) << small;
+    EXPECT_TRUE(Has(small, "name=\"outline_width\" type=\"QString\" value=\"0.5\"")) << small;
+}
+
+TEST(StyleFormats, WhatIsNotCarriedOverIsTold) {
+    const ScratchFolder folder;
+    const std::string pattern = folder.Write("a.pat", "*LEVEL\n0, 0,0, 0,.125\n");
+    EXPECT_EQ(RunQgis({"patterns", pattern}).errors,
+              pattern + ": note: the style keeps the angle at the default of its parameter (symbol LEVEL)\n");
+    const std::string lines = folder.Write("a.lin", "*TWICE\nA,1,-1\n*TWICE\nA,2,-1\n");
+    EXPECT_EQ(
+        RunQgis({"linetypes", lines}).errors,
+        lines +
+            ": warning: the library has the name already; this style is named TWICE (2) (symbol TWICE)\n");
+    const std::string words = folder.Write("b.lin", "*HOT\nA,8,-1,[\"%%u90\",STANDARD,S=1],-6\n");
+    EXPECT_EQ(RunQgis({"linetypes", words, "--font", "Arial"}).errors,
+              words + ": warning: lines under and over texts are not part of the style (symbol HOT)\n");
+}
+
+TEST(StyleFormats, OptionsOfStylesAreForStyles) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*LEVEL\n0, 0,0, 0,.125\n");
+    for (const std::vector<std::string>& option : std::vector<std::vector<std::string>>{
+             {"--scale", "2"}, {"--hatch-units", "mm"}, {"--strict-symbols"}}) {
+        std::vector<std::string> arguments = {"patterns", file};
+        arguments.insert(arguments.end(), option.begin(), option.end());
+        const ToolResult result = RunTool(arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.errors, "styleconv: " + option.front() + " can only be used with --format qgis\n");
+    }
+    const ToolResult result = RunQgis({"patterns", file}, {"--faithful", "--strict-symbols"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "styleconv: --strict-symbols cannot be used with --faithful\n");
+}
+
+} // namespace
