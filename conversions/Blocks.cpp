@@ -11,11 +11,9 @@
 #include "conversions/reading/DrawingShapeFiles.h"
 #include "conversions/reading/FileKind.h"
 #include "conversions/reading/Shown.h"
-#include "drawing/entities/Recolor.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <utility>
 
@@ -43,10 +41,6 @@ std::wstring FileStem(const std::string& file) {
         return {};
     }
     return platform::SplitPath(platform::PathFromBytes(file)).fileName;
-}
-
-bool ChangesCopies(const drawing::BlockCopyOptions& options) {
-    return options.expandsInserts || options.startsAtBasePoint || options.leavesOutHidden;
 }
 
 // Whether a block takes its unit from a drawing that has none.
@@ -113,7 +107,7 @@ private:
     void ConvertOne(const std::wstring& name, Diagnostics& found) {
         const std::uint64_t tooDense = drawing_.HatchesTooDense();
         std::unique_ptr<drawing::BlockRecord> copy;
-        if (ChangesCopies(options_.seenAs) && !Copy(name, copy, found)) {
+        if (ChangesBlocks(options_) && !Copy(name, copy, found)) {
             return;
         }
         std::unique_ptr<TylModel::SymbolDefinition> symbol(copy ? converter_.Convert(copy.get())
@@ -156,39 +150,8 @@ private:
         if (block == nullptr) {
             return true;
         }
-        drawing::BlockCopyLosses losses;
-        copy = CopyBlock(drawing_, *block, options_.seenAs, losses);
-        diagnostics::Place place;
-        place.file = input_.name;
-        place.item = ItemOf(*block);
-        if (losses.isCut) {
-            found.push_back({Severity::kError,
-                             Code::kTooManyEntities,
-                             std::move(place),
-                             {std::to_string(drawing::kMostCopiedEntities)}});
-            return false;
-        }
-        if (losses.recursive > 0) {
-            found.push_back({Severity::kWarning,
-                             Code::kRecursiveInsert,
-                             place,
-                             {std::to_string(drawing::kDeepestInsert)},
-                             Outcome::kNone,
-                             losses.recursive});
-        }
-        std::map<std::wstring, std::size_t> missing;
-        for (const std::wstring& inserted : losses.missing) {
-            ++missing[inserted];
-        }
-        for (const auto& [inserted, count] : missing) {
-            found.push_back({Severity::kWarning,
-                             Code::kMissingBlock,
-                             place,
-                             {ShownText(inserted)},
-                             Outcome::kNone,
-                             count});
-        }
-        return true;
+        copy = CopyAsSeen(options_, input_.name, drawing_, *block, found);
+        return copy != nullptr;
     }
 
     void TellLosses(const std::wstring& name, Diagnostics& found) {
@@ -221,16 +184,7 @@ private:
 Conversion ConvertBlocks(const Input& input, const BlocksOptions& options, Front& front) {
     Conversion result;
     if (const auto drawing = ReadDrawing(input, options.tolerant, result.diagnostics)) {
-        if (options.units != OxDb::kUnitsUndefined && drawing->insunits() == OxDb::kUnitsUndefined) {
-            drawing->SetInsunits(options.units);
-            std::erase_if(result.diagnostics, [](const diagnostics::Diagnostic& diagnostic) {
-                return diagnostic.code == Code::kNoUnit;
-            });
-        }
-        if (options.whiteAs) {
-            constexpr std::uint8_t kWhite = 7;
-            drawing::ReplaceColor(*drawing, kWhite, *options.whiteAs);
-        }
+        SetUnitAndColor(options, *drawing, result.diagnostics);
         BlockConversion(input, *drawing, options, front, result).Run();
     }
     if (result.isConverted) {

@@ -90,6 +90,7 @@ void EntityNode::BindGeometry() {
     Bind("normal", normal_);
     Bind("vertices", vertices_);
     Bind("plinegen", plinegen_);
+    Bind("widths", widths_);
 }
 
 void EntityNode::BindAreasAndTexts() {
@@ -122,6 +123,8 @@ void EntityNode::BindAreasAndTexts() {
     Bind("rowSpacing", rowSpacing_);
     Bind("attributes", attributesNode_);
     Bind("class", className_);
+    Bind("corners", corners_);
+    Bind("path", path_);
 }
 
 void EntityNode::AddTypes() {
@@ -130,7 +133,7 @@ void EntityNode::AddTypes() {
     AddType("arc", {&center_, &radius_, &startAngle_, &endAngle_}, {&normal_});
     AddType("circle", {&center_, &radius_}, {});
     AddType("ellipse", {&center_, &majorAxis_, &radiusRatio_}, {&startAngle_, &endAngle_});
-    AddType("polyline", {&vertices_}, {&spline_.Closed(), &plinegen_});
+    AddType("polyline", {&vertices_}, {&spline_.Closed(), &plinegen_, &widths_});
     AddType("hatch", {&loops_}, {&solid_, &pattern_, &hatchLines_});
     AddType("mpolygon", {&loops_}, {&fillColor_});
     AddType("text", {&position_, &height_, &text_},
@@ -142,7 +145,7 @@ void EntityNode::AddTypes() {
     AddType("insert", {&insertedBlock_},
             {&position_, &scale_, &rotation_, &mirrored_, &columns_, &rows_, &columnSpacing_, &rowSpacing_,
              &attributesNode_});
-    AddType("other", {&className_}, {});
+    AddType("other", {&className_}, {&corners_, &insertedBlock_, &position_, &path_});
 }
 
 drawing::EntityProperties EntityNode::Properties() const {
@@ -158,6 +161,9 @@ bool EntityNode::Add(ReadState& state, Args&&... args) {
             added.template AddAttribute<drawing::Text>(attribute.properties, std::move(attribute.data));
         }
         attributes_.clear();
+    }
+    if constexpr (std::is_same_v<T, drawing::Polyline>) {
+        added.SetWidths(std::move(widths_.Values()));
     }
     if (Has(id_) && !block_.ids.emplace(id_.Value(), added.objectId()).second) {
         return state.RefuseSpare(diagnostics::Code::kInvalidValue,
@@ -189,7 +195,7 @@ void EntityNode::Reset() {
 bool EntityNode::Finish(ReadState& state) {
     switch (Type()) {
     case kPolyline:
-        return Add<drawing::Polyline>(state, vertices_.Values(), spline_.Closed().Value(), plinegen_.Value());
+        return AddPolyline(state);
     case kSpline:
         return AddSpline(state);
     case kHatch:
@@ -203,10 +209,46 @@ bool EntityNode::Finish(ReadState& state) {
     case kInsert:
         return Add<drawing::BlockReference>(state, insertedBlock_.Value(), Place());
     case kOther:
-        return Add<drawing::OtherEntity>(state, className_.Value());
+        return AddOther(state);
     default:
         return AddCurve(state);
     }
+}
+
+bool EntityNode::AddPolyline(ReadState& state) {
+    if (Has(widths_) && widths_.Values().size() != vertices_.Values().size()) {
+        return state.Refuse(diagnostics::Code::kInvalidValue,
+                            {"as many widths as vertices", std::to_string(widths_.Values().size())},
+                            PathOf(widths_));
+    }
+    return Add<drawing::Polyline>(state, vertices_.Values(), spline_.Closed().Value(), plinegen_.Value());
+}
+
+bool EntityNode::AddOther(ReadState& state) {
+    drawing::OtherShape shape;
+    if (Has(corners_)) {
+        for (const Node* const node :
+             {static_cast<const Node*>(&insertedBlock_), static_cast<const Node*>(&position_),
+              static_cast<const Node*>(&path_)}) {
+            if (Has(*node)) {
+                return RefuseKeyBeside(state, *node, "corners");
+            }
+        }
+        shape = drawing::FilledCorners{std::move(corners_.Values())};
+    } else if (Has(path_)) {
+        for (const Node* const node :
+             {static_cast<const Node*>(&insertedBlock_), static_cast<const Node*>(&position_)}) {
+            if (Has(*node)) {
+                return RefuseKeyBeside(state, *node, "path");
+            }
+        }
+        shape = drawing::OpenPath{std::move(path_.Values())};
+    } else if (Has(insertedBlock_)) {
+        shape = drawing::OwnBlock{insertedBlock_.Value(), position_.Point3d()};
+    } else if (Has(position_)) {
+        return RefuseMissing(state, insertedBlock_);
+    }
+    return Add<drawing::OtherEntity>(state, className_.Value(), std::move(shape));
 }
 
 bool EntityNode::AddCurve(ReadState& state) {

@@ -6,11 +6,21 @@
 #include "drawing/database/BlockReference.h"
 #include "drawing/database/Blocks.h"
 #include "drawing/entities/Texts.h"
+#include "drawing/entities/WideSegments.h"
 
 #include <string>
 #include <unordered_map>
 
 namespace documents {
+
+/// [start, end]...
+class WidthsNode : public TuplesNode<drawing::SegmentWidth> {
+public:
+    WidthsNode() : TuplesNode(2, 2, "widths [start, end]") {}
+
+protected:
+    drawing::SegmentWidth Make(const TupleNode& tuple) override { return {tuple[0], tuple[1]}; }
+};
 
 /// The block that is being read.
 struct BlockInReading {
@@ -67,6 +77,8 @@ private:
     drawing::InsertPlace Place() const;
     template <class T, class... Args>
     bool Add(ReadState& state, Args&&... args);
+    bool AddPolyline(ReadState& state);
+    bool AddOther(ReadState& state);
     bool AddCurve(ReadState& state);
     bool AddText(ReadState& state);
     bool AddSpline(ReadState& state);
@@ -96,6 +108,7 @@ private:
     SplineKeys spline_;
     VerticesNode vertices_;
     BooleanNode plinegen_;
+    WidthsNode widths_;
 
     BooleanNode solid_;
     LoopsNode loops_;
@@ -129,6 +142,8 @@ private:
     std::vector<AttributeNode::Attribute> attributes_;
     ListNode<AttributeNode> attributesNode_{attributes_};
     TextNode className_;
+    PointsNode corners_;
+    PointsNode path_;
 };
 
 } // namespace documents

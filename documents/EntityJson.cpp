@@ -214,6 +214,23 @@ private:
     JsonText& json_;
 };
 
+class OtherShapeJson {
+public:
+    explicit OtherShapeJson(JsonText& json) : json_(json) {}
+
+    void operator()(std::monostate /*none*/) {}
+    void operator()(const drawing::FilledCorners& area) { PutTriples(json_, "corners", area.corners); }
+    void operator()(const drawing::OwnBlock& own) {
+        json_.Key("block");
+        json_.Text(own.name);
+        PutPoint(json_, "position", own.position);
+    }
+    void operator()(const drawing::OpenPath& path) { PutTriples(json_, "path", path.points); }
+
+private:
+    JsonText& json_;
+};
+
 /// The members of an entity from its type on.
 class EntityJson {
 public:
@@ -261,6 +278,14 @@ public:
         PutVertices(json_, polyline.Vertices(), hasBulges);
         PutFlag(json_, "closed", polyline.isClosed());
         PutFlag(json_, "plinegen", polyline.hasPlinegen());
+        if (polyline.Widths() != nullptr) {
+            json_.Key("widths");
+            json_.BeginList();
+            for (const drawing::SegmentWidth& width : *polyline.Widths()) {
+                Pair(json_, width.start, width.end);
+            }
+            json_.EndList();
+        }
     }
     void operator()(const drawing::Spline& spline) {
         Begin("spline", spline);
@@ -340,6 +365,7 @@ public:
         Begin("other", other);
         json_.Key("class");
         json_.Text(other.isA()->name());
+        std::visit(OtherShapeJson(json_), other.Shape());
     }
 
 private:

@@ -118,6 +118,40 @@ std::size_t Count(const DxfRecord& record, int code) {
                            : record.pairs.size();
 }
 
+// The widths of a polyline that is one record, for each vertex: its own, or that of all.
+std::vector<drawing::SegmentWidth> LightWidths(const DxfRecord& record, std::size_t vertices) {
+    const double all = record.Number(43, 0.0);
+    std::vector<drawing::SegmentWidth> widths;
+    for (const DxfPair& pair : record.pairs) {
+        if (pair.code == 10) {
+            widths.push_back({all, all});
+        } else if (pair.code == 40 && !widths.empty()) {
+            widths.back().start = record.NumberOf(pair, all);
+        } else if (pair.code == 41 && !widths.empty()) {
+            widths.back().end = record.NumberOf(pair, all);
+        }
+    }
+    widths.resize(vertices);
+    return widths;
+}
+
+// What is drawn of an entity that becomes one of which only the class is known.
+drawing::OtherShape ShapeOf(const DxfRecord& record, bool isMirrored, const DxfTextDecoder& texts) {
+    if (record.type == "SOLID" || record.type == "TRACE") {
+        // The third and the fourth corner lie across from each other; a triangle has three.
+        const int last = record.Find(13) != nullptr ? 13 : 12;
+        return drawing::FilledCorners{{Point(record, 10, isMirrored), Point(record, 11, isMirrored),
+                                       Point(record, last, isMirrored), Point(record, 12, isMirrored)}};
+    }
+    if (record.type == "LEADER") {
+        return drawing::OpenPath{Points(record, 10, record.pairs.size())};
+    }
+    if (record.type.ends_with("DIMENSION") && !record.Word(2).empty()) {
+        return drawing::OwnBlock{texts.Decode(record.Word(2)), Point(record, 12)};
+    }
+    return {};
+}
+
 } // namespace
 
 OxCmColor ByLayerColor() {
@@ -280,7 +314,7 @@ bool DxfEntityReader::TakeCurve(const DxfRecord& record) {
         AddLightPolyline(record);
     } else if (type == "POLYLINE" && (record.Integer(70, 0) & kNotPlane) == 0) {
         const bool isMirrored = IsMirrored(record);
-        polyline_ = OpenPolyline{record, {}, isMirrored, false};
+        polyline_ = OpenPolyline{record, {}, {}, isMirrored, false};
     } else if (type == "SPLINE" || type == "HELIX") {
         AddSpline(record);
     } else if (type == "HATCH") {
@@ -342,7 +376,9 @@ void DxfEntityReader::AddEllipse(const DxfRecord& record) {
 void DxfEntityReader::AddLightPolyline(const DxfRecord& record) {
     const bool isMirrored = IsMirrored(record);
     std::vector<geometry::BulgeVertex> vertices;
+    bool hasWidths = false;
     for (const DxfPair& pair : record.pairs) {
+        hasWidths = hasWidths || pair.code == 40 || pair.code == 41 || pair.code == 43;
         if (pair.code == 10) {
             const double x = record.NumberOf(pair, 0.0);
             vertices.push_back({{isMirrored ? -x : x, 0.0}, 0.0});
@@ -354,7 +390,12 @@ void DxfEntityReader::AddLightPolyline(const DxfRecord& record) {
         }
     }
     const std::int32_t flags = record.Integer(70, 0);
-    Add<drawing::Polyline>(record, vertices, (flags & kClosed) != 0, (flags & kRunsOn) != 0);
+    drawing::Polyline* const added =
+        Add<drawing::Polyline>(record, vertices, (flags & kClosed) != 0, (flags & kRunsOn) != 0);
+    if (added != nullptr && hasWidths) {
+        added->SetWidths(LightWidths(record, vertices.size()));
+        TellRepaired(record);
+    }
 }
 
 void DxfEntityReader::TakeVertex(const DxfRecord& record) {
@@ -364,6 +405,9 @@ void DxfEntityReader::TakeVertex(const DxfRecord& record) {
     const double bulge = record.Number(42, 0.0);
     polyline_->vertices.push_back(
         {InPlane(Point(record, 10, polyline_->isMirrored)), polyline_->isMirrored ? -bulge : bulge});
+    const DxfRecord& whole = polyline_->record;
+    polyline_->widths.push_back(
+        {record.Number(40, whole.Number(40, 0.0)), record.Number(41, whole.Number(41, 0.0))});
     polyline_->isDamaged = IsLost(record) || polyline_->isDamaged;
 }
 
@@ -375,8 +419,11 @@ void DxfEntityReader::FinishPolyline() {
             return;
         }
         const std::int32_t flags = polyline.record.Integer(70, 0);
-        Add<drawing::Polyline>(polyline.record, polyline.vertices, (flags & kClosed) != 0,
-                               (flags & kRunsOn) != 0);
+        drawing::Polyline* const added = Add<drawing::Polyline>(
+            polyline.record, polyline.vertices, (flags & kClosed) != 0, (flags & kRunsOn) != 0);
+        if (added != nullptr) {
+            added->SetWidths(polyline.widths);
+        }
     }
 }
 
@@ -526,7 +573,13 @@ void DxfEntityReader::AddParagraphText(const DxfRecord& record) {
 
 void DxfEntityReader::AddOther(const DxfRecord& record) {
     ++others_[std::string(record.type)];
-    Add<drawing::OtherEntity>(record, texts_.Decode(record.type));
+    const bool isArea = record.type == "SOLID" || record.type == "TRACE";
+    drawing::OtherShape shape = ShapeOf(record, isArea && IsMirrored(record), texts_);
+    if (record.invalid) { // the class is right, whatever is drawn of it
+        TellRepaired(record);
+        shape = {};
+    }
+    Add<drawing::OtherEntity>(record, texts_.Decode(record.type), std::move(shape));
 }
 
 } // namespace exchange

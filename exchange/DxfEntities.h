@@ -4,6 +4,7 @@
 #include "drawing/database/BlockReference.h"
 #include "drawing/database/Database.h"
 #include "drawing/entities/Texts.h"
+#include "drawing/entities/WideSegments.h"
 #include "drawing/geometry/BulgeVertex.h"
 #include "exchange/DxfNotes.h"
 #include "exchange/DxfRecords.h"
@@ -76,6 +77,7 @@ private:
     struct OpenPolyline {
         DxfRecord record;
         std::vector<geometry::BulgeVertex> vertices;
+        std::vector<drawing::SegmentWidth> widths;
         bool isMirrored = false;
         bool isDamaged = false; // has been told of
     };

@@ -4,8 +4,10 @@
 #include "StyleConversion/block/Opened.h"
 #include "StyleConversion/block/SplineSampling.h"
 #include "conversions/reading/Shown.h"
+#include "drawing/entities/EntityVisit.h"
 
 #include <algorithm>
+#include <type_traits>
 #include <utility>
 
 namespace conversions {
@@ -45,12 +47,6 @@ OxDbObjectIdArray DrawOrder(const OxDbBlockTableRecord& record) {
 
 } // namespace
 
-std::string ItemOf(const OxDbBlockTableRecord& record) {
-    const wchar_t* name = nullptr;
-    return "block " +
-           (record.getName(name) == Oxsys::eOk && name != nullptr ? ShownText(name) : std::string());
-}
-
 const drawing::BlockRecord* BlockCheck::BlockOf(const OxDbBlockTableRecord& record) const {
     const wchar_t* name = nullptr;
     return record.getName(name) == Oxsys::eOk && name != nullptr ? drawing_.FindBlock(name) : nullptr;
@@ -70,7 +66,8 @@ void BlockCheck::AddCounted(const Kind& kind, std::size_t count, Severity severi
     diagnostics.push_back({severity, loss.code, std::move(place), loss.subjects, outcome, count});
 }
 
-void BlockCheck::Check(const OxDbBlockTableRecord& record, diagnostics::Diagnostics& diagnostics) {
+void BlockCheck::Check(const OxDbBlockTableRecord& record, bool startsAtBasePoint,
+                       diagnostics::Diagnostics& diagnostics) {
     isConverted_ = false;
     Count(record);
     const std::string item = ItemOf(record);
@@ -79,7 +76,7 @@ void BlockCheck::Check(const OxDbBlockTableRecord& record, diagnostics::Diagnost
     }
     const drawing::BlockRecord* const block = BlockOf(record);
     if (const OxGePoint3d base = block != nullptr ? block->Data().basePoint : OxGePoint3d();
-        base.x != 0.0 || base.y != 0.0) {
+        !startsAtBasePoint && (base.x != 0.0 || base.y != 0.0)) {
         constexpr double kParts = 1000.0;
         AddCounted({Severity::kWarning,
                     false,
@@ -148,12 +145,12 @@ void BlockCheck::CountEntity(OxDbEntity& entity) {
     }
     const block::EntityClass entityClass = block::ClassOf(entity);
     if (entityClass == block::EntityClass::kNotDrawn) {
-        if (entity.isA() == OxDbBlockReference::desc()) {
-            Surprise(true, Code::kInsertNotDrawn);
-        } else {
-            Surprise(true, Code::kUnsupportedClass, {ShownText(entity.isA()->name())});
-        }
+        CountNotDrawn(entity);
         return;
+    }
+    if (entityClass == block::EntityClass::kPolyline &&
+        static_cast<const drawing::Polyline&>(entity).Widths() != nullptr) {
+        Surprise(false, Code::kWidthNotDrawn);
     }
     if (IsHidden(entity)) {
         Surprise(false, Code::kHiddenEntity);
@@ -174,6 +171,21 @@ void BlockCheck::CountEntity(OxDbEntity& entity) {
     } else if (block::HasDashes(entityClass)) {
         CountLinetype(entity);
     }
+}
+
+void BlockCheck::CountNotDrawn(const OxDbEntity& entity) {
+    if (entity.isA() == OxDbBlockReference::desc()) {
+        Surprise(true, Code::kInsertNotDrawn);
+        return;
+    }
+    const std::string className = ShownText(entity.isA()->name());
+    const bool hasShape = drawing::VisitEntity(entity.objectId(), [](const auto& itself) {
+        if constexpr (std::is_same_v<std::decay_t<decltype(itself)>, drawing::OtherEntity>) {
+            return !std::holds_alternative<std::monostate>(itself.Shape());
+        }
+        return false;
+    });
+    Surprise(true, hasShape ? Code::kDrawnIfFaithful : Code::kUnsupportedClass, {className});
 }
 
 bool BlockCheck::IsHidden(const OxDbEntity& entity) const {

@@ -3,6 +3,7 @@
 
 #include "OxDb/OxDb.h"
 #include "conversions/checking/DashShapes.h"
+#include "conversions/reading/DrawingView.h"
 #include "diagnostics/Diagnostic.h"
 #include "drawing/database/Database.h"
 
@@ -22,8 +23,10 @@ public:
     BlockCheck(std::string file, const drawing::Database& drawing, DrawingShapeFiles& files,
                const std::vector<std::wstring>& layersToIgnore);
 
-    /// Appends what is wrong with a block that is open: errors first, then warnings.
-    void Check(const OxDbBlockTableRecord& record, diagnostics::Diagnostics& diagnostics);
+    /// Appends what is wrong with a block that is open, or a copy of one: errors first, then warnings. A copy
+    /// may start at its base point.
+    void Check(const OxDbBlockTableRecord& record, bool startsAtBasePoint,
+               diagnostics::Diagnostics& diagnostics);
 
     /// Appends, as warnings, what a conversion of the block has left out.
     void AddLosses(const OxDbBlockTableRecord& record, diagnostics::Diagnostics& diagnostics);
@@ -34,6 +37,7 @@ private:
 
     void Count(const OxDbBlockTableRecord& record);
     void CountEntity(OxDbEntity& entity);
+    void CountNotDrawn(const OxDbEntity& entity);
     bool IsHidden(const OxDbEntity& entity) const;
     bool IsWhite(const OxDbEntity& entity) const;
     const drawing::BlockRecord* BlockOf(const OxDbBlockTableRecord& record) const;
@@ -53,8 +57,5 @@ private:
     bool hasColorByBlock_ = false;
     bool isConverted_ = false;
 };
-
-/// "block TREE"
-std::string ItemOf(const OxDbBlockTableRecord& record);
 
 } // namespace conversions

@@ -22,7 +22,7 @@ Diagnostics CheckKind(FileKind kind, const Input& input, const CheckOptions& opt
     case FileKind::kUnknown:
         break;
     }
-    return CheckDrawing(input, options.layersToIgnore, front);
+    return CheckDrawing(input, options, front);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // What is wrong with a file, or will surprise.
 #pragma once
 
+#include "conversions/reading/DrawingView.h"
 #include "conversions/reading/FileKind.h"
 #include "conversions/reading/Front.h"
 #include "conversions/reading/Input.h"
@@ -15,6 +16,7 @@ namespace conversions {
 struct CheckOptions {
     LinetypeSourceOptions linetypes;
     std::vector<std::wstring> layersToIgnore;
+    DrawingView view;
 };
 
 /// Checks a file of that kind, which is known. Errors are what a strict conversion fails at or loses
@@ -26,7 +28,6 @@ diagnostics::Diagnostics CheckLinetypes(const Input& input, const LinetypeSource
                                         Front& front);
 diagnostics::Diagnostics CheckPatterns(const Input& input);
 diagnostics::Diagnostics CheckShapes(const Input& input, Front& front);
-diagnostics::Diagnostics CheckDrawing(const Input& input, const std::vector<std::wstring>& layersToIgnore,
-                                      Front& front);
+diagnostics::Diagnostics CheckDrawing(const Input& input, const CheckOptions& options, Front& front);
 
 } // namespace conversions

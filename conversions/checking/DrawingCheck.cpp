@@ -17,13 +17,31 @@ using diagnostics::Severity;
 
 class DrawingCheck {
 public:
-    DrawingCheck(const Input& input, drawing::Database& drawing,
-                 const std::vector<std::wstring>& layersToIgnore, Front& front, Diagnostics& found)
-        : input_(input), drawing_(drawing), front_(front), files_(input.name, false, front),
-          blockCheck_(input.name, drawing, files_, layersToIgnore), found_(found) {}
+    DrawingCheck(const Input& input, drawing::Database& drawing, const CheckOptions& options, Front& front,
+                 Diagnostics& found)
+        : input_(input), drawing_(drawing), view_(options.view), front_(front),
+          files_(input.name, false, front), blockCheck_(input.name, drawing, files_, options.layersToIgnore),
+          found_(found) {}
 
     void Check() {
         drawing_.LimitHatchLines(kMostHatchLines);
+        if (view_.modelSpace) {
+            CheckModelSpace();
+        } else {
+            CheckBlocks();
+        }
+    }
+
+private:
+    void CheckModelSpace() {
+        if (const drawing::BlockRecord* const space = ModelSpaceOf(drawing_)) {
+            CheckBlock(*space);
+        } else {
+            found_.push_back({Severity::kError, Code::kNoModelSpace, {input_.name}, {}});
+        }
+    }
+
+    void CheckBlocks() {
         block::Opened<OxDbBlockTable> table;
         if (!table.Accept(drawing_.getSymbolTable(table.Receive(), OxDb::kForRead))) {
             return;
@@ -40,12 +58,11 @@ public:
             if (!record.Accept(iterator->getRecord(record.Receive(), OxDb::kForRead, false))) {
                 continue;
             }
-            front_.AtItem(ItemOf(*record));
             if (record->isLayout() || record->isAnonymous()) {
                 NoteNotConverted(*record);
             } else {
                 hasBlocks = true;
-                blockCheck_.Check(*record, found_);
+                CheckBlock(*record);
             }
         }
         if (!hasBlocks) {
@@ -53,7 +70,19 @@ public:
         }
     }
 
-private:
+    // As it is seen.
+    void CheckBlock(const OxDbBlockTableRecord& record) {
+        front_.AtItem(ItemOf(record));
+        const wchar_t* name = nullptr;
+        const bool isNamed = record.getName(name) == Oxsys::eOk && name != nullptr;
+        const drawing::BlockRecord* const block = isNamed ? drawing_.FindBlock(name) : nullptr;
+        if (!ChangesBlocks(view_) || block == nullptr) {
+            blockCheck_.Check(record, false, found_);
+        } else if (const auto copy = CopyAsSeen(view_, input_.name, drawing_, *block, found_)) {
+            blockCheck_.Check(*copy, view_.seenAs.startsAtBasePoint, found_);
+        }
+    }
+
     void NoteNotConverted(const OxDbBlockTableRecord& record) {
         diagnostics::Place place;
         place.file = input_.name;
@@ -69,6 +98,7 @@ private:
 
     const Input& input_;
     drawing::Database& drawing_;
+    const DrawingView& view_;
     Front& front_;
     DrawingShapeFiles files_;
     BlockCheck blockCheck_;
@@ -77,10 +107,11 @@ private:
 
 } // namespace
 
-Diagnostics CheckDrawing(const Input& input, const std::vector<std::wstring>& layersToIgnore, Front& front) {
+Diagnostics CheckDrawing(const Input& input, const CheckOptions& options, Front& front) {
     Diagnostics found;
     if (const auto drawing = CheckDrawingFile(input, found)) {
-        DrawingCheck(input, *drawing, layersToIgnore, front, found).Check();
+        SetUnitAndColor(options.view, *drawing, found);
+        DrawingCheck(input, *drawing, options, front, found).Check();
     }
     return found;
 }

@@ -2,8 +2,8 @@
 #include "drawing/entities/BlockCopy.h"
 
 #include "drawing/database/BlockReference.h"
+#include "drawing/entities/EntityVisit.h"
 #include "drawing/entities/PlacedEntities.h"
-#include "drawing/entities/Texts.h"
 
 #include <algorithm>
 #include <numbers>
@@ -12,6 +12,13 @@ namespace drawing {
 namespace {
 
 const std::wstring kInheritingLayer = L"0";
+
+// Whether two words are the same but for the case of ASCII letters; the second has small ones.
+bool IsWord(const std::wstring& text, std::wstring_view word) {
+    return std::equal(text.begin(), text.end(), word.begin(), word.end(), [](wchar_t c, wchar_t small) {
+        return (c >= L'A' && c <= L'Z' ? c + 32 : c) == small;
+    });
+}
 
 class BlockCopier {
 public:
@@ -43,12 +50,21 @@ private:
             return;
         }
         const EntityProperties properties = Inherited(PropertiesOf(entity), insert);
-        const bool isInsert = entity.stub()->object->isA() == OxDbBlockReference::desc();
-        if (options_.leavesOutHidden && IsHidden(properties, isInsert && options_.expandsInserts)) {
+        const bool isExpanded = (options_.expandsInserts || ownBlocks_ > 0) &&
+                                entity.stub()->object->isA() == OxDbBlockReference::desc();
+        if (options_.leavesOutHidden && IsHidden(properties, isExpanded)) {
             ++losses_.hidden;
             return;
         }
-        if (isInsert && options_.expandsInserts) {
+        if (ownBlocks_ > 0 && entity.stub()->object->isA() == OxDbPoint::desc() &&
+            IsWord(properties.layer, L"defpoints")) {
+            return;
+        }
+        if (options_.drawsOthers &&
+            VisitEntity(entity, [&](const auto& itself) { return DrawShape(itself, map, properties); })) {
+            return;
+        }
+        if (isExpanded) {
             Expand(static_cast<const BlockReference&>(*entity.stub()->object), map, properties);
         } else if (insert == nullptr || entity.stub()->object->isA() != OxDbAttributeDefinition::desc()) {
             AddPlaced(target_, entity, properties, map);
@@ -80,11 +96,103 @@ private:
         return properties;
     }
 
-    static bool IsByBlock(const std::wstring& linetype) {
-        constexpr std::wstring_view kByBlock = L"byblock";
-        return std::equal(
-            linetype.begin(), linetype.end(), kByBlock.begin(), kByBlock.end(),
-            [](wchar_t c, wchar_t small) { return (c >= L'A' && c <= L'Z' ? c + 32 : c) == small; });
+    static bool IsByBlock(const std::wstring& linetype) { return IsWord(linetype, L"byblock"); }
+
+    // False for what is drawn by copying it.
+    template <class Entity>
+    bool DrawShape(const Entity& /*entity*/, const PlaneMap& /*map*/,
+                   const EntityProperties& /*properties*/) {
+        return false;
+    }
+    bool DrawShape(const Polyline& polyline, const PlaneMap& map, const EntityProperties& properties) {
+        if (polyline.Widths() == nullptr) {
+            return false;
+        }
+        const std::vector<BulgeVertex>& vertices = polyline.Vertices();
+        const std::vector<SegmentOutline> outlines =
+            OutlinesOf(vertices, *polyline.Widths(), polyline.isClosed());
+        for (std::size_t i = 0; i < outlines.size() && Counts(); ++i) {
+            if (!outlines[i].empty()) {
+                Fill(outlines[i], map, properties);
+                continue;
+            }
+            const BulgeVertex end = {vertices[(i + 1) % vertices.size()].point, 0.0};
+            AddPolyline({vertices[i], end}, map, properties);
+        }
+        ++losses_.filled[polyline.isA()->name()];
+        return true;
+    }
+    bool DrawShape(const OtherEntity& other, const PlaneMap& map, const EntityProperties& properties) {
+        const std::wstring name = other.isA()->name();
+        if (const auto* const area = std::get_if<FilledCorners>(&other.Shape())) {
+            ++losses_.filled[name];
+            Fill(InPlane(area->corners), map, properties);
+            return true;
+        }
+        if (const auto* const own = std::get_if<OwnBlock>(&other.Shape())) {
+            ++losses_.fromBlocks[name];
+            DrawOwnBlock(*own, map, properties);
+            return true;
+        }
+        if (const auto* const path = std::get_if<OpenPath>(&other.Shape())) {
+            ++losses_.paths[name];
+            std::vector<BulgeVertex> vertices;
+            for (const OxGePoint2d& point : InPlane(path->points)) {
+                vertices.push_back({point, 0.0});
+            }
+            AddPolyline(vertices, map, properties);
+            return true;
+        }
+        return false;
+    }
+
+    static std::vector<OxGePoint2d> InPlane(const std::vector<OxGePoint3d>& points) {
+        std::vector<OxGePoint2d> flat;
+        flat.reserve(points.size());
+        for (const OxGePoint3d& point : points) {
+            flat.push_back({point.x, point.y});
+        }
+        return flat;
+    }
+    void Fill(const std::vector<OxGePoint2d>& corners, const PlaneMap& map,
+              const EntityProperties& properties) {
+        PolylineLoop outline;
+        for (const OxGePoint2d& corner : corners) {
+            outline.vertices.push_back({map.Of(corner), 0.0});
+        }
+        HatchData area;
+        area.solid = true;
+        area.loops.emplace_back();
+        area.loops.back().polyline = std::move(outline);
+        target_.Add<Hatch>(properties, std::move(area));
+    }
+    void AddPolyline(const std::vector<BulgeVertex>& vertices, const PlaneMap& map,
+                     const EntityProperties& properties) {
+        AddPlacedPolyline(target_, vertices, properties, map);
+    }
+
+    void DrawOwnBlock(const OwnBlock& own, const PlaneMap& map, const EntityProperties& properties) {
+        const BlockRecord* const block = FindToExpand(own.name);
+        if (block == nullptr) {
+            return;
+        }
+        ++ownBlocks_;
+        Copy(*block, map.After(PlaneMap::Move(own.position.x, own.position.y)), &properties);
+        --ownBlocks_;
+    }
+
+    // Null, which is counted, where there is none or it must not be drawn here.
+    const BlockRecord* FindToExpand(const std::wstring& name) {
+        const BlockRecord* const block = database_.FindBlock(name);
+        if (block == nullptr) {
+            losses_.missing.push_back(name);
+            return nullptr;
+        }
+        if (path_.size() > kDeepestInsert || std::find(path_.begin(), path_.end(), block) != path_.end()) {
+            ++losses_.recursive;
+            return nullptr;
+        }
+        return block;
     }
 
     // What is inserted on a layer that is off is shown where it is on another one itself.
@@ -98,13 +206,7 @@ private:
     }
 
     void Expand(const BlockReference& insert, const PlaneMap& map, const EntityProperties& properties) {
-        const BlockRecord* const block = database_.FindBlock(insert.BlockText());
-        if (block == nullptr) {
-            losses_.missing.push_back(insert.BlockText());
-        } else if (path_.size() > kDeepestInsert ||
-                   std::find(path_.begin(), path_.end(), block) != path_.end()) {
-            ++losses_.recursive;
-        } else {
+        if (const BlockRecord* const block = FindToExpand(insert.BlockText())) {
             const InsertPlace& place = insert.Place();
             for (std::int32_t row = 0; row < std::max(place.rows, 1) && !losses_.isCut; ++row) {
                 for (std::int32_t column = 0; column < std::max(place.columns, 1) && !losses_.isCut;
@@ -135,6 +237,7 @@ private:
     BlockRecord& target_;
     BlockCopyLosses& losses_;
     std::vector<const BlockRecord*> path_; // the block, and those inserted around this place
+    std::size_t ownBlocks_ = 0;            // of other entities, around this place
     std::size_t count_ = 0;
 };
 

@@ -5,6 +5,7 @@
 #include "drawing/database/Database.h"
 
 #include <cstddef>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@ struct BlockCopyOptions {
     bool expandsInserts = false;
     bool startsAtBasePoint = false; ///< the base point becomes 0, 0
     bool leavesOutHidden = false;   ///< hidden entities, and layers that are off or frozen
+    bool drawsOthers = false;       ///< widths of polylines, and the shapes of other entities
 };
 
 /// Inserts in inserted blocks may stand so deep.
@@ -29,6 +31,11 @@ struct BlockCopyLosses {
     std::vector<std::wstring> missing; ///< names of inserted blocks that the drawing does not have
     bool isCut = false;                ///< the copy came to kMostCopiedEntities, and ends there
     std::size_t hidden = 0;            ///< entities left out on purpose
+    /// Entities of which the shape was drawn, by their class: hatches of filled corners and widths, copies of
+    /// the entities of blocks, polylines.
+    std::map<std::wstring, std::size_t> filled;
+    std::map<std::wstring, std::size_t> fromBlocks;
+    std::map<std::wstring, std::size_t> paths;
 
     bool operator==(const BlockCopyLosses&) const = default;
 };
@@ -36,7 +43,9 @@ struct BlockCopyLosses {
 /// A block that is in no table, of the same name and properties, with copies of the entities in draw order.
 /// It must not outlive the database. An inserted entity takes the insert's layer where its own is 0, and the
 /// insert's colour, line weight and linetype where its own are by block. Definitions of attributes are not
-/// drawn in inserted blocks; the inserts' attributes are.
+/// drawn in inserted blocks; the inserts' attributes are. What stands in the block of another entity is drawn
+/// with all that is inserted there, but for points of the layer "Defpoints", which no picture of a drawing
+/// shows.
 OXDB_API std::unique_ptr<BlockRecord> CopyBlock(Database& database, const BlockRecord& block,
                                                 const BlockCopyOptions& options, BlockCopyLosses& losses);
 

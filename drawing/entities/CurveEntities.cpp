@@ -5,6 +5,8 @@
 #include "drawing/entities/PolylineData.h"
 #include "drawing/entities/SplineCurves.h"
 
+#include <algorithm>
+
 namespace drawing {
 
 Polyline::Polyline(Core& core, const EntityProperties& properties, const std::vector<BulgeVertex>& vertices,
@@ -19,6 +21,13 @@ Polyline::Polyline(Core& core, const EntityProperties& properties, const std::ve
 
 const std::vector<BulgeVertex>& Polyline::Vertices() const {
     return data().vertices;
+}
+
+void Polyline::SetWidths(std::vector<SegmentWidth> widths) {
+    widths.resize(Vertices().size());
+    const bool isWide = std::any_of(widths.begin(), widths.end(),
+                                    [](const SegmentWidth& width) { return width != SegmentWidth(); });
+    widths_ = isWide ? std::make_unique<const std::vector<SegmentWidth>>(std::move(widths)) : nullptr;
 }
 
 Oxsys::ErrorStatus Polyline::getLineSegAt(unsigned int index, OxGeLineSeg2d& segment) const {

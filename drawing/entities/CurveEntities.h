@@ -5,8 +5,10 @@
 #include "OxDb/OxDbSpline.h"
 #include "drawing/database/Resident.h"
 #include "drawing/entities/SplineCurves.h"
+#include "drawing/entities/WideSegments.h"
 #include "drawing/geometry/BulgeVertex.h"
 
+#include <memory>
 #include <vector>
 
 namespace drawing {
@@ -25,6 +27,15 @@ public:
 
     /// All vertices in order.
     const std::vector<BulgeVertex>& Vertices() const;
+
+    /// How wide its segments are, one for each vertex; null where all are lines without a width, as
+    /// conversions draw them unless they are asked for what the drawing shows.
+    const std::vector<SegmentWidth>* Widths() const { return widths_.get(); }
+    /// Before the drawing is converted. Vertices without one have no width.
+    void SetWidths(std::vector<SegmentWidth> widths);
+
+private:
+    std::unique_ptr<const std::vector<SegmentWidth>> widths_; // few have any
 };
 
 /// A spline, by what it was drawn with.

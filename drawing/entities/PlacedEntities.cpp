@@ -181,6 +181,35 @@ private:
     const PlaneMap& map_;
 };
 
+class PlaceShape {
+public:
+    explicit PlaceShape(const PlaneMap& map) : map_(map) {}
+
+    OtherShape operator()(std::monostate none) const { return none; }
+    OtherShape operator()(FilledCorners area) const {
+        Place(area.corners);
+        return area;
+    }
+    OtherShape operator()(OpenPath path) const {
+        Place(path.points);
+        return path;
+    }
+    // The name tells that there is something to draw; who draws it does so from the entity itself.
+    OtherShape operator()(OwnBlock own) const {
+        own.position = map_.Of(own.position);
+        return own;
+    }
+
+private:
+    void Place(std::vector<OxGePoint3d>& points) const {
+        for (OxGePoint3d& point : points) {
+            point = map_.Of(point);
+        }
+    }
+
+    const PlaneMap& map_;
+};
+
 class PlaceEntity {
 public:
     PlaceEntity(BlockRecord& block, const EntityProperties& properties, const PlaneMap& map)
@@ -225,8 +254,12 @@ public:
     }
 
     void operator()(const Polyline& polyline) {
-        Add<Polyline>(Placed(polyline.Vertices(), polyline.isClosed(), map_), polyline.isClosed(),
-                      polyline.hasPlinegen());
+        Polyline& placed =
+            block_.Add<Polyline>(properties_, Placed(polyline.Vertices(), polyline.isClosed(), map_),
+                                 polyline.isClosed(), polyline.hasPlinegen());
+        if (polyline.Widths() != nullptr && map_.KeepsCircles()) {
+            placed.SetWidths(PlacedWidths(*polyline.Widths()));
+        }
     }
     void operator()(const Spline& spline) { Add<Spline>(std::visit(PlaceSpline(map_), spline.Data())); }
 
@@ -278,7 +311,9 @@ public:
     }
 
     void operator()(const BlockReference& /*insert*/) { Add<OtherEntity>(std::wstring(L"insert")); }
-    void operator()(const OtherEntity& other) { Add<OtherEntity>(std::wstring(other.isA()->name())); }
+    void operator()(const OtherEntity& other) {
+        Add<OtherEntity>(std::wstring(other.isA()->name()), std::visit(PlaceShape(map_), other.Shape()));
+    }
 
 private:
     template <class T, class... Args>
@@ -298,6 +333,13 @@ private:
         Add<Ellipse>(data);
     }
 
+    std::vector<SegmentWidth> PlacedWidths(std::vector<SegmentWidth> widths) const {
+        const double stretch = map_.Stretch(0.0);
+        for (SegmentWidth& width : widths) {
+            width = {width.start * stretch, width.end * stretch};
+        }
+        return widths;
+    }
     TextData PlacedText(TextData data) const {
         data.position = map_.Of(data.position);
         if (data.alignmentPoint) {
@@ -317,6 +359,11 @@ private:
 void AddPlaced(BlockRecord& block, OxDbObjectId entity, const EntityProperties& properties,
                const PlaneMap& map) {
     VisitEntity(entity, PlaceEntity(block, properties, map));
+}
+
+void AddPlacedPolyline(BlockRecord& block, const std::vector<BulgeVertex>& vertices,
+                       const EntityProperties& properties, const PlaneMap& map) {
+    block.Add<Polyline>(properties, Placed(vertices, false, map), false, false);
 }
 
 EntityProperties PropertiesOf(OxDbObjectId entity) {

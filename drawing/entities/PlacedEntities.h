@@ -3,6 +3,9 @@
 
 #include "drawing/database/Blocks.h"
 #include "drawing/entities/PlaneMap.h"
+#include "drawing/geometry/BulgeVertex.h"
+
+#include <vector>
 
 namespace drawing {
 
@@ -11,6 +14,10 @@ namespace drawing {
 /// become entities of which only the type is known, "insert".
 OXDB_API void AddPlaced(BlockRecord& block, OxDbObjectId entity, const EntityProperties& properties,
                         const PlaneMap& map);
+
+/// Adds a polyline with those vertices, not closed, as a copy of one.
+OXDB_API void AddPlacedPolyline(BlockRecord& block, const std::vector<geometry::BulgeVertex>& vertices,
+                                const EntityProperties& properties, const PlaneMap& map);
 
 /// What the entity was made with.
 OXDB_API EntityProperties PropertiesOf(OxDbObjectId entity);

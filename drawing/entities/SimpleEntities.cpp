@@ -72,9 +72,10 @@ OxGePoint3d Ellipse::PointAt(double parameter) const {
             data_.center.z + data_.majorAxis.z * cosine + minor.z * sine};
 }
 
-OtherEntity::OtherEntity(Core& core, const EntityProperties& properties, std::wstring className)
+OtherEntity::OtherEntity(Core& core, const EntityProperties& properties, std::wstring className,
+                         OtherShape shape)
     : ResidentEntity(core, properties), className_(std::move(className)),
-      class_(className_.c_str(), OxDbEntity::desc()) {}
+      class_(className_.c_str(), OxDbEntity::desc()), shape_(std::move(shape)) {}
 
 OtherEntity::~OtherEntity() = default;
 

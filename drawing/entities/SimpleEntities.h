@@ -3,6 +3,7 @@
 
 #include "OxDb/OxDbCurves.h"
 #include "drawing/database/Resident.h"
+#include "drawing/entities/OtherShape.h"
 
 #include <string>
 
@@ -123,13 +124,17 @@ private:
 /// An entity of a class that this library does not know; the class derives from OxDbEntity.
 class OXDB_API OtherEntity : public ResidentEntity<OxDbEntity> {
 public:
-    OtherEntity(Core& core, const EntityProperties& properties, std::wstring className);
+    OtherEntity(Core& core, const EntityProperties& properties, std::wstring className,
+                OtherShape shape = {});
     ~OtherEntity() override;
     const OxRxClass* isA() const override { return &class_; }
+    /// What the drawing shows of it.
+    const OtherShape& Shape() const { return shape_; }
 
 private:
     std::wstring className_;
     OxRxClass class_;
+    OtherShape shape_;
 };
 
 } // namespace drawing

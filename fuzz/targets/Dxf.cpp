@@ -35,7 +35,7 @@ std::string SymbolsOf(drawing::Database& database) {
 void CopyAll(drawing::Database& database) {
     for (const drawing::BlockRecord* const block : database.Blocks()) {
         drawing::BlockCopyLosses losses;
-        const auto copy = CopyBlock(database, *block, {true, true, true}, losses);
+        const auto copy = CopyBlock(database, *block, {true, true, true, true}, losses);
         Require(copy->EntityCount() <= drawing::kMostCopiedEntities, "no more entities than the limit");
     }
 }

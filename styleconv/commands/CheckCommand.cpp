@@ -3,6 +3,7 @@
 #include "diagnostics/Sentences.h"
 #include "documents/DiagnosticsDocument.h"
 #include "styleconv/commands/Commands.h"
+#include "styleconv/commands/DrawingViewOptions.h"
 #include "styleconv/commands/Job.h"
 #include "styleconv/files/InputFile.h"
 #include "styleconv/files/ShapeSearch.h"
@@ -21,7 +22,7 @@ using diagnostics::Diagnostic;
 using diagnostics::Diagnostics;
 using diagnostics::Severity;
 
-struct CheckOptions : StyleOptions {
+struct CheckOptions : StyleOptions, DrawingViewOptions {
     std::vector<std::string> files;
     std::string output;
     std::string format = "text";
@@ -55,6 +56,7 @@ Diagnostics CheckOne(const CheckOptions& options, const std::string& path) {
     conversions::CheckOptions job;
     job.linetypes.font = options.font;
     job.layersToIgnore = WideTexts(options.layersToIgnore);
+    job.view = ViewOf(options);
     InputFile drawing(options.drawing);
     if (kind == FileKind::kLinetypes && !options.drawing.empty()) {
         if (const auto problem = drawing.Open()) {
@@ -111,6 +113,7 @@ void AddCheckCommand(CommandLine& line) {
     command.AddFiles(options->files, ".lin, .pat, .shx, .dxf and drawing .json files");
     AddStyleOptions(command, *options);
     AddIgnoreLayerOption(command, options->layersToIgnore);
+    AddDrawingViewOptions(command, *options);
     command.AddFlag("--notes", options->notes,
                     "Also report what is as it should be: families with an exact tile, unused shapes");
     AddCodePageOption(command, options->codePage);

@@ -395,4 +395,28 @@ TEST_F(DrawingReader, AnOtherEntityIsOfNoKnownClassWhateverItsName) {
     EXPECT_STREQ(entity->isA()->name(), L"OxDbLine");
 }
 
+TEST_F(DrawingReader, WidthsAreThoseOfAllVertices) {
+    const std::string start = R"({"type": "polyline", "vertices": [[0, 0], [1, 0]], "widths": )";
+    Read(EntityDocument(start + "[[1, 2], [3, 4]]}"));
+    EXPECT_EQ(Entity<OxDbPolyline>()->numVerts(), 2U);
+    std::string fault;
+    EXPECT_EQ(ReadDocument(EntityDocument(start + "[[1, 2]]}"), fault), nullptr);
+    EXPECT_NE(fault.find("widths: expected as many widths as vertices, found 1"), std::string::npos) << fault;
+}
+
+TEST_F(DrawingReader, AnOtherEntityHasOneShape) {
+    const std::pair<std::string, std::string> rows[] = {
+        {R"("corners": [[0, 0]], "path": [[0, 0]])", "path: this key cannot be given beside"},
+        {R"("corners": [[0, 0]], "block": "B")", "block: this key cannot be given beside"},
+        {R"("path": [[0, 0]], "position": [0, 0])", "position: this key cannot be given beside"},
+        {R"("position": [0, 0])", "block"},
+    };
+    for (const auto& [keys, message] : rows) {
+        std::string fault;
+        EXPECT_EQ(ReadDocument(EntityDocument(R"({"type": "other", "class": "C", )" + keys + "}"), fault),
+                  nullptr);
+        EXPECT_NE(fault.find(message), std::string::npos) << fault;
+    }
+}
+
 } // namespace

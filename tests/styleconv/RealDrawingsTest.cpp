@@ -211,4 +211,108 @@ TEST_F(RealDrawings, Color7IsTheOneThatIsAskedFor) {
                   "[drawn-white]\n0 errors, 0 warnings in 1 file\n");
 }
 
+// What is drawn only faithfully: one of each kind.
+DxfWriter Shapes() {
+    DxfWriter shapes;
+    shapes.Text(0, "SOLID").Text(8, "0").Point(10, 0, 0).Point(11, 4, 0).Point(12, 0, 3).Point(13, 4, 3);
+    shapes.Text(0, "TRACE").Text(8, "0").Point(10, 1, 0).Point(11, 2, 0).Point(12, 1, 3).Number(230, -1);
+    shapes.Text(0, "LWPOLYLINE").Text(8, "0").Number(43, 2).Point(10, 0, 9).Point(10, 5, 9);
+    shapes.Text(0, "POLYLINE").Text(8, "0").Number(40, 2).Text(0, "VERTEX").Point(10, 0, 19);
+    shapes.Number(41, 0).Text(0, "VERTEX").Point(10, 5, 19).Text(0, "SEQEND");
+    shapes.Text(0, "DIMENSION").Text(8, "0").Text(2, "*D1").Point(10, 7, 7).Point(12, 10, 0);
+    return shapes.Text(0, "LEADER").Text(8, "0").Integer(76, 2).Point(10, 0, 0).Point(10, 3, 3);
+}
+
+DxfWriter ShapeBlocks() {
+    const DxfWriter arrow = DxfWriter().Text(0, "INSERT").Text(8, "0").Text(2, "ARROW").Point(10, 5, 5);
+    const DxfWriter helper = DxfWriter().Text(0, "POINT").Text(8, "DEFPOINTS").Point(10, 1, 1);
+    DxfWriter blocks = Block("A", Shapes());
+    blocks.Append(Block("*D1", Line(0, 5, 5, 5).Append(arrow).Append(helper)));
+    return blocks.Append(Block("ARROW", Line(0, 0, 1, 1)));
+}
+
+TEST_F(RealDrawings, AreasWidthsDimensionsAndLeadersAreDrawnFaithfully) {
+    const std::string file = folder.Write("a.dxf", File(ShapeBlocks()));
+    EXPECT_EQ(Geometries(file, {"--name", "A"}), (Texts{"M 0.0,9.0 L 5.0,9.0", "M 0.0,19.0 L 5.0,19.0"}));
+    EXPECT_EQ(Geometries(file, {"--name", "A", "--faithful"}),
+              (Texts{"M 0,0 L 4,0 L 4,3 L 0,3 L 0,0", "M -1,0 L -2,0 L -1,3 L -1,3 L -1,0",
+                     "M 0,10 L 5,10 L 5,8 L 0,8 L 0,10", "M 0,20 L 5,19 L 5,19 L 0,18 L 0,20",
+                     "M 10,5 L 15,5", "M 15,5 L 16,6", "M 0,0 L 3,3"}));
+    const auto note = [&](const std::string& what, const std::string& as) {
+        return file + ": note: " + what + " drawn as " + as + " (block A)\n";
+    };
+    EXPECT_NE(result.errors.find(note("2 entities of the type polyline are", "a filled area") +
+                                 note("1 entity of the type SOLID is", "a filled area") +
+                                 note("1 entity of the type TRACE is", "a filled area") +
+                                 note("1 entity of the type DIMENSION is", "the block that it names") +
+                                 note("1 entity of the type LEADER is", "a polyline")),
+              std::string::npos)
+        << result.errors;
+}
+
+TEST_F(RealDrawings, DocumentsHoldWhatIsDrawnFaithfully) {
+    const std::string file = folder.Write("a.dxf", File(ShapeBlocks()));
+    const std::string document = RunTool({"drawing", file}).output;
+    const std::string json = folder.Write("a.json", document);
+    EXPECT_EQ(RunTool({"drawing", json}).output, document);
+    EXPECT_EQ(Geometries(json, {"--faithful"}), Geometries(file, {"--faithful"}));
+    EXPECT_EQ(Geometries(json), Geometries(file));
+}
+
+TEST_F(RealDrawings, FaithfulLeavesOutWhatIsHidden) {
+    DxfWriter lines = Line(0, 0, 1, 0);
+    lines.Text(0, "LINE").Text(8, "OFF").Point(10, 0, 1).Point(11, 1, 1);
+    const std::string file = folder.Write("a.dxf", File(Block("A", lines, 5, 5)));
+    EXPECT_EQ(Geometries(file).size(), 2U);
+    EXPECT_EQ(Geometries(file, {"--faithful"}), (Texts{"M 0,0 L 1,0"})); // the base point stays an option
+}
+
+TEST_F(RealDrawings, ADimensionThatIsDrawnByItselfEnds) {
+    const DxfWriter own = DxfWriter().Text(0, "DIMENSION").Text(8, "0").Text(2, "*D1");
+    const DxfWriter none = DxfWriter().Text(0, "DIMENSION").Text(8, "0").Text(2, "*D9");
+    DxfWriter blocks = Block("A", DxfWriter(own).Append(none));
+    blocks.Append(Block("*D1", Line(0, 0, 1, 0).Append(own)));
+    const std::string file = folder.Write("a.dxf", File(blocks));
+    EXPECT_EQ(Geometries(file, {"--name", "A", "--faithful"}), (Texts{"M 0,0 L 1,0"}));
+    EXPECT_NE(result.errors.find("the drawing has no block *D9"), std::string::npos) << result.errors;
+    EXPECT_NE(result.errors.find("in the inserted block itself"), std::string::npos) << result.errors;
+}
+
+TEST_F(RealDrawings, ACheckTakesTheOptionsOfDrawings) {
+    DxfWriter entities;
+    entities.Text(0, "SOLID").Text(8, "0").Point(10, 0, 0).Point(11, 4, 0).Point(12, 0, 3);
+    entities.Text(0, "LWPOLYLINE").Text(8, "0").Integer(62, 1).Number(43, 2).Point(10, 0, 9).Point(10, 5, 9);
+    entities.Text(0, "INSERT").Text(8, "0").Integer(62, 1).Text(2, "B").Point(10, 5, 5);
+    entities.Text(0, "LINE").Text(8, "OFF").Integer(62, 7).Point(10, 0, 1).Point(11, 1, 1);
+    const DxfWriter blocks = Block("A", entities, 1, 2).Append(Block("B", Line(0, 0, 1, 1)));
+    const std::string file = folder.Write("a.dxf", File(blocks, Line(0, 0, 1, 0), 0));
+    const auto check = [&](const Texts& options) {
+        Texts arguments = {"check", "--notes", file};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        std::string output = RunTool(arguments).output;
+        Texts codes;
+        for (std::size_t at = 0; (at = output.find(" [", at)) != std::string::npos; ++at) {
+            codes.push_back(output.substr(at + 2, output.find(']', at) - at - 2));
+        }
+        return codes;
+    };
+    EXPECT_EQ(check({}), (Texts{"no-unit", "width", "hidden-entity", "drawn-if-faithful", "insert",
+                                "drawn-white", "base-point", "only-by-name"}));
+    EXPECT_EQ(check({"--expand", "--from-base-point", "--visible-only", "--units", "mm"}),
+              (Texts{"width", "drawn-if-faithful", "only-by-name"}));
+    EXPECT_EQ(check({"--color-7", "black", "--units", "mm"}),
+              (Texts{"width", "hidden-entity", "drawn-if-faithful", "insert", "base-point", "only-by-name"}));
+    EXPECT_EQ(check({"--model-space", "--units", "mm"}), Texts());
+    EXPECT_NE(RunTool({"check", file})
+                  .output.find(
+                      file +
+                      ": warning: 1 entity of the type SOLID is not drawn; --faithful draws what the drawing "
+                      "shows of such (block A) [drawn-if-faithful]\n"),
+              std::string::npos);
+    const std::string empty = folder.Write("b.dxf", File(blocks));
+    EXPECT_EQ(
+        RunTool({"check", "--model-space", empty}).output,
+        empty + ": error: the drawing has no model space [no-model-space]\n1 error, 0 warnings in 1 file\n");
+}
+
 } // namespace
