@@ -110,6 +110,10 @@ std::optional<int> ReadCode(std::string_view word) {
 
 } // namespace
 
+bool DxfPair::IsText() const {
+    return !isBinary || KindOf(code) == Kind::kText;
+}
+
 std::string_view DxfPair::Word() const {
     return platform::WithoutBlanks(value);
 }

@@ -15,6 +15,8 @@ struct DxfPair {
     std::string_view value; ///< the line without its end, or the bytes of a binary value
     std::size_t place = 0;  ///< line of the group code, from 1; in binary files its byte, from 0
 
+    /// Whether the file holds the value as characters, not as the bytes of a number or of binary data.
+    bool IsText() const;
     /// The value without blanks at its ends: a word of the format, or a name.
     std::string_view Word() const;
     /// The value as a number; nothing where it is none, or not finite.

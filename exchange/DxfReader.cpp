@@ -54,10 +54,25 @@ Header ReadHeader(const DxfRecord& section) {
     return header;
 }
 
+// The numbers of a binary file are no characters.
+bool HasUtf8Texts(std::string_view bytes) {
+    DxfPairCursor cursor(bytes);
+    if (!cursor.IsBinary()) {
+        return platform::IsUtf8(bytes);
+    }
+    DxfPair pair;
+    while (cursor.Next(pair) == DxfPairCursor::Outcome::kPair) {
+        if (pair.IsText() && !platform::IsUtf8(pair.value)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 class Reader {
 public:
     Reader(std::string_view bytes, DxfNotes& notes)
-        : notes_(notes), cursor_(bytes), isUtf8_(platform::IsUtf8(bytes)) {
+        : notes_(notes), cursor_(bytes), isUtf8_(HasUtf8Texts(bytes)) {
         if (cursor_.IsBinary()) {
             notes_.CountBytes();
         }

@@ -8,6 +8,7 @@
 #include "styleconv/process/Messages.h"
 
 #include <memory>
+#include <optional>
 
 namespace styleconv {
 namespace {

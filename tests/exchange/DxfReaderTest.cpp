@@ -242,6 +242,27 @@ TEST(DxfReader, TextsHaveTheirPlaceAngleAndCharacters) {
                 "Text"});
 }
 
+TEST(DxfReader, TextsOfBinaryFilesAreUtf8WhateverBytesTheNumbersHave) {
+    const auto file = [](const std::string& text) {
+        // -0.1 has the bytes 9a 99 99 99 99 99 b9 bf, which are no UTF-8.
+        return FileOf(DxfWriter().Text(0, "TEXT").Point(10, -0.1, 2).Number(40, 2).Text(1, text));
+    };
+    const std::string json =
+        SymbolsOfJson(R"({"type": "text", "position": [-0.1, 2], "height": 2, "text": "stra\u00dfe"})");
+    EXPECT_EQ(SymbolsOfDxf(file("stra\xc3\x9f"
+                                "e")
+                               .Binary()),
+              json);
+    EXPECT_EQ(SymbolsOfDxf(file("stra\xdf"
+                                "e")
+                               .Binary()),
+              json);
+    EXPECT_EQ(SymbolsOfDxf(file("stra\xc3\x9f"
+                                "e")
+                               .Ascii()),
+              json);
+}
+
 TEST(DxfReader, ColorsAndWeightsAreThoseOfTheEntity) {
     const auto line = [] { return DxfWriter().Text(0, "LINE").Point(10, 0, 0).Point(11, 1, 0); };
     const std::string json = R"({"type": "line", "start": [0, 0], "end": [1, 0], )";
