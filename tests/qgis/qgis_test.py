@@ -74,6 +74,16 @@ def save(picture, name):
     return picture
 
 
+def yardstick():
+    """Seconds of processor time that a plain loop takes here, about a quarter of one: what is measured is compared
+    with it, so that a slow machine fails nothing."""
+    before = time.process_time()
+    total = 0
+    for number in range(5_000_000):
+        total += number
+    return time.process_time() - before
+
+
 class Library(unittest.TestCase):
     def test_everything_is_imported_with_its_names_and_tags(self):
         count = 0
@@ -239,7 +249,7 @@ class Areas(unittest.TestCase):
         picture, _ = maps.draw(layer, extent())
         self.assertLess(int(picture.min()), 100)
 
-    def test_expressions_are_read_in_less_than_ten_milliseconds(self):
+    def test_expressions_are_read_quickly(self):
         worst = 0.0
         for file in sorted(glob.glob(f"{examples}/patterns/*.pat")):
             for options in ([], ["--hatch-units", "mm"]):
@@ -255,9 +265,9 @@ class Areas(unittest.TestCase):
                         self.assertFalse(expression.hasParserError(), expression.parserErrorString())
                     worst = max(worst, min(taken))
         print(f"the longest expression is read in {worst * 1000:.1f} ms")
-        self.assertLess(worst, 0.01)
+        self.assertLess(worst, yardstick() / 25)
 
-    def test_a_thousand_polygons_are_drawn_in_less_than_a_second(self):
+    def test_a_thousand_polygons_are_drawn_quickly(self):
         path, _, _ = convert("patterns", f"{examples}/patterns/brick.pat")
         wkts = []
         for i in range(1000):
@@ -266,7 +276,7 @@ class Areas(unittest.TestCase):
         layer = maps.layer_of(wkts, symbols_of(path).symbol("BRICK"))
         taken = min(maps.draw(layer, extent(units=400), 1000)[1] for _ in range(4))
         print(f"1000 polygons: {taken:.2f} s")
-        self.assertLess(taken, 1)
+        self.assertLess(taken, 6 * yardstick())
 
 
 class Lines(unittest.TestCase):
