@@ -70,7 +70,12 @@ void Reduce(const Scale& scale, Scaled& shorter, Scaled& longer) {
         if (IsLarge(point)) {
             return;
         }
-        longer = scale(point);
+        // Of two that are as long the first one stays, or they would take turns.
+        const Scaled next = scale(point);
+        if (!(Dot(next.vector, next.vector) < Dot(longer.vector, longer.vector))) {
+            return;
+        }
+        longer = next;
     }
 }
 

@@ -66,15 +66,24 @@ const FamilyLattice& Coarsest(const Lattices& lattices) {
                              });
 }
 
-// The shortest vector along the x axis that lies in all lattices.
-std::optional<double> FindSide(const Lattices& lattices, const TileBounds& bounds) {
+double FinestCell(const Lattices& lattices) {
+    double finest = HUGE_VAL;
+    for (const FamilyLattice& lattice : lattices) {
+        finest = std::min(finest, lattice.CellArea());
+    }
+    return finest;
+}
+
+// The shortest vector along the x axis that lies in all lattices and is no longer than that.
+std::optional<double> FindSide(const Lattices& lattices, const TileBounds& bounds, double mostLength) {
     constexpr double kGrowth = 8.0;
     constexpr int kMostRounds = 64; // a cell may be so narrow that its area is 0
     constexpr double kNoMiss = 1e-7;
     const FamilyLattice& coarsest = Coarsest(lattices);
     const double height =
         std::max(coarsest.AlongFor(bounds.share), coarsest.AcrossFor(bounds.share)) * std::numbers::sqrt2;
-    const double longest = bounds.mostCells * std::max(coarsest.Cycle(), std::fabs(coarsest.Spacing()));
+    const double longest =
+        std::min(mostLength, bounds.mostCells * std::max(coarsest.Cycle(), std::fabs(coarsest.Spacing())));
     double from = 0.0;
     double to = 2.0 * std::sqrt(coarsest.CellArea());
     for (int round = 0; round < kMostRounds && from < longest; ++round) {
@@ -150,11 +159,14 @@ FamilyFit FitOf(const PatternLine& line, const Rectangle& rectangle) {
 
 std::optional<Rectangle> FindRectangle(const std::vector<const PatternLine*>& families, double angle,
                                        const TileBounds& bounds) {
-    const std::optional<double> width = FindSide(LatticesOf(families, angle), bounds);
+    const Lattices lattices = LatticesOf(families, angle);
+    const std::optional<double> width = FindSide(lattices, bounds, HUGE_VAL);
     if (!width) {
         return std::nullopt;
     }
-    const std::optional<double> height = FindSide(LatticesOf(families, angle + 90.0), bounds);
+    // A little more than the finest family has room for.
+    const double mostHeight = (bounds.mostCells + 0.5) * FinestCell(lattices) / *width;
+    const std::optional<double> height = FindSide(LatticesOf(families, angle + 90.0), bounds, mostHeight);
     if (!height) {
         return std::nullopt;
     }
@@ -166,13 +178,12 @@ std::optional<Rectangle> FindRectangleAtAnyAngle(const PatternLine& family, cons
     constexpr double kFewCells = 16.0;
     std::optional<Rectangle> best;
     double fewest = HUGE_VAL;
+    TileBounds fewer = bounds;
     const auto tryAngle = [&](double angle) {
-        if (const auto rectangle = FindRectangle({&family}, angle, bounds)) {
-            const auto cells = static_cast<double>(FitOf(family, *rectangle).Cells());
-            if (cells < fewest) {
-                fewest = cells;
-                best = rectangle;
-            }
+        if (const auto rectangle = FindRectangle({&family}, angle, fewer)) {
+            fewest = static_cast<double>(FitOf(family, *rectangle).Cells());
+            fewer.mostCells = fewest - 1.0;
+            best = rectangle;
         }
     };
     tryAngle(AngleOfRectangle(family.angle));

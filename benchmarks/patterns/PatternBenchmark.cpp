@@ -2,7 +2,10 @@
 #include "GeneratedPatterns.h"
 
 #include "StyleConversion/encoding/NumberReader.h"
+#include "StyleConversion/pattern/AreaSymbol.h"
+#include "StyleConversion/pattern/FaithfulSymbol.h"
 #include "StyleConversion/pattern/PatternConverter.h"
+#include "StyleConversion/pattern/PatternFile.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -14,6 +17,7 @@
 #include <fstream>
 #include <map>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -139,6 +143,62 @@ void FormatNumbers(benchmark::State& state) {
     state.counters["numbers"] = static_cast<double>(numbers.size());
 }
 
+// The example patterns: all, or those of which strict symbols lose no family.
+class Examples {
+public:
+    explicit Examples(bool onlyWhole) {
+        for (const auto& entry : std::filesystem::directory_iterator(EXAMPLE_PATTERNS)) {
+            if (entry.path().extension() == ".pat") {
+                std::ostringstream text;
+                text << std::ifstream(entry.path(), std::ios::binary).rdbuf();
+                if (!onlyWhole || IsWhole(text.str())) {
+                    texts_.push_back(text.str());
+                }
+            }
+        }
+    }
+
+    void Convert(encoding::Fidelity fidelity) const {
+        pattern::PatternPolicy policy;
+        policy.fidelity = fidelity;
+        for (const std::string& text : texts_) {
+            pattern::PatternFile file;
+            ParsePatternFile(text, file, nullptr, policy);
+            for (auto& [name, families] : file.patterns) {
+                benchmark::DoNotOptimize(
+                    fidelity == encoding::Fidelity::kStrict
+                        ? pattern::BuildAreaSymbol(name, families)
+                        : BuildFaithfulSymbol(name, families, pattern::FindFaithfulTiles(families)));
+            }
+        }
+    }
+
+private:
+    static bool IsWhole(const std::string& text) {
+        pattern::PatternFile file;
+        pattern::ParsePatternFile(text, file);
+        return std::all_of(file.patterns.begin(), file.patterns.end(), [](const auto& pattern) {
+            return std::all_of(pattern.second.begin(), pattern.second.end(),
+                               [](const auto& family) { return family.rowCount >= 0; });
+        });
+    }
+
+    std::vector<std::string> texts_;
+};
+
+void ConvertExamples(benchmark::State& state) {
+    constexpr int kTimes = 100;
+    const Examples examples(state.range(1) != 0);
+    const auto fidelity = static_cast<encoding::Fidelity>(state.range(0));
+    while (state.KeepRunning()) {
+        const Stopwatch stopwatch;
+        for (int i = 0; i < kTimes; ++i) {
+            examples.Convert(fidelity);
+        }
+        state.SetIterationTime(stopwatch.GetSeconds());
+    }
+}
+
 // Of several runs the fastest is the one that other programs disturbed least.
 double Fastest(const std::vector<double>& times) {
     return *std::min_element(times.begin(), times.end());
@@ -157,6 +217,16 @@ BENCHMARK(ConvertPatterns)
     ->ComputeStatistics("fastest", Fastest);
 BENCHMARK(FormatNumbers)
     ->Arg(10000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->Repetitions(kRepetitions)
+    ->ReportAggregatesOnly()
+    ->ComputeStatistics("fastest", Fastest);
+BENCHMARK(ConvertExamples)
+    ->Args({static_cast<int>(encoding::Fidelity::kStrict), 0})
+    ->Args({static_cast<int>(encoding::Fidelity::kFaithful), 0})
+    ->Args({static_cast<int>(encoding::Fidelity::kStrict), 1})
+    ->Args({static_cast<int>(encoding::Fidelity::kFaithful), 1})
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond)
     ->Repetitions(kRepetitions)
@@ -198,6 +268,14 @@ int main(int argc, char** argv) {
         std::printf("converting / formatting alone, 10,000 patterns: %.2f\n", tenThousand / floor);
         std::printf("growth of the time: x%.1f from 1,000 to 10,000 patterns, x%.1f from 10,000 to 100,000\n",
                     tenThousand / thousand, hundredThousand / tenThousand);
+    }
+    for (const char* const which : {"/0", "/1"}) {
+        const double strict = reporter.GetFastest(std::string("ConvertExamples/0") + which);
+        const double faithful = reporter.GetFastest(std::string("ConvertExamples/1") + which);
+        if (strict > 0 && faithful > 0) {
+            std::printf("converting the examples%s faithfully / strictly: %.2f\n",
+                        which[1] == '1' ? " that are whole" : "", faithful / strict);
+        }
     }
     return 0;
 }
