@@ -22,6 +22,10 @@ constexpr double kLegibleHeight = 12;
 constexpr double kGreatestHeight = 32;
 constexpr double kGreatestReach = 24; // to one side
 constexpr double kUnrepeatedLength = 200;
+// A dash along the line that is a larger share of the repeat is a dot where it is too short to be seen.
+constexpr double kShortestDot = 1e-9;
+// Pixels; what is shorter is a dot.
+constexpr double kShortestStroke = 0.05;
 // How far something may reach over the end of a line.
 constexpr double kOverhang = 16;
 
@@ -94,7 +98,8 @@ double ScaleFor(const Extent& extent, Canvas& canvas) {
         scale = std::min({scale, kGreatestReach / extent.reach, kGreatestHeight / extent.height});
     }
     const double size = std::max(extent.width, extent.height);
-    if (size > 0.0 && size * scale < 1.0) {
+    const bool isDots = extent.height == 0.0 && size > kShortestDot * extent.repeat;
+    if (size > 0.0 && size * scale < 1.0 && !isDots) {
         canvas.Note(kRepeatTooLong);
         scale = kShortestRepeat / size;
     }
@@ -181,7 +186,10 @@ void LinePicture::AppendAlong(PathData& data, const SampleLine& line, const Outl
             const double start = place + from.x * scale_;
             const double stop = place + to.x * scale_;
             const double low = std::max(std::min(start, stop), 0.0);
-            const double high = std::min(std::max(start, stop), line.Length());
+            double high = std::min(std::max(start, stop), line.Length());
+            if (high - low < kShortestStroke) {
+                high = std::min(low, high);
+            }
             if (low <= high) {
                 line.Append(data, page_, low, high, startsHere || low != end);
                 end = start <= stop ? high : -1.0;

@@ -47,6 +47,17 @@ TEST(Picture, ALineWeightIsMillimetresWhateverTheScale) {
     EXPECT_TRUE(Has(markup, "stroke-width=\"9.6\" vector-effect=\"non-scaling-stroke\"")) << markup;
 }
 
+TEST(Picture, DashesTooShortToBeSeenAreDots) {
+    // As "A,.00001,-.125" becomes: some 30 pixels from dot to dot, on lines of 272 pixels and more.
+    auto symbol = NewSymbol(L"DOTS");
+    AddPath(*symbol, L"M 0,0 L 0.00001,0 ");
+    SetLineUsage(*symbol, L"0.12501");
+    const Picture picture = Draw(*symbol);
+    EXPECT_TRUE(picture.notes.empty()) << picture.notes.front();
+    EXPECT_GE(Count(picture.markup, "h0"), 3U * 9U) << picture.markup;
+    EXPECT_TRUE(Has(picture.markup, "stroke-linecap=\"round\"")) << picture.markup;
+}
+
 TEST(Picture, AScalableLineWeightGrowsWithTheSymbol) {
     auto symbol = NewSymbol(L"A");
     TylModel::Path& path = AddPath(*symbol, L"M 0,0 L 14,0 ");
