@@ -4,10 +4,12 @@
 #include "StyleConversion/pattern/FaithfulSymbol.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Utf8.h"
+#include "conversions/checking/PatternCheck.h"
 #include "conversions/reading/FileKind.h"
 #include "conversions/reading/Patterns.h"
 #include "conversions/reading/Shown.h"
 
+#include <set>
 #include <utility>
 
 namespace conversions {
@@ -93,7 +95,11 @@ private:
     bool ConvertOne(const std::string& name) {
         front_.AtItem(PatternItem(name));
         std::vector<pattern::PatternLine>& lines = loaded_.file.patterns.at(name);
-        if (auto symbol = Build(name, lines)) {
+        const bool isFirst = converted_.insert(name).second;
+        if (isFirst) {
+            Append(result_.diagnostics, DuplicatePatterns(input_, loaded_, name));
+        }
+        if (auto symbol = Build(name, lines, isFirst)) {
             result_.captions.descriptions[symbol.get()] =
                 platform::WideToValidUtf8(platform::AnsiToWide(loaded_.file.descriptions.at(name)));
             result_.owned.push_back(std::move(symbol));
@@ -112,20 +118,37 @@ private:
         return false;
     }
 
-    std::unique_ptr<TylModel::SymbolDefinition> Build(const std::string& name,
-                                                      std::vector<pattern::PatternLine>& lines) {
+    std::unique_ptr<TylModel::SymbolDefinition>
+    Build(const std::string& name, std::vector<pattern::PatternLine>& lines, bool isFirst) {
         if (options_.fidelity == encoding::Fidelity::kStrict) {
-            return pattern::BuildAreaSymbol(name, lines);
+            return isFirst ? BuildMeasured(name, lines) : pattern::BuildAreaSymbol(name, lines);
         }
         const pattern::FaithfulTiles tiles = pattern::FindFaithfulTiles(lines);
-        Append(result_.diagnostics, FaithfulLosses(input_, loaded_, name, tiles));
+        if (isFirst) {
+            Append(result_.diagnostics, FaithfulLosses(input_, loaded_, name, tiles));
+        }
         return pattern::BuildFaithfulSymbol(name, lines, tiles);
+    }
+
+    // What it loses is told, and is no reason to fail.
+    std::unique_ptr<TylModel::SymbolDefinition> BuildMeasured(const std::string& name,
+                                                              std::vector<pattern::PatternLine>& lines) {
+        const std::vector<pattern::PatternLine> families = lines;
+        auto symbol = pattern::BuildAreaSymbol(name, lines);
+        if (symbol != nullptr) {
+            if (auto losses = StrictLosses(input_, loaded_, name, families, *symbol)) {
+                losses->severity = Severity::kWarning;
+                result_.diagnostics.push_back(std::move(*losses));
+            }
+        }
+        return symbol;
     }
 
     const Input& input_;
     const PatternsOptions& options_;
     Front& front_;
     LoadedPatterns loaded_;
+    std::set<std::string> converted_; // names; one may be asked for several times
     Conversion result_;
 };
 

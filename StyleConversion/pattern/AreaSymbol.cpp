@@ -15,6 +15,18 @@ namespace {
 
 using TylModel::SymbolDefinition;
 
+// Less than, with NaN above all numbers: an order of all doubles, as sorting needs it.
+bool Precedes(double first, double second) {
+    return first < second || (std::isnan(second) && !std::isnan(first));
+}
+
+UsageTexts TextsOf(const Tile& tile) {
+    return {tile.angle != 0 ? encoding::Double2TrimmedString(tile.angle) : std::wstring(),
+            encoding::Double2TrimmedString(tile.width), encoding::Double2TrimmedString(tile.height)};
+}
+
+} // namespace
+
 Tile TileOf(const PatternLine& line) {
     return {line.rotatedTile ? 0.0 : line.angle, std::fabs(line.repeatX), std::fabs(line.repeatY)};
 }
@@ -23,11 +35,6 @@ bool IsSameTile(const Tile& first, const Tile& second) {
     return std::fabs(first.angle - second.angle) < kSameTileTolerance &&
            std::fabs(first.width - second.width) < kSameTileTolerance &&
            std::fabs(first.height - second.height) < kSameTileTolerance;
-}
-
-// Less than, with NaN above all numbers: an order of all doubles, as sorting needs it.
-bool Precedes(double first, double second) {
-    return first < second || (std::isnan(second) && !std::isnan(first));
 }
 
 bool IsDrawnBefore(const PatternLine& first, const PatternLine& second) {
@@ -46,13 +53,6 @@ bool IsDrawnBefore(const PatternLine& first, const PatternLine& second) {
     }
     return false;
 }
-
-UsageTexts TextsOf(const Tile& tile) {
-    return {tile.angle != 0 ? encoding::Double2TrimmedString(tile.angle) : std::wstring(),
-            encoding::Double2TrimmedString(tile.width), encoding::Double2TrimmedString(tile.height)};
-}
-
-} // namespace
 
 std::unique_ptr<SymbolDefinition> AreaSymbolBuilder::Build(const std::string& name,
                                                            std::vector<PatternLine>& lines) {

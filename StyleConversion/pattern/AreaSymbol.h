@@ -18,6 +18,13 @@ struct Tile {
     double height = 0.0;
 };
 
+/// The tile of a family that has one, and whether two count as the same.
+Tile TileOf(const PatternLine& line);
+bool IsSameTile(const Tile& first, const Tile& second);
+
+/// The order in which families are drawn: an order of all doubles, NaN above the numbers.
+bool IsDrawnBefore(const PatternLine& first, const PatternLine& second);
+
 /// Builds the symbols of any number of patterns, one after another, in the same memory for their paths.
 class AreaSymbolBuilder {
 public:

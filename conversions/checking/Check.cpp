@@ -1,7 +1,5 @@
 #include "conversions/checking/Check.h"
 
-#include "conversions/reading/Patterns.h"
-
 #include <utility>
 
 namespace conversions {
@@ -34,16 +32,6 @@ Diagnostics Check(FileKind kind, const Input& input, const CheckOptions& options
         TellWrongKind(input, kind, KindAdvice::kOtherName, found);
     }
     MergeAlike(found);
-    return found;
-}
-
-Diagnostics CheckPatterns(const Input& input) {
-    LoadedPatterns loaded;
-    pattern::ParsePatternFile(input.bytes, loaded.file, &loaded.reading, pattern::kTolerantPatternPolicy);
-    Diagnostics found = CheckedPatterns(input, loaded);
-    if (loaded.file.patterns.empty()) {
-        found.push_back(EmptyFile(input, diagnostics::Code::kNoPatterns));
-    }
     return found;
 }
 

@@ -1,7 +1,6 @@
 #include "conversions/reading/Patterns.h"
 
 #include "StyleConversion/pattern/PatternLimits.h"
-#include "StyleConversion/pattern/RepeatTile.h"
 #include "StyleConversion/platform/Characters.h"
 #include "conversions/reading/Shown.h"
 
@@ -79,31 +78,6 @@ public:
         found_.push_back({severity, code, std::move(place), std::move(subjects), outcome});
     }
 
-    void AddTiles() {
-        for (const auto& [name, lines] : loaded_.file.patterns) {
-            const auto numbers = loaded_.reading.familyLines.find(name);
-            for (std::size_t i = 0; i < lines.size(); ++i) {
-                AddTile(lines[i], numbers->second[i], name);
-            }
-            AddPattern(name, lines);
-        }
-    }
-
-    // Families that are left out of a pattern that is not.
-    void AddSkippedFamilies() {
-        for (const auto& [name, lines] : loaded_.file.patterns) {
-            if (!HasTile(lines)) {
-                continue; // named as a whole where it is converted
-            }
-            for (std::size_t i = 0; i < lines.size(); ++i) {
-                if (lines[i].rowCount < 0) {
-                    AddFamilyWithoutTile(loaded_.reading.familyLines.at(name)[i], name, Severity::kWarning,
-                                         Outcome::kSkipped);
-                }
-            }
-        }
-    }
-
     // What a faithful symbol of the pattern does not draw as it is.
     void AddLosses(const std::string& name, const pattern::FaithfulTiles& tiles) {
         const std::vector<std::size_t>& lines = loaded_.reading.familyLines.at(name);
@@ -128,34 +102,6 @@ public:
     }
 
 private:
-    void AddFamilyWithoutTile(std::size_t line, const std::string& name, Severity severity, Outcome outcome) {
-        Add(line, name, severity, Code::kFamilyWithoutTile, {std::to_string(pattern::kStackSearch)}, outcome);
-    }
-
-    void AddTile(const pattern::PatternLine& family, std::size_t line, const std::string& name) {
-        const double phaseError = pattern::PhaseError(family);
-        if (family.rowCount < 0) {
-            AddFamilyWithoutTile(line, name, Severity::kError, Outcome::kNone);
-        } else if (phaseError < pattern::kPhaseTolerance) {
-            Add(line, name, Severity::kNote, Code::kExactTile);
-        } else {
-            Add(line, name, Severity::kWarning, Code::kInexactTile,
-                {std::to_string(family.rowCount), RoundedText(phaseError, 1e6),
-                 RoundedText(phaseError / family.offset * 100.0, 10.0)});
-        }
-    }
-
-    void AddPattern(const std::string& name, const std::vector<pattern::PatternLine>& lines) {
-        const auto& headers = loaded_.reading.headerLines.at(name);
-        if (!HasTile(lines)) {
-            Add(headers.front(), name, Severity::kError, WhyNoSymbol(lines));
-        }
-        for (std::size_t i = 1; i < headers.size(); ++i) {
-            Add(headers[i], name, Severity::kWarning, Code::kDuplicatePattern,
-                {std::to_string(headers.front())});
-        }
-    }
-
     const Input& input_;
     const LoadedPatterns& loaded_;
     diagnostics::Diagnostics found_;
@@ -188,7 +134,6 @@ diagnostics::Diagnostics CheckedPatterns(const Input& input, const LoadedPattern
     for (const PatternError& error : loaded.reading.errors) {
         found.Add(error.line, error.pattern, CheckedSeverity(error), CodeOf(error.kind), SubjectsOf(error));
     }
-    found.AddTiles();
     if (loaded.reading.unit != pattern::Unit::kNone) {
         const bool isInch = loaded.reading.unit == pattern::Unit::kInch;
         found.Add(loaded.reading.unitLine, "", Severity::kWarning, Code::kIgnoredUnits,
@@ -203,7 +148,6 @@ diagnostics::Diagnostics ToleratedPatterns(const Input& input, const LoadedPatte
         found.Add(error.line, error.pattern, Severity::kWarning, CodeOf(error.kind), SubjectsOf(error),
                   Outcome::kRepaired);
     }
-    found.AddSkippedFamilies();
     return found.Take();
 }
 

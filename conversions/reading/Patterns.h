@@ -20,10 +20,10 @@ struct LoadedPatterns {
 bool ReadPatterns(const Input& input, const pattern::PatternPolicy& policy, LoadedPatterns& loaded,
                   diagnostics::Diagnostics& diagnostics);
 
-/// What a strict reading makes of a file that was read by a tolerant policy. Tiles that close are notes.
+/// What a strict reading makes of a file that was read by a tolerant policy.
 diagnostics::Diagnostics CheckedPatterns(const Input& input, const LoadedPatterns& loaded);
 
-/// What a tolerant reading made of it, and which families it leaves out: warnings.
+/// What a tolerant reading made of it: warnings.
 diagnostics::Diagnostics ToleratedPatterns(const Input& input, const LoadedPatterns& loaded);
 
 /// Warns where lengths are to be scaled to a unit and the file does not say its own.

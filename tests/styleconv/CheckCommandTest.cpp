@@ -158,20 +158,37 @@ TEST_F(Check, NotesAreShownWhereTheyAreAskedFor) {
               "0 errors, 0 warnings in 1 file\n");
 }
 
-TEST_F(Check, TilesOfFamiliesAreTold) {
-    // No shift; 3 × 0.3334 is 0.0002 more than the cycle, 0.06 % of the shift; 64 × 0.001 is no cycle.
-    const std::string text = "*X\n0,0,0,0,1\n0,0,0,0.3334,1,0.5,-0.5\n0,0,0,0.001,1,1,-1\n*Y\n";
+TEST_F(Check, PatternsThatLoseLinesOrDrawThemOutOfPlaceAreTold) {
+    // A tile 0.005 of 0.105 too low, ten times; after 3 lines 1.0002 of 1, ten times, of 0.5, which nobody
+    // sees; after 3 lines 0.002 of 0.5; 64 × 0.001 is no cycle.
+    const std::string text = "*A\n0,0,0,0,0.105\n*B\n0,0,0,0.3334,1,0.5,-0.5\n*C\n0,0,0,0.334,1,0.5,-0.5\n"
+                             "*D\n0,0,0,0,1\n0,0,0,0.001,1,1,-1\n*E\n*D\n0,0,0,0,0.25,1,-1\n";
     const std::string found =
-        ":3: warning: the repeat tile nearly closes: after 3 lines the dashes are off by 0.0002 drawing "
-        "units "
-        "(0.1 % of the shift) (pattern X) [inexact-tile]\n"
-        ":4: error: the family has no repeat tile: its dashes do not come back into phase within 64 lines, "
-        "and no upright rectangle repeats it; it is skipped (pattern X) [family-without-tile]\n"
-        ":5: error: the pattern has no lines (pattern Y) [empty-pattern]\n"
-        "2 errors, 1 warning in 1 file\n";
+        ":2: error: drawn up to 48 % of the line spacing out of place: 0.105 is written 0.1; --faithful "
+        "draws "
+        "it (pattern A) [out-of-place]\n"
+        ":6: warning: drawn up to 4 % of the shortest dash out of place: after 3 lines the dashes are 0.002 "
+        "drawing units out of phase; --faithful draws it (pattern C) [out-of-place]\n"
+        ":9: error: 1 of 3 families not drawn, as no rectangle of a strict symbol repeats them; --faithful "
+        "draws all (pattern D) [lost-families]\n"
+        ":10: error: the pattern has no lines (pattern E) [empty-pattern]\n"
+        ":11: warning: the name is already used in line 7; both make one pattern (pattern D) "
+        "[duplicate-pattern]\n"
+        "3 errors, 2 warnings in 1 file\n";
     EXPECT_EQ(Walls(text), found);
-    EXPECT_EQ(Walls(text, {"--notes"}),
-              ":2: note: the family has an exact repeat tile (pattern X) [exact-tile]\n" + found);
+    EXPECT_EQ(Walls(text, {"--notes"}), found);
+}
+
+TEST_F(Check, PatternsAreErrorsFromATenthOnAndWarningsFromAHundredthOn) {
+    // The origin alone is cut, by 0.00505: of dashes 0.05, 0.051, 0.5 and 0.51 long.
+    const auto severity = [this](const std::string& dashes) {
+        const std::string found = Walls("*A\n0,0.30505,0,0,1," + dashes + "\n");
+        return found.substr(0, found.find(" drawn"));
+    };
+    EXPECT_EQ(severity("0.05,-0.95"), ":2: error:");
+    EXPECT_EQ(severity("0.0510,-0.949"), ":2: warning:");
+    EXPECT_EQ(severity("0.5,-0.5"), ":2: warning:");
+    EXPECT_EQ(severity("0.51,-0.51"), "0 errors, 0 warnings in 1 file\n");
 }
 
 TEST_F(Check, SlipsOfPatternFilesAreFound) {

@@ -282,4 +282,35 @@ TEST(ListCommand, NeedsAFileOfAKnownKind) {
     EXPECT_EQ(RunTool({"list", "-"}, "*A\n").status, 2);
 }
 
+TEST(PatternsCommand, WarnsOfWhatTheSymbolsLoseAndConverts) {
+    const ScratchFolder folder;
+    // The tile is 0.005 of 0.105 too low, and after ten tiles 0.05.
+    const std::string file = folder.Write("a.pat", "*X\n0,0,0,0,0.105\n*Y\n0,0,0,0,1\n0,0,0,0.001,1,1,-1\n");
+    const std::string said =
+        file + ":2: warning: drawn up to 48 % of the line spacing out of place: 0.105 is written 0.1; "
+               "--faithful draws it (pattern X)\n";
+    const ToolResult all = RunTool({"patterns", file});
+    EXPECT_EQ(all.status, 0);
+    EXPECT_EQ(all.errors, said + file +
+                              ":5: warning: 1 of 2 families not drawn, as no rectangle of a strict symbol "
+                              "repeats them; --faithful draws all (pattern Y)\n");
+    EXPECT_EQ(RunTool({"patterns", file, "--name", "X", "--name", "X"}).errors, said);
+    EXPECT_EQ(RunTool({"patterns", file, "--faithful"}).errors, "");
+}
+
+TEST(PatternsCommand, WarnsWherePatternsOfOneNameBecomeOne) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*X\n0,0,0,0,1\n*Y\n0,0,0,0,1\n*X\n90,0,0,0,1\n");
+    const std::string said =
+        file + ":5: warning: the name is already used in line 1; both make one pattern (pattern X)\n";
+    for (const Texts& more : {Texts{}, {"--tolerant"}, {"--faithful"}, {"--name", "X", "--name", "X"}}) {
+        Texts arguments{"patterns", file};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        const ToolResult result = RunTool(arguments);
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.errors, said);
+    }
+    EXPECT_EQ(RunTool({"patterns", file, "--name", "Y"}).errors, "");
+}
+
 } // namespace
