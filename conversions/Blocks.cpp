@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <optional>
+#include <unordered_map>
 #include <utility>
 
 namespace conversions {
@@ -86,6 +87,7 @@ public:
                 return diagnostic.code == Code::kNoUnit;
             });
         }
+        NotePositions();
         front_.BeginStage("Converting", names.size());
         Diagnostics found;
         for (const std::wstring& name : names) {
@@ -136,11 +138,29 @@ private:
             symbol->SetName(stem);
         }
         result_.owned.push_back(std::move(symbol));
+        result_.places.push_back(PlaceOf(name));
         if (options_.tolerant && copy) {
             check_.AddLosses(*copy, found);
         } else if (options_.tolerant) {
             TellLosses(name, found);
         }
+    }
+
+    void NotePositions() {
+        if (!options_.tolerant && input_.name.ends_with(".json")) {
+            for (const drawing::BlockRecord* const block : drawing_.Blocks()) {
+                positions_.emplace(block, positions_.size());
+            }
+        }
+    }
+
+    // With the path of the value where nothing that was left out may have shifted it.
+    diagnostics::Place PlaceOf(const std::wstring& name) const {
+        diagnostics::Place place(input_.name);
+        if (const auto found = positions_.find(drawing_.FindBlock(name)); found != positions_.end()) {
+            place.path = "blocks[" + std::to_string(found->second) + "]";
+        }
+        return place;
     }
 
     // The block as it is to be seen; null where there is none of the name. False, which is said, where that
@@ -177,6 +197,7 @@ private:
     std::optional<block::FaithfulInUse> faithful_;
     BlockCheck check_;
     Conversion& result_;
+    std::unordered_map<const drawing::BlockRecord*, std::size_t> positions_; // in the drawing document
 };
 
 } // namespace

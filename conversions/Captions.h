@@ -13,6 +13,8 @@ struct Captions {
     std::string title; // of a page with all of them; empty where they come from no file of a name
     /// Of symbols that hold none.
     std::map<const TylModel::SymbolDefinition*, std::string> descriptions;
+    /// The files that symbols come from, where these are several.
+    std::map<const TylModel::SymbolDefinition*, std::string> sources;
 };
 
 } // namespace conversions

@@ -23,6 +23,7 @@ struct Conversion {
     Symbols owned;
     std::vector<TylModel::SymbolDefinition*> symbols; // as asked for; one may be there more than once
     Captions captions;
+    std::vector<diagnostics::Place> places; // where each of `owned` stands
     diagnostics::Diagnostics diagnostics;
 
     /// Every symbol once, in their order.

@@ -57,6 +57,9 @@ public:
         if (const auto found = captions_.descriptions.find(&symbol); found != captions_.descriptions.end()) {
             facts.description = found->second;
         }
+        if (const auto found = captions_.sources.find(&symbol); found != captions_.sources.end()) {
+            facts.source = found->second;
+        }
         facts.json = documents::SymbolText(symbol);
         return writer_.Add(symbol, facts);
     }

@@ -130,19 +130,28 @@ bool WriteDocument(const ChosenGlyphs& glyphs, const GlyphsOptions& options, con
     return isWritten && writer.Finish();
 }
 
-bool WritePictures(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,
-                   Front& front, StyleJob* styles) {
-    std::vector<std::unique_ptr<TylModel::SimpleSymbolDefinition>> symbols;
-    std::vector<TylModel::SymbolDefinition*> borrowed;
+using GlyphSymbols = std::vector<std::unique_ptr<TylModel::SimpleSymbolDefinition>>;
+
+GlyphSymbols DrawnSymbols(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Front& front) {
+    GlyphSymbols symbols;
     front.BeginStage("Drawing", glyphs.positions.size());
     for (const std::size_t position : glyphs.positions) {
         front.AtItem(NumberItem(glyphs.file.shapes[position]));
         symbols.push_back(SymbolOf(Draw(glyphs.file, glyphs.file.shapes[position], options)));
-        borrowed.push_back(symbols.back().get());
     }
     // Letters that are turned stand on no common line.
     if (glyphs.file.kind != ShxUtility::kShapes && options.rotation == 0.0) {
         AlignGlyphs(symbols);
+    }
+    return symbols;
+}
+
+bool WritePictures(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,
+                   Front& front, StyleJob* styles) {
+    const GlyphSymbols symbols = DrawnSymbols(glyphs, options, front);
+    std::vector<TylModel::SymbolDefinition*> borrowed;
+    for (const auto& symbol : symbols) {
+        borrowed.push_back(symbol.get());
     }
     return WriteSymbols(borrowed, form, sink, front, encoding::Fidelity::kStrict, glyphs.captions, styles);
 }
@@ -160,6 +169,25 @@ ChosenGlyphs ChooseGlyphs(const Input& input, const GlyphsOptions& options, Fron
     }
     MergeAlike(glyphs.diagnostics);
     return glyphs;
+}
+
+Conversion ConvertGlyphs(const Input& input, const GlyphsOptions& options, Front& front) {
+    ChosenGlyphs glyphs = ChooseGlyphs(input, options, front);
+    Conversion result;
+    result.isConverted = glyphs.isConverted;
+    result.captions = glyphs.captions;
+    result.diagnostics = std::move(glyphs.diagnostics);
+    if (!result.isConverted) {
+        return result;
+    }
+    for (auto& symbol : DrawnSymbols(glyphs, options, front)) {
+        diagnostics::Place place(input.name);
+        place.shape = glyphs.file.shapes[glyphs.positions[result.owned.size()]].number;
+        result.places.push_back(std::move(place));
+        result.owned.push_back(std::move(symbol));
+    }
+    result.UseAll();
+    return result;
 }
 
 bool WriteGlyphs(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,

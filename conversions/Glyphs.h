@@ -32,6 +32,9 @@ struct ChosenGlyphs {
 /// All that are asked for, or none: a tolerant choice leaves out what cannot be drawn, and needs one.
 ChosenGlyphs ChooseGlyphs(const Input& input, const GlyphsOptions& options, Front& front);
 
+/// The same, drawn as symbols.
+Conversion ConvertGlyphs(const Input& input, const GlyphsOptions& options, Front& front);
+
 /// Draws and writes them; a form that is a style takes a job. False when the sink refuses a text.
 bool WriteGlyphs(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,
                  Front& front, StyleJob* styles = nullptr);

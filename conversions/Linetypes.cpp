@@ -77,6 +77,20 @@ private:
         for (std::size_t i = 0; results && i < results->size(); ++i) {
             result_.owned.emplace_back((*results)[i]);
         }
+        FindPlaces();
+    }
+
+    // The symbols stand in the order of their linetypes, some of which may have none.
+    void FindPlaces() {
+        std::size_t next = 0;
+        for (const auto& symbol : result_.owned) {
+            while (next < file_.linetypes.size() &&
+                   platform::AnsiToWide(file_.linetypes[next].name) != symbol->GetName()) {
+                ++next;
+            }
+            result_.places.emplace_back(input_.name,
+                                        next < file_.linetypes.size() ? file_.linetypes[next++].line : 0);
+        }
     }
 
     void TellTolerated() {

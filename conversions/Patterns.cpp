@@ -103,6 +103,7 @@ private:
             result_.captions.descriptions[symbol.get()] =
                 platform::WideToValidUtf8(platform::AnsiToWide(loaded_.file.descriptions.at(name)));
             result_.owned.push_back(std::move(symbol));
+            result_.places.emplace_back(input_.name, loaded_.reading.headerLines.at(name).front());
             return true;
         }
         const bool isError = !options_.tolerant && !options_.names.empty();

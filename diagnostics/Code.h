@@ -23,6 +23,8 @@ enum class Code : std::uint8_t {
     kMissingName,
     kMissingNumber,
     kNothingConverted,
+    kUnreadableFolder,
+    kNameOfAnotherFile,
     // Linetype files: syntax. The subject is the line.
     kHeaderWithoutPattern,
     kIncompletePattern,

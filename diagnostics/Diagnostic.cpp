@@ -52,6 +52,31 @@ void MergeAlike(Diagnostics& diagnostics) {
     diagnostics = std::move(merged);
 }
 
+void MergeAcrossFiles(Diagnostics& diagnostics) {
+    const auto kindIn = [](const Diagnostic& diagnostic) {
+        Kind kind = KindOf(diagnostic);
+        std::get<std::string>(kind).clear();
+        return kind;
+    };
+    std::map<Kind, std::size_t> counts;
+    for (const Diagnostic& diagnostic : diagnostics) {
+        counts[kindIn(diagnostic)] += diagnostic.count;
+    }
+    std::map<Kind, bool> seen;
+    Diagnostics merged;
+    for (Diagnostic& diagnostic : diagnostics) {
+        const Kind kind = kindIn(diagnostic);
+        const std::size_t count = counts[kind];
+        const bool isMany = count > kMostAlike && diagnostic.severity != Severity::kError;
+        const bool isMerged = !CountsEntities(diagnostic.code) && (isMany || HasOneCause(diagnostic.code));
+        if (!isMerged || !std::exchange(seen[kind], true)) {
+            diagnostic.count = isMerged ? count : diagnostic.count;
+            merged.push_back(std::move(diagnostic));
+        }
+    }
+    diagnostics = std::move(merged);
+}
+
 void Append(Diagnostics& diagnostics, Diagnostics more) {
     diagnostics.insert(diagnostics.end(), std::make_move_iterator(more.begin()),
                        std::make_move_iterator(more.end()));

@@ -63,6 +63,10 @@ void SortByLine(Diagnostics& diagnostics);
 void MergeAlike(Diagnostics& diagnostics);
 inline constexpr std::size_t kMostAlike = 20;
 
+/// The same over files: where they have one cause, and warnings and notes of which there are more than
+/// kMostAlike. Errors of different files stay apart else.
+void MergeAcrossFiles(Diagnostics& diagnostics);
+
 /// Moves all of `more` behind the others.
 void Append(Diagnostics& diagnostics, Diagnostics more);
 

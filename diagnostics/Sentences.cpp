@@ -55,6 +55,10 @@ constexpr auto kRows = std::to_array<Row>({
      "there is no shape {0}", "", ""},
     {Code::kNothingConverted, "nothing-converted",
      "none of the {0} can be converted", "", ""},
+    {Code::kUnreadableFolder, "unreadable-folder",
+     "the folder cannot be read: {0}", "", ""},
+    {Code::kNameOfAnotherFile, "name-of-another-file",
+     "the name is already used by another symbol", "", "the file is added to it", true},
     // Linetype files: syntax. The subject is the line.
     {Code::kHeaderWithoutPattern, "header-without-pattern",
      "header without a pattern", "", ""},

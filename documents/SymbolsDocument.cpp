@@ -1,8 +1,11 @@
 #include "documents/SymbolsDocument.h"
 
+#include "StyleConversion/platform/Utf8.h"
 #include "documents/JsonText.h"
 
+#include <cstdint>
 #include <string>
+#include <utility>
 
 namespace documents {
 namespace {
@@ -98,9 +101,31 @@ void WriteUsages(JsonText& json, const TylModel::SimpleSymbolDefinition& definit
     }
 }
 
+void WriteOrigin(JsonText& json, const SymbolOrigin& origin) {
+    json.Key("kind");
+    json.PlainText(origin.kind);
+    json.Key("source");
+    json.BeginObject();
+    json.Key("file");
+    json.Text(platform::Utf8ToWide(origin.place.file));
+    if (origin.place.line > 0) {
+        json.Key("line");
+        json.Integer(static_cast<std::int64_t>(origin.place.line));
+    }
+    if (origin.place.shape) {
+        json.Key("shape");
+        json.Integer(*origin.place.shape);
+    }
+    if (!origin.place.path.empty()) {
+        json.Key("path");
+        json.Text(platform::Utf8ToWide(origin.place.path));
+    }
+    json.EndObject();
+}
+
 class SymbolJson : public TylModel::ISymbolDefinitionVisitor {
 public:
-    explicit SymbolJson(JsonText& json) : json_(json) {}
+    SymbolJson(JsonText& json, const SymbolOrigin* origin) : json_(json), origin_(origin) {}
 
     void VisitSimpleSymbolDefinition(TylModel::SimpleSymbolDefinition& definition) override {
         Begin("SimpleSymbolDefinition", definition);
@@ -140,9 +165,14 @@ private:
         json_.Key("name");
         json_.Text(definition.GetName());
         Put(json_, "description", definition.GetDescription());
+        // Of the whole: its parts have none of their own.
+        if (const SymbolOrigin* const origin = std::exchange(origin_, nullptr); origin != nullptr) {
+            WriteOrigin(json_, *origin);
+        }
     }
 
     JsonText& json_;
+    const SymbolOrigin* origin_;
 };
 
 std::string Head(encoding::Fidelity fidelity) {
@@ -160,17 +190,17 @@ std::string Head(encoding::Fidelity fidelity) {
 std::string SymbolText(TylModel::SymbolDefinition& symbol) {
     std::string text;
     JsonText json(text, 0);
-    SymbolJson visitor(json);
+    SymbolJson visitor(json, nullptr);
     symbol.AcceptVisitor(visitor);
     return text;
 }
 
-bool SymbolsWriter::Add(TylModel::SymbolDefinition& symbol) {
+bool SymbolsWriter::Add(TylModel::SymbolDefinition& symbol, const SymbolOrigin* origin) {
     text_ = started_ ? "," : Head(fidelity_);
     started_ = true;
     text_ += "\n    ";
     JsonText json(text_, kSymbolLevel);
-    SymbolJson visitor(json);
+    SymbolJson visitor(json, origin);
     symbol.AcceptVisitor(visitor);
     return sink_(text_);
 }

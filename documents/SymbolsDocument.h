@@ -3,6 +3,7 @@
 
 #include "StyleConversion/encoding/Fidelity.h"
 #include "TylModel/TylModel.h"
+#include "diagnostics/Diagnostic.h"
 
 #include <functional>
 #include <string>
@@ -13,6 +14,12 @@ namespace documents {
 /// Takes the next piece of a document's UTF-8 text. False stops the writing: the piece could not be stored.
 using TextSink = std::function<bool(std::string_view)>;
 
+/// Where a symbol comes from.
+struct SymbolOrigin {
+    std::string_view kind; // "linetype", "pattern", "block" or "glyph"
+    diagnostics::Place place;
+};
+
 /// Writes one symbols document: call Add for each symbol in turn, then Finish. The text of one symbol at a
 /// time is held in memory. Keys of empty properties and of usages that were never adopted are left out.
 class SymbolsWriter {
@@ -20,8 +27,9 @@ public:
     explicit SymbolsWriter(TextSink sink, encoding::Fidelity fidelity = encoding::Fidelity::kStrict)
         : sink_(std::move(sink)), fidelity_(fidelity) {}
 
-    /// False when the sink refused a piece; nothing more is to be written then.
-    bool Add(TylModel::SymbolDefinition& symbol);
+    /// With its origin where one is given. False when the sink refused a piece; nothing more is to be written
+    /// then.
+    bool Add(TylModel::SymbolDefinition& symbol, const SymbolOrigin* origin = nullptr);
     bool Finish();
 
 private:

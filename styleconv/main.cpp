@@ -24,6 +24,7 @@ namespace {
 using namespace styleconv;
 
 void AddCommands(CommandLine& line, LimitOptions& limits, bool& quiet) {
+    AddConvertCommand(line);
     AddLinetypesCommand(line);
     AddPatternsCommand(line);
     AddBlocksCommand(line);

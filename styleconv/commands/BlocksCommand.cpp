@@ -3,6 +3,7 @@
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/DrawingViewOptions.h"
 #include "styleconv/commands/Job.h"
+#include "styleconv/commands/ManyFiles.h"
 #include "styleconv/files/InputFile.h"
 #include "styleconv/files/ShapeSearch.h"
 #include "styleconv/process/Messages.h"
@@ -14,13 +15,42 @@ namespace styleconv {
 namespace {
 
 struct BlocksOptions : CommonOptions, DrawingViewOptions {
-    std::string file;
+    std::vector<std::string> files;
+    bool allOrNothing = false;
     std::vector<std::string> names;
     std::vector<std::string> layersToIgnore;
     std::vector<std::string> shapeFolders;
     bool tolerant = false;
     bool faithful = false;
 };
+
+conversions::BlocksOptions BlocksJob(const BlocksOptions& options, conversions::Form form) {
+    conversions::BlocksOptions job;
+    static_cast<conversions::DrawingView&>(job) = ViewOf(options);
+    job.names = WideTexts(options.names);
+    job.layersToIgnore = WideTexts(options.layersToIgnore);
+    job.tolerant = options.tolerant;
+    job.fidelity = FidelityOf(options.faithful, options, form);
+    const bool isFaithful = job.fidelity == encoding::Fidelity::kFaithful;
+    job.seenAs.leavesOutHidden = options.visibleOnly || isFaithful;
+    job.seenAs.drawsOthers = isFaithful;
+    return job;
+}
+
+ExitStatus SeveralBlocks(const BlocksOptions& options, conversions::Form form) {
+    if (!CheckSeveralFiles(options.files, "--name", !options.names.empty())) {
+        return kUsageFault;
+    }
+    return ConvertFiles(
+        FilesOfKind(conversions::FileKind::kDrawing, options.files, options.allOrNothing, options.tolerant),
+        [&](const InputFile& input, conversions::FileKind /*kind*/, conversions::Front& front) {
+            return ConvertBlocks(input.ForJob(), BlocksJob(options, form), front);
+        },
+        [&](const std::string& file, conversions::FileKind /*kind*/) {
+            return FrontForDrawing({file, options.shapeFolders, {}}, options.output.empty());
+        },
+        options, form);
+}
 
 ExitStatus Blocks(const BlocksOptions& options) {
     if (options.modelSpace && !options.names.empty()) {
@@ -31,22 +61,17 @@ ExitStatus Blocks(const BlocksOptions& options) {
     if (!form) {
         return kUsageFault;
     }
-    InputFile input(options.file);
+    if (options.files.size() > 1) {
+        return SeveralBlocks(options, *form);
+    }
+    const std::string& file = options.files.front();
+    InputFile input(file);
     if (const auto problem = input.Open()) {
         return SayProblem(*problem);
     }
-    const auto front = FrontForDrawing({options.file, options.shapeFolders, {}}, options.output.empty());
-    conversions::BlocksOptions job;
-    static_cast<conversions::DrawingView&>(job) = ViewOf(options);
-    job.names = WideTexts(options.names);
-    job.layersToIgnore = WideTexts(options.layersToIgnore);
-    job.tolerant = options.tolerant;
-    job.fidelity = FidelityOf(options.faithful, options, *form);
-    const bool isFaithful = job.fidelity == encoding::Fidelity::kFaithful;
-    job.seenAs.leavesOutHidden = options.visibleOnly || isFaithful;
-    job.seenAs.drawsOthers = isFaithful;
-    return Finish(ConvertBlocks(input.ForJob(), job, *front), options.file, options.tolerant, options, *form,
-                  *front);
+    const auto front = FrontForDrawing({file, options.shapeFolders, {}}, options.output.empty());
+    return Finish(ConvertBlocks(input.ForJob(), BlocksJob(options, *form), *front), file, options.tolerant,
+                  options, *form, *front);
 }
 
 } // namespace
@@ -55,13 +80,14 @@ void AddBlocksCommand(CommandLine& line) {
     const auto options = std::make_shared<BlocksOptions>();
     Command command =
         line.AddCommand("blocks", "Convert the blocks of a drawing", [options] { return Blocks(*options); });
-    command.AddFile(options->file, "A DXF file or drawing document, or - for standard input");
+    command.AddFiles(options->files, "A DXF file or drawing document, or - for standard input");
     AddNameOption(command, options->names, "Convert only this block; may be given again");
     AddIgnoreLayerOption(command, options->layersToIgnore);
     AddShapesOption(command, options->shapeFolders);
     AddDrawingViewOptions(command, *options);
     AddTolerantOption(command, options->tolerant);
     AddFaithfulOption(command, options->faithful);
+    AddAllOrNothingOption(command, options->allOrNothing);
     AddCommonOptions(command, *options);
     AddStyleScaleOption(command, *options);
     AddStrictSymbolsOption(command, *options);

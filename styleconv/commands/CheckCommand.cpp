@@ -5,6 +5,7 @@
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/DrawingViewOptions.h"
 #include "styleconv/commands/Job.h"
+#include "styleconv/commands/ManyFiles.h"
 #include "styleconv/files/InputFile.h"
 #include "styleconv/files/ShapeSearch.h"
 #include "styleconv/process/Messages.h"
@@ -65,10 +66,6 @@ Diagnostics CheckOne(const CheckOptions& options, const std::string& path) {
         job.linetypes.drawing = drawing.ForJob();
     }
     return Check(kind, input.ForJob(options.codePage), job, *FrontFor(kind, path, options));
-}
-
-std::string Counted(std::size_t count, const std::string& what) {
-    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
 std::string Text(const Diagnostics& found, std::size_t files) {

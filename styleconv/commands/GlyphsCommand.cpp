@@ -2,6 +2,7 @@
 #include "conversions/Glyphs.h"
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/Job.h"
+#include "styleconv/commands/ManyFiles.h"
 #include "styleconv/files/InputFile.h"
 #include "styleconv/process/Messages.h"
 
@@ -11,16 +12,37 @@ namespace styleconv {
 namespace {
 
 struct GlyphsOptions : CommonOptions, conversions::GlyphsOptions {
-    std::string file;
+    std::vector<std::string> files;
+    bool allOrNothing = false;
     std::string codePage;
 };
+
+ExitStatus SeveralGlyphs(const GlyphsOptions& options, conversions::Form form) {
+    if (!CheckSeveralFiles(options.files, "--number", !options.numbers.empty()) ||
+        !CheckEncoding(options.codePage)) {
+        return kUsageFault;
+    }
+    return ConvertFiles(
+        FilesOfKind(conversions::FileKind::kShapes, options.files, options.allOrNothing, options.tolerant),
+        [&](const InputFile& input, conversions::FileKind /*kind*/, conversions::Front& front) {
+            return ConvertGlyphs(input.ForJob(options.codePage), options, front);
+        },
+        [&](const std::string& /*file*/, conversions::FileKind /*kind*/) {
+            return FrontWithoutFiles(options.output.empty());
+        },
+        options, form);
+}
 
 ExitStatus Glyphs(const GlyphsOptions& options) {
     const std::optional<conversions::Form> form = FormOf(options);
     if (!form) {
         return kUsageFault;
     }
-    InputFile input(options.file);
+    if (options.files.size() > 1) {
+        return SeveralGlyphs(options, *form);
+    }
+    const std::string& file = options.files.front();
+    InputFile input(file);
     if (const auto problem = input.Read()) {
         return SayProblem(*problem);
     }
@@ -30,14 +52,13 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     const auto front = FrontWithoutFiles(options.output.empty());
     conversions::ChosenGlyphs glyphs = ChooseGlyphs(input.ForJob(options.codePage), options, *front);
     if (!glyphs.isConverted) {
-        return SayFailure(options.file, options.tolerant, glyphs.diagnostics);
+        return SayFailure(file, options.tolerant, glyphs.diagnostics);
     }
     SayAll(glyphs.diagnostics);
-    glyphs.captions.title = TitleOf(options.file);
-    return WriteForm(options, options.file,
-                     [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
-                         return WriteGlyphs(glyphs, options, *form, sink, *front, &styles);
-                     });
+    glyphs.captions.title = TitleOf(file);
+    return WriteForm(options, file, [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
+        return WriteGlyphs(glyphs, options, *form, sink, *front, &styles);
+    });
 }
 
 } // namespace
@@ -46,7 +67,7 @@ void AddGlyphsCommand(CommandLine& line) {
     const auto options = std::make_shared<GlyphsOptions>();
     Command command = line.AddCommand("glyphs", "Draw the shapes of a shape or font file",
                                       [options] { return Glyphs(*options); });
-    command.AddFile(options->file, "A .shx file, or - for standard input");
+    command.AddFiles(options->files, "A .shx file, or - for standard input");
     command.AddIntegers("--number", options->numbers, "N", "Draw only this shape; may be given again");
     AddScaleOption(command, "--scale", options->scale, "Path units per shape unit (default: 1)");
     AddNumberOption(command, "--rotation", options->rotation,
@@ -56,6 +77,7 @@ void AddGlyphsCommand(CommandLine& line) {
     command.AddFlag("--vertical", options->vertical, "Draw as in vertical text");
     AddTolerantOption(command, options->tolerant);
     AddCodePageOption(command, options->codePage);
+    AddAllOrNothingOption(command, options->allOrNothing);
     AddCommonOptions(command, *options);
 }
 

@@ -95,6 +95,10 @@ bool CheckStyleForm(const StyleFormOptions& style, conversions::Form form, bool 
 // Whether it is of a part of the file, so that the rest may be worth having.
 bool IsLocal(const Diagnostic& diagnostic) {
     switch (diagnostic.code) {
+    case Code::kMissingFile:
+    case Code::kUnreadableFile:
+    case Code::kUnreadableFolder:
+    case Code::kUnknownFileKind:
     case Code::kWrongFileKind:
     case Code::kOutOfMemory:
     case Code::kNoLinetypes:
@@ -149,6 +153,10 @@ std::optional<Diagnostic> OpenForKind(InputFile& input, const std::string& path,
     return problem;
 }
 
+bool IsToleranceOfHelp(const diagnostics::Diagnostics& diagnostics) {
+    return std::any_of(diagnostics.begin(), diagnostics.end(), IsLocal);
+}
+
 ExitStatus SayProblem(const Diagnostic& problem) {
     SayAll({problem});
     return kInputFault;
@@ -156,7 +164,7 @@ ExitStatus SayProblem(const Diagnostic& problem) {
 
 ExitStatus SayFailure(const std::string& file, bool isTolerant, const diagnostics::Diagnostics& diagnostics) {
     SayAll(diagnostics);
-    if (!isTolerant && std::any_of(diagnostics.begin(), diagnostics.end(), IsLocal)) {
+    if (!isTolerant && IsToleranceOfHelp(diagnostics)) {
         const std::string check =
             file == "-" ? "" : "; \"styleconv check " + diagnostics::ShownText(file) + "\" shows all errors";
         SayLine("styleconv: nothing was converted; --tolerant converts the rest of the file" + check);

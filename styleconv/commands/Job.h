@@ -29,6 +29,9 @@ std::unique_ptr<conversions::Front> FrontWithoutFiles(bool toStandardOutput);
 std::optional<diagnostics::Diagnostic> OpenForKind(InputFile& input, const std::string& path,
                                                    conversions::FileKind& kind);
 
+/// Whether something is wrong with a part of the file alone, so that a tolerant conversion may help.
+bool IsToleranceOfHelp(const diagnostics::Diagnostics& diagnostics);
+
 /// Says what is wrong; what gave nothing is kInputFault.
 ExitStatus SayProblem(const diagnostics::Diagnostic& problem);
 

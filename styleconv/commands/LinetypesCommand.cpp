@@ -2,23 +2,53 @@
 #include "conversions/Linetypes.h"
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/Job.h"
+#include "styleconv/commands/ManyFiles.h"
 #include "styleconv/files/InputFile.h"
 #include "styleconv/files/ShapeSearch.h"
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace styleconv {
 namespace {
 
 struct LinetypesOptions : CommonOptions, StyleOptions {
-    std::string file;
+    std::vector<std::string> files;
+    bool allOrNothing = false;
     std::vector<std::string> names;
     std::string codePage;
     double scale = 1.0;
     bool tolerant = false;
     bool faithful = false;
 };
+
+conversions::Conversion ConvertOpenLinetypes(const LinetypesOptions& options, conversions::Form form,
+                                             const InputFile& input, conversions::Front& front) {
+    conversions::LinetypesOptions job;
+    job.names = WideTexts(options.names);
+    job.scale = options.scale;
+    job.font = options.font;
+    job.tolerant = options.tolerant;
+    job.fidelity = FidelityOf(options.faithful, options, form);
+    return ConvertWithStyles(input.ForJob(options.codePage), std::move(job), options, front);
+}
+
+ExitStatus SeveralLinetypes(const LinetypesOptions& options, conversions::Form form) {
+    if (!CheckSeveralFiles(options.files, "--name", !options.names.empty()) ||
+        !CheckEncoding(options.codePage)) {
+        return kUsageFault;
+    }
+    return ConvertFiles(
+        FilesOfKind(conversions::FileKind::kLinetypes, options.files, options.allOrNothing, options.tolerant),
+        [&](const InputFile& input, conversions::FileKind /*kind*/, conversions::Front& front) {
+            return ConvertOpenLinetypes(options, form, input, front);
+        },
+        [&](const std::string& file, conversions::FileKind /*kind*/) {
+            return FrontForLinetypes({file, options.shapeFolders, options.font}, options.output.empty());
+        },
+        options, form);
+}
 
 ExitStatus Linetypes(const LinetypesOptions& options) {
     if (!CheckStyleOptions(options)) {
@@ -28,30 +58,20 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
     if (!form) {
         return kUsageFault;
     }
-    InputFile input(options.file);
+    if (options.files.size() > 1) {
+        return SeveralLinetypes(options, *form);
+    }
+    const std::string& file = options.files.front();
+    InputFile input(file);
     if (const auto problem = input.Read()) {
         return SayProblem(*problem);
     }
     if (!CheckEncoding(options.codePage)) {
         return kUsageFault;
     }
-    InputFile drawing(options.drawing);
-    if (const auto problem = options.drawing.empty() ? std::nullopt : drawing.Open()) {
-        return SayProblem(*problem);
-    }
-    conversions::LinetypesOptions job;
-    job.names = WideTexts(options.names);
-    job.scale = options.scale;
-    job.font = options.font;
-    job.tolerant = options.tolerant;
-    job.fidelity = FidelityOf(options.faithful, options, *form);
-    if (!options.drawing.empty()) {
-        job.drawing = drawing.ForJob();
-    }
-    const auto front =
-        FrontForLinetypes({options.file, options.shapeFolders, options.font}, options.output.empty());
-    return Finish(ConvertLinetypes(input.ForJob(options.codePage), job, *front), options.file,
-                  options.tolerant, options, *form, *front);
+    const auto front = FrontForLinetypes({file, options.shapeFolders, options.font}, options.output.empty());
+    return Finish(ConvertOpenLinetypes(options, *form, input, *front), file, options.tolerant, options, *form,
+                  *front);
 }
 
 } // namespace
@@ -60,13 +80,14 @@ void AddLinetypesCommand(CommandLine& line) {
     const auto options = std::make_shared<LinetypesOptions>();
     Command command = line.AddCommand("linetypes", "Convert the linetypes of a .lin file",
                                       [options] { return Linetypes(*options); });
-    command.AddFile(options->file, "A linetype file, or - for standard input");
+    command.AddFiles(options->files, "A linetype file, or - for standard input");
     AddNameOption(command, options->names, "Convert only the linetypes of this name; may be given again");
     AddScaleOption(command, "--scale", options->scale, "Multiply all lengths by this (default: 1)");
     AddStyleOptions(command, *options);
     AddTolerantOption(command, options->tolerant);
     AddFaithfulOption(command, options->faithful);
     AddCodePageOption(command, options->codePage);
+    AddAllOrNothingOption(command, options->allOrNothing);
     AddCommonOptions(command, *options);
     AddStrictSymbolsOption(command, *options);
 }

@@ -2,6 +2,7 @@
 #include "conversions/Patterns.h"
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/Job.h"
+#include "styleconv/commands/ManyFiles.h"
 #include "styleconv/files/InputFile.h"
 
 #include <memory>
@@ -10,7 +11,8 @@ namespace styleconv {
 namespace {
 
 struct PatternsOptions : CommonOptions {
-    std::string file;
+    std::vector<std::string> files;
+    bool allOrNothing = false;
     std::vector<std::string> names;
     std::string codePage;
     std::string units;
@@ -25,12 +27,37 @@ pattern::Unit UnitNamed(const std::string& units) {
     return units == "mm" ? pattern::Unit::kMillimetre : pattern::Unit::kInch;
 }
 
+conversions::PatternsOptions PatternsJob(const PatternsOptions& options, conversions::Form form) {
+    return {WideTexts(options.names), options.tolerant, UnitNamed(options.units),
+            FidelityOf(options.faithful, options, form)};
+}
+
+ExitStatus SeveralPatterns(const PatternsOptions& options, conversions::Form form) {
+    if (!CheckSeveralFiles(options.files, "--name", !options.names.empty()) ||
+        !CheckEncoding(options.codePage)) {
+        return kUsageFault;
+    }
+    return ConvertFiles(
+        FilesOfKind(conversions::FileKind::kPatterns, options.files, options.allOrNothing, options.tolerant),
+        [&](const InputFile& input, conversions::FileKind /*kind*/, conversions::Front& front) {
+            return ConvertPatterns(input.ForJob(options.codePage), PatternsJob(options, form), front);
+        },
+        [&](const std::string& /*file*/, conversions::FileKind /*kind*/) {
+            return FrontWithoutFiles(options.output.empty());
+        },
+        options, form);
+}
+
 ExitStatus Patterns(const PatternsOptions& options) {
     const std::optional<conversions::Form> form = FormOf(options, options.faithful);
     if (!form) {
         return kUsageFault;
     }
-    InputFile input(options.file);
+    if (options.files.size() > 1) {
+        return SeveralPatterns(options, *form);
+    }
+    const std::string& file = options.files.front();
+    InputFile input(file);
     if (const auto problem = input.Read()) {
         return SayProblem(*problem);
     }
@@ -38,10 +65,7 @@ ExitStatus Patterns(const PatternsOptions& options) {
         return kUsageFault;
     }
     const auto front = FrontWithoutFiles(options.output.empty());
-    const conversions::PatternsOptions job = {WideTexts(options.names), options.tolerant,
-                                              UnitNamed(options.units),
-                                              FidelityOf(options.faithful, options, *form)};
-    return Finish(ConvertPatterns(input.ForJob(options.codePage), job, *front), options.file,
+    return Finish(ConvertPatterns(input.ForJob(options.codePage), PatternsJob(options, *form), *front), file,
                   options.tolerant, options, *form, *front);
 }
 
@@ -51,13 +75,14 @@ void AddPatternsCommand(CommandLine& line) {
     const auto options = std::make_shared<PatternsOptions>();
     Command command = line.AddCommand("patterns", "Convert the hatch patterns of a .pat file",
                                       [options] { return Patterns(*options); });
-    command.AddFile(options->file, "A pattern file, or - for standard input");
+    command.AddFiles(options->files, "A pattern file, or - for standard input");
     AddNameOption(command, options->names, "Convert only this pattern; may be given again");
     AddTolerantOption(command, options->tolerant);
     AddFaithfulOption(command, options->faithful);
     command.AddChoice("--units", options->units, {"mm", "inch"},
                       "Scale to this unit, mm or inch, a file that says ;%UNITS= otherwise");
     AddCodePageOption(command, options->codePage);
+    AddAllOrNothingOption(command, options->allOrNothing);
     AddCommonOptions(command, *options);
     command.AddChoice("--hatch-units", options->style.hatchUnits, {"map", "mm"},
                       "With --format qgis: repeat hatches in units of the map, or in mm of the page");

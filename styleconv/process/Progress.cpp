@@ -23,6 +23,7 @@ constexpr std::chrono::milliseconds kInterval(100);
 struct Line {
     std::mutex mutex;
     bool allowed = false;
+    std::string prefix;
     std::string stage;
     std::size_t item = 0;
     std::size_t total = 0;
@@ -56,7 +57,7 @@ void Show(Line& line, const std::string& text) {
 }
 
 void ShowNow(Line& line) {
-    Show(line, ProgressText(line.stage, line.item, line.total));
+    Show(line, line.prefix + ProgressText(line.stage, line.item, line.total));
     line.next = Clock::now() + kInterval;
 }
 
@@ -77,6 +78,12 @@ void AllowProgress() {
     Line& line = CurrentLine();
     const std::lock_guard lock(line.mutex);
     line.allowed = IsTerminal(stderr);
+}
+
+void NameProgress(std::string_view prefix) {
+    Line& line = CurrentLine();
+    const std::lock_guard lock(line.mutex);
+    line.prefix = prefix;
 }
 
 void BeginStage(std::string_view stage, std::size_t total) {

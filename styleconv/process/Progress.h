@@ -17,6 +17,9 @@ void BeginStage(std::string_view stage, std::size_t total = 0);
 /// The stage "Writing". A result that goes to a terminal has it for itself: progress ends there.
 void BeginWriting(bool toStandardOutput, std::size_t total);
 
+/// What stands before the stage from now on, as "File 3 of 200: "; nothing where it is empty.
+void NameProgress(std::string_view prefix);
+
 /// The stage has come to its next item.
 void StepStage();
 

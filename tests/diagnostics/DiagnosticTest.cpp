@@ -41,6 +41,33 @@ TEST(Diagnostics, OfOneCauseAreOneWithTheFirstPlaceAndTheCount) {
     EXPECT_EQ(found[2].count, 1U);
 }
 
+TEST(Diagnostics, OfOneCauseAreOneOverFilesWithTheSumOfTheirCounts) {
+    Diagnostic counted = At(3, Code::kMissingShapeFile, "a.shx");
+    counted.count = 4;
+    Diagnostics found = {counted, At(4, Code::kMissingShapeFile, "b.shx"),
+                         At(6, Code::kMissingShapeFile, "a.shx", "b.lin"),
+                         At(7, Code::kUnexpectedBlank, "", "b.lin"), At(8, Code::kUnexpectedBlank)};
+    MergeAcrossFiles(found);
+    EXPECT_EQ(LinesOf(found), (Lines{3, 4, 7, 8}));
+    EXPECT_EQ(found[0].count, 5U);
+    EXPECT_EQ(found[1].count, 1U);
+}
+
+TEST(Diagnostics, ErrorsOfManyFilesStayApart) {
+    Diagnostics errors;
+    Diagnostics warnings;
+    for (std::size_t i = 0; i <= kMostAlike; ++i) {
+        errors.push_back(At(i, Code::kMissingFile, "", std::to_string(i)));
+        warnings.push_back(errors.back());
+        warnings.back().severity = Severity::kWarning;
+    }
+    MergeAcrossFiles(errors);
+    EXPECT_EQ(errors.size(), kMostAlike + 1);
+    MergeAcrossFiles(warnings);
+    ASSERT_EQ(warnings.size(), 1U);
+    EXPECT_EQ(warnings[0].count, kMostAlike + 1);
+}
+
 TEST(Diagnostics, AlikeAreOneOnlyWhereTheyAreMany) {
     Diagnostics few;
     for (std::size_t i = 1; i <= kMostAlike; ++i) {

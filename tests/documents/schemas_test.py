@@ -35,7 +35,15 @@ SYMBOLS = {
                     "lineUsage": {"repeat": "1"},
                 }
             ],
-        }
+        },
+        {
+            "type": "SimpleSymbolDefinition",
+            "name": "B",
+            "kind": "pattern",
+            "source": {"file": "b.pat", "line": 3},
+            "graphics": [],
+            "parameters": [],
+        },
     ],
 }
 

@@ -250,7 +250,7 @@ TEST_F(BlocksCommand, ManyDashesWithABrokenShapeFileStillWriteTheirResult) {
 
 TEST_F(BlocksCommand, WrongCommandLinesAreUsageFaults) {
     EXPECT_EQ(RunTool({"blocks"}).status, 2);
-    EXPECT_EQ(RunTool({"blocks", folder / "a.json", folder / "b.json"}).status, 2);
+    EXPECT_EQ(RunTool({"drawing", folder / "a.json", folder / "b.json"}).status, 2);
     EXPECT_EQ(RunTool({"blocks", folder / "a.json", "--format", "xml"}).status, 2);
 }
 

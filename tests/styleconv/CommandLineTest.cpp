@@ -34,7 +34,7 @@ TEST(CommandLine, WhatIsNoWholeNumberIsNamed) {
 TEST(CommandLine, AnUnknownCommandOptionOrFormatIsWrong) {
     for (const std::vector<std::string>& arguments : {std::vector<std::string>{"paint"},
                                                       {"patterns"},
-                                                      {"patterns", "a.pat", "b.pat"},
+                                                      {"list", "a.pat", "b.pat"},
                                                       {"patterns", "--colour", "x"},
                                                       {"patterns", "a.pat", "--format", "png"},
                                                       {"patterns", "a.pat", "--name"}}) {
@@ -46,16 +46,32 @@ TEST(CommandLine, AnUnknownCommandOptionOrFormatIsWrong) {
 }
 
 TEST(CommandLine, AnOptionTakesTheNextWordAndNoMore) {
+    // The word behind it is a file.
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"patterns", "a.pat", "--units", "mm", "more"},
+          {"linetypes", "a.lin", "--shapes", "fonts", "more"},
+          {"blocks", "a.json", "--ignore-layer", "0", "more"}}) {
+        const ToolResult result = RunTool(arguments);
+        EXPECT_EQ(result.status, 1) << arguments.front();
+        EXPECT_NE(result.errors.find("\nmore: error: not found\n"), std::string::npos) << result.errors;
+    }
+    const ToolResult result = RunTool({"list", "a.pat", "--code-page", "UTF-8", "more"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "styleconv: The following argument was not expected: more\nTry \"styleconv "
+                             "--help\" or \"styleconv COMMAND --help\".\n");
+}
+
+TEST(CommandLine, NamesAndNumbersSelectFromOneFile) {
     for (const std::vector<std::string>& arguments :
          {std::vector<std::string>{"patterns", "a.pat", "--name", "A", "B"},
-          {"patterns", "--name", "A", "a.pat", "b.pat"},
-          {"linetypes", "a.lin", "--shapes", "fonts", "more"},
-          {"glyphs", "a.shx", "--number", "65", "66"},
-          {"blocks", "a.json", "--ignore-layer", "0", "1"}}) {
+          {"linetypes", "--name", "A", "a.lin", "b.lin"},
+          {"blocks", "--name", "A", "a.json", "b.json"},
+          {"glyphs", "a.shx", "--number", "65", "66"}}) {
+        const std::string option = arguments.front() == "glyphs" ? "--number" : "--name";
         const ToolResult result = RunTool(arguments);
-        EXPECT_EQ(result.status, 2) << arguments.back();
-        EXPECT_EQ(result.errors, "styleconv: The following argument was not expected: " + arguments.back() +
-                                     "\nTry \"styleconv --help\" or \"styleconv COMMAND --help\".\n");
+        EXPECT_EQ(result.status, 2) << arguments.front();
+        EXPECT_EQ(result.errors,
+                  "styleconv: " + option + " cannot be used with several files: it selects from one\n");
     }
 }
 

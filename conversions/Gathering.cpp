@@ -1,0 +1,96 @@
+#include "conversions/Gathering.h"
+
+#include "StyleConversion/platform/Utf8.h"
+#include "conversions/reading/Shown.h"
+
+#include <utility>
+
+namespace conversions {
+namespace {
+
+using diagnostics::Code;
+using diagnostics::Outcome;
+using diagnostics::Severity;
+
+std::string_view SymbolKind(FileKind kind) {
+    switch (kind) {
+    case FileKind::kLinetypes:
+        return "linetype";
+    case FileKind::kPatterns:
+        return "pattern";
+    case FileKind::kShapes:
+        return "glyph";
+    case FileKind::kDrawing:
+    case FileKind::kUnknown:
+        break;
+    }
+    return "block";
+}
+
+std::wstring InBrackets(const std::wstring& name, const std::string& text) {
+    return name + L" (" + platform::Utf8ToWide(text) + L")";
+}
+
+} // namespace
+
+void Gathering::Add(const std::string& file, FileKind kind, Conversion conversion) {
+    ++files_;
+    Append(told_, std::move(conversion.diagnostics));
+    if (!conversion.isConverted) {
+        refused_.push_back(file);
+        return;
+    }
+    fidelity_ = conversion.fidelity;
+    captions_.title = files_ == 1 ? conversion.captions.title : "";
+    captions_.descriptions.merge(conversion.captions.descriptions);
+    for (std::size_t i = 0; i < conversion.owned.size(); ++i) {
+        KeepApart(*conversion.owned[i], conversion.places[i]);
+        captions_.sources[conversion.owned[i].get()] = file;
+        origins_.push_back({SymbolKind(kind), std::move(conversion.places[i])});
+        symbols_.push_back(conversion.owned[i].get());
+        owned_.push_back(std::move(conversion.owned[i]));
+    }
+}
+
+// Adds the file to a name that is used already, and then the line or a number.
+void Gathering::KeepApart(TylModel::SymbolDefinition& symbol, const diagnostics::Place& place) {
+    const std::wstring name = symbol.GetName();
+    if (names_.insert(name).second) {
+        return;
+    }
+    std::wstring kept = InBrackets(name, place.file);
+    if (names_.contains(kept) && place.line > 0) {
+        kept = InBrackets(name, place.file + ":" + std::to_string(place.line));
+    }
+    for (int number = 2; !names_.insert(kept).second; ++number) {
+        kept = InBrackets(name, place.file + ", " + std::to_string(number));
+    }
+    symbol.SetName(kept);
+    diagnostics::Place told = place;
+    told.item = "symbol " + ShownText(kept);
+    told_.push_back({Severity::kWarning, Code::kNameOfAnotherFile, std::move(told), {}, Outcome::kRepaired});
+}
+
+diagnostics::Diagnostics Gathering::Told() const {
+    diagnostics::Diagnostics told = told_;
+    MergeAcrossFiles(told);
+    return told;
+}
+
+bool Gathering::Write(Form form, bool tellsOrigins, const TextSink& sink, Front& front,
+                      StyleJob* styles) const {
+    if (form != Form::kJson || !tellsOrigins) {
+        return WriteSymbols(symbols_, form, sink, front, fidelity_, captions_, styles);
+    }
+    front.BeginStage("Writing", symbols_.size());
+    documents::SymbolsWriter writer(sink, fidelity_);
+    for (std::size_t i = 0; i < symbols_.size(); ++i) {
+        front.AtItem("symbol " + ShownText(symbols_[i]->GetName()));
+        if (!writer.Add(*symbols_[i], &origins_[i])) {
+            return false;
+        }
+    }
+    return writer.Finish();
+}
+
+} // namespace conversions

@@ -1,0 +1,128 @@
+// styleconv convert: files of all kinds, and folders of them, to one result.
+#include "conversions/Blocks.h"
+#include "conversions/Glyphs.h"
+#include "conversions/Linetypes.h"
+#include "conversions/Patterns.h"
+#include "styleconv/commands/Commands.h"
+#include "styleconv/commands/Job.h"
+#include "styleconv/commands/ManyFiles.h"
+#include "styleconv/files/FileWalk.h"
+#include "styleconv/files/ShapeSearch.h"
+#include "styleconv/process/Messages.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <utility>
+
+namespace styleconv {
+namespace {
+
+using conversions::Conversion;
+using conversions::FileKind;
+
+struct ConvertOptions : CommonOptions, StyleOptions {
+    std::vector<std::string> paths;
+    WalkOptions walk;
+    std::vector<std::string> layersToIgnore;
+    std::string codePage;
+    bool tolerant = false;
+    bool faithful = false;
+    bool allOrNothing = false;
+};
+
+Conversion LinetypesOf(const ConvertOptions& options, conversions::Form form, const InputFile& input,
+                       conversions::Front& front) {
+    conversions::LinetypesOptions job;
+    job.font = options.font;
+    job.tolerant = options.tolerant;
+    job.fidelity = FidelityOf(options.faithful, options, form);
+    return ConvertWithStyles(input.ForJob(options.codePage), std::move(job), options, front);
+}
+
+Conversion BlocksOf(const ConvertOptions& options, conversions::Form form, const InputFile& input,
+                    conversions::Front& front) {
+    conversions::BlocksOptions job;
+    job.layersToIgnore = WideTexts(options.layersToIgnore);
+    job.tolerant = options.tolerant;
+    job.fidelity = FidelityOf(options.faithful, options, form);
+    job.seenAs.leavesOutHidden = job.fidelity == encoding::Fidelity::kFaithful;
+    job.seenAs.drawsOthers = job.fidelity == encoding::Fidelity::kFaithful;
+    return ConvertBlocks(input.ForJob(), job, front);
+}
+
+Conversion ConvertKind(const ConvertOptions& options, conversions::Form form, const InputFile& input,
+                       FileKind kind, conversions::Front& front) {
+    switch (kind) {
+    case FileKind::kLinetypes:
+        return LinetypesOf(options, form, input, front);
+    case FileKind::kPatterns:
+        return ConvertPatterns(
+            input.ForJob(options.codePage),
+            {{}, options.tolerant, pattern::Unit::kNone, FidelityOf(options.faithful, options, form)}, front);
+    case FileKind::kShapes: {
+        conversions::GlyphsOptions job;
+        job.tolerant = options.tolerant;
+        return ConvertGlyphs(input.ForJob(options.codePage), job, front);
+    }
+    case FileKind::kDrawing:
+    case FileKind::kUnknown:
+        break;
+    }
+    return BlocksOf(options, form, input, front);
+}
+
+std::unique_ptr<conversions::Front> FrontOf(const ConvertOptions& options, const std::string& file,
+                                            FileKind kind) {
+    const SearchOptions search = {file, options.shapeFolders, options.font};
+    return kind == FileKind::kDrawing ? FrontForDrawing(search, options.output.empty())
+                                      : FrontForLinetypes(search, options.output.empty());
+}
+
+ExitStatus Convert(const ConvertOptions& options) {
+    const std::optional<conversions::Form> form = FormOf(options, options.faithful);
+    if (!form || !CheckStyleOptions(options) || !CheckEncoding(options.codePage)) {
+        return kUsageFault;
+    }
+    if (std::find(options.paths.begin(), options.paths.end(), "-") != options.paths.end()) {
+        SayLine("styleconv: convert: the kind of standard input is unknown; give a file");
+        return kUsageFault;
+    }
+    Walk walk = FilesBehind(options.paths, options.walk);
+    FilesToConvert files;
+    files.files = std::move(walk.files);
+    files.diagnostics = std::move(walk.diagnostics);
+    files.others = walk.others;
+    files.allOrNothing = options.allOrNothing;
+    files.isTolerant = options.tolerant;
+    files.tellsOrigins = options.paths.size() > 1 || !walk.folders.empty();
+    return ConvertFiles(
+        files,
+        [&](const InputFile& input, FileKind kind, conversions::Front& front) {
+            return ConvertKind(options, *form, input, kind, front);
+        },
+        [&](const std::string& file, FileKind kind) { return FrontOf(options, file, kind); }, options, *form);
+}
+
+} // namespace
+
+void AddConvertCommand(CommandLine& line) {
+    const auto options = std::make_shared<ConvertOptions>();
+    Command command = line.AddCommand("convert", "Convert files of all kinds, and folders, to one result",
+                                      [options] { return Convert(*options); });
+    command.AddFiles(options->paths, ".lin, .pat, .shx, .dxf and drawing .json files, and folders");
+    command.AddTexts("--include", options->walk.include, "PATTERN",
+                     "Of folders, only files like this, as '*.pat'; may be given again");
+    command.AddTexts("--exclude", options->walk.exclude, "PATTERN",
+                     "Of folders, no files like this; may be given again");
+    AddStyleOptions(command, *options);
+    AddIgnoreLayerOption(command, options->layersToIgnore);
+    AddTolerantOption(command, options->tolerant);
+    AddFaithfulOption(command, options->faithful);
+    AddAllOrNothingOption(command, options->allOrNothing);
+    AddCodePageOption(command, options->codePage);
+    AddCommonOptions(command, *options);
+    AddStrictSymbolsOption(command, *options);
+}
+
+} // namespace styleconv

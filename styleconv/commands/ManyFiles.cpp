@@ -1,0 +1,166 @@
+#include "styleconv/commands/ManyFiles.h"
+
+#include "conversions/Gathering.h"
+#include "diagnostics/Sentences.h"
+#include "diagnostics/ShownText.h"
+#include "styleconv/commands/Job.h"
+#include "styleconv/process/Messages.h"
+#include "styleconv/process/Progress.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace styleconv {
+namespace {
+
+using conversions::Conversion;
+using conversions::FileKind;
+using diagnostics::Diagnostics;
+using diagnostics::Severity;
+
+// More names in one line help nobody.
+constexpr std::size_t kMostNamed = 10;
+
+// "3 warnings: unexpected-blank (2), wider-than-gap (1)"; empty where there is none.
+std::string CountsByCode(const Diagnostics& told, Severity severity) {
+    std::map<std::string, std::size_t> counts;
+    std::size_t all = 0;
+    for (const diagnostics::Diagnostic& diagnostic : told) {
+        if (diagnostic.severity == severity) {
+            const std::size_t count = CountsEntities(diagnostic.code) ? 1 : diagnostic.count;
+            counts[std::string(NameOf(diagnostic.code))] += count;
+            all += count;
+        }
+    }
+    std::string text = Counted(all, std::string(NameOf(severity)));
+    const char* separator = ": ";
+    for (const auto& [name, count] : counts) {
+        text += std::exchange(separator, ", ") + name + " (" + std::to_string(count) + ")";
+    }
+    return counts.empty() ? "" : text;
+}
+
+std::string SomeOf(const std::vector<std::string>& names) {
+    std::string text;
+    for (std::size_t i = 0; i < std::min(names.size(), kMostNamed); ++i) {
+        text += (i == 0 ? "" : ", ") + diagnostics::ShownText(names[i]);
+    }
+    return names.size() > kMostNamed ? text + " and " + std::to_string(names.size() - kMostNamed) + " more"
+                                     : text;
+}
+
+void SaySummary(const FilesToConvert& files, const conversions::Gathering& gathering,
+                const Diagnostics& told) {
+    SayLine("styleconv: " + Counted(gathering.FileCount(), "file") + ", " +
+            Counted(gathering.SymbolCount(), "symbol") +
+            (files.others > 0 ? "; " + Counted(files.others, "file") + " of no kind that is converted" : ""));
+    for (const Severity severity : {Severity::kError, Severity::kWarning}) {
+        if (const std::string counts = CountsByCode(told, severity); !counts.empty()) {
+            SayLine("styleconv: " + counts);
+        }
+    }
+    if (!gathering.Refused().empty()) {
+        SayLine("styleconv: not converted: " + SomeOf(gathering.Refused()) +
+                (!files.isTolerant && IsToleranceOfHelp(told) ? "; --tolerant converts what is valid in them"
+                                                              : ""));
+    }
+}
+
+Conversion ConvertOne(const std::string& file, FileKind& kind, const ConvertFile& convert,
+                      const MakeFront& makeFront) {
+    Conversion conversion;
+    InputFile input(file);
+    const bool isGiven = kind != FileKind::kUnknown;
+    const auto problem = !isGiven                     ? OpenForKind(input, file, kind)
+                         : kind == FileKind::kDrawing ? input.Open()
+                                                      : input.Read();
+    if (problem) {
+        conversion.diagnostics.push_back(*problem);
+    } else if (kind == FileKind::kUnknown) {
+        conversion.diagnostics.push_back(
+            {Severity::kError, diagnostics::Code::kUnknownFileKind, {input.Name()}, {}});
+    } else {
+        const auto front = makeFront(file, kind);
+        conversion = convert(input, kind, *front);
+    }
+    return conversion;
+}
+
+} // namespace
+
+std::string Counted(std::size_t count, const std::string& what) {
+    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+FilesToConvert FilesOfKind(FileKind kind, const std::vector<std::string>& files, bool allOrNothing,
+                           bool isTolerant) {
+    FilesToConvert result;
+    result.files = files;
+    result.kind = kind;
+    result.allOrNothing = allOrNothing;
+    result.isTolerant = isTolerant;
+    return result;
+}
+
+void AddAllOrNothingOption(Command& command, bool& allOrNothing) {
+    command.AddFlag("--all-or-nothing", allOrNothing,
+                    "Of several files, write nothing when one of them cannot be converted");
+}
+
+Conversion ConvertWithStyles(const conversions::Input& input, conversions::LinetypesOptions job,
+                             const StyleOptions& options, conversions::Front& front) {
+    InputFile drawing(options.drawing);
+    if (!options.drawing.empty()) {
+        if (const auto problem = drawing.Open()) {
+            Conversion failed;
+            failed.diagnostics.push_back(*problem);
+            return failed;
+        }
+        job.drawing = drawing.ForJob();
+    }
+    return ConvertLinetypes(input, job, front);
+}
+
+bool CheckSeveralFiles(const std::vector<std::string>& files, const std::string& selection, bool isSelected) {
+    if (std::find(files.begin(), files.end(), "-") != files.end()) {
+        SayLine("styleconv: standard input cannot be one of several files");
+        return false;
+    }
+    if (isSelected) {
+        SayLine("styleconv: " + selection + " cannot be used with several files: it selects from one");
+        return false;
+    }
+    return true;
+}
+
+ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert, const MakeFront& makeFront,
+                        const CommonOptions& options, conversions::Form form) {
+    conversions::Gathering gathering;
+    for (std::size_t i = 0; i < files.files.size(); ++i) {
+        NameProgress("File " + std::to_string(i + 1) + " of " + std::to_string(files.files.size()) + ", " +
+                     Counted(gathering.SymbolCount(), "symbol") + ": ");
+        FileKind kind = files.kind;
+        Conversion conversion = ConvertOne(files.files[i], kind, convert, makeFront);
+        gathering.Add(files.files[i], kind, std::move(conversion));
+    }
+    NameProgress("");
+    Diagnostics told = files.diagnostics;
+    Append(told, gathering.Told());
+    SayAll(told);
+    SaySummary(files, gathering, told);
+    const bool isComplete = gathering.Refused().empty() && files.diagnostics.empty();
+    if (!gathering.HasSymbols() || (files.allOrNothing && !isComplete)) {
+        SayLine("styleconv: nothing was written");
+        return kInputFault;
+    }
+    const auto front = FrontWithoutFiles(options.output.empty());
+    const std::string result = options.output.empty() ? "standard output" : options.output;
+    const ExitStatus written =
+        WriteForm(options, result, [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
+            return gathering.Write(form, files.tellsOrigins, sink, *front, &styles);
+        });
+    return isComplete ? written : kInputFault;
+}
+
+} // namespace styleconv

@@ -1,0 +1,33 @@
+// The files behind the paths of a command line: those that are named, and those below a folder.
+#pragma once
+
+#include "diagnostics/Diagnostic.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace styleconv {
+
+/// Which files of a folder are taken. A pattern has "*" and "?"; it is of the file's name, or with a "/" of
+/// its path below the folder.
+struct WalkOptions {
+    std::vector<std::string> include; // all where it is empty
+    std::vector<std::string> exclude;
+};
+
+struct Walk {
+    std::vector<std::string> files;   // in the order of the paths; those of a folder sorted by their paths
+    std::vector<std::string> folders; // that could be read
+    std::size_t others = 0;           // files in folders that are of no kind that is converted
+    diagnostics::Diagnostics diagnostics; // folders that cannot be read
+};
+
+/// Links to folders are not followed.
+Walk FilesBehind(const std::vector<std::string>& paths, const WalkOptions& options);
+
+/// Whether all of `text` is what the pattern says: "*" stands for any characters, "?" for one.
+bool MatchesPattern(std::string_view pattern, std::string_view text);
+
+} // namespace styleconv

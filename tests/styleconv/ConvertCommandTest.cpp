@@ -1,0 +1,221 @@
+// styleconv convert, and the converting commands on several files: one result, its origins and names, and
+// what is said at the end.
+#include "tests/support/ShapeFileBuilder.h"
+#include "tests/support/ShapeProgramBuilder.h"
+#include "tests/support/ToolRun.h"
+
+#include <array>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+using support::RunTool;
+using support::ScratchFolder;
+using support::ToolResult;
+using support::ValuesOf;
+
+using Texts = std::vector<std::string>;
+
+constexpr const char* kBrick = "*BRICK\n0,0,0,0,1\n";
+constexpr const char* kGas = "; pipes\n*GAS\nA,1,-1\n";
+constexpr const char* kTree = R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,
+  "layers": [{"name": "0"}],
+  "blocks": [{"name": "*P", "layout": true, "entities": []},
+             {"name": "TREE", "entities": [{"type": "line", "start": [0, 0], "end": [5, 0]}]}]})";
+
+std::string Marks() {
+    using test_support::ShapeFileBuilder;
+    using test_support::ShapeProgramBuilder;
+    return ShapeFileBuilder::Shapes().Shape(130, "MARK", ShapeProgramBuilder().Vector(8, 4).End()).Text();
+}
+
+class ConvertCommand : public testing::Test {
+protected:
+    std::string Write(const std::string& name, const std::string& text) {
+        std::filesystem::create_directories(std::filesystem::path(folder / name).parent_path());
+        return folder.Write(name, text);
+    }
+
+    // What was said, without the folder.
+    std::string Said(const ToolResult& result) const {
+        std::string said = result.errors;
+        const std::string name = folder / "";
+        for (std::size_t at = said.find(name); at != std::string::npos; at = said.find(name, at)) {
+            said.erase(at, name.size());
+        }
+        return said;
+    }
+
+    ScratchFolder folder;
+};
+
+bool Has(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
+TEST_F(ConvertCommand, FilesOfAllKindsBecomeOneDocumentThatTellsTheirOrigins) {
+    const std::string shapes = Write("d.shx", Marks());
+    const std::string lines = Write("b.lin", kGas);
+    const std::string patterns = Write("a.pat", kBrick);
+    const std::string drawing = Write("c.json", kTree);
+    const ToolResult result = RunTool({"convert", patterns, lines, drawing, shapes});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(Said(result), "styleconv: 4 files, 4 symbols\n");
+    EXPECT_EQ(ValuesOf(result.output, "kind"), (Texts{"pattern", "linetype", "block", "glyph"}));
+    EXPECT_EQ(ValuesOf(result.output, "file"), (Texts{patterns, lines, drawing, shapes}));
+    EXPECT_EQ(ValuesOf(result.output, "path"), Texts{"blocks[1]"});
+    EXPECT_TRUE(Has(result.output, "b.lin\",\n        \"line\": 2\n"));
+    EXPECT_TRUE(Has(result.output, "d.shx\",\n        \"shape\": 130\n"));
+}
+
+TEST_F(ConvertCommand, OneFileGivesTheDocumentOfItsOwnCommand) {
+    for (const auto& [command, name, text] : std::vector<std::array<std::string, 3>>{
+             {"patterns", "a.pat", kBrick}, {"linetypes", "b.lin", kGas}, {"blocks", "c.json", kTree}}) {
+        const std::string file = Write(name, text);
+        const ToolResult alone = RunTool({command, file});
+        EXPECT_EQ(alone.status, 0);
+        EXPECT_EQ(RunTool({"convert", file}).output, alone.output);
+    }
+}
+
+TEST_F(ConvertCommand, FoldersAreWalkedInSortedOrderAndOtherFilesCounted) {
+    Write("std/b/z.pat", "*Z\n0,0,0,0,1\n");
+    Write("std/b/a.lin", "*A\nA,1,-1\n");
+    Write("std/a.pat", "*B\n0,0,0,0,1\n");
+    Write("std/readme.txt", "text");
+    Write("std/package.json", "{\"name\": \"x\"}");
+    Write("std/c.json", kTree);
+    const ToolResult result = RunTool({"convert", folder / "std"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"B", "A", "Z", "TREE"}));
+    EXPECT_EQ(Said(result), "styleconv: 4 files, 4 symbols; 2 files of no kind that is converted\n");
+}
+
+TEST_F(ConvertCommand, FilesOfFoldersAreChosenByPatterns) {
+    Write("std/b/z.pat", "*Z\n0,0,0,0,1\n");
+    Write("std/b/a.lin", "*A\nA,1,-1\n");
+    Write("std/a.pat", "*B\n0,0,0,0,1\n");
+    const auto names = [&](std::vector<std::string> options) {
+        options.insert(options.begin(), {"convert", folder / "std"});
+        return ValuesOf(RunTool(options).output, "name");
+    };
+    EXPECT_EQ(names({"--include", "*.pat"}), (Texts{"B", "Z"}));
+    EXPECT_EQ(names({"--include", "?.lin", "--include", "z*"}), (Texts{"A", "Z"}));
+    EXPECT_EQ(names({"--exclude", "b/*"}), Texts{"B"});
+    EXPECT_EQ(names({"--include", "*.pat", "--exclude", "a.*"}), Texts{"Z"});
+    EXPECT_EQ(RunTool({"convert", folder / "std", "--include", "*.PAT"}).status, 1);
+}
+
+TEST_F(ConvertCommand, NamesThatOccurTwiceAreKeptApartAndSaidOnce) {
+    const std::string first = Write("a.pat", "*X\n0,0,0,0,1\n*Y\n0,0,0,0,1\n");
+    const std::string second = Write("b.pat", "*X\n0,0,0,0,2\n*Y\n0,0,0,0,2\n");
+    const std::string lines = Write("c.lin", "*X\nA,1\n*X\nA,2\n");
+    const ToolResult result = RunTool({"convert", first, second, lines});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"X", "Y", "X (" + second + ")", "Y (" + second + ")",
+                                                      "X (" + lines + ")", "X (" + lines + ":3)"}));
+    EXPECT_EQ(Said(result),
+              "b.pat:1: warning: the name is already used by another symbol; the file is added to it; the "
+              "same in 3 more places (symbol X (b.pat))\n"
+              "styleconv: 3 files, 6 symbols\n"
+              "styleconv: 4 warnings: name-of-another-file (4)\n");
+}
+
+TEST_F(ConvertCommand, FileThatFailsFailsAlone) {
+    const std::string good = Write("a.pat", kBrick);
+    const std::string bad = Write("b.lin", "*BAD\nA,x\n");
+    const ToolResult result =
+        RunTool({"convert", bad, folder / "no.pat", good, good + ".txt", "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(ValuesOf(folder.Read("out.json"), "name"), Texts{"BRICK"});
+    const std::string said = Said(result);
+    EXPECT_TRUE(Has(said, "b.lin:2:3: error: "));
+    EXPECT_TRUE(Has(said, "no.pat: error: not found\n"));
+    EXPECT_TRUE(said.ends_with("styleconv: 4 files, 1 symbol\n"
+                               "styleconv: 3 errors: invalid-dash (1), missing-file (2)\n"
+                               "styleconv: not converted: b.lin, no.pat, a.pat.txt; --tolerant converts what "
+                               "is valid in them\n"))
+        << said;
+}
+
+TEST_F(ConvertCommand, AllOrNothingWritesNothingWhereAFileFails) {
+    const std::string good = Write("a.pat", kBrick);
+    folder.Write("out.json", "old");
+    const ToolResult result =
+        RunTool({"convert", good, folder / "no.pat", "--all-or-nothing", "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(folder.Read("out.json"), "old");
+    EXPECT_TRUE(Said(result).ends_with("styleconv: nothing was written\n"));
+    EXPECT_EQ(RunTool({"convert", good, "--all-or-nothing", "-o", folder / "out.json"}).status, 0);
+    EXPECT_EQ(ValuesOf(folder.Read("out.json"), "name"), Texts{"BRICK"});
+}
+
+TEST_F(ConvertCommand, SameCauseInManyFilesIsOneMessageWithTheirNumber) {
+    std::vector<std::string> arguments = {"convert"};
+    for (const char* const name : {"a.lin", "b.lin", "c.lin"}) {
+        arguments.push_back(Write(name, "*X\nA,1,[M,none.shx],-1\n*Y\nA,1,[M,none.shx],-1\n"));
+    }
+    arguments.emplace_back("--tolerant");
+    const ToolResult result = RunTool(arguments);
+    EXPECT_EQ(result.status, 1);
+    const std::string said = Said(result);
+    EXPECT_EQ(said.find("shape file none.shx not found"), said.rfind("shape file none.shx not found"))
+        << said;
+    EXPECT_TRUE(Has(said, "the same in 5 more places")) << said;
+    EXPECT_TRUE(Has(said, "missing-shape-file (6)")) << said;
+}
+
+TEST_F(ConvertCommand, GalleriesTellTheFilesOfTheirSymbols) {
+    const std::string first = Write("a.pat", kBrick);
+    const std::string second = Write("b.lin", kGas);
+    const ToolResult result = RunTool({"convert", first, second, "-o", folder / "all.html"});
+    EXPECT_EQ(result.status, 0);
+    const std::string page = folder.Read("all.html");
+    EXPECT_TRUE(Has(page, "a.pat"));
+    EXPECT_TRUE(Has(page, "b.lin"));
+    EXPECT_EQ(ValuesOf(page, "kind").size(), 0U);
+}
+
+TEST_F(ConvertCommand, EveryConvertingCommandTakesSeveralFiles) {
+    struct Row {
+        const char* command;
+        const char* ending;
+        std::string texts[2];
+        Texts names;
+    };
+    const std::string rod = R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,
+      "blocks": [{"name": "ROD", "entities": [{"type": "point", "position": [1, 2]}]}]})";
+    for (const Row& row : {Row{"patterns", ".pat", {kBrick, "*A\n0,0,0,0,1\n"}, {"BRICK", "A"}},
+                           Row{"linetypes", ".lin", {kGas, "*A\nA,1,-1\n"}, {"GAS", "A"}},
+                           Row{"blocks", ".json", {kTree, rod}, {"TREE", "ROD"}}}) {
+        const std::string first = Write(std::string("first") + row.ending, row.texts[0]);
+        const std::string second = Write(std::string("second") + row.ending, row.texts[1]);
+        const ToolResult result = RunTool({row.command, first, second});
+        EXPECT_EQ(result.status, 0) << result.errors;
+        EXPECT_EQ(Said(result), "styleconv: 2 files, 2 symbols\n");
+        EXPECT_EQ(ValuesOf(result.output, "name"), row.names);
+        EXPECT_EQ(ValuesOf(result.output, "file"), (Texts{first, second}));
+        EXPECT_EQ(RunTool({row.command, first, "-"}).status, 2);
+        EXPECT_EQ(RunTool({row.command, first, second, "--name", "A"}).status, 2);
+    }
+    const std::string marks = Write("a.shx", Marks());
+    const std::string more = Write("b.shx", Marks());
+    EXPECT_EQ(ValuesOf(RunTool({"glyphs", marks, more}).output, "name"),
+              (Texts{"130 MARK", "130 MARK (" + more + ")"}));
+}
+
+TEST_F(ConvertCommand, WhatGivesNothingWritesNothing) {
+    std::filesystem::create_directory(folder / "empty");
+    folder.Write("out.json", "old");
+    const ToolResult result = RunTool({"convert", folder / "empty", "-o", folder / "out.json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(Said(result), "styleconv: 0 files, 0 symbols\nstyleconv: nothing was written\n");
+    EXPECT_EQ(folder.Read("out.json"), "old");
+    EXPECT_EQ(RunTool({"convert", "-"}).status, 2);
+    EXPECT_EQ(RunTool({"convert"}).status, 2);
+}
+
+} // namespace
