@@ -19,8 +19,9 @@ set(public_headers
 if(STYLECONVERSION_HAS_OWN_MODELS)
   foreach(header database/BlockReference database/Blocks database/CaseFolding database/Core database/Database
           database/FailurePlan database/HostServices database/NamePool database/ObjectList database/Records
-          database/Resident entities/Areas entities/CurveEntities entities/SimpleEntities entities/SplineCurves
-          entities/Texts geometry/BulgeVertex geometry/Hatch geometry/Point geometry/Status)
+          database/Resident entities/Areas entities/CurveEntities entities/OtherShape entities/SimpleEntities
+          entities/SplineCurves entities/Texts entities/WideSegments geometry/BulgeVertex geometry/Hatch
+          geometry/Point geometry/Status)
     list(APPEND public_headers drawing/${header}.h)
   endforeach()
 endif()
