@@ -13,7 +13,8 @@ struct SegmentWidth {
     double start = 0.0;
     double end = 0.0;
 
-    bool operator==(const SegmentWidth&) const = default;
+    bool operator==(const SegmentWidth& other) const { return start == other.start && end == other.end; }
+    bool operator!=(const SegmentWidth& other) const { return !(*this == other); }
 };
 
 /// A segment of a polyline: the corners of the area that it covers, or, of one without a width, nothing.
