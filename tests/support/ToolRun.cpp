@@ -145,8 +145,13 @@ std::vector<std::string> ValuesOf(const std::string& document, const std::string
     std::vector<std::string> values;
     const std::string start = "\"" + key + "\": \"";
     for (std::size_t at = document.find(start); at != std::string::npos; at = document.find(start, at)) {
-        at += start.size();
-        values.push_back(document.substr(at, document.find('"', at) - at));
+        std::string value;
+        for (at += start.size(); at < document.size() && document[at] != '"'; ++at) {
+            // Paths of Windows have backslashes.
+            at += document.compare(at, 2, "\\\\") == 0 || document.compare(at, 2, "\\\"") == 0 ? 1 : 0;
+            value += document[at];
+        }
+        values.push_back(std::move(value));
     }
     return values;
 }
