@@ -390,7 +390,7 @@ void DxfEntityReader::AddLightPolyline(const DxfRecord& record) {
         }
     }
     const std::int32_t flags = record.Integer(70, 0);
-    drawing::Polyline* const added =
+    auto* const added =
         Add<drawing::Polyline>(record, vertices, (flags & kClosed) != 0, (flags & kRunsOn) != 0);
     if (added != nullptr && hasWidths) {
         added->SetWidths(LightWidths(record, vertices.size()));
@@ -419,8 +419,8 @@ void DxfEntityReader::FinishPolyline() {
             return;
         }
         const std::int32_t flags = polyline.record.Integer(70, 0);
-        drawing::Polyline* const added = Add<drawing::Polyline>(
-            polyline.record, polyline.vertices, (flags & kClosed) != 0, (flags & kRunsOn) != 0);
+        auto* const added = Add<drawing::Polyline>(polyline.record, polyline.vertices, (flags & kClosed) != 0,
+                                                   (flags & kRunsOn) != 0);
         if (added != nullptr) {
             added->SetWidths(polyline.widths);
         }

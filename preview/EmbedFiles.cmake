@@ -1,5 +1,5 @@
 # Run as a script: writes a C++ source OUTPUT with the gallery's files from FOLDER as constants, and the hash by
-# which a page allows its own script and no other. The script is put together from SCRIPTS, in their order.
+# which a page allows its own script and no other. The script is put together from those of GalleryScripts.cmake.
 
 function(append_file name file)
   cmake_path(ABSOLUTE_PATH file BASE_DIRECTORY "${FOLDER}")
@@ -33,9 +33,10 @@ function(to_base64 hex result)
   set(${result} "${text}${third}=" PARENT_SCOPE)
 endfunction()
 
+include("${CMAKE_CURRENT_LIST_DIR}/GalleryScripts.cmake")
 set(SCRIPT "${OUTPUT}.js")
 file(WRITE "${SCRIPT}" "")
-foreach(part ${SCRIPTS})
+foreach(part ${gallery_scripts})
   file(READ "${FOLDER}/${part}" text)
   file(APPEND "${SCRIPT}" "${text}\n")
 endforeach()

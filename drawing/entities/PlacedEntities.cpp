@@ -254,7 +254,7 @@ public:
     }
 
     void operator()(const Polyline& polyline) {
-        Polyline& placed =
+        auto& placed =
             block_.Add<Polyline>(properties_, Placed(polyline.Vertices(), polyline.isClosed(), map_),
                                  polyline.isClosed(), polyline.hasPlinegen());
         if (polyline.Widths() != nullptr && map_.KeepsCircles()) {
