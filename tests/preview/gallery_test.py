@@ -742,6 +742,14 @@ class Gallery(unittest.TestCase):
                     ".filter((e) => e.scrollWidth > e.clientWidth + 1).map((e) => e.textContent)"
                 )
                 self.assertEqual(browser.execute_script(clipped), [])
+            # In the large view the bar that tells the scale is on the picture, above the controls.
+            self.open("typical")
+            self.card("GAS").find_element(By.CSS_SELECTOR, ".picture").send_keys(Keys.ENTER)
+            bottom = lambda selector: browser.execute_script(
+                "return document.querySelector(arguments[0]).getBoundingClientRect().bottom", selector
+            )
+            self.assertLessEqual(bottom("#closeup-scale"), bottom("#closeup-picture"))
+            self.assertLess(bottom("#closeup-picture"), bottom("#closeup-controls"))
         finally:
             browser.execute_cdp_cmd("Emulation.clearDeviceMetricsOverride", {})
             browser.set_window_size(size["width"], size["height"])
