@@ -41,7 +41,8 @@ void Gathering::Add(const std::string& file, FileKind kind, Conversion conversio
         return;
     }
     fidelity_ = conversion.fidelity;
-    captions_.title = files_ == 1 ? conversion.captions.title : "";
+    // A page of several files is called as none of them.
+    captions_.title = symbols_.empty() ? conversion.captions.title : "";
     captions_.descriptions.merge(conversion.captions.descriptions);
     for (std::size_t i = 0; i < conversion.owned.size(); ++i) {
         KeepApart(*conversion.owned[i], conversion.places[i]);

@@ -142,6 +142,7 @@ ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert,
                      Counted(gathering.SymbolCount(), "symbol") + ": ");
         FileKind kind = files.kind;
         Conversion conversion = ConvertOne(files.files[i], kind, convert, makeFront);
+        conversion.captions.title = TitleOf(files.files[i]);
         gathering.Add(files.files[i], kind, std::move(conversion));
     }
     NameProgress("");

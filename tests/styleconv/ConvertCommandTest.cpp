@@ -177,6 +177,18 @@ TEST_F(ConvertCommand, GalleriesTellTheFilesOfTheirSymbols) {
     EXPECT_TRUE(Has(page, "a.pat"));
     EXPECT_TRUE(Has(page, "b.lin"));
     EXPECT_EQ(ValuesOf(page, "kind").size(), 0U);
+    EXPECT_TRUE(Has(page, "<title>Symbols</title>"));
+}
+
+TEST_F(ConvertCommand, GalleryOfOneFileIsCalledAsTheFile) {
+    const std::string good = Write("a.pat", kBrick);
+    const std::string bad = Write("bad.lin", "*X\nA,x\n");
+    for (const Texts& files : {Texts{good}, Texts{good, bad}, Texts{bad, good}}) {
+        Texts arguments = {"convert", "-o", folder / "all.html"};
+        arguments.insert(arguments.end(), files.begin(), files.end());
+        RunTool(arguments);
+        EXPECT_TRUE(Has(folder.Read("all.html"), "<title>a.pat</title>")) << files.size();
+    }
 }
 
 TEST_F(ConvertCommand, EveryConvertingCommandTakesSeveralFiles) {
