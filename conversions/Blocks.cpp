@@ -7,6 +7,7 @@
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "conversions/checking/BlockCheck.h"
+#include "conversions/checking/BlockLosses.h"
 #include "conversions/reading/Drawing.h"
 #include "conversions/reading/DrawingShapeFiles.h"
 #include "conversions/reading/FileKind.h"
@@ -58,7 +59,8 @@ public:
                     Front& front, Conversion& result)
         : input_(input), drawing_(drawing), options_(options), front_(front), converter_(&drawing),
           files_(input.name, options.tolerant, front), filesInUse_(files_),
-          check_(input.name, drawing, files_, options.layersToIgnore), result_(result) {
+          check_(input.name, drawing, files_, options.layersToIgnore),
+          losses_(input.name, drawing, options.layersToIgnore), result_(result) {
         converter_.SetLayersToIgnore(options.layersToIgnore);
         if (options.fidelity == encoding::Fidelity::kFaithful) {
             faithful_.emplace();
@@ -112,8 +114,10 @@ private:
         if (ChangesBlocks(options_) && !Copy(name, copy, found)) {
             return;
         }
-        std::unique_ptr<TylModel::SymbolDefinition> symbol(copy ? converter_.Convert(copy.get())
-                                                                : converter_.Convert(name));
+        const auto convert = [&](BlockConverter& converter) {
+            return copy ? converter.Convert(copy.get()) : converter.Convert(name);
+        };
+        std::unique_ptr<TylModel::SymbolDefinition> symbol(convert(converter_));
         if (const std::uint64_t dense = drawing_.HatchesTooDense() - tooDense;
             !options_.tolerant && dense > 0) {
             // It cannot be evaluated; the rest of the block, and the other blocks, are worth having.
@@ -134,6 +138,9 @@ private:
                              {"block", ShownText(name)}});
             return;
         }
+        if (!faithful_) {
+            Measure(*symbol, name, convert, found);
+        }
         if (const std::wstring stem = FileStem(input_.name); options_.modelSpace && !stem.empty()) {
             symbol->SetName(stem);
         }
@@ -143,6 +150,15 @@ private:
             check_.AddLosses(*copy, found);
         } else if (options_.tolerant) {
             TellLosses(name, found);
+        }
+    }
+
+    // What the symbol loses is told, and is no reason to fail.
+    void Measure(TylModel::SymbolDefinition& symbol, const std::wstring& name,
+                 const BlockLosses::Convert& convert, Diagnostics& found) {
+        if (auto losses = losses_.Of(symbol, "block " + ShownText(name), convert)) {
+            losses->severity = Severity::kWarning;
+            found.push_back(std::move(*losses));
         }
     }
 
@@ -196,6 +212,7 @@ private:
     block::ShapeFilesInUse filesInUse_;
     std::optional<block::FaithfulInUse> faithful_;
     BlockCheck check_;
+    BlockLosses losses_;
     Conversion& result_;
     std::unordered_map<const drawing::BlockRecord*, std::size_t> positions_; // in the drawing document
 };

@@ -181,6 +181,8 @@ enum class Code : std::uint8_t {
     kDashFileInvalid,
     kDashShapeMissing,
     kDashShapeInvalid,
+    kBlockOutOfPlace,
+    kLostParts,
     kColorByBlock,
     kOnlyByName,
     // Styles of map programs: what is not as it is in the symbol.

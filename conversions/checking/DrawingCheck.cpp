@@ -1,7 +1,10 @@
 // Checks drawing documents.
 #include "OxDb/OxDb.h"
+#include "StyleConversion/block/BlockConverter.h"
 #include "StyleConversion/block/Opened.h"
+#include "StyleConversion/block/ShapeFileSource.h"
 #include "conversions/checking/BlockCheck.h"
+#include "conversions/checking/BlockLosses.h"
 #include "conversions/checking/Check.h"
 #include "conversions/reading/Drawing.h"
 
@@ -20,8 +23,11 @@ public:
     DrawingCheck(const Input& input, drawing::Database& drawing, const CheckOptions& options, Front& front,
                  Diagnostics& found)
         : input_(input), drawing_(drawing), view_(options.view), front_(front),
-          files_(input.name, false, front), blockCheck_(input.name, drawing, files_, options.layersToIgnore),
-          found_(found) {}
+          files_(input.name, false, front), filesInUse_(files_), converter_(&drawing),
+          blockCheck_(input.name, drawing, files_, options.layersToIgnore),
+          losses_(input.name, drawing, options.layersToIgnore), found_(found) {
+        converter_.SetLayersToIgnore(options.layersToIgnore);
+    }
 
     void Check() {
         drawing_.LimitHatchLines(kMostHatchLines);
@@ -78,8 +84,23 @@ private:
         const drawing::BlockRecord* const block = isNamed ? drawing_.FindBlock(name) : nullptr;
         if (!ChangesBlocks(view_) || block == nullptr) {
             blockCheck_.Check(record, false, found_);
+            if (isNamed) {
+                Measure(ItemOf(record),
+                        [&](BlockConverter& converter) { return converter.Convert(std::wstring(name)); });
+            }
         } else if (const auto copy = CopyAsSeen(view_, input_.name, drawing_, *block, found_)) {
             blockCheck_.Check(*copy, view_.seenAs.startsAtBasePoint, found_);
+            Measure(ItemOf(record), [&](BlockConverter& converter) { return converter.Convert(copy.get()); });
+        }
+    }
+
+    void Measure(const std::string& item, const BlockLosses::Convert& convert) {
+        const std::unique_ptr<TylModel::SymbolDefinition> strict(convert(converter_));
+        if (strict == nullptr) {
+            return;
+        }
+        if (auto losses = losses_.Of(*strict, item, convert)) {
+            found_.push_back(std::move(*losses));
         }
     }
 
@@ -101,7 +122,10 @@ private:
     const DrawingView& view_;
     Front& front_;
     DrawingShapeFiles files_;
+    block::ShapeFilesInUse filesInUse_;
+    BlockConverter converter_;
     BlockCheck blockCheck_;
+    BlockLosses losses_;
     Diagnostics& found_;
 };
 

@@ -294,6 +294,57 @@ TEST_F(Check, WhatADrawingIsRefusedForIsFoundAllAtOnce) {
               "1 error, 0 warnings in 1 file\n");
 }
 
+// A drawing in millimetres with a block of these entities.
+std::string BlockOf(const std::string& entities) {
+    return R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4, "blocks": [
+        {"name": "B", "entities": [)" +
+           entities + "]}]}";
+}
+
+TEST_F(Check, BlocksThatAreDrawnOutOfPlaceAreTold) {
+    // Both numbers of the end are cut by 0.00999: 0.01413 of 0.10999.
+    EXPECT_EQ(
+        Found("a.json", BlockOf(R"({"type": "line", "start": [0, 0], "end": [0.10999, 0.10999]})")),
+        ": error: drawn up to 13 % of its size out of place: 0.10999 is written 0.1; --faithful draws it "
+        "(block B) [block-out-of-place]\n"
+        "1 error, 0 warnings in 1 file\n");
+    // 0.0071 of 0.7071.
+    EXPECT_EQ(
+        Found("a.json", BlockOf(R"({"type": "line", "start": [0, 0], "end": [0.7071, 0]})")),
+        ": warning: drawn up to 1 % of its size out of place: 0.7071 is written 0.7; --faithful draws it "
+        "(block B) [block-out-of-place]\n"
+        "0 errors, 1 warning in 1 file\n");
+    // 0.0071 of 7.
+    EXPECT_EQ(Found("a.json", BlockOf(R"({"type": "line", "start": [0, 0], "end": [0.7071, 7]})")),
+              "0 errors, 0 warnings in 1 file\n");
+}
+
+TEST_F(Check, BlocksAreMeasuredAsTheyAreSeen) {
+    // 0.00999 of 10, of 0.10999 where the long line is left out, and of nothing where it is 1.0999 as
+    // inserted.
+    const std::string text = R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4, "blocks": [
+        {"name": "A", "entities": [{"type": "insert", "block": "B", "scale": [10, 10]}]},
+        {"name": "B", "entities": [{"type": "line", "start": [0, 0], "end": [0.10999, 0]},
+            {"type": "line", "layer": "LONG", "start": [0, 0], "end": [10, 0]}]}]})";
+    const std::string ofB =
+        ": warning: drawn up to 9.1 % of its size out of place: 0.10999 is written 0.1; --faithful draws it "
+        "(block B) [block-out-of-place]\n";
+    EXPECT_EQ(Found("a.json", text, {"--expand"}), "0 errors, 0 warnings in 1 file\n");
+    const std::string found = Found("a.json", text, {"--expand", "--ignore-layer", "LONG"});
+    EXPECT_NE(found.find(ofB), std::string::npos) << found;
+    EXPECT_EQ(found.find("(block A) [block-out-of-place]"), std::string::npos) << found;
+}
+
+TEST_F(Check, PartsThatAreLostAreTold) {
+    // A fill of one spline, which strict symbols skip, inside a square that is whole.
+    EXPECT_EQ(Found("a.json", BlockOf(R"({"type": "hatch", "solid": true, "loops": [{"edges": [
+        {"type": "spline", "degree": 1, "knots": [0, 0, 1, 2, 3, 3],
+         "controlPoints": [[0, 0], [4, 0], [4, 4], [0, 0]]}]}]},
+        {"type": "line", "start": [0, 0], "end": [4, 4]})")),
+              ": error: 1 of 2 parts not drawn; --faithful draws all (block B) [lost-parts]\n"
+              "1 error, 0 warnings in 1 file\n");
+}
+
 TEST_F(Check, BlocksThatAreNotConvertedByDefaultAreNotes) {
     const std::string text = DrawingOf(
         R"({"name": "PAPER", "layout": true, "entities": [{"type": "other", "class": "Ray"}]},

@@ -1,0 +1,67 @@
+#include "conversions/checking/BlockLosses.h"
+
+#include "StyleConversion/block/Faithful.h"
+#include "conversions/checking/BlockMeasure.h"
+
+#include <memory>
+#include <utility>
+
+namespace conversions {
+namespace {
+
+std::unique_ptr<TylModel::SymbolDefinition> Faithful(BlockConverter& converter,
+                                                     const BlockLosses::Convert& convert) {
+    const block::FaithfulInUse inUse;
+    return std::unique_ptr<TylModel::SymbolDefinition>(convert(converter));
+}
+
+using diagnostics::Code;
+using diagnostics::Diagnostic;
+using diagnostics::Severity;
+
+// ": 0.105 is written 0.1"
+std::string CauseText(const BlockMeasure& measure) {
+    if (measure.cut) {
+        return TextOf(*measure.cut);
+    }
+    return measure.isText ? ": a text" : "";
+}
+
+} // namespace
+
+BlockLosses::BlockLosses(std::string file, OxDbDatabase& drawing,
+                         const std::vector<std::wstring>& layersToIgnore)
+    : file_(std::move(file)), converter_(&drawing) {
+    converter_.SetLayersToIgnore(layersToIgnore);
+}
+
+std::optional<Diagnostic> BlockLosses::Of(TylModel::SymbolDefinition& strict, const std::string& item,
+                                          const Convert& convert) {
+    const std::unique_ptr<TylModel::SymbolDefinition> faithful = Faithful(converter_, convert);
+    if (faithful == nullptr) {
+        return std::nullopt;
+    }
+    const BlockMeasure measure = MeasureBlock(strict, *faithful);
+    const bool isOutOfPlace = !(measure.share < kWarningShare);
+    std::string cause = isOutOfPlace ? CauseText(measure) : std::string();
+    diagnostics::Place place(file_, 0, item);
+    if (measure.lost > 0) {
+        if (isOutOfPlace) {
+            cause = ", and others drawn up to " + PercentText(measure.share) + " of its size out of place" +
+                    cause;
+        }
+        return Diagnostic{Severity::kError,
+                          Code::kLostParts,
+                          std::move(place),
+                          {std::to_string(measure.lost), std::to_string(measure.parts), cause}};
+    }
+    if (!isOutOfPlace) {
+        return std::nullopt;
+    }
+    return Diagnostic{measure.share < kErrorShare ? Severity::kWarning : Severity::kError,
+                      Code::kBlockOutOfPlace,
+                      std::move(place),
+                      {PercentText(measure.share), cause}};
+}
+
+} // namespace conversions

@@ -1,0 +1,34 @@
+// What is said of the strict symbol of a block: what it does not draw, or draws elsewhere.
+#pragma once
+
+#include "OxDb/OxDb.h"
+#include "StyleConversion/block/BlockConverter.h"
+#include "TylModel/TylModel.h"
+#include "diagnostics/Diagnostic.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace conversions {
+
+/// Measures strict symbols of one drawing by its faithful ones.
+class BlockLosses {
+public:
+    using Convert = std::function<TylModel::SymbolDefinition*(BlockConverter&)>;
+
+    /// `file` is what messages call the drawing, which must outlive this object.
+    BlockLosses(std::string file, OxDbDatabase& drawing, const std::vector<std::wstring>& layersToIgnore);
+
+    /// What the symbol loses: an error where a part is lost, or is out of place by kErrorShare; nothing where
+    /// all is in its place. `convert` converts the block once more, by the converter that it is given.
+    std::optional<diagnostics::Diagnostic> Of(TylModel::SymbolDefinition& strict, const std::string& item,
+                                              const Convert& convert);
+
+private:
+    std::string file_;
+    BlockConverter converter_; // of its own: a strict one may remember the scale of the last block
+};
+
+} // namespace conversions
