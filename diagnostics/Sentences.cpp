@@ -421,15 +421,26 @@ std::string Filled(std::string_view name, const std::vector<std::string>& subjec
     return subject < subjects.size() ? subjects[subject] : std::string();
 }
 
-std::string Fill(std::string_view sentence, const std::vector<std::string>& subjects, std::size_t count) {
+// `filled` gives what stands for a name in braces.
+template <class Filling>
+std::string FillWith(std::string_view sentence, const Filling& filled) {
     std::string text;
     for (std::size_t open = 0; (open = sentence.find('{')) != std::string_view::npos;) {
         const std::size_t close = sentence.find('}', open);
         text += sentence.substr(0, open);
-        text += Filled(sentence.substr(open + 1, close - open - 1), subjects, count);
+        text += filled(sentence.substr(open + 1, close - open - 1));
         sentence.remove_prefix(close + 1);
     }
     return text.append(sentence);
+}
+
+std::string Fill(std::string_view sentence, const std::vector<std::string>& subjects, std::size_t count) {
+    return FillWith(sentence, [&](std::string_view name) { return Filled(name, subjects, count); });
+}
+
+// What stands for a name where nothing is known of the subjects.
+std::string FilledOfAny(std::string_view name) {
+    return name == "entities" ? "entities" : name == "is" ? "are" : name == "has" ? "have" : "…";
 }
 
 std::string_view OutcomeOf(const Diagnostic& diagnostic) {
@@ -474,6 +485,12 @@ std::string_view NameOf(Code code) {
     return RowOf(code).name;
 }
 
+std::optional<Code> CodeNamed(std::string_view name) {
+    const auto row =
+        std::find_if(kRows.begin(), kRows.end(), [&](const Row& each) { return each.name == name; });
+    return row == kRows.end() ? std::nullopt : std::optional(row->code);
+}
+
 std::vector<Code> AllCodes() {
     std::vector<Code> codes;
     codes.reserve(kRows.size());
@@ -510,6 +527,22 @@ std::string SentenceOf(const Diagnostic& diagnostic) {
 
 std::string SentenceOf(Code code, const std::vector<std::string>& subjects) {
     return Fill(RowOf(code).sentence, subjects, 1);
+}
+
+std::string SummaryOf(Code code) {
+    return FillWith(RowOf(code).sentence, FilledOfAny);
+}
+
+std::string HelpOf(Code code) {
+    const Row& row = RowOf(code);
+    std::string text = SummaryOf(code);
+    if (!row.strictly.empty()) {
+        text += "; " + FillWith(row.strictly, FilledOfAny);
+    }
+    if (!row.repaired.empty() && row.repaired != row.strictly) {
+        text += ". With --tolerant: " + FillWith(row.repaired, FilledOfAny);
+    }
+    return text;
 }
 
 std::string MessageOf(const Diagnostic& diagnostic) {

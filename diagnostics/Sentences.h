@@ -3,6 +3,7 @@
 
 #include "diagnostics/Diagnostic.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,8 @@ namespace diagnostics {
 
 /// The stable name of a code: "missing-shape-file".
 std::string_view NameOf(Code code);
+/// The code of that name, if there is one.
+std::optional<Code> CodeNamed(std::string_view name);
 
 /// Every code, in the order of the table.
 std::vector<Code> AllCodes();
@@ -22,6 +25,11 @@ std::string_view NameOf(Severity severity);
 std::string SentenceOf(const Diagnostic& diagnostic);
 /// What is wrong, for a sentence of which it is a part.
 std::string SentenceOf(Code code, const std::vector<std::string>& subjects = {});
+
+/// What a code says whatever it is of: its sentence with "…" for the subjects.
+std::string SummaryOf(Code code);
+/// The same with what helps, and with what a tolerant reading makes of it.
+std::string HelpOf(Code code);
 
 /// The whole message in the form that editors know from compilers, in one line:
 /// "gas.lin:14:5: error: a blank is not allowed here (linetype GAS)".

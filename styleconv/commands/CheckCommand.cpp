@@ -1,11 +1,16 @@
 // styleconv check: errors and likely surprises in files.
+#include "conversions/TolerantCheck.h"
 #include "conversions/checking/Check.h"
 #include "diagnostics/Sentences.h"
+#include "diagnostics/ShownText.h"
 #include "documents/DiagnosticsDocument.h"
+#include "documents/SarifDocument.h"
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/DrawingViewOptions.h"
 #include "styleconv/commands/Job.h"
 #include "styleconv/commands/ManyFiles.h"
+#include "styleconv/commands/Spelling.h"
+#include "styleconv/files/FileWalk.h"
 #include "styleconv/files/InputFile.h"
 #include "styleconv/files/ShapeSearch.h"
 #include "styleconv/process/Messages.h"
@@ -13,6 +18,8 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <set>
+#include <string_view>
 
 namespace styleconv {
 namespace {
@@ -24,12 +31,23 @@ using diagnostics::Diagnostics;
 using diagnostics::Severity;
 
 struct CheckOptions : StyleOptions, DrawingViewOptions {
-    std::vector<std::string> files;
+    std::vector<std::string> paths;
+    WalkOptions walk;
     std::string output;
     std::string format = "text";
+    std::string failOn = "error";
+    std::vector<std::string> codesToIgnore;
     std::string codePage;
     std::vector<std::string> layersToIgnore;
     bool notes = false;
+    bool tolerant = false;
+};
+
+// What the files come to.
+struct Findings {
+    Diagnostics found;
+    std::size_t files = 0;
+    std::size_t ignored = 0;
 };
 
 std::unique_ptr<conversions::Front> FrontFor(FileKind kind, const std::string& file,
@@ -43,6 +61,22 @@ std::unique_ptr<conversions::Front> FrontFor(FileKind kind, const std::string& f
     default:
         return FrontWithoutFiles(toStandardOutput);
     }
+}
+
+// A tolerant conversion of the file, which opens it anew: it may be read as it comes.
+Diagnostics Judged(const std::string& path, FileKind kind, const std::string& codePage,
+                   const conversions::CheckOptions& job, conversions::Front& front, Diagnostics found) {
+    InputFile input(path);
+    const auto problem = kind == FileKind::kDrawing ? input.Open() : input.Read();
+    InputFile drawing(job.linetypes.drawing ? job.linetypes.drawing->name : "");
+    conversions::CheckOptions again = job;
+    if (problem || (job.linetypes.drawing && drawing.Open())) {
+        return found;
+    }
+    if (job.linetypes.drawing) {
+        again.linetypes.drawing = drawing.ForJob();
+    }
+    return JudgedTolerantly(std::move(found), ConvertTolerantly(kind, input.ForJob(codePage), again, front));
 }
 
 Diagnostics CheckOne(const CheckOptions& options, const std::string& path) {
@@ -65,40 +99,88 @@ Diagnostics CheckOne(const CheckOptions& options, const std::string& path) {
         }
         job.linetypes.drawing = drawing.ForJob();
     }
-    return Check(kind, input.ForJob(options.codePage), job, *FrontFor(kind, path, options));
+    const auto front = FrontFor(kind, path, options);
+    Diagnostics found = Check(kind, input.ForJob(options.codePage), job, *front);
+    return options.tolerant && CountOf(found, Severity::kError) > 0
+               ? Judged(path, kind, options.codePage, job, *front, std::move(found))
+               : found;
 }
 
-std::string Text(const Diagnostics& found, std::size_t files) {
+std::string Text(const Findings& findings) {
     std::string text;
-    for (const Diagnostic& diagnostic : found) {
+    for (const Diagnostic& diagnostic : findings.found) {
         text += diagnostics::MessageWithCode(diagnostic) + "\n";
     }
-    return text + Counted(CountOf(found, Severity::kError), "error") + ", " +
-           Counted(CountOf(found, Severity::kWarning), "warning") + " in " + Counted(files, "file") + "\n";
+    text += Counted(CountOf(findings.found, Severity::kError), "error") + ", " +
+            Counted(CountOf(findings.found, Severity::kWarning), "warning") + " in " +
+            Counted(findings.files, "file");
+    return text + (findings.ignored > 0 ? "; " + std::to_string(findings.ignored) + " ignored\n" : "\n");
+}
+
+std::string TextOf(const Findings& findings, const std::string& format) {
+    return format == "json"    ? documents::DiagnosticsText(findings.found)
+           : format == "sarif" ? documents::SarifText(findings.found, STYLECONVERSION_VERSION)
+                               : Text(findings);
+}
+
+// False, with a message, where one is not known.
+bool ReadCodes(const std::vector<std::string>& names, std::set<Code>& codes) {
+    for (const std::string& name : names) {
+        const std::optional<Code> code = diagnostics::CodeNamed(name);
+        if (!code) {
+            std::vector<std::string_view> known;
+            for (const Code each : diagnostics::AllCodes()) {
+                known.push_back(NameOf(each));
+            }
+            SayLine("styleconv: --ignore: unknown code " + diagnostics::ShownText(name) + "; did you mean " +
+                    NearestOf(name, known) + "?");
+            return false;
+        }
+        codes.insert(*code);
+    }
+    return true;
+}
+
+Findings FindingsOf(const CheckOptions& options, const std::set<Code>& codesToIgnore) {
+    Walk walk = FilesBehind(options.paths, options.walk);
+    std::sort(walk.files.begin(), walk.files.end());
+    Findings findings;
+    findings.files = walk.files.size();
+    findings.found = std::move(walk.diagnostics);
+    for (const std::string& file : walk.files) {
+        Append(findings.found, CheckOne(options, file));
+    }
+    std::erase_if(findings.found, [&](const Diagnostic& diagnostic) {
+        return diagnostic.severity == Severity::kNote && !options.notes;
+    });
+    findings.ignored = std::erase_if(findings.found, [&](const Diagnostic& diagnostic) {
+        return codesToIgnore.count(diagnostic.code) > 0;
+    });
+    // Programs want the place of each; who reads does not.
+    if (options.format == "text") {
+        MergeAcrossFiles(findings.found);
+    }
+    return findings;
 }
 
 ExitStatus CheckFiles(const CheckOptions& options) {
-    if (!CheckStyleOptions(options) || !CheckEncoding(options.codePage)) {
+    std::set<Code> codesToIgnore;
+    if (!CheckStyleOptions(options) || !CheckEncoding(options.codePage) ||
+        !ReadCodes(options.codesToIgnore, codesToIgnore)) {
         return kUsageFault;
     }
-    std::vector<std::string> files = options.files;
-    std::sort(files.begin(), files.end());
-    if (std::find(files.begin(), files.end(), "-") != files.end()) {
+    if (std::find(options.paths.begin(), options.paths.end(), "-") != options.paths.end()) {
         SayLine("styleconv: check: the kind of standard input is unknown; give a file");
         return kUsageFault;
     }
-    Diagnostics found;
-    for (const std::string& file : files) {
-        Append(found, CheckOne(options, file));
-    }
-    if (!options.notes) {
-        std::erase_if(found,
-                      [](const Diagnostic& diagnostic) { return diagnostic.severity == Severity::kNote; });
-    }
+    const Findings findings = FindingsOf(options, codesToIgnore);
     const ExitStatus status = WriteResult(options.output, [&](const conversions::TextSink& sink) {
-        return sink(options.format == "json" ? documents::DiagnosticsText(found) : Text(found, files.size()));
+        return sink(TextOf(findings, options.format));
     });
-    return status == kDone && CountOf(found, Severity::kError) > 0 ? kInputFault : status;
+    const std::size_t failures =
+        CountOf(findings.found, Severity::kError) +
+        (options.failOn == "warning" ? CountOf(findings.found, Severity::kWarning) : 0);
+    return status == kDone && failures > 0 ? kInputFault : status;
 }
 
 } // namespace
@@ -107,15 +189,23 @@ void AddCheckCommand(CommandLine& line) {
     const auto options = std::make_shared<CheckOptions>();
     Command command = line.AddCommand("check", "Report errors and likely surprises, one per line",
                                       [options] { return CheckFiles(*options); });
-    command.AddFiles(options->files, ".lin, .pat, .shx, .dxf and drawing .json files");
+    command.AddFiles(options->paths, ".lin, .pat, .shx, .dxf and drawing .json files, and folders");
+    AddWalkOptions(command, options->walk);
     AddStyleOptions(command, *options);
     AddIgnoreLayerOption(command, options->layersToIgnore);
     AddDrawingViewOptions(command, *options);
     command.AddFlag("--notes", options->notes,
                     "Also report what is as it should be: families with an exact tile, unused shapes");
+    command.AddFlag("--tolerant", options->tolerant,
+                    "Judge as a tolerant conversion would: what it reads or skips is a warning");
+    command.AddTexts("--ignore", options->codesToIgnore, "CODE",
+                     "Do not report what has this code; may be given again");
+    command.AddChoice("--fail-on", options->failOn, {"error", "warning"},
+                      "What ends with status 1: error or warning");
     AddCodePageOption(command, options->codePage);
     AddOutputOption(command, options->output);
-    command.AddChoice("--format", options->format, {"text", "json"}, "Form of the result: text or json");
+    command.AddChoice("--format", options->format, {"text", "json", "sarif"},
+                      "Form of the result: text, json or sarif");
 }
 
 } // namespace styleconv

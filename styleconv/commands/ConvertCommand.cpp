@@ -111,10 +111,7 @@ void AddConvertCommand(CommandLine& line) {
     Command command = line.AddCommand("convert", "Convert files of all kinds, and folders, to one result",
                                       [options] { return Convert(*options); });
     command.AddFiles(options->paths, ".lin, .pat, .shx, .dxf and drawing .json files, and folders");
-    command.AddTexts("--include", options->walk.include, "PATTERN",
-                     "Of folders, only files like this, as '*.pat'; may be given again");
-    command.AddTexts("--exclude", options->walk.exclude, "PATTERN",
-                     "Of folders, no files like this; may be given again");
+    AddWalkOptions(command, options->walk);
     AddStyleOptions(command, *options);
     AddIgnoreLayerOption(command, options->layersToIgnore);
     AddTolerantOption(command, options->tolerant);

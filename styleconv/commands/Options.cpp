@@ -2,6 +2,7 @@
 
 #include "StyleConversion/encoding/NumberReader.h"
 #include "StyleConversion/platform/Utf8.h"
+#include "styleconv/files/FileWalk.h"
 #include "styleconv/process/Messages.h"
 #include "styleconv/process/WorkLimits.h"
 
@@ -84,6 +85,13 @@ bool CheckStyleOptions(const StyleOptions& options) {
         return false;
     }
     return true;
+}
+
+void AddWalkOptions(Command& command, WalkOptions& options) {
+    command.AddTexts("--include", options.include, "PATTERN",
+                     "Of folders, only files like this, as '*.pat'; may be given again");
+    command.AddTexts("--exclude", options.exclude, "PATTERN",
+                     "Of folders, no files like this; may be given again");
 }
 
 void AddOutputOption(Command& command, std::string& output) {

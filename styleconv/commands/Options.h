@@ -10,6 +10,7 @@
 namespace styleconv {
 
 struct LimitOptions;
+struct WalkOptions;
 
 /// Reads `text` as one finite decimal number, whatever the locale. False where it is none.
 bool ReadNumberArgument(std::string_view text, double& value);
@@ -51,6 +52,9 @@ struct CommonOptions {
     std::string format; // where it is empty, the end of the output's name tells
     StyleFormOptions style;
 };
+
+/// Adds --include and --exclude to a command that takes folders.
+void AddWalkOptions(Command& command, WalkOptions& options);
 
 /// Adds -o to a command.
 void AddOutputOption(Command& command, std::string& output);

@@ -91,4 +91,27 @@ TEST(Messages, MoveNoCursor) {
 }
 
 } // namespace
+TEST(Sentences, CodesAreExplainedWithoutSubjects) {
+    EXPECT_EQ(diagnostics::SummaryOf(Code::kMissingShape), "shape file … has no shape …");
+    EXPECT_EQ(diagnostics::SummaryOf(Code::kUprightKey), "unknown key U= (upright text)");
+    EXPECT_EQ(
+        diagnostics::HelpOf(Code::kUprightKey),
+        "unknown key U= (upright text); write R=, or use --tolerant. With --tolerant: read as R= in the "
+        "whole file");
+    // What both readings do is told once.
+    EXPECT_EQ(diagnostics::HelpOf(Code::kTooFewNumbers),
+              "a family needs five numbers before its dashes; missing ones are read as 0");
+    for (const Code code : diagnostics::AllCodes()) {
+        EXPECT_EQ(diagnostics::HelpOf(code).find_first_of("{}"), std::string::npos) << NameOf(code);
+    }
+}
+
+TEST(Sentences, CodesAreFoundByTheirNames) {
+    for (const Code code : diagnostics::AllCodes()) {
+        EXPECT_EQ(diagnostics::CodeNamed(NameOf(code)), code);
+    }
+    EXPECT_FALSE(diagnostics::CodeNamed("").has_value());
+    EXPECT_FALSE(diagnostics::CodeNamed("missing-shape-files").has_value());
+}
+
 } // namespace diagnostics
