@@ -28,17 +28,19 @@ void SetPaint(SvgWriter& svg, const std::string& property, const Paint& paint, c
     }
 }
 
+// Weights are millimetres of the scale shown: as large as the geometry around them, and never too thin to be
+// seen, whatever enlarges the picture.
 void SetStroke(SvgWriter& svg, const PathPart& part, double scale, double thinnest,
                const PictureStyle& style) {
     SetPaint(svg, "stroke", *part.line, style);
-    const double pixels = part.scalable ? scale : kPixelsPerMillimetre;
-    svg.Set("stroke-width", std::max(thinnest, part.weight.value * pixels));
-    if (!part.scalable) {
+    const double width = part.weight.value * scale;
+    svg.Set("stroke-width", std::max(thinnest, width));
+    if (!(width > thinnest)) {
         svg.Set("vector-effect", "non-scaling-stroke");
     }
-    if (style.bindings && !part.weight.sum.terms.empty()) {
+    if (style.bindings && (part.weight.value > 0.0 || !part.weight.sum.terms.empty())) {
         svg.Set("data-weight", SumText(part.weight.sum));
-        svg.Set("data-pixels", ExactNumber(pixels));
+        svg.Set("data-pixels", ExactNumber(scale));
         svg.Set("data-thinnest", ExactNumber(thinnest));
     }
 }

@@ -10,7 +10,8 @@ namespace preview {
 /// Pixels of one millimetre, as style sheets define them.
 inline constexpr double kPixelsPerMillimetre = 96 / 25.4;
 
-/// The thinnest line and the smallest dot that show, in pixels. Weight 0 means as thin as can be seen.
+/// The thinnest line and the smallest dot that show, in pixels. Weight 0 means as thin as can be seen; a
+/// millimetre of weight is as long as a unit of the geometry.
 inline constexpr double kHairline = 1.0;
 inline constexpr double kSmallestDot = 2.0;
 

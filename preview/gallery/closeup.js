@@ -57,6 +57,7 @@ const closeup = {
     view.scrollTop = y * view.scrollHeight - atY;
     const bar = document.getElementById("closeup-scale");
     const pixels = this.svg.getBoundingClientRect().width / kPictureWidth;
+    weigh(this.svg, this.symbol.values, pixels);
     bar.style.width = `${tellScale(bar, this.symbol.scale * pixels)}px`;
   },
 

@@ -16,10 +16,7 @@ function restyle(svg, values) {
       element.setAttribute(property, values[Number(element.dataset[property])]);
     }
   }
-  for (const element of svg.querySelectorAll("[data-weight]")) {
-    const { weight, pixels, thinnest } = element.dataset;
-    element.setAttribute("stroke-width", Math.max(Number(thinnest), sumOf(weight, values) * Number(pixels)));
-  }
+  weigh(svg, values, 1);
   for (const element of svg.querySelectorAll("[data-angle]")) {
     element.setAttribute("transform", `rotate(${-sumOf(element.dataset.angle, values)})`);
   }
@@ -27,6 +24,22 @@ function restyle(svg, values) {
     element.textContent = values[Number(element.dataset.text)];
   }
   fit(svg);
+}
+
+// Lets lines have their weights in a picture that is shown `zoom` times as large. What would be too thin to be seen is
+// a line that no enlarging thickens.
+function weigh(svg, values, zoom) {
+  for (const element of svg.querySelectorAll("[data-weight]")) {
+    const { weight, pixels, thinnest } = element.dataset;
+    const width = sumOf(weight, values) * Number(pixels);
+    if (width * zoom > Number(thinnest)) {
+      element.setAttribute("stroke-width", width);
+      element.removeAttribute("vector-effect");
+    } else {
+      element.setAttribute("stroke-width", thinnest);
+      element.setAttribute("vector-effect", "non-scaling-stroke");
+    }
+  }
 }
 
 // Keeps a point symbol that was turned, or got a longer text, inside its picture.

@@ -1,6 +1,7 @@
 // What pictures say in their markup. How they look is tested on rasterised ones.
 #include "preview/Picture.h"
 #include "preview/Gallery.h"
+#include "preview/NumberTexts.h"
 #include "preview/SymbolSvg.h"
 #include "preview/TextMetrics.h"
 #include "tests/preview/SampleSymbols.h"
@@ -38,13 +39,44 @@ std::unique_ptr<TylModel::SimpleSymbolDefinition> DashSymbol(const std::wstring&
     return symbol;
 }
 
-TEST(Picture, ALineWeightIsMillimetresWhateverTheScale) {
-    auto symbol = NewSymbol(L"A");
-    AddPath(*symbol, L"M 0,0 L 1000,0 ").SetLineWeight(L"2.54");
-    SetPointUsage(*symbol);
-    const std::string markup = Draw(*symbol).markup;
-    // 2.54 mm of 96 pixels to 25.4 mm.
-    EXPECT_TRUE(Has(markup, "stroke-width=\"9.6\" vector-effect=\"non-scaling-stroke\"")) << markup;
+TEST(Picture, ALineWeightIsMillimetresOfTheScaleShown) {
+    const struct {
+        const wchar_t* path;
+        const char* width; // pixels, of a weight of 2 mm
+        bool isHairline;
+    } rows[] = {
+        {L"M 0,0 L 140,0 ", "stroke-width=\"4\"",
+         false}, // 320 pixels less twice 20 for 140 mm: 2 a millimetre
+        {L"M 0,0 L 14,0 ", "stroke-width=\"40\"", false}, // 20 a millimetre
+        {L"M 0,0 L 1400,0 ", "stroke-width=\"1\"", true}, // less than can be seen
+    };
+    for (const wchar_t* const scalable : {L"", L"false", L"true"}) {
+        for (const auto& row : rows) {
+            auto symbol = NewSymbol(L"A");
+            TylModel::Path& path = AddPath(*symbol, row.path);
+            path.SetLineWeight(L"2");
+            path.SetLineWeightScalable(scalable);
+            SetPointUsage(*symbol);
+            const std::string markup = Draw(*symbol).markup;
+            EXPECT_TRUE(Has(markup, row.width)) << markup;
+            EXPECT_EQ(Has(markup, "vector-effect=\"non-scaling-stroke\""), row.isHairline) << markup;
+        }
+    }
+}
+
+TEST(Picture, TheWeightsOfLinesAndHatchesAreOfTheirScaleToo) {
+    auto line = DashSymbol(L"1");
+    static_cast<TylModel::Path&>(*line->GetGraphics().GetAt(0)).SetLineWeight(L"0.5");
+    auto area = NewSymbol(L"A");
+    AddPath(*area, L"M 0,0 L 1,0 ").SetLineWeight(L"0.5");
+    SetAreaUsage(*area, L"0", L"1", L"1");
+    for (TylModel::SymbolDefinition* const symbol : {line.get(), area.get()}) {
+        const Picture picture = Draw(*symbol);
+        std::string width;
+        AppendPixels(width, 0.5 * picture.scale);
+        EXPECT_GT(picture.scale, 4.0);
+        EXPECT_TRUE(Has(picture.markup, "stroke-width=\"" + width + "\"")) << picture.markup;
+    }
 }
 
 TEST(Picture, DashesTooShortToBeSeenAreDots) {
@@ -56,18 +88,6 @@ TEST(Picture, DashesTooShortToBeSeenAreDots) {
     EXPECT_TRUE(picture.notes.empty()) << picture.notes.front();
     EXPECT_GE(Count(picture.markup, "h0"), 3U * 9U) << picture.markup;
     EXPECT_TRUE(Has(picture.markup, "stroke-linecap=\"round\"")) << picture.markup;
-}
-
-TEST(Picture, AScalableLineWeightGrowsWithTheSymbol) {
-    auto symbol = NewSymbol(L"A");
-    TylModel::Path& path = AddPath(*symbol, L"M 0,0 L 14,0 ");
-    path.SetLineWeight(L"2");
-    path.SetLineWeightScalable(L"true");
-    SetPointUsage(*symbol);
-    // 320 pixels less twice 20 for 14 units: 20 pixels a unit.
-    const std::string markup = Draw(*symbol).markup;
-    EXPECT_TRUE(Has(markup, "stroke-width=\"40\"")) << markup;
-    EXPECT_FALSE(Has(markup, "vector-effect")) << markup;
 }
 
 TEST(Picture, APathWithoutColoursIsNotDrawn) {

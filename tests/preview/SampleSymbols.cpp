@@ -211,7 +211,7 @@ SymbolPointer DashedCircle() {
 SymbolPointer Ticks() {
     const auto tick = [](const wchar_t* color, const wchar_t* repeat) {
         auto member = NewSymbol(L"ticks");
-        AddPath(*member, L"M 0,-0.1 L 0,0.1 ", color).SetLineWeight(L"0.5");
+        AddPath(*member, L"M 0,-0.1 L 0,0.1 ", color).SetLineWeight(L"0.02");
         SetLineUsage(*member, repeat);
         return member;
     };
@@ -263,10 +263,11 @@ SymbolPointer Texts() {
     return symbol;
 }
 
-SymbolPointer Weighted(const std::wstring& name, const std::wstring& geometry) {
+SymbolPointer Weighted(const std::wstring& name, const std::wstring& geometry,
+                       const std::wstring& weight = L"2.54") {
     auto symbol = NewSymbol(name);
     TylModel::Path& path = AddPath(*symbol, geometry);
-    path.SetLineWeight(L"2.54");
+    path.SetLineWeight(weight);
     path.SetLineWeightScalable(L"false");
     SetPointUsage(*symbol);
     return symbol;
@@ -287,6 +288,7 @@ std::vector<SymbolPointer> MeasuredSymbols() {
     symbols.push_back(Texts());
     symbols.push_back(Weighted(L"weight-small", L"M 0,0 h 20"));
     symbols.push_back(Weighted(L"weight-large", L"M 0,0 h 20000"));
+    symbols.push_back(Weighted(L"weight-of-a-sign", L"M 0,0 h 1000", L"20"));
     auto white = NewSymbol(L"white");
     AddPath(*white, L"M -50,0 h 100", L"ffffffff");
     SetPointUsage(*white);

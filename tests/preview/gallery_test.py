@@ -228,7 +228,7 @@ class Gallery(unittest.TestCase):
         before = self.count(self.picture(card), is_dark)
         self.unfold(card)
         self.enter(self.control(card, "LINEWEIGHT"), "2")
-        # Two millimetres are 7.6 pixels; before it was a hairline of one.
+        # Two millimetres are as long as two units of the dashes; before it was a hairline of a pixel.
         self.assertGreater(self.count(self.picture(card), is_dark), before * 4)
 
     def test_an_angle_turns_a_tiling(self):
@@ -294,7 +294,7 @@ class Gallery(unittest.TestCase):
         search.send_keys(Keys.DELETE)
         self.assertEqual(self.shown_cards(), 5)
 
-    def test_zoom_makes_pictures_larger_but_not_their_lines(self):
+    def test_zoom_makes_pictures_larger_with_their_weights(self):
         self.open("typical")
         card = self.card("TREE")
         small = self.picture(card)
@@ -307,8 +307,29 @@ class Gallery(unittest.TestCase):
         thickness = lambda image: sum(
             green(image.getpixel((x, image.height // 2))) for x in range(image.width // 2)
         )
-        self.assertGreater(thickness(small), 0)
-        self.assertAlmostEqual(thickness(large), thickness(small), delta=1)
+        # Half a millimetre of ten, which are 180 pixels of a picture 300 wide.
+        for image in (small, large):
+            self.assertAlmostEqual(thickness(image), 9 * image.width / 300, delta=2)
+
+    def test_a_hairline_stays_one_until_its_weight_can_be_seen(self):
+        self.open("typical")
+        card = self.card("DASHDOT")
+        self.unfold(card)
+        self.enter(self.control(card, "LINEWEIGHT"), "0.003")
+        card.find_element(By.CSS_SELECTOR, ".picture").click()
+        stroke = lambda: browser.execute_script(
+            "const line = document.querySelector('#closeup-picture [data-weight]');"
+            "return [line.getAttribute('vector-effect'), Number(line.getAttribute('stroke-width'))]"
+        )
+        self.assertEqual(stroke(), ["non-scaling-stroke", 1])
+        self.find("#closeup-zoom").send_keys(Keys.END)
+        scale = browser.execute_script("return closeup.symbol.scale")
+        self.assertGreater(0.003 * scale * 8, 1)
+        self.assertEqual(stroke(), [None, 0.003 * scale])
+        self.find("#closeup-zoom").send_keys(Keys.HOME)
+        self.assertEqual(stroke(), ["non-scaling-stroke", 1])
+        self.enter(self.control(self.find("#closeup"), "LINEWEIGHT"), "0.3")
+        self.assertEqual(stroke(), [None, 0.3 * scale])
 
     def test_dark_keeps_the_lines_visible(self):
         self.open("typical")
@@ -588,7 +609,8 @@ class Gallery(unittest.TestCase):
         self.wait(lambda: self.texts("svg text")[-1] == "Elm")
         widths = "return [...arguments[0].querySelectorAll('[data-weight]')].map((e) => e.getAttribute('stroke-width'))"
         thick = {round(float(width), 2) for width in browser.execute_script(widths, self.card("DASHDOT"))}
-        self.assertEqual(thick, {7.56})  # two millimetres
+        scale = browser.execute_script("return symbols.find((symbol) => symbol.name === 'DASHDOT').scale")
+        self.assertEqual(thick, {round(2 * scale, 2)})  # two millimetres of the scale shown
 
     def test_the_address_keeps_what_was_changed_and_opened(self):
         self.open("typical")

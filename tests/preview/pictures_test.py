@@ -134,11 +134,18 @@ class Pictures(unittest.TestCase):
         rows = [row for row in range(PICTURE[1]) if raster.count((x, row, PICTURE[0], row + 1), red)]
         self.assertAlmostEqual(len(rows), 10 * MILLIMETRE, delta=3)
 
-    def test_a_line_weight_is_millimetres_whatever_the_size(self):
-        for name in ("weight-small", "weight-large"):
+    def test_a_line_weight_is_millimetres_of_the_scale_shown(self):
+        # Drawn as large as it is; 20 m, where a millimetre cannot be seen; 1 m in the width less its margins.
+        for name, expected in (
+            ("weight-small", 2.54 * MILLIMETRE),
+            ("weight-large", 1),
+            ("weight-of-a-sign", 20 * (PICTURE[0] - 2 * 20) / 1000),
+        ):
             raster = Raster(name)
-            thick = raster.count((MIDDLE[0], 0, MIDDLE[0] + 1, PICTURE[1]), is_dark)
-            self.assertAlmostEqual(thick, 2.54 * MILLIMETRE, delta=1, msg=name)
+            inked = lambda pixel: max(pixel) < 200
+            thick = raster.count((MIDDLE[0], 0, MIDDLE[0] + 1, PICTURE[1]), inked)
+            self.assertAlmostEqual(thick, expected, delta=1, msg=name)
+            self.assertGreater(thick, 0, name)
 
     def test_white_lines_are_shown_on_dark_paper(self):
         raster = Raster("white")
