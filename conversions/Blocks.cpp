@@ -234,14 +234,14 @@ Conversion ConvertBlocks(const Input& input, const BlocksOptions& options, Front
     return result;
 }
 
-Listing ListBlocks(const Input& input) {
+Listing ListBlocks(const Input& input, bool tolerant) {
     Listing listing;
-    if (const auto drawing = ReadDrawing(input, false, listing.diagnostics)) {
+    if (const auto drawing = ReadDrawing(input, tolerant, listing.diagnostics)) {
         BlockConverter converter(drawing.get());
         std::vector<std::wstring> names;
         listing.isListed = ConvertibleBlocks(input, *drawing, converter, names, listing.diagnostics);
         for (const std::wstring& name : names) {
-            listing.names.push_back(platform::WideToValidUtf8(name));
+            listing.symbols.push_back({"block", platform::WideToValidUtf8(name), "", {input.name}});
         }
     }
     if (!listing.isListed) {

@@ -20,7 +20,7 @@ struct BlocksOptions : DrawingView {
 /// wrong, and needs one.
 Conversion ConvertBlocks(const Input& input, const BlocksOptions& options, Front& front);
 
-/// The names of the blocks that are converted where no names are given, in table order.
-Listing ListBlocks(const Input& input);
+/// The blocks that are converted where no names are given, in table order.
+Listing ListBlocks(const Input& input, bool tolerant = false);
 
 } // namespace conversions

@@ -7,6 +7,7 @@
 #include "conversions/reading/Front.h"
 #include "conversions/reading/Input.h"
 #include "diagnostics/Diagnostic.h"
+#include "documents/ListDocument.h"
 
 #include <memory>
 #include <string>
@@ -34,10 +35,10 @@ struct Conversion {
     }
 };
 
-/// The names of what a file holds, as UTF-8.
+/// What a file holds.
 struct Listing {
     bool isListed = false;
-    std::vector<std::string> names;
+    std::vector<documents::ListedSymbol> symbols;
     diagnostics::Diagnostics diagnostics;
 };
 

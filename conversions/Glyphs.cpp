@@ -196,18 +196,21 @@ bool WriteGlyphs(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form 
                                : WritePictures(glyphs, options, form, sink, front, styles);
 }
 
-Listing ListGlyphs(const Input& input) {
+Listing ListGlyphs(const Input& input, bool tolerant) {
     UseEncoding(input);
     Listing listing;
     ShxUtility::ShapesInFile file;
-    listing.isListed = Load(input, false, file, listing.diagnostics);
+    listing.isListed = Load(input, tolerant, file, listing.diagnostics);
     if (!listing.isListed) {
         TellWrongKind(input, FileKind::kShapes, KindAdvice::kOtherName, listing.diagnostics);
         return listing;
     }
     for (const ShxUtility::Shape& shape : file.shapes) {
         if (shape.number != 0 && !shape.name.empty()) {
-            listing.names.push_back(platform::WideToValidUtf8(platform::AnsiToWide(shape.name)));
+            diagnostics::Place place(input.name);
+            place.shape = shape.number;
+            listing.symbols.push_back(
+                {"glyph", platform::WideToValidUtf8(platform::AnsiToWide(shape.name)), "", std::move(place)});
         }
     }
     return listing;

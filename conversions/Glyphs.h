@@ -39,7 +39,7 @@ Conversion ConvertGlyphs(const Input& input, const GlyphsOptions& options, Front
 bool WriteGlyphs(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,
                  Front& front, StyleJob* styles = nullptr);
 
-/// The names of all shapes that have one, in the order of the file.
-Listing ListGlyphs(const Input& input);
+/// All shapes that have a name, in the order of the file.
+Listing ListGlyphs(const Input& input, bool tolerant = false);
 
 } // namespace conversions

@@ -170,6 +170,10 @@ private:
     std::set<std::wstring> withErrors_; // names; where no symbol has it, that linetype was skipped
 };
 
+std::string Utf8Of(const std::string& text) {
+    return platform::WideToValidUtf8(platform::AnsiToWide(text));
+}
+
 } // namespace
 
 Conversion ConvertLinetypes(const Input& input, const LinetypesOptions& options, Front& front) {
@@ -177,27 +181,33 @@ Conversion ConvertLinetypes(const Input& input, const LinetypesOptions& options,
     return LinetypeConversion(input, options, front).Run();
 }
 
-Listing ListLinetypes(const Input& input) {
+Listing ListLinetypes(const Input& input, bool tolerant) {
     UseEncoding(input);
     Listing listing;
     LineConverter::LinetypeFile file;
     LineConverter::LinErrorLog log;
-    if (ReadLinetypes(input.bytes, {}, file, log) == LineConverter::kSuccess) {
-        for (const LineConverter::LinetypeRecord& record : file.linetypes) {
-            listing.names.push_back(platform::WideToValidUtf8(platform::AnsiToWide(record.name)));
-        }
-        if (listing.names.empty()) {
-            listing.diagnostics.push_back(EmptyFile(input, Code::kNoLinetypes));
-        }
-    } else {
+    const LineConverter::LinPolicy policy =
+        tolerant ? LineConverter::kTolerantLinPolicy : LineConverter::LinPolicy();
+    const bool isRead = ReadLinetypes(input.bytes, policy, file, log) == LineConverter::kSuccess;
+    if (!isRead || tolerant) {
         Front front;
         const LinetypeSourceOptions options;
         listing.diagnostics =
-            DiagnosticsOf(input.name, log.errors(), Manner::kStrict, LinetypeSources(input, options, front));
+            DiagnosticsOf(input.name, log.errors(), tolerant ? Manner::kTolerant : Manner::kStrict,
+                          LinetypeSources(input, options, front));
     }
-    listing.isListed = listing.diagnostics.empty();
-    if (!listing.isListed) {
-        listing.names.clear();
+    if (isRead && file.linetypes.empty()) {
+        listing.diagnostics.push_back(EmptyFile(input, Code::kNoLinetypes));
+    }
+    listing.isListed = isRead && !file.linetypes.empty();
+    if (listing.isListed) {
+        for (const LineConverter::LinetypeRecord& record : file.linetypes) {
+            listing.symbols.push_back({"linetype",
+                                       Utf8Of(record.name),
+                                       Utf8Of(record.description),
+                                       {input.name, static_cast<std::uint64_t>(record.line)}});
+        }
+    } else {
         TellWrongKind(input, FileKind::kLinetypes, KindAdvice::kOtherName, listing.diagnostics);
     }
     return listing;

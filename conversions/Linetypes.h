@@ -18,7 +18,8 @@ struct LinetypesOptions : LinetypeSourceOptions {
 /// All that are asked for, or none: a tolerant conversion skips what is wrong, and needs one.
 Conversion ConvertLinetypes(const Input& input, const LinetypesOptions& options, Front& front);
 
-/// The names of all linetypes in the order of the file. Styles and shape files need not be there.
-Listing ListLinetypes(const Input& input);
+/// All linetypes in the order of the file. Styles and shape files need not be there. A tolerant listing says
+/// what it left out, and needs one.
+Listing ListLinetypes(const Input& input, bool tolerant = false);
 
 } // namespace conversions

@@ -160,17 +160,29 @@ Conversion ConvertPatterns(const Input& input, const PatternsOptions& options, F
     return PatternConversion(input, options, front).Run();
 }
 
-Listing ListPatterns(const Input& input) {
+Listing ListPatterns(const Input& input, bool tolerant) {
     UseEncoding(input);
     Listing listing;
     LoadedPatterns loaded;
-    listing.isListed = ReadPatterns(input, {}, loaded, listing.diagnostics);
+    listing.isListed =
+        ReadPatterns(input, tolerant ? pattern::kTolerantPatternPolicy : pattern::PatternPolicy(), loaded,
+                     listing.diagnostics);
     if (!listing.isListed) {
         TellWrongKind(input, FileKind::kPatterns, KindAdvice::kOtherName, listing.diagnostics);
         return listing;
     }
+    if (tolerant) {
+        listing.diagnostics = ToleratedPatterns(input, loaded);
+        MergeAlike(listing.diagnostics);
+    }
+    const auto utf8 = [](const std::string& text) {
+        return platform::WideToValidUtf8(platform::AnsiToWide(text));
+    };
     for (const auto& [name, description] : loaded.file.descriptions) {
-        listing.names.push_back(platform::WideToValidUtf8(platform::AnsiToWide(name)));
+        listing.symbols.push_back({"pattern",
+                                   utf8(name),
+                                   utf8(description),
+                                   {input.name, loaded.reading.headerLines.at(name).front()}});
     }
     return listing;
 }

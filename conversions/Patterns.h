@@ -21,7 +21,7 @@ struct PatternsOptions {
 /// them. A tolerant conversion reads what is wrong as it is meant, and needs one.
 Conversion ConvertPatterns(const Input& input, const PatternsOptions& options, Front& front);
 
-/// The names of all patterns in the order in which they are converted.
-Listing ListPatterns(const Input& input);
+/// All patterns in the order in which they are converted.
+Listing ListPatterns(const Input& input, bool tolerant = false);
 
 } // namespace conversions

@@ -36,14 +36,6 @@ Line& CurrentLine() {
     return line;
 }
 
-bool IsTerminal(std::FILE* stream) {
-#if defined(_WIN32)
-    return _isatty(_fileno(stream)) != 0;
-#else
-    return isatty(fileno(stream)) != 0;
-#endif
-}
-
 // Writes over what stands in the line. The caller holds the mutex.
 void Show(Line& line, const std::string& text) {
     std::string over = "\r" + text;
@@ -62,6 +54,14 @@ void ShowNow(Line& line) {
 }
 
 } // namespace
+
+bool IsTerminal(std::FILE* stream) {
+#if defined(_WIN32)
+    return _isatty(_fileno(stream)) != 0;
+#else
+    return isatty(fileno(stream)) != 0;
+#endif
+}
 
 std::string ProgressText(std::string_view stage, std::size_t item, std::size_t total) {
     std::string text(stage);

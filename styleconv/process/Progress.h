@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -9,6 +10,9 @@ namespace styleconv {
 
 /// Shows progress from now on where standard error is a terminal; elsewhere, and before, nothing is shown.
 void AllowProgress();
+
+/// Whether what is written there is shown on a terminal.
+bool IsTerminal(std::FILE* stream);
 
 /// A stage of the work begins: "Reading", "Converting", "Writing". `total` is how many items it has; 0 where
 /// that is not known.

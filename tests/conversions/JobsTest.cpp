@@ -16,6 +16,14 @@ using conversions::FileKind;
 using test_support::ShapeFileBuilder;
 using Names = std::vector<std::string>;
 
+Names NamesOf(const conversions::Listing& listing) {
+    Names names;
+    for (const documents::ListedSymbol& symbol : listing.symbols) {
+        names.push_back(symbol.name);
+    }
+    return names;
+}
+
 std::string Drawing(const std::string& blocks) {
     return R"({"format": "styleconversion/drawing", "version": 1, "blocks": [)" + blocks + "]}";
 }
@@ -89,25 +97,25 @@ TEST(Jobs, FailuresGiveErrorsAndNoSymbols) {
 }
 
 TEST(Jobs, NamesOfAllKindsAreListed) {
-    EXPECT_EQ(ListLinetypes(Named("a.lin", "*B\nA,1,[M,none]\n*A\nA,1\n")).names, (Names{"B", "A"}));
-    EXPECT_EQ(ListPatterns(Named("a.pat", "*b\n0,0,0,0,1\n*A\n")).names, (Names{"A", "b"}));
-    EXPECT_EQ(ListBlocks(Named("a.json", Drawing(R"({"name": "TREE", "entities": []})"))).names,
+    EXPECT_EQ(NamesOf(ListLinetypes(Named("a.lin", "*B\nA,1,[M,none]\n*A\nA,1\n"))), (Names{"B", "A"}));
+    EXPECT_EQ(NamesOf(ListPatterns(Named("a.pat", "*b\n0,0,0,0,1\n*A\n"))), (Names{"A", "b"}));
+    EXPECT_EQ(NamesOf(ListBlocks(Named("a.json", Drawing(R"({"name": "TREE", "entities": []})")))),
               Names{"TREE"});
     const std::string shapes =
         ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Shape(131, "", {0x10, 0}).Text();
-    EXPECT_EQ(ListGlyphs(Named("a.shx", shapes)).names, Names{"MARK"});
+    EXPECT_EQ(NamesOf(ListGlyphs(Named("a.shx", shapes))), Names{"MARK"});
     const conversions::Listing none = ListLinetypes(Named("a.lin", "*A\nA,x\n"));
     EXPECT_FALSE(none.isListed);
-    EXPECT_TRUE(none.names.empty());
+    EXPECT_TRUE(none.symbols.empty());
     EXPECT_EQ(none.diagnostics.size(), 1U);
 }
 
 TEST(Jobs, TextIsReadInTheEncodingAskedForOrTheOneThatFits) {
     // 0xE1 is a Greek alpha in one encoding and an a with an accent in the other.
     conversions::Input input = Named("a.lin", "*\xe1\nA,1\n");
-    EXPECT_EQ(ListLinetypes(input).names, Names{"\xc3\xa1"});
+    EXPECT_EQ(NamesOf(ListLinetypes(input)), Names{"\xc3\xa1"});
     input.encoding = "WINDOWS-1253";
-    EXPECT_EQ(ListLinetypes(input).names, Names{"\xce\xb1"});
+    EXPECT_EQ(NamesOf(ListLinetypes(input)), Names{"\xce\xb1"});
     EXPECT_FALSE(conversions::IsKnownEncoding("KLINGON"));
 }
 

@@ -34,7 +34,7 @@ TEST(CommandLine, WhatIsNoWholeNumberIsNamed) {
 TEST(CommandLine, AnUnknownCommandOptionOrFormatIsWrong) {
     for (const std::vector<std::string>& arguments : {std::vector<std::string>{"paint"},
                                                       {"patterns"},
-                                                      {"list", "a.pat", "b.pat"},
+                                                      {"drawing", "a.dxf", "b.dxf"},
                                                       {"patterns", "--colour", "x"},
                                                       {"patterns", "a.pat", "--format", "png"},
                                                       {"patterns", "a.pat", "--name"}}) {
@@ -55,7 +55,7 @@ TEST(CommandLine, AnOptionTakesTheNextWordAndNoMore) {
         EXPECT_EQ(result.status, 1) << arguments.front();
         EXPECT_NE(result.errors.find("\nmore: error: not found\n"), std::string::npos) << result.errors;
     }
-    const ToolResult result = RunTool({"list", "a.pat", "--code-page", "UTF-8", "more"});
+    const ToolResult result = RunTool({"drawing", "a.dxf", "--time-limit", "9", "more"});
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.errors, "styleconv: The following argument was not expected: more\nTry \"styleconv "
                              "--help\" or \"styleconv COMMAND --help\".\n");

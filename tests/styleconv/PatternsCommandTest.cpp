@@ -257,14 +257,6 @@ TEST(ListCommand, PrintsTheNamesOfPatternsOneALine) {
     EXPECT_EQ(folder.Read("names"), result.output);
 }
 
-TEST(ListCommand, TakesTheFormatThatEveryCommandTakes) {
-    const ScratchFolder folder;
-    const std::string file = folder.Write("a.pat", "*A\n0,0,0,0,1\n");
-    EXPECT_EQ(RunTool({"list", file, "--format", "json"}).output, "A\n");
-    EXPECT_EQ(RunTool({"list", file, "--format", "svg"}).status, 2);
-    EXPECT_EQ(RunTool({"list", "--help"}).output.find("--format"), std::string::npos);
-}
-
 TEST(ListCommand, AFileWithoutPatternsIsAFault) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.pat", "");

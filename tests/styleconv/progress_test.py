@@ -43,6 +43,13 @@ class Progress(unittest.TestCase):
         self.assertNotIn(-1, stages, repr(written))
         self.assertEqual(stages, sorted(stages))
 
+    def test_a_terminal_is_shown_a_table_of_one_file(self):
+        master, slave = pty.openpty()
+        subprocess.run([tool, "list", self.patterns, "--quiet"], stdout=slave, check=True)
+        os.close(slave)
+        self.assertTrue(os.read(master, 4096).decode().startswith("KIND     NAME"))
+        os.close(master)
+
     def test_the_line_is_empty_in_the_end(self):
         line, column = [" "] * 200, 0
         for character in self.on_terminal():
