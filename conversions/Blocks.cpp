@@ -13,7 +13,6 @@
 #include "conversions/reading/FileKind.h"
 #include "conversions/reading/Shown.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <unordered_map>
@@ -43,14 +42,6 @@ std::wstring FileStem(const std::string& file) {
         return {};
     }
     return platform::SplitPath(platform::PathFromBytes(file)).fileName;
-}
-
-// Whether a block takes its unit from a drawing that has none.
-bool UsesMissingUnit(const drawing::Database& drawing, const std::vector<std::wstring>& names) {
-    return std::any_of(names.begin(), names.end(), [&](const std::wstring& name) {
-        const drawing::BlockRecord* const block = drawing.FindBlock(name);
-        return block != nullptr && block->Data().units == OxDb::kUnitsUndefined;
-    });
 }
 
 class BlockConversion {
@@ -84,11 +75,7 @@ public:
                    !ConvertibleBlocks(input_, drawing_, converter_, names, result_.diagnostics)) {
             return;
         }
-        if (!UsesMissingUnit(drawing_, names)) {
-            std::erase_if(result_.diagnostics, [](const diagnostics::Diagnostic& diagnostic) {
-                return diagnostic.code == Code::kNoUnit;
-            });
-        }
+        ForgetUnusedUnit(drawing_, names, result_.diagnostics);
         NotePositions();
         front_.BeginStage("Converting", names.size());
         Diagnostics found;

@@ -9,7 +9,9 @@
 #include "conversions/reading/Drawing.h"
 
 #include <memory>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace conversions {
 namespace {
@@ -36,6 +38,7 @@ public:
         } else {
             CheckBlocks();
         }
+        ForgetUnusedUnit(drawing_, checked_, found_);
     }
 
 private:
@@ -82,6 +85,9 @@ private:
         const wchar_t* name = nullptr;
         const bool isNamed = record.getName(name) == Oxsys::eOk && name != nullptr;
         const drawing::BlockRecord* const block = isNamed ? drawing_.FindBlock(name) : nullptr;
+        if (block != nullptr) {
+            checked_.push_back(block->Name());
+        }
         if (!ChangesBlocks(view_) || block == nullptr) {
             blockCheck_.Check(record, false, found_);
             if (isNamed) {
@@ -126,6 +132,7 @@ private:
     BlockConverter converter_;
     BlockCheck blockCheck_;
     BlockLosses losses_;
+    std::vector<std::wstring> checked_; // names of blocks
     Diagnostics& found_;
 };
 

@@ -4,6 +4,7 @@
 #include "documents/DrawingReader.h"
 #include "exchange/DxfReader.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <string>
@@ -46,6 +47,13 @@ std::unique_ptr<drawing::Database> ReadDocument(const Input& input, std::string_
         refusal.place.path = error.path;
         refusal.subjects = error.subjects;
         diagnostics.push_back(std::move(refusal));
+    }
+    if (drawing != nullptr && drawing->insunits() == OxDb::kUnitsUndefined) {
+        Diagnostic noUnit;
+        noUnit.severity = Severity::kWarning;
+        noUnit.code = diagnostics::Code::kNoUnit;
+        noUnit.place.file = input.name;
+        diagnostics.push_back(std::move(noUnit));
     }
     if (drawing != nullptr || reading == Reading::kTolerant) {
         for (Diagnostic diagnostic : tolerated.All()) {
@@ -126,6 +134,19 @@ const drawing::BlockRecord* ModelSpaceOf(const drawing::Database& drawing) {
         }
     }
     return nullptr;
+}
+
+void ForgetUnusedUnit(const drawing::Database& drawing, const std::vector<std::wstring>& names,
+                      Diagnostics& diagnostics) {
+    const bool isUsed = std::any_of(names.begin(), names.end(), [&](const std::wstring& name) {
+        const drawing::BlockRecord* const block = drawing.FindBlock(name);
+        return block != nullptr && block->Data().units == OxDb::kUnitsUndefined;
+    });
+    if (!isUsed) {
+        std::erase_if(diagnostics, [](const Diagnostic& diagnostic) {
+            return diagnostic.code == diagnostics::Code::kNoUnit;
+        });
+    }
 }
 
 Diagnostic NoBlocks(const std::string& file, const drawing::Database& drawing) {

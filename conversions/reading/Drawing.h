@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace conversions {
 
@@ -22,6 +23,10 @@ std::unique_ptr<drawing::Database> CheckDrawingFile(const Input& input,
 
 /// The model space; null where the drawing has none.
 const drawing::BlockRecord* ModelSpaceOf(const drawing::Database& drawing);
+
+/// Takes back that the drawing has no unit, where each of the blocks of these names has its own.
+void ForgetUnusedUnit(const drawing::Database& drawing, const std::vector<std::wstring>& names,
+                      diagnostics::Diagnostics& diagnostics);
 
 /// That it has no block that is converted by itself, or only a model space that has entities.
 diagnostics::Diagnostic NoBlocks(const std::string& file, const drawing::Database& drawing);

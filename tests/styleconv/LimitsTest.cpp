@@ -37,7 +37,7 @@ std::string FanOfNothing() {
 
 // A kilometre, drawn in a pattern of that length.
 std::string LongLine(const std::string& patternLength, const std::string& length = "1000") {
-    return R"({"format": "styleconversion/drawing", "version": 1,
+    return R"({"format": "styleconversion/drawing", "version": 1, "insunits": 6,
       "layers": [{"name": "0"}],
       "linetypes": [{"name": "D", "patternLength": )" +
            patternLength + R"(, "dashes": [{"length": 5e-10}, {"length": -5e-10}]}],
@@ -49,7 +49,7 @@ std::string LongLine(const std::string& patternLength, const std::string& length
 
 // A square kilometre of hatch lines that far apart.
 std::string DenseHatch(const std::string& spacing) {
-    return R"({"format": "styleconversion/drawing", "version": 1,
+    return R"({"format": "styleconversion/drawing", "version": 1, "insunits": 6,
       "layers": [{"name": "0"}],
       "blocks": [{"name": "FINE", "entities": [{"type": "point", "position": [1, 2]}]},
                  {"name": "FIELD", "entities": [

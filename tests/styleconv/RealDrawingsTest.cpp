@@ -106,6 +106,33 @@ TEST_F(RealDrawings, ADrawingWithoutAUnitIsInMetresOrInTheOneNamed) {
     EXPECT_EQ(result.status, 2);
 }
 
+TEST_F(RealDrawings, ADocumentWithoutAUnitIsToldOfWhereABlockHasNoneOfItsOwn) {
+    const auto document = [&](const std::string& name, const std::string& head, const std::string& unit) {
+        return folder.Write(
+            name, R"({"format": "styleconversion/drawing", "version": 1,)" + head +
+                      R"( "blocks": [{"name": "A", "units": 4, "entities": []}, {"name": "B",)" + unit +
+                      R"( "entities": [{"type": "line", "start": [0, 0], "end": [1, 0]}]}]})");
+    };
+    const std::string file = document("none.json", "", "");
+    const std::string message =
+        file + ": warning: the drawing has no unit; its lengths are read as metres: --units names another";
+    for (const Texts& options : {Texts(), Texts{"--tolerant"}}) {
+        EXPECT_EQ(Geometries(file, options), (Texts{"M 0.0,0.0 L 1000.0,0.0"}));
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.errors, message + "\n");
+    }
+    EXPECT_EQ(RunTool({"check", file}).output, message + " [no-unit]\n0 errors, 1 warning in 1 file\n");
+    EXPECT_EQ(RunTool({"check", file, "--units", "mm"}).output, "0 errors, 0 warnings in 1 file\n");
+    Geometries(file, {"--name", "A"}); // which has a unit
+    EXPECT_EQ(result.errors, "");
+    for (const std::string& good :
+         {document("drawing.json", R"("insunits": 4,)", ""), document("block.json", "", R"("units": 4,)")}) {
+        EXPECT_EQ(Geometries(good), (Texts{"M 0.0,0.0 L 1.0,0.0"}));
+        EXPECT_EQ(result.errors, "");
+        EXPECT_EQ(RunTool({"check", good}).output, "0 errors, 0 warnings in 1 file\n");
+    }
+}
+
 TEST_F(RealDrawings, AUnitThatIsNoneScalesNothing) {
     for (const int unit : {21, 25}) {
         const std::string file = folder.Write("a.dxf", File(Block("A", Line(0, 0, 1, 0)), {}, unit));
