@@ -12,6 +12,7 @@
 #include "conversions/reading/DrawingShapeFiles.h"
 #include "conversions/reading/FileKind.h"
 #include "conversions/reading/Shown.h"
+#include "diagnostics/Sentences.h"
 
 #include <cstdint>
 #include <optional>
@@ -143,10 +144,14 @@ private:
     // What the symbol loses is told, and is no reason to fail.
     void Measure(TylModel::SymbolDefinition& symbol, const std::wstring& name,
                  const BlockLosses::Convert& convert, Diagnostics& found) {
-        if (auto losses = losses_.Of(symbol, "block " + ShownText(name), convert)) {
-            losses->severity = Severity::kWarning;
-            found.push_back(std::move(*losses));
+        auto losses = losses_.Of(symbol, "block " + ShownText(name), convert);
+        if (!losses) {
+            return;
         }
+        losses->diagnostic.severity = Severity::kWarning;
+        const std::shared_ptr<TylModel::SymbolDefinition> faithful = std::move(losses->faithful);
+        result_.captions.losses[&symbol] = {SentenceOf(losses->diagnostic), [faithful] { return faithful; }};
+        found.push_back(std::move(losses->diagnostic));
     }
 
     void NotePositions() {

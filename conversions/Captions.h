@@ -3,10 +3,18 @@
 
 #include "TylModel/TylModel.h"
 
+#include <functional>
 #include <map>
+#include <memory>
 #include <string>
 
 namespace conversions {
+
+/// What a strict symbol loses, and the symbol that does not.
+struct SymbolLoss {
+    std::string text;                                                          // for people, as UTF-8
+    std::function<std::shared_ptr<TylModel::SymbolDefinition>()> makeFaithful; // which may come to null
+};
 
 /// For people, as UTF-8.
 struct Captions {
@@ -15,6 +23,8 @@ struct Captions {
     std::map<const TylModel::SymbolDefinition*, std::string> descriptions;
     /// The files that symbols come from, where these are several.
     std::map<const TylModel::SymbolDefinition*, std::string> sources;
+    /// Of strict symbols that are measured and not right.
+    std::map<const TylModel::SymbolDefinition*, SymbolLoss> losses;
 };
 
 } // namespace conversions

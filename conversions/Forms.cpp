@@ -60,6 +60,12 @@ public:
         if (const auto found = captions_.sources.find(&symbol); found != captions_.sources.end()) {
             facts.source = found->second;
         }
+        std::shared_ptr<TylModel::SymbolDefinition> faithful;
+        if (const auto found = captions_.losses.find(&symbol); found != captions_.losses.end()) {
+            facts.loss = found->second.text;
+            faithful = found->second.makeFaithful();
+            facts.faithful = faithful.get();
+        }
         facts.json = documents::SymbolText(symbol);
         return writer_.Add(symbol, facts);
     }

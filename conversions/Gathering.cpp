@@ -44,6 +44,7 @@ void Gathering::Add(const std::string& file, FileKind kind, Conversion conversio
     // A page of several files is called as none of them.
     captions_.title = symbols_.empty() ? conversion.captions.title : "";
     captions_.descriptions.merge(conversion.captions.descriptions);
+    captions_.losses.merge(conversion.captions.losses);
     for (std::size_t i = 0; i < conversion.owned.size(); ++i) {
         KeepApart(*conversion.owned[i], conversion.places[i]);
         captions_.sources[conversion.owned[i].get()] = file;

@@ -8,6 +8,7 @@
 #include "conversions/reading/FileKind.h"
 #include "conversions/reading/Patterns.h"
 #include "conversions/reading/Shown.h"
+#include "diagnostics/Sentences.h"
 
 #include <set>
 #include <utility>
@@ -139,6 +140,11 @@ private:
         if (symbol != nullptr) {
             if (auto losses = StrictLosses(input_, loaded_, name, families, *symbol)) {
                 losses->severity = Severity::kWarning;
+                result_.captions.losses[symbol.get()] = {
+                    SentenceOf(*losses), [name, families] {
+                        return std::shared_ptr<TylModel::SymbolDefinition>(pattern::BuildFaithfulSymbol(
+                            name, families, pattern::FindFaithfulTiles(families)));
+                    }};
                 result_.diagnostics.push_back(std::move(*losses));
             }
         }

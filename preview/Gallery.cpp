@@ -107,6 +107,18 @@ Json DataOf(const ResolvedSymbol& symbol, const Picture& picture, PictureStyle s
     return data;
 }
 
+// The drawing that can be laid over the symbol's own.
+std::string FaithfulSvg(const ResolvedSymbol& symbol, const Picture& picture, std::size_t number,
+                        TylModel::SymbolDefinition& faithful) {
+    PictureStyle style = StyleOfCard(number);
+    style.idPrefix.insert(0, "f");
+    style.bindings = false;
+    style.scale = picture.scale;
+    style.frame = FrameOf(symbol);
+    const ResolvedSymbol resolved = Resolve(faithful);
+    return PictureSvg(resolved, DrawPicture(resolved, style));
+}
+
 // The data with one more member, whose text is JSON already.
 std::string WithSymbol(const Json& data, const std::string& symbol) {
     std::string text = JsonInScript(data);
@@ -114,8 +126,8 @@ std::string WithSymbol(const Json& data, const std::string& symbol) {
     return text + ",\"symbol\":" + InScript(symbol) + "}";
 }
 
-std::string NotesMarkup(const Picture& picture) {
-    std::string markup;
+std::string NotesMarkup(const Picture& picture, const std::string& loss) {
+    std::string markup = loss.empty() ? "" : "<li class=\"loss\">" + Escaped(loss) + "</li>";
     for (const std::string& note : picture.notes) {
         markup += "<li>" + Escaped(note) + "</li>";
     }
@@ -158,7 +170,10 @@ bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol, const GalleryFacts& 
     const ResolvedSymbol resolved = Resolve(symbol);
     const PictureStyle style = StyleOfCard(added_);
     const Picture picture = DrawPicture(resolved, style);
-    const Json data = DataOf(resolved, picture, style, CommonScale(resolved.usage));
+    Json data = DataOf(resolved, picture, style, CommonScale(resolved.usage));
+    if (facts.faithful != nullptr && picture.scale > 0) {
+        data["faithful"] = FaithfulSvg(resolved, picture, added_, *facts.faithful);
+    }
     const std::string description =
         resolved.description.empty() ? facts.description : platform::WideToValidUtf8(resolved.description);
     const bool written =
@@ -168,7 +183,7 @@ bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol, const GalleryFacts& 
                       Field::Text("name", resolved.name),
                       Field::Markup("breakableName", BreakableName(resolved.name)),
                       Field::Text("description", description), Field::Text("detail", Describe(resolved)),
-                      Field::Markup("notes", NotesMarkup(picture)),
+                      Field::Markup("notes", NotesMarkup(picture, facts.loss)),
                       Field::Markup("noParameters", resolved.parameters.empty() ? " hidden" : ""),
                       Field::Text("parameterCount", Counted(resolved.parameters.size(), "parameter")),
                       Field::Markup("data", WithSymbol(data, facts.json))}));

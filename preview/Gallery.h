@@ -23,6 +23,8 @@ struct GalleryFacts {
     std::string source;      // the file that it comes from; empty where there is but one
     std::string description; // where the symbol has none
     std::string json = "{}"; // the symbol as it stands in a symbols document
+    std::string loss;        // what the symbol does not draw, or draws elsewhere; empty where it is right
+    TylModel::SymbolDefinition* faithful = nullptr; // the one that draws it, if there is one; borrowed
 };
 
 /// Writes one HTML file that needs no other: a card for each symbol, a search, groups, light and dark, a

@@ -3,6 +3,7 @@
 
 #include "preview/ResolvedSymbol.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,9 @@ struct PictureStyle {
     bool trueSize = false;
     /// Pixels for each unit of the symbol; 0 for as many as show it well.
     double scale = 0;
+    /// What of a point symbol's plane is in the middle, for pictures that lie one over the other; its own
+    /// frame where there is none.
+    std::optional<Box> frame;
 };
 
 struct Picture {
@@ -36,6 +40,9 @@ Picture DrawPicture(const ResolvedSymbol& symbol, const PictureStyle& style);
 
 /// Pixels for each unit at which the symbol is shown well; 0 where nothing is drawn.
 double FittingScale(const ResolvedSymbol& symbol, const PictureStyle& style);
+
+/// The box around all that takes room in a point symbol.
+Box FrameOf(const ResolvedSymbol& symbol);
 
 /// What kind of symbol it is and how large: "Line symbol, repeat 0.95".
 std::string Describe(const ResolvedSymbol& symbol);

@@ -21,6 +21,8 @@ double ScaleFor(const Box& box, const PictureStyle& style) {
     return style.trueSize && legible ? std::min(scale, kPixelsPerMillimetre) : scale;
 }
 
+} // namespace
+
 Box FrameOf(const ResolvedSymbol& symbol) {
     Box bounds;
     for (const Member& member : symbol.members) {
@@ -29,14 +31,12 @@ Box FrameOf(const ResolvedSymbol& symbol) {
     return bounds;
 }
 
-} // namespace
-
 double PointScale(const ResolvedSymbol& symbol, Canvas& canvas) {
     return FrameOf(symbol).IsEmpty() ? 0.0 : ScaleFor(TurnedBounds(symbol, &Member::frame), canvas.style);
 }
 
 void DrawPointPicture(Canvas& canvas, const ResolvedSymbol& symbol, double scale) {
-    const Box bounds = FrameOf(symbol);
+    const Box bounds = canvas.style.frame.value_or(FrameOf(symbol));
     if (bounds.IsEmpty()) {
         return;
     }

@@ -1,7 +1,6 @@
 #include "conversions/checking/BlockLosses.h"
 
 #include "StyleConversion/block/Faithful.h"
-#include "conversions/checking/BlockMeasure.h"
 
 #include <memory>
 #include <utility>
@@ -35,13 +34,18 @@ BlockLosses::BlockLosses(std::string file, OxDbDatabase& drawing,
     converter_.SetLayersToIgnore(layersToIgnore);
 }
 
-std::optional<Diagnostic> BlockLosses::Of(TylModel::SymbolDefinition& strict, const std::string& item,
-                                          const Convert& convert) {
-    const std::unique_ptr<TylModel::SymbolDefinition> faithful = Faithful(converter_, convert);
+std::optional<BlockLoss> BlockLosses::Of(TylModel::SymbolDefinition& strict, const std::string& item,
+                                         const Convert& convert) {
+    std::unique_ptr<TylModel::SymbolDefinition> faithful = Faithful(converter_, convert);
     if (faithful == nullptr) {
         return std::nullopt;
     }
-    const BlockMeasure measure = MeasureBlock(strict, *faithful);
+    auto diagnostic = DiagnosticOf(MeasureBlock(strict, *faithful), item);
+    return diagnostic ? std::optional(BlockLoss{std::move(*diagnostic), std::move(faithful)}) : std::nullopt;
+}
+
+std::optional<Diagnostic> BlockLosses::DiagnosticOf(const BlockMeasure& measure,
+                                                    const std::string& item) const {
     const bool isOutOfPlace = !(measure.share < kWarningShare);
     std::string cause = isOutOfPlace ? CauseText(measure) : std::string();
     diagnostics::Place place(file_, 0, item);

@@ -4,14 +4,22 @@
 #include "OxDb/OxDb.h"
 #include "StyleConversion/block/BlockConverter.h"
 #include "TylModel/TylModel.h"
+#include "conversions/checking/BlockMeasure.h"
 #include "diagnostics/Diagnostic.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace conversions {
+
+/// What a symbol loses, and the one that does not.
+struct BlockLoss {
+    diagnostics::Diagnostic diagnostic;
+    std::unique_ptr<TylModel::SymbolDefinition> faithful;
+};
 
 /// Measures strict symbols of one drawing by its faithful ones.
 class BlockLosses {
@@ -23,10 +31,13 @@ public:
 
     /// What the symbol loses: an error where a part is lost, or is out of place by kErrorShare; nothing where
     /// all is in its place. `convert` converts the block once more, by the converter that it is given.
-    std::optional<diagnostics::Diagnostic> Of(TylModel::SymbolDefinition& strict, const std::string& item,
-                                              const Convert& convert);
+    std::optional<BlockLoss> Of(TylModel::SymbolDefinition& strict, const std::string& item,
+                                const Convert& convert);
 
 private:
+    std::optional<diagnostics::Diagnostic> DiagnosticOf(const BlockMeasure& measure,
+                                                        const std::string& item) const;
+
     std::string file_;
     BlockConverter converter_; // of its own: a strict one may remember the scale of the last block
 };

@@ -106,7 +106,7 @@ private:
             return;
         }
         if (auto losses = losses_.Of(*strict, item, convert)) {
-            found_.push_back(std::move(*losses));
+            found_.push_back(std::move(losses->diagnostic));
         }
     }
 

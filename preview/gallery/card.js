@@ -6,6 +6,11 @@ const kAngle = 5;
 const kWeight = 8;
 const kColors = [6, 7, 23];
 
+function parsePicture(markup) {
+  const parsed = new DOMParser().parseFromString(markup, "image/svg+xml");
+  return document.importNode(parsed.documentElement, true);
+}
+
 class SymbolCard {
   constructor(card, place) {
     this.card = card;
@@ -48,8 +53,7 @@ class SymbolCard {
 
   // A new picture, which follows the values in force once it stands in the page.
   draw() {
-    const parsed = new DOMParser().parseFromString(this.markup, "image/svg+xml");
-    return document.importNode(parsed.documentElement, true);
+    return parsePicture(this.markup);
   }
 
   // Puts a picture into the card. It is kept: to draw it again costs more than to hold it.

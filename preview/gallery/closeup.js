@@ -8,6 +8,7 @@ const closeup = {
   picture: document.getElementById("closeup-picture"),
   controls: document.getElementById("closeup-controls"),
   zoom: document.getElementById("closeup-zoom"),
+  compare: document.getElementById("closeup-compare"),
   symbol: null,
   svg: null,
 
@@ -17,8 +18,10 @@ const closeup = {
     document.getElementById("closeup-description").textContent = [
       symbol.card.querySelector(".description").textContent,
       symbol.card.querySelector(".detail").textContent,
+      symbol.card.querySelector(".loss")?.textContent,
     ].filter(Boolean).join(" · ");
     this.zoom.value = kSmallestZoom;
+    this.compare.hidden = symbol.data.faithful === undefined;
     if (!this.dialog.open) {
       this.dialog.showModal();
     }
@@ -44,6 +47,9 @@ const closeup = {
     this.picture.replaceChildren(this.svg);
     restyle(this.svg, symbol.values);
     layPaper(this.picture, inksOf(this.svg.outerHTML));
+    if (!this.compare.hidden && this.compare.ariaPressed === "true") {
+      this.picture.append(faithfulOver(this.svg, symbol));
+    }
     this.applyZoom();
   },
 
@@ -52,7 +58,9 @@ const closeup = {
     const view = this.picture;
     const x = (view.scrollLeft + atX) / view.scrollWidth;
     const y = (view.scrollTop + atY) / view.scrollHeight;
-    this.svg.style.width = `${this.zoom.value}%`;
+    for (const svg of view.children) {
+      svg.style.width = `${this.zoom.value}%`;
+    }
     view.scrollLeft = x * view.scrollWidth - atX;
     view.scrollTop = y * view.scrollHeight - atY;
     const bar = document.getElementById("closeup-scale");
@@ -87,6 +95,23 @@ function renameIds(svg) {
   }
 }
 
+// The faithful drawing of a symbol as it lies over the picture of the strict one, in a colour of its own.
+function faithfulOver(svg, symbol) {
+  const over = parsePicture(symbol.data.faithful);
+  renameIds(over);
+  over.classList.add("faithful");
+  over.querySelector(".fit")?.setAttribute("transform", svg.querySelector(".fit").getAttribute("transform"));
+  const { width, height } = over.viewBox.baseVal;
+  const enlarged = symbol.scale / symbol.data.scale;
+  const [seenWidth, seenHeight] = [width / enlarged, height / enlarged];
+  over.setAttribute("viewBox", [(width - seenWidth) / 2, (height - seenHeight) / 2, seenWidth, seenHeight].join(" "));
+  return over;
+}
+
+closeup.compare.addEventListener("click", () => {
+  closeup.compare.ariaPressed = String(closeup.compare.ariaPressed !== "true");
+  closeup.refresh(closeup.symbol);
+});
 closeup.zoom.addEventListener("input", () => closeup.applyZoom());
 closeup.dialog.addEventListener("close", () => closeup.closed());
 document.getElementById("closeup-close").addEventListener("click", () => closeup.dialog.close());

@@ -307,6 +307,27 @@ TEST(Gallery, TheScaleInTheMiddleIsTheCommonOne) {
     EXPECT_EQ(Count(page, "\"sameScale\""), 3U) << "the one in the middle has it already";
 }
 
+TEST(Gallery, OnlySymbolsThatLoseSomethingBringTheirFaithfulDrawing) {
+    std::string page;
+    GalleryWriter writer({.count = 3}, [&](std::string_view piece) {
+        page += piece;
+        return true;
+    });
+    const auto symbol = PointSymbol(L"A", L"M 0,0 L 26,0");
+    const auto faithful = PointSymbol(L"A", L"M 0,0 L 26,0 L 26,26");
+    GalleryFacts facts;
+    ASSERT_TRUE(writer.Add(*symbol, facts));
+    facts.loss = "a <side> is lost";
+    ASSERT_TRUE(writer.Add(*symbol, facts));
+    EXPECT_EQ(Count(page, "<li class=\"loss\">a &lt;side&gt; is lost</li>"), 1U);
+    EXPECT_FALSE(Has(page, "\"faithful\":"));
+    facts.faithful = faithful.get();
+    ASSERT_TRUE(writer.Add(*symbol, facts));
+    EXPECT_EQ(Count(page, "\"faithful\":"), 1U);
+    // 10 pixels a unit, as the symbol itself, about the middle of its frame.
+    EXPECT_TRUE(Has(page, "M-130 0h260v-260")) << page;
+}
+
 TEST(Gallery, NamesOfAFileCannotBecomeMarkup) {
     std::string page;
     const auto symbols = HostileSymbols();

@@ -59,6 +59,39 @@ void WriteGallery(const std::string& name, const std::vector<SymbolPointer>& sym
     Write(name, text);
 }
 
+// Two symbols that lose something, beside what they should be, and one that does not.
+void WriteCompared() {
+    const auto area = [](const wchar_t* repeat) {
+        auto symbol = NewSymbol(L"COURSES");
+        AddPath(*symbol, L"M 0,0 L 1,0 ");
+        SetAreaUsage(*symbol, L"0", L"1", repeat);
+        return symbol;
+    };
+    const auto strict = PointSymbol(L"OPEN", L"M 0,0 L 10,0 L 10,10 L 0,10");
+    const auto faithful = PointSymbol(L"OPEN", L"M 0,0 L 10,0 L 10,10 L 0,10 L 0,0 L 2,-1");
+    const auto strictArea = area(L"0.1");
+    const auto faithfulArea = area(L"0.105");
+    const auto right = PointSymbol(L"RIGHT", L"M 0,0 L 30,0");
+    std::string text;
+    preview::GalleryWriter writer({.count = 3}, [&](std::string_view piece) {
+        text += piece;
+        return true;
+    });
+    preview::GalleryFacts facts;
+    for (TylModel::SymbolDefinition* const symbol : {strict.get(), right.get()}) {
+        writer.Measure(*symbol);
+    }
+    writer.Add(*right);
+    facts.loss = "drawn up to 50 % <out> of place";
+    facts.faithful = faithful.get();
+    writer.Add(*strict, facts);
+    facts.loss = "drawn up to 48 % out of place";
+    facts.faithful = faithfulArea.get();
+    writer.Add(*strictArea, facts);
+    writer.Finish();
+    Write("compared.html", text);
+}
+
 // As many symbols as a large office has.
 std::vector<SymbolPointer> ManySymbols() {
     constexpr std::size_t kMany = 2'000;
@@ -91,6 +124,7 @@ int main(int argc, char** argv) {
     WriteGallery("typical.html", TypicalSymbols());
     WriteGallery("hostile.html", HostileSymbols());
     WriteGallery("many.html", ManySymbols());
+    WriteCompared();
     WriteGallery("folders.html", TypicalSymbols(), {"roads/a.lin", "water/b.lin", "water/c.pat"});
     return 0;
 }

@@ -776,6 +776,66 @@ class Gallery(unittest.TestCase):
             browser.execute_cdp_cmd("Emulation.clearDeviceMetricsOverride", {})
             browser.set_window_size(size["width"], size["height"])
 
+    def test_symbols_that_lose_something_are_marked(self):
+        self.open("compared")
+        marks = lambda name: [mark.text for mark in self.card(name).find_elements(By.CSS_SELECTOR, ".loss")]
+        self.assertEqual(marks("RIGHT"), [])
+        self.assertEqual(marks("OPEN"), ["drawn up to 50 % <out> of place"])
+        self.assertEqual(
+            browser.execute_script("return symbols.map((symbol) => symbol.data.faithful !== undefined)"),
+            [False, True, True],
+        )
+
+    def compare(self, name):
+        """Opens the symbol and lays its faithful drawing over the strict one, if that can be done."""
+        if self.find("#closeup").is_displayed():
+            self.find("#closeup-close").click()
+        self.card(name).find_element(By.CSS_SELECTOR, ".picture").send_keys(Keys.ENTER)
+        button = self.find("#closeup-compare")
+        if button.is_displayed() and button.get_attribute("aria-pressed") != "true":
+            button.click()
+        return self.shot(self.find("#closeup-picture"))
+
+    def test_both_drawings_lie_one_over_the_other(self):
+        self.open("compared")
+        over = lambda pixel: pixel[0] > 180 and pixel[2] > 150 and pixel[1] < 120
+        self.assertEqual(self.count(self.compare("RIGHT"), over), 0)
+        self.assertFalse(self.find("#closeup-compare").is_displayed())
+        self.find("#closeup-close").click()
+        # The side that the strict drawing lacks; the other three lie on it.
+        for common in (False, True):
+            browser.execute_script("scales.set(arguments[0])", common)
+            image = self.compare("OPEN")
+            self.assertIn("drawn up to 50 %", self.find("#closeup-description").text)
+            places = browser.execute_script(
+                "const box = (svg) => svg.querySelector('path').getBoundingClientRect();"
+                "const [strict, faithful] = [...closeup.picture.children].map(box);"
+                "const view = closeup.picture.getBoundingClientRect();"
+                "return { strict: [strict.left, strict.top, strict.right].map(Math.round),"
+                " faithful: [faithful.left, faithful.top, faithful.right].map(Math.round),"
+                " column: strict.left - view.left, row: (strict.top + strict.bottom) / 2 - view.top }"
+            )
+            self.assertEqual(places["strict"], places["faithful"])
+            x, y = round(places["column"]), round(places["row"])
+            self.assertTrue(any(over(image.getpixel((x + step, y))) for step in (-1, 0, 1)))
+            self.assertFalse(is_dark(image.getpixel((x, y))))
+        self.find("#closeup-compare").click()
+        self.assertEqual(self.count(self.shot(self.find("#closeup-picture")), over), 0)
+
+    def test_a_hatch_is_compared_at_every_zoom_in_light_and_dark(self):
+        self.open("compared")
+        over = lambda pixel: pixel[0] > 150 and pixel[2] > 120 and pixel[1] < 130
+        for theme in ("light", "dark"):
+            self.assertGreater(self.count(self.compare("COURSES"), over), 1000, theme)
+            self.find("#closeup-zoom").send_keys(Keys.END)
+            widths = browser.execute_script(
+                "return [...closeup.picture.children].map((svg) => svg.getBoundingClientRect().width)"
+            )
+            self.assertEqual(len(widths), 2)
+            self.assertEqual(widths[0], widths[1])
+            self.assertGreater(self.count(self.shot(self.find("#closeup-picture")), over), 100, theme)
+            browser.execute_script("setTheme(true)")
+
     def test_two_controls_of_one_name_are_told_apart(self):
         self.open("typical")
         self.assertEqual(

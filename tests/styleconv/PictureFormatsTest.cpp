@@ -121,6 +121,26 @@ TEST(PictureFormats, HtmlIsAGalleryThatNeedsNothingElse) {
     }
 }
 
+TEST(PictureFormats, GalleriesMarkTheSymbolsThatAreMeasured) {
+    const ScratchFolder folder;
+    const std::string pat = folder.Write("a.pat", "*A\n0,0,0,0,0.105\n*B\n0,0,0,0,1\n");
+    const std::string json = folder.Write("a.json", R"({"format": "styleconversion/drawing", "version": 1,
+        "insunits": 4, "blocks": [
+        {"name": "C", "entities": [{"type": "line", "start": [0, 0], "end": [0.10999, 0]}]},
+        {"name": "D", "entities": [{"type": "line", "start": [0, 0], "end": [1, 0]}]}]})");
+    using Arguments = std::vector<std::string>;
+    for (const Arguments& arguments :
+         {Arguments{"patterns", pat}, {"blocks", json}, {"convert", pat, json}}) {
+        Arguments all = arguments;
+        all.insert(all.end(), {"--format", "html"});
+        const std::string page = RunTool(all).output;
+        EXPECT_EQ(Count(page, "<li class=\"loss\">drawn up to "), arguments.size() - 1) << arguments[0];
+        EXPECT_EQ(Count(page, "\"faithful\":\"\\u003csvg"), arguments.size() - 1) << page;
+        all.emplace_back("--faithful");
+        EXPECT_FALSE(Has(RunTool(all).output, "<li class=\"loss\">"));
+    }
+}
+
 TEST(PictureFormats, AGalleryIsCalledAsItsFileAndHoldsDescriptionsAndDefinitions) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a & b.pat", "*LEVEL,Level <lines>\n0, 0,0, 0,.125\n");
