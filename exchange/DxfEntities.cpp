@@ -271,7 +271,10 @@ T* DxfEntityReader::Add(const DxfRecord& record, Args&&... args) {
         return nullptr;
     }
     const DxfPair* const handle = record.Find(5);
-    block_->handles.push_back(handle != nullptr ? handle->Handle() : 0);
+    if (const std::uint64_t value = handle != nullptr ? handle->Handle() : 0; value != 0) {
+        block_->handles.resize(block_->record->EntityCount(), 0);
+        block_->handles.push_back(value);
+    }
     return &block_->record->Add<T>(Properties(record), std::forward<Args>(args)...);
 }
 

@@ -23,7 +23,8 @@ namespace exchange {
 struct DxfBlock {
     drawing::BlockRecord* record = nullptr;
     std::string name; ///< as UTF-8, for messages
-    /// The handles of its entities, for the draw order; 0 where one has none.
+    /// The handles of its entities, for the draw order; 0 where one has none. Entities behind the last one
+    /// with a handle are not there.
     std::vector<std::uint64_t> handles;
 };
 

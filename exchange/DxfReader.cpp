@@ -296,10 +296,11 @@ void Reader::TakeDrawOrder(const DxfRecord& record) {
     }
     const DxfBlock& block = *place->second;
     std::vector<std::pair<std::uint64_t, std::size_t>> keys;
-    keys.reserve(block.handles.size());
-    for (std::size_t i = 0; i < block.handles.size(); ++i) {
-        const auto standIn = standIns.find(block.handles[i]);
-        keys.emplace_back(standIn != standIns.end() ? standIn->second : block.handles[i], i);
+    keys.reserve(block.record->EntityCount());
+    for (std::size_t i = 0; i < block.record->EntityCount(); ++i) {
+        const std::uint64_t handle = i < block.handles.size() ? block.handles[i] : 0;
+        const auto standIn = standIns.find(handle);
+        keys.emplace_back(standIn != standIns.end() ? standIn->second : handle, i);
     }
     std::sort(keys.begin(), keys.end());
     std::vector<OxDbObjectId> order;

@@ -48,7 +48,7 @@ public:
     /// `block.Add<Line>(properties, start, end)`. It belongs to the block.
     template <class T, class... Args>
     T& Add(const EntityProperties& properties, Args&&... args) {
-        return entities_.Adopt(std::make_unique<T>(SharedCore(), properties, std::forward<Args>(args)...));
+        return entities_.Make<T>(SharedCore(), properties, std::forward<Args>(args)...);
     }
     /// Gives the block a draw-order table, which may be empty or leave entities out.
     void SetDrawOrder(std::vector<OxDbObjectId> order);
@@ -75,7 +75,7 @@ public:
 private:
     BlockData data_;
     NameIndex nameIndex_;
-    ObjectList entities_;
+    EntityList entities_;
     std::unique_ptr<SortentsTable> sortentsTable_;
 };
 

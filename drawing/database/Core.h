@@ -2,6 +2,7 @@
 #pragma once
 
 #include "OxDb/OxDbObject.h"
+#include "drawing/database/DrawnAs.h"
 #include "drawing/database/FailurePlan.h"
 #include "drawing/database/NamePool.h"
 
@@ -29,14 +30,17 @@ struct Core;
 /// Stands for one object of a database; an id is a pointer to it. A stub whose object is null stands for
 /// something that the drawing refers to but does not have.
 struct OxDbStub {
-    OxDbStub(drawing::Core& owner, OxDbObject* stubObject) : object(stubObject), core(&owner) {}
+    OxDbStub(drawing::Core& owner, OxDbObject* stubObject)
+        : object(stubObject), core(&owner), openCount(0), erased(0), resident(1), hidden(0) {}
 
     OxDbObject* object;
     drawing::Core* core;
-    std::uint32_t openCount = 0;
-    bool erased = false;
-    bool resident = true; // false: can be opened, but says that it is in no database
-    bool hidden = false;  // an entity that is not shown; conversions look at it only where they are asked to
+    // A drawing has as many of these as entities, so that each byte counts: one word for all of it.
+    std::uint32_t openCount : 29;
+    std::uint32_t erased : 1;
+    std::uint32_t resident : 1; // 0: can be opened, but says that it is in no database
+    std::uint32_t hidden : 1;   // an entity that is not shown; conversions look at it only where asked to
+    drawing::DrawnAsIndex drawnAs = 0; // of an entity
 };
 
 namespace drawing {
@@ -48,6 +52,7 @@ struct Core {
     std::size_t maximumHatchLines = std::numeric_limits<std::int32_t>::max(); // numHatchLines counts no more
     std::uint64_t hatchesTooDense = 0; // evaluations that were given up for too many lines
     NamePool names;
+    DrawnAsPool drawnAs;
     OxDbStub unknown{*this, nullptr};
     // For ids of what the drawing refers to by a name that no table has.
     struct Missing : OxDbStub {

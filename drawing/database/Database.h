@@ -55,9 +55,9 @@ public:
     const std::wstring* MissingName(OxDbObjectId id) const;
 
     /// Marks the object as erased: it is then opened only where erased objects may be.
-    static void Erase(OxDbObjectId id) { id.stub()->erased = true; }
+    static void Erase(OxDbObjectId id) { id.stub()->erased = 1; }
     /// Lets the object answer that it is not resident; it can be opened as before.
-    static void MakeNonResident(OxDbObjectId id) { id.stub()->resident = false; }
+    static void MakeNonResident(OxDbObjectId id) { id.stub()->resident = 0; }
 
     /// Which calls fail, for tests; and how often objects were opened and closed so far.
     FailurePlan& Failures() { return core_->failures; }

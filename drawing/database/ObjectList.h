@@ -1,9 +1,12 @@
 // Objects that a container owns, in order, and the walk through them.
 #pragma once
 
+#include "drawing/database/Arena.h"
 #include "drawing/database/Core.h"
 
 #include <memory>
+#include <new>
+#include <utility>
 #include <vector>
 
 namespace drawing {
@@ -31,6 +34,39 @@ public:
     const std::vector<OxDbStub*>& Stubs() const { return stubs_; }
 
 private:
+    std::vector<OxDbStub*> stubs_;
+};
+
+/// Entities in order, side by side in memory, which go with the list.
+class EntityList {
+public:
+    EntityList() = default;
+    ~EntityList() {
+        for (const OxDbStub* const stub : stubs_) {
+            std::destroy_at(stub->object);
+        }
+    }
+    EntityList(const EntityList&) = delete;
+    EntityList& operator=(const EntityList&) = delete;
+
+    /// Makes an entity as the last one.
+    template <class T, class... Args>
+    T& Make(Args&&... args) {
+        void* const place = arena_.Allocate(sizeof(T), alignof(T));
+        std::unique_ptr<T, EndOnly> entity(new (place) T(std::forward<Args>(args)...));
+        stubs_.push_back(&entity->Stub());
+        return *entity.release();
+    }
+
+    /// In order of creation, erased ones too.
+    const std::vector<OxDbStub*>& Stubs() const { return stubs_; }
+
+private:
+    struct EndOnly { // the memory is the arena's
+        void operator()(OxDbObject* object) const { std::destroy_at(object); }
+    };
+
+    Arena arena_;
     std::vector<OxDbStub*> stubs_;
 };
 

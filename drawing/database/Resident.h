@@ -13,7 +13,7 @@ public:
     const OxRxClass* isA() const override { return Interface::desc(); }
     Oxsys::ErrorStatus close() override { return CloseObject(stub_); }
     OxDbObjectId objectId() const override { return OxDbObjectId(&stub_); }
-    bool isResident() const override { return stub_.resident && !stub_.erased; }
+    bool isResident() const override { return stub_.resident != 0 && stub_.erased == 0; }
 
     /// What the object's ids point to, and what it shares with the rest of its drawing.
     OxDbStub& Stub() const { return stub_; }
@@ -62,22 +62,29 @@ public:
         if (this->Fails(Operation::kEntityLayer, status)) {
             return nullptr;
         }
-        return AllocateText(this->SharedCore().names.Text(layer_));
+        return AllocateText(this->SharedCore().names.Text(Drawn().layer));
     }
-    OxCmColor color() const override { return color_; }
-    OxDb::LineWeight lineWeight() const override { return lineWeight_; }
+    OxCmColor color() const override { return Drawn().color; }
+    OxDb::LineWeight lineWeight() const override { return Drawn().lineWeight; }
     OxDbObjectId linetypeId() const override {
         Core& core = this->SharedCore();
-        return IdOrMissing(core, core.names.Things(linetype_).linetype, linetype_);
+        const NameIndex name = Drawn().linetype;
+        return IdOrMissing(core, core.names.Things(name).linetype, name);
     }
 
     /// What it was made with.
     EntityProperties Properties() const {
         const NamePool& names = this->SharedCore().names;
-        return {names.Text(layer_), color_, lineWeight_, names.Text(linetype_), this->Stub().hidden};
+        const DrawnAs& drawn = Drawn();
+        return {names.Text(drawn.layer), drawn.color, drawn.lineWeight, names.Text(drawn.linetype),
+                this->Stub().hidden != 0};
     }
     /// Before the drawing is converted.
-    void Recolor(const OxCmColor& color) { color_ = color; }
+    void Recolor(const OxCmColor& color) {
+        DrawnAs drawn = Drawn();
+        drawn.color = color;
+        this->Stub().drawnAs = this->SharedCore().drawnAs.Intern(drawn);
+    }
 
     // Drawings are open for reading.
     Oxsys::ErrorStatus setColor(const OxCmColor& /*color*/) override { return Oxsys::eNotApplicable; }
@@ -89,17 +96,15 @@ public:
 protected:
     template <class... Args>
     ResidentEntity(Core& core, const EntityProperties& properties, const Args&... args)
-        : Resident<Interface>(core, args...), layer_(core.names.Intern(properties.layer)),
-          linetype_(core.names.Intern(properties.linetype)), color_(properties.color),
-          lineWeight_(properties.lineWeight) {
-        this->Stub().hidden = properties.hidden;
+        : Resident<Interface>(core, args...) {
+        this->Stub().drawnAs =
+            core.drawnAs.Intern({core.names.Intern(properties.layer), core.names.Intern(properties.linetype),
+                                 properties.color, properties.lineWeight});
+        this->Stub().hidden = properties.hidden ? 1 : 0;
     }
 
 private:
-    NameIndex layer_;
-    NameIndex linetype_;
-    OxCmColor color_;
-    OxDb::LineWeight lineWeight_;
+    const DrawnAs& Drawn() const { return this->SharedCore().drawnAs.At(this->Stub().drawnAs); }
 };
 
 /// A curve: the failing reads of the interface over ones that cannot fail.

@@ -131,29 +131,29 @@ wchar_t* OxDbPolyline::layer() const {
 }
 
 OxCmColor OxDbPolyline::color() const {
-    return data_->color;
+    return data_->DrawnOrDefault().color;
 }
 
 OxDb::LineWeight OxDbPolyline::lineWeight() const {
-    return data_->lineWeight;
+    return data_->DrawnOrDefault().lineWeight;
 }
 
 OxDbObjectId OxDbPolyline::linetypeId() const {
-    return data_->linetypeId;
+    return data_->DrawnOrDefault().linetypeId;
 }
 
 Oxsys::ErrorStatus OxDbPolyline::setColor(const OxCmColor& color) {
-    data_->color = color;
+    data_->OwnDrawn().color = color;
     return Oxsys::eOk;
 }
 
 Oxsys::ErrorStatus OxDbPolyline::setLineWeight(OxDb::LineWeight lineWeight) {
-    data_->lineWeight = lineWeight;
+    data_->OwnDrawn().lineWeight = lineWeight;
     return Oxsys::eOk;
 }
 
 Oxsys::ErrorStatus OxDbPolyline::setLinetype(OxDbObjectId linetypeId) {
-    data_->linetypeId = linetypeId;
+    data_->OwnDrawn().linetypeId = linetypeId;
     return Oxsys::eOk;
 }
 

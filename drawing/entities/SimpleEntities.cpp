@@ -33,12 +33,17 @@ OxGePoint3d Line::PointAt(double parameter) const {
 }
 
 Arc::Arc(Core& core, const EntityProperties& properties, const ArcData& data)
-    : ResidentCurve(core, properties), data_(data) {}
+    : ResidentCurve(core, properties), center_(data.center), radius_(data.radius),
+      startAngle_(data.startAngle), endAngle_(data.endAngle) {
+    const OxGeVector3d usual = ArcData().normal;
+    if (data.normal.x != usual.x || data.normal.y != usual.y || data.normal.z != usual.z) {
+        normal_ = std::make_unique<const OxGeVector3d>(data.normal);
+    }
+}
 
 OxGePoint3d Arc::PointAt(double parameter) const {
-    const double cosine = data_.normal.z < 0.0 ? -std::cos(parameter) : std::cos(parameter);
-    return {data_.center.x + data_.radius * cosine, data_.center.y + data_.radius * std::sin(parameter),
-            data_.center.z};
+    const double cosine = normal().z < 0.0 ? -std::cos(parameter) : std::cos(parameter);
+    return {center_.x + radius_ * cosine, center_.y + radius_ * std::sin(parameter), center_.z};
 }
 
 Circle::Circle(Core& core, const EntityProperties& properties, const OxGePoint3d& center, double radius)

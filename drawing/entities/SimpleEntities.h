@@ -5,6 +5,7 @@
 #include "drawing/database/Resident.h"
 #include "drawing/entities/OtherShape.h"
 
+#include <memory>
 #include <string>
 
 namespace drawing {
@@ -53,21 +54,25 @@ struct ArcData {
 class OXDB_API Arc : public ResidentCurve<OxDbArc> {
 public:
     Arc(Core& core, const EntityProperties& properties, const ArcData& data);
-    OxGePoint3d center() const override { return data_.center; }
-    double radius() const override { return data_.radius; }
-    OxGeVector3d normal() const override { return data_.normal; }
+    OxGePoint3d center() const override { return center_; }
+    double radius() const override { return radius_; }
+    OxGeVector3d normal() const override { return normal_ ? *normal_ : ArcData().normal; }
     bool isClosed() const override { return false; }
 
     /// What it was made with.
-    const ArcData& Data() const { return data_; }
+    ArcData Data() const { return {center_, radius_, startAngle_, endAngle_, normal()}; }
 
 protected:
-    double StartParameter() const override { return data_.startAngle; }
-    double EndParameter() const override { return data_.endAngle; }
+    double StartParameter() const override { return startAngle_; }
+    double EndParameter() const override { return endAngle_; }
     OxGePoint3d PointAt(double parameter) const override;
 
 private:
-    ArcData data_;
+    OxGePoint3d center_;
+    double radius_;
+    double startAngle_;
+    double endAngle_;
+    std::unique_ptr<const OxGeVector3d> normal_; // of few: none is (0, 0, 1)
 };
 
 /// A circle; its parameter runs from 0 to 2π.

@@ -8,9 +8,9 @@ OxDbObjectId TextStyleId(Core& core, NameIndex name) {
                                          : IdOrMissing(core, core.names.Things(name).textStyle, name);
 }
 
-AttributeDefinition::AttributeDefinition(Core& core, const EntityProperties& properties, TextData data,
+AttributeDefinition::AttributeDefinition(Core& core, const EntityProperties& properties, const TextData& data,
                                          std::wstring tag, std::wstring prompt)
-    : TextLine(core, properties, std::move(data)), tag_(std::move(tag)), prompt_(std::move(prompt)) {}
+    : TextLine(core, properties, data), tag_(std::move(tag)), prompt_(std::move(prompt)) {}
 
 AttributeDefinition::~AttributeDefinition() = default;
 

@@ -4,6 +4,9 @@
 #include "OxDb/OxDbText.h"
 #include "drawing/database/Resident.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -22,38 +25,74 @@ struct TextData {
     std::optional<OxGePoint3d> alignmentPoint = std::nullopt; // that of the modes; none where it is not known
 };
 
+/// A text that takes no more room than its characters.
+class TightText {
+public:
+    explicit TightText(const std::wstring& text)
+        : characters_(new wchar_t[text.size() + 1]), size_(text.size()) {
+        std::copy_n(text.c_str(), size_ + 1, characters_.get());
+    }
+    const wchar_t* Characters() const { return characters_.get(); }
+    std::wstring Text() const { return {characters_.get(), size_}; }
+
+private:
+    std::unique_ptr<wchar_t[]> characters_;
+    std::size_t size_;
+};
+
 /// What single-line texts of both kinds do alike.
 template <class Interface>
 class TextLine : public ResidentEntity<Interface> {
 public:
     /// Nothing is checked.
-    TextLine(Core& core, const EntityProperties& properties, TextData data)
-        : ResidentEntity<Interface>(core, properties), style_(core.names.Intern(data.style)),
-          data_(std::move(data)) {
-        data_.style.clear(); // the name is kept once, in the pool
-        data_.style.shrink_to_fit();
+    TextLine(Core& core, const EntityProperties& properties, const TextData& data)
+        : ResidentEntity<Interface>(core, properties), position_(data.position), height_(data.height),
+          rotation_(data.rotation), text_(data.text), style_(core.names.Intern(data.style)) {
+        if (data.horizontalMode != OxDb::kTextLeft || data.verticalMode != OxDb::kTextBase ||
+            data.alignmentPoint) {
+            alignment_ = std::make_unique<const Alignment>(
+                Alignment{data.horizontalMode, data.verticalMode, data.alignmentPoint});
+        }
     }
 
     OxDbObjectId textStyle() const override;
-    double height() const override { return data_.height; }
-    double rotation() const override { return data_.rotation; }
-    OxGePoint3d position() const override { return data_.position; }
-    OxDb::TextHorzMode horizontalMode() const override { return data_.horizontalMode; }
-    OxDb::TextVertMode verticalMode() const override { return data_.verticalMode; }
-    bool hasAlignmentPoint() const override { return data_.alignmentPoint.has_value(); }
-    OxGePoint3d alignmentPoint() const override { return data_.alignmentPoint.value_or(data_.position); }
-    const wchar_t* textStringConst() const override { return data_.text.c_str(); }
+    double height() const override { return height_; }
+    double rotation() const override { return rotation_; }
+    OxGePoint3d position() const override { return position_; }
+    OxDb::TextHorzMode horizontalMode() const override { return Aligned().horizontalMode; }
+    OxDb::TextVertMode verticalMode() const override { return Aligned().verticalMode; }
+    bool hasAlignmentPoint() const override { return Aligned().point.has_value(); }
+    OxGePoint3d alignmentPoint() const override { return Aligned().point.value_or(position_); }
+    const wchar_t* textStringConst() const override { return text_.Characters(); }
 
     /// What it was made with.
     TextData Data() const {
-        TextData data = data_;
-        data.style = this->SharedCore().names.Text(style_);
-        return data;
+        const Alignment aligned = Aligned();
+        return {position_,
+                height_,
+                rotation_,
+                text_.Text(),
+                this->SharedCore().names.Text(style_),
+                aligned.horizontalMode,
+                aligned.verticalMode,
+                aligned.point};
     }
 
 private:
+    struct Alignment {
+        OxDb::TextHorzMode horizontalMode = OxDb::kTextLeft;
+        OxDb::TextVertMode verticalMode = OxDb::kTextBase;
+        std::optional<OxGePoint3d> point;
+    };
+
+    Alignment Aligned() const { return alignment_ ? *alignment_ : Alignment(); }
+
+    OxGePoint3d position_;
+    double height_;
+    double rotation_;
+    TightText text_;
+    std::unique_ptr<const Alignment> alignment_; // null where it is the usual one
     NameIndex style_;
-    TextData data_;
 };
 
 /// The id of a text style by the name that a text has for it.
@@ -74,8 +113,8 @@ public:
 class OXDB_API AttributeDefinition : public TextLine<OxDbAttributeDefinition> {
 public:
     /// `tag` names the text, `prompt` asks a person for it.
-    AttributeDefinition(Core& core, const EntityProperties& properties, TextData data, std::wstring tag,
-                        std::wstring prompt);
+    AttributeDefinition(Core& core, const EntityProperties& properties, const TextData& data,
+                        std::wstring tag, std::wstring prompt);
     ~AttributeDefinition() override;
 
     const wchar_t* tagConst() const override { return tag_.c_str(); }
