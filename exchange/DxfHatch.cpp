@@ -100,10 +100,13 @@ private:
         std::int32_t hasBulges = 0;
         std::int32_t isClosed = 0;
         std::int32_t count = 0;
-        if (Is(72) && !Integer(72, hasBulges)) {
-            return false;
+        // Multi-polygons have them the other way round.
+        while (Is(72) || Is(73)) {
+            if (!(Is(72) ? Integer(72, hasBulges) : Integer(73, isClosed))) {
+                return false;
+            }
         }
-        if ((Is(73) && !Integer(73, isClosed)) || !Count(93, count)) {
+        if (!Count(93, count)) {
             return false;
         }
         drawing::PolylineLoop polyline;
