@@ -37,7 +37,7 @@ styles::QgisOptions OptionsOf(const StyleJob& job) {
     styles::QgisOptions options;
     options.hatchUnit = job.hatchesInMillimetres ? styles::HatchUnit::kMillimetre : styles::HatchUnit::kMap;
     options.scale = job.scale;
-    if (!job.file.empty() && job.file != "standard input") {
+    if (!job.file.empty() && job.file != "standard input" && job.file != "standard output") {
         const std::wstring stem = platform::SplitPath(platform::PathFromBytes(job.file)).fileName;
         options.tags.push_back(platform::WideToValidUtf8(stem));
     }

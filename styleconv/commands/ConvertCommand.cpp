@@ -4,6 +4,7 @@
 #include "conversions/Linetypes.h"
 #include "conversions/Patterns.h"
 #include "styleconv/commands/Commands.h"
+#include "styleconv/commands/DrawingViewOptions.h"
 #include "styleconv/commands/Job.h"
 #include "styleconv/commands/ManyFiles.h"
 #include "styleconv/files/FileWalk.h"
@@ -21,7 +22,7 @@ namespace {
 using conversions::Conversion;
 using conversions::FileKind;
 
-struct ConvertOptions : CommonOptions, StyleOptions {
+struct ConvertOptions : CommonOptions, StyleOptions, DrawingViewOptions {
     std::vector<std::string> paths;
     WalkOptions walk;
     std::vector<std::string> layersToIgnore;
@@ -43,10 +44,11 @@ Conversion LinetypesOf(const ConvertOptions& options, conversions::Form form, co
 Conversion BlocksOf(const ConvertOptions& options, conversions::Form form, const InputFile& input,
                     conversions::Front& front) {
     conversions::BlocksOptions job;
+    static_cast<conversions::DrawingView&>(job) = ViewOf(options);
     job.layersToIgnore = WideTexts(options.layersToIgnore);
     job.tolerant = options.tolerant;
     job.fidelity = FidelityOf(options.faithful, options, form);
-    job.seenAs.leavesOutHidden = job.fidelity == encoding::Fidelity::kFaithful;
+    job.seenAs.leavesOutHidden = options.visibleOnly || job.fidelity == encoding::Fidelity::kFaithful;
     job.seenAs.drawsOthers = job.fidelity == encoding::Fidelity::kFaithful;
     return ConvertBlocks(input.ForJob(), job, front);
 }
@@ -114,11 +116,14 @@ void AddConvertCommand(CommandLine& line) {
     AddWalkOptions(command, options->walk);
     AddStyleOptions(command, *options);
     AddIgnoreLayerOption(command, options->layersToIgnore);
+    AddDrawingViewOptions(command, *options);
     AddTolerantOption(command, options->tolerant);
     AddFaithfulOption(command, options->faithful);
     AddAllOrNothingOption(command, options->allOrNothing);
     AddCodePageOption(command, options->codePage);
     AddCommonOptions(command, *options);
+    AddHatchUnitsOption(command, *options);
+    AddStyleScaleOption(command, *options);
     AddStrictSymbolsOption(command, *options);
 }
 

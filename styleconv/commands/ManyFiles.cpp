@@ -156,7 +156,9 @@ ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert,
         return kInputFault;
     }
     const auto front = FrontWithoutFiles(options.output.empty());
-    const std::string result = options.output.empty() ? "standard output" : options.output;
+    const std::string result = files.files.size() == 1  ? files.files.front()
+                               : options.output.empty() ? "standard output"
+                                                        : options.output;
     const ExitStatus written =
         WriteForm(options, result, [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
             return gathering.Write(form, files.tellsOrigins, sink, *front, &styles);

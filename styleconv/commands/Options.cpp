@@ -142,6 +142,11 @@ void AddStrictSymbolsOption(Command& command, CommonOptions& options) {
                     "With --format qgis: make styles of the required output, not as --faithful draws it");
 }
 
+void AddHatchUnitsOption(Command& command, CommonOptions& options) {
+    command.AddChoice("--hatch-units", options.style.hatchUnits, {"map", "mm"},
+                      "With --format qgis: repeat hatches in units of the map, or in mm of the page");
+}
+
 void AddStyleScaleOption(Command& command, CommonOptions& options) {
     AddScaleOption(command, "--scale", options.style.scale,
                    "With --format qgis: multiply all lengths by this (default: 1)");

@@ -78,6 +78,8 @@ void AddTolerantOption(Command& command, bool& tolerant);
 void AddFaithfulOption(Command& command, bool& faithful);
 /// Adds --strict-symbols to a converting command.
 void AddStrictSymbolsOption(Command& command, CommonOptions& options);
+/// Adds --hatch-units to a command that converts patterns.
+void AddHatchUnitsOption(Command& command, CommonOptions& options);
 /// Adds --scale to a command that scales nothing else.
 void AddStyleScaleOption(Command& command, CommonOptions& options);
 

@@ -84,8 +84,7 @@ void AddPatternsCommand(CommandLine& line) {
     AddCodePageOption(command, options->codePage);
     AddAllOrNothingOption(command, options->allOrNothing);
     AddCommonOptions(command, *options);
-    command.AddChoice("--hatch-units", options->style.hatchUnits, {"map", "mm"},
-                      "With --format qgis: repeat hatches in units of the map, or in mm of the page");
+    AddHatchUnitsOption(command, *options);
     AddStyleScaleOption(command, *options);
     AddStrictSymbolsOption(command, *options);
 }

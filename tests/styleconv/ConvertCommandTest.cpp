@@ -1,5 +1,6 @@
 // styleconv convert, and the converting commands on several files: one result, its origins and names, and
 // what is said at the end.
+#include "tests/support/DxfWriter.h"
 #include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ShapeProgramBuilder.h"
 #include "tests/support/ToolRun.h"
@@ -217,6 +218,49 @@ TEST_F(ConvertCommand, EveryConvertingCommandTakesSeveralFiles) {
     const std::string more = Write("b.shx", Marks());
     EXPECT_EQ(ValuesOf(RunTool({"glyphs", marks, more}).output, "name"),
               (Texts{"130 MARK", "130 MARK (" + more + ")"}));
+}
+
+// A part library: files without blocks, whose model space is the symbol.
+TEST_F(ConvertCommand, DrawingsAreSeenAsTheOptionsSay) {
+    DxfWriter blocks;
+    blocks.Text(0, "BLOCK").Text(2, "CORE").Point(10, 1, 0).Text(0, "LINE").Text(8, "0").Integer(62, 7);
+    blocks.Point(10, 1, 0).Point(11, 2, 0).Text(0, "ENDBLK");
+    DxfWriter entities;
+    entities.Text(0, "INSERT").Text(8, "0").Text(2, "CORE").Point(10, 5, 5);
+    entities.Text(0, "LINE").Text(8, "0").Integer(60, 1).Point(10, 0, 0).Point(11, 0, 9);
+    const auto section = [](const std::string& name, const DxfWriter& pairs) {
+        return DxfWriter().Text(0, "SECTION").Text(2, name).Append(pairs).Text(0, "ENDSEC");
+    };
+    const std::string file =
+        section("BLOCKS", blocks).Append(section("ENTITIES", entities)).Text(0, "EOF").Ascii();
+    Write("parts/valve.dxf", file);
+    Write("parts/pump.dxf", file);
+    Write("parts/brick.pat", kBrick);
+    const ToolResult result = RunTool({"convert", folder / "parts", "--model-space", "--expand",
+                                       "--visible-only", "--units", "inch", "--color-7", "black"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"BRICK", "pump", "valve"}));
+    const std::string line = "M 127.0,127.0 L 152.4,127.0"; // 5, 5 to 6, 5 in inches
+    EXPECT_EQ(ValuesOf(result.output, "geometry").size(), 3U);
+    EXPECT_EQ(ValuesOf(result.output, "geometry")[1], line);
+    EXPECT_EQ(ValuesOf(result.output, "geometry")[2], line);
+    EXPECT_NE(result.output.find("\"lineColor\": \"ff000000\""), std::string::npos);
+    EXPECT_EQ(Said(result).find("no unit"), std::string::npos);
+    EXPECT_EQ(RunTool({"convert", folder / "parts", "--model-space", "--format", "qgis"})
+                  .output.find("standard output"), // which is no tag
+              std::string::npos);
+    // As the command of drawings does.
+    EXPECT_EQ(RunTool({"convert", folder / "parts/pump.dxf", "--from-base-point", "--units", "mm"}).output,
+              RunTool({"blocks", folder / "parts/pump.dxf", "--from-base-point", "--units", "mm"}).output);
+    const Texts style = {"--format", "qgis", "--scale", "2"};
+    Texts some = {"convert", folder / "parts/pump.dxf", "--model-space", "--expand"};
+    some.insert(some.end(), style.begin(), style.end());
+    Texts same = some;
+    same[0] = "blocks";
+    EXPECT_EQ(RunTool(some).output, RunTool(same).output);
+    EXPECT_EQ(
+        RunTool({"convert", folder / "parts/brick.pat", "--format", "qgis", "--hatch-units", "mm"}).output,
+        RunTool({"patterns", folder / "parts/brick.pat", "--format", "qgis", "--hatch-units", "mm"}).output);
 }
 
 TEST_F(ConvertCommand, WhatGivesNothingWritesNothing) {
