@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace conversions {
@@ -26,6 +27,12 @@ struct Conversion {
     Captions captions;
     std::vector<diagnostics::Place> places; // where each of `owned` stands
     diagnostics::Diagnostics diagnostics;
+
+    /// Of a symbols document, in which symbols come from files of their own and may share names: what each of
+    /// `owned` was, and whether the document says so.
+    bool isDocument = false;
+    std::vector<std::string_view> kinds;
+    std::vector<bool> hasOrigin;
 
     /// Every symbol once, in their order.
     void UseAll() {

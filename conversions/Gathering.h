@@ -7,6 +7,7 @@
 #include "documents/SymbolsDocument.h"
 
 #include <cstddef>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -36,17 +37,21 @@ public:
                StyleJob* styles = nullptr) const;
 
 private:
+    bool IsOfOtherFidelity(const std::string& file, const Conversion& conversion);
+    void AddSymbols(const std::string& file, FileKind kind, Conversion conversion);
+    void AddNames(const std::string& file, Conversion& conversion);
     void KeepApart(TylModel::SymbolDefinition& symbol, const diagnostics::Place& place);
 
     Symbols owned_;
     std::vector<TylModel::SymbolDefinition*> symbols_;
     std::vector<documents::SymbolOrigin> origins_; // of each symbol
+    std::vector<bool> toldOrigins_;                // whether a document says so already
     Captions captions_;
     std::set<std::wstring> names_;
     std::vector<std::string> refused_;
     diagnostics::Diagnostics told_;
     std::size_t files_ = 0;
-    encoding::Fidelity fidelity_ = encoding::Fidelity::kStrict;
+    std::optional<encoding::Fidelity> fidelity_; // of symbols that can have either
 };
 
 } // namespace conversions

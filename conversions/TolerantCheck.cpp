@@ -4,6 +4,7 @@
 #include "conversions/Glyphs.h"
 #include "conversions/Linetypes.h"
 #include "conversions/Patterns.h"
+#include "conversions/SymbolsDocuments.h"
 
 #include <algorithm>
 
@@ -51,6 +52,8 @@ Conversion ConvertTolerantly(FileKind kind, const Input& input, const CheckOptio
         job.tolerant = true;
         return ConvertGlyphs(input, job, front);
     }
+    case FileKind::kSymbols:
+        return ConvertSymbols(input, true, front);
     case FileKind::kDrawing:
     case FileKind::kUnknown:
         break;

@@ -18,6 +18,7 @@ enum class Code : std::uint8_t {
     kNoPatterns,
     kNoShapes,
     kNoBlocks,
+    kNoSymbols,
     kOnlyModelSpace,
     kNoModelSpace,
     kMissingName,
@@ -25,6 +26,7 @@ enum class Code : std::uint8_t {
     kNothingConverted,
     kUnreadableFolder,
     kNameOfAnotherFile,
+    kOtherFidelity,
     // Linetype files: syntax. The subject is the line.
     kHeaderWithoutPattern,
     kIncompletePattern,

@@ -45,6 +45,8 @@ constexpr auto kRows = std::to_array<Row>({
      "the file has no shapes", "", ""},
     {Code::kNoBlocks, "no-blocks",
      "the drawing has no block to convert", "layouts and anonymous blocks are converted only by --name", ""},
+    {Code::kNoSymbols, "no-symbols",
+     "the document has no symbols", "", ""},
     {Code::kOnlyModelSpace, "only-model-space",
      "the drawing has no block to convert, but a model space with {0} entities", "--model-space converts it", ""},
     {Code::kNoModelSpace, "no-model-space",
@@ -59,6 +61,8 @@ constexpr auto kRows = std::to_array<Row>({
      "the folder cannot be read: {0}", "", ""},
     {Code::kNameOfAnotherFile, "name-of-another-file",
      "the name is already used by another symbol", "", "the file is added to it", true},
+    {Code::kOtherFidelity, "other-fidelity",
+     "its symbols are {0}, those of the files before {1}; convert it alone, or the others {2} --faithful", "", ""},
     // Linetype files: syntax. The subject is the line.
     {Code::kHeaderWithoutPattern, "header-without-pattern",
      "header without a pattern", "", ""},

@@ -17,6 +17,7 @@ Diagnostics CheckKind(FileKind kind, const Input& input, const CheckOptions& opt
     case FileKind::kShapes:
         return CheckShapes(input, front);
     case FileKind::kDrawing:
+    case FileKind::kSymbols:
     case FileKind::kUnknown:
         break;
     }

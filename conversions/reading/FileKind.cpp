@@ -26,6 +26,7 @@ constexpr KindWords kKinds[] = {
     {FileKind::kShapes, ".shx", "shape file", "glyphs"},
     {FileKind::kDrawing, ".json", "drawing", "blocks"},
     {FileKind::kDrawing, ".dxf", "drawing", "blocks"},
+    {FileKind::kSymbols, ".json", "symbols document", "convert"},
 };
 
 const KindWords& WordsOf(FileKind kind) {
@@ -82,6 +83,18 @@ FileKind KindOfText(std::string_view text) {
     return FileKind::kUnknown;
 }
 
+// By the format that it names, the first of several: others stand in its texts.
+FileKind KindOfDocument(std::string_view bytes) {
+    if (!platform::WithoutBlanks(bytes).starts_with('{')) {
+        return FileKind::kUnknown;
+    }
+    const std::size_t drawing = bytes.find("styleconversion/drawing");
+    const std::size_t symbols = bytes.substr(0, drawing).find("styleconversion/symbols");
+    return symbols != std::string_view::npos   ? FileKind::kSymbols
+           : drawing != std::string_view::npos ? FileKind::kDrawing
+                                               : FileKind::kUnknown;
+}
+
 diagnostics::Diagnostic WrongKind(const Input& input, FileKind kind, FileKind found, KindAdvice advice,
                                   Severity severity) {
     const KindWords& words = WordsOf(found);
@@ -111,9 +124,8 @@ FileKind KindByContents(std::string_view bytes) {
     if (bytes.starts_with("Vorlanx-86 ")) {
         return FileKind::kShapes;
     }
-    if (platform::WithoutBlanks(bytes).starts_with('{') &&
-        bytes.find("styleconversion/drawing") != std::string_view::npos) {
-        return FileKind::kDrawing;
+    if (const FileKind kind = KindOfDocument(bytes); kind != FileKind::kUnknown) {
+        return kind;
     }
     if (exchange::LooksLikeDxf(bytes)) {
         return FileKind::kDrawing;

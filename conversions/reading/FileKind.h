@@ -1,4 +1,4 @@
-// The four kinds of files, told apart by their names and by what is in them.
+// The kinds of files, told apart by their names and by what is in them.
 #pragma once
 
 #include "conversions/reading/Input.h"
@@ -9,7 +9,7 @@
 
 namespace conversions {
 
-enum class FileKind : std::uint8_t { kUnknown, kLinetypes, kPatterns, kShapes, kDrawing };
+enum class FileKind : std::uint8_t { kUnknown, kLinetypes, kPatterns, kShapes, kDrawing, kSymbols };
 
 /// By the end of the name: .lin, .pat, .shx, .json or .dxf, in upper or lower case.
 FileKind KindByName(std::string_view name);

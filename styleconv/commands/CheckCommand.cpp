@@ -1,4 +1,5 @@
 // styleconv check: errors and likely surprises in files.
+#include "conversions/SymbolsDocuments.h"
 #include "conversions/TolerantCheck.h"
 #include "conversions/checking/Check.h"
 #include "diagnostics/Sentences.h"
@@ -100,7 +101,8 @@ Diagnostics CheckOne(const CheckOptions& options, const std::string& path) {
         job.linetypes.drawing = drawing.ForJob();
     }
     const auto front = FrontFor(kind, path, options);
-    Diagnostics found = Check(kind, input.ForJob(options.codePage), job, *front);
+    Diagnostics found = kind == FileKind::kSymbols ? conversions::CheckSymbols(input.ForJob())
+                                                   : Check(kind, input.ForJob(options.codePage), job, *front);
     return options.tolerant && CountOf(found, Severity::kError) > 0
                ? Judged(path, kind, options.codePage, job, *front, std::move(found))
                : found;

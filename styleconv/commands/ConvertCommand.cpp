@@ -3,6 +3,7 @@
 #include "conversions/Glyphs.h"
 #include "conversions/Linetypes.h"
 #include "conversions/Patterns.h"
+#include "conversions/SymbolsDocuments.h"
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/DrawingViewOptions.h"
 #include "styleconv/commands/Job.h"
@@ -67,6 +68,8 @@ Conversion ConvertKind(const ConvertOptions& options, conversions::Form form, co
         job.tolerant = options.tolerant;
         return ConvertGlyphs(input.ForJob(options.codePage), job, front);
     }
+    case FileKind::kSymbols:
+        return ConvertSymbols(input.ForJob(), options.tolerant, front);
     case FileKind::kDrawing:
     case FileKind::kUnknown:
         break;

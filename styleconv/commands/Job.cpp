@@ -105,6 +105,8 @@ bool IsLocal(const Diagnostic& diagnostic) {
     case Code::kNoPatterns:
     case Code::kNoShapes:
     case Code::kNoBlocks:
+    case Code::kNoSymbols:
+    case Code::kOtherFidelity:
     case Code::kOnlyModelSpace:
     case Code::kNoModelSpace:
     case Code::kTooManyEntities:
@@ -147,6 +149,11 @@ std::optional<Diagnostic> OpenForKind(InputFile& input, const std::string& path,
                                       conversions::FileKind& kind) {
     kind = conversions::KindByName(path);
     auto problem = kind == conversions::FileKind::kDrawing ? input.Open() : input.Read();
+    if (!problem && kind == conversions::FileKind::kDrawing &&
+        conversions::KindByContents(input.Start()) == conversions::FileKind::kSymbols) {
+        kind = conversions::FileKind::kSymbols;
+        return input.Read();
+    }
     if (!problem && kind == conversions::FileKind::kUnknown && conversions::IsDrawing(input.ForJob().bytes)) {
         kind = conversions::FileKind::kDrawing;
     }

@@ -3,6 +3,7 @@
 #include "conversions/Glyphs.h"
 #include "conversions/Linetypes.h"
 #include "conversions/Patterns.h"
+#include "conversions/SymbolsDocuments.h"
 #include "conversions/reading/FileKind.h"
 #include "diagnostics/ShownText.h"
 #include "documents/ListDocument.h"
@@ -46,6 +47,8 @@ conversions::Listing ListKind(FileKind kind, const conversions::Input& input, bo
         return ListGlyphs(input, tolerant);
     case FileKind::kDrawing:
         return ListBlocks(input, tolerant);
+    case FileKind::kSymbols:
+        return ListSymbols(input, tolerant);
     case FileKind::kUnknown:
         break;
     }

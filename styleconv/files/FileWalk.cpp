@@ -39,7 +39,7 @@ bool IsOfKnownKind(const std::string& path) {
     std::array<char, 1 << 12> start{};
     const std::size_t size = std::fread(start.data(), 1, start.size(), file.get());
     const std::string_view bytes(start.data(), size);
-    return conversions::IsDxf(path, bytes) || conversions::IsDrawing(bytes);
+    return conversions::IsDxf(path, bytes) || conversions::KindByContents(bytes) != FileKind::kUnknown;
 }
 
 class FolderWalk {

@@ -37,6 +37,16 @@ std::optional<Diagnostic> InputFile::Open() {
     return IsStandardInput() ? std::nullopt : OpenNamed();
 }
 
+std::string InputFile::Start() const {
+    if (file_ == nullptr) {
+        return {};
+    }
+    std::array<char, 1 << 12> start{};
+    const std::size_t size = std::fread(start.data(), 1, start.size(), file_.get());
+    std::rewind(file_.get());
+    return {start.data(), size};
+}
+
 std::optional<Diagnostic> InputFile::Read() {
     if (std::optional<Diagnostic> problem = Open()) {
         return problem;

@@ -28,6 +28,8 @@ public:
 
     /// Opens the file, to be read as it comes. Gives what is wrong where it cannot.
     std::optional<diagnostics::Diagnostic> Open();
+    /// The first bytes of a file that is open, which is to be read from there still.
+    std::string Start() const;
     /// Opens it and reads it whole.
     std::optional<diagnostics::Diagnostic> Read();
 

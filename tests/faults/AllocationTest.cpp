@@ -2,6 +2,7 @@
 #include "StyleConversion/pattern/PatternConverter.h"
 #include "StyleConversion/platform/Files.h"
 #include "documents/DrawingReader.h"
+#include "documents/SymbolsReader.h"
 #include "exchange/DxfReader.h"
 #include "tests/faults/Documents.h"
 #include "tests/support/Allocations.h"
@@ -150,6 +151,22 @@ TEST(FailedAllocations, OfReadingADxfFileReachTheCaller) {
                   EXPECT_FALSE(notes.All().empty());
               }),
               60U);
+}
+
+TEST(FailedAllocations, OfReadingSymbolsReachTheCaller) {
+    const std::string text = R"({"format": "styleconversion/symbols", "version": 1, "symbols": [
+        {"type": "SimpleSymbolDefinition", "name": "a name that is too long for the room within a string",
+         "kind": "linetype", "source": {"file": "a", "line": 1}, "graphics": [{"type": "Path", "geometry": "M 0,0"}],
+         "parameters": [{"dataType": 7}], "lineUsage": {"repeat": "1"}},
+        {"type": "CompoundSymbolDefinition", "name": "", "symbols": [
+            {"type": "SimpleSymbolDefinition", "name": "", "graphics": [], "parameters": []}]}]})";
+    EXPECT_GE(FailEach([&] {
+                  documents::SymbolsOfDocument document;
+                  diagnostics::Diagnostics problems;
+                  EXPECT_TRUE(ReadSymbols(text, false, document, problems));
+                  EXPECT_EQ(document.symbols.size(), 2U);
+              }),
+              30U);
 }
 
 } // namespace
