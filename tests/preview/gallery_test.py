@@ -355,6 +355,8 @@ class Gallery(unittest.TestCase):
             self.pick(self.control(card, "LINECOLOR"), color)
             paper = self.picture(card).getpixel((5, 5))
             self.assertEqual(min(paper) > 150, light, (color, paper))
+            bar = card.find_element(By.CSS_SELECTOR, ".scale-bar")
+            self.assertGreaterEqual(browser.execute_script(CONTRAST, bar), 4.5, color)
 
     def test_dark_is_chosen_where_the_system_is_dark(self):
         for scheme in ("dark", "light"):
