@@ -100,6 +100,10 @@ bool WriteSymbols(const SymbolList& symbols, Form form, const TextSink& sink, Fr
         StyleJob unheard;
         return WriteAll(symbols, QgisStyles(sink, styles != nullptr ? *styles : unheard), front);
     }
+    case Form::kMaplibre: {
+        StyleJob unheard;
+        return WriteAll(symbols, MaplibreStyles(sink, styles != nullptr ? *styles : unheard), front);
+    }
     case Form::kSvg:
         break;
     }

@@ -16,20 +16,29 @@
 namespace conversions {
 
 enum class Form : std::uint8_t {
-    kJson, // the symbols document
-    kSvg,  // a picture of one symbol, a sheet of several
-    kHtml, // a gallery for the browser
-    kQgis, // a style library for QGIS
+    kJson,     // the symbols document
+    kSvg,      // a picture of one symbol, a sheet of several
+    kHtml,     // a gallery for the browser
+    kQgis,     // a style library for QGIS
+    kMaplibre, // a style of MapLibre
 };
 
 /// Takes the next piece of a result; false ends the writing.
 using TextSink = std::function<bool(std::string_view text)>;
+
+/// A file beside a result.
+struct StyleFile {
+    std::string name; // relative to the result, with /
+    std::string text;
+};
 
 /// How styles are made, and what there is to say about them.
 struct StyleJob {
     std::string file; // as messages call it
     bool hatchesInMillimetres = false;
     double scale = 1.0;
+    bool allowsApproximate = false;
+    std::vector<StyleFile> files;         // what the style needs beside it is added here
     diagnostics::Diagnostics diagnostics; // what styles do not say of the symbols is added here
 };
 

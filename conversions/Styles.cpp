@@ -4,7 +4,9 @@
 #include "StyleConversion/platform/Utf8.h"
 #include "conversions/reading/Shown.h"
 #include "styles/Limits.h"
+#include "styles/Numbers.h"
 
+#include <cmath>
 #include <utility>
 
 namespace conversions {
@@ -27,6 +29,20 @@ Code CodeOfLoss(styles::Loss loss) {
         return Code::kStyleAreaFill;
     case styles::Loss::kUnrepeated:
         return Code::kStyleUnrepeated;
+    case styles::Loss::kUprightMarks:
+        return Code::kStyleUprightMarks;
+    case styles::Loss::kFixedText:
+        return Code::kStyleFixedText;
+    case styles::Loss::kNoCell:
+        return Code::kStyleNoCell;
+    case styles::Loss::kLongRepeat:
+        return Code::kStyleLongRepeat;
+    case styles::Loss::kTooLarge:
+        return Code::kStyleTooLarge;
+    case styles::Loss::kTooDense:
+        return Code::kStyleTooDense;
+    case styles::Loss::kNoInk:
+        return Code::kStyleNoInk;
     case styles::Loss::kTooManyMarks:
         break;
     }
@@ -44,6 +60,31 @@ styles::QgisOptions OptionsOf(const StyleJob& job) {
     return options;
 }
 
+// What a loss's sentence speaks of.
+std::string SubjectOf(styles::Loss loss) {
+    return loss == styles::Loss::kTooManyMarks ? std::to_string(styles::kMostMarks)
+                                               : std::to_string(styles::kLargestPicture);
+}
+
+std::string ItemOf(TylModel::SymbolDefinition& symbol) {
+    return "symbol " + ShownText(symbol.GetName());
+}
+
+void TellOfName(const std::string& name, const std::string& item, StyleJob& job) {
+    job.diagnostics.push_back({Severity::kWarning,
+                               Code::kStyleRenamed,
+                               {job.file, 0, item},
+                               {ShownText(platform::Utf8ToWide(name))}});
+}
+
+void TellOfLosses(const styles::Losses& losses, const std::string& item, StyleJob& job) {
+    for (const styles::Loss loss : losses) {
+        // Nobody misses what every pattern has and the program's own buttons do.
+        const Severity severity = loss == styles::Loss::kTurningParts ? Severity::kNote : Severity::kWarning;
+        job.diagnostics.push_back({severity, CodeOfLoss(loss), {job.file, 0, item}, {SubjectOf(loss)}});
+    }
+}
+
 } // namespace
 
 QgisStyles::QgisStyles(const TextSink& sink, StyleJob& job) : job_(job), writer_(sink, OptionsOf(job)) {}
@@ -53,19 +94,34 @@ bool QgisStyles::Add(TylModel::SymbolDefinition& symbol) {
     if (!writer_.Add(symbol, added)) {
         return false;
     }
-    const std::string item = "symbol " + ShownText(symbol.GetName());
     if (added.isRenamed) {
-        job_.diagnostics.push_back({Severity::kWarning,
-                                    Code::kStyleRenamed,
-                                    {job_.file, 0, item},
-                                    {ShownText(platform::Utf8ToWide(added.name))}});
+        TellOfName(added.name, ItemOf(symbol), job_);
     }
-    for (const styles::Loss loss : added.losses) {
-        // Nobody misses what every pattern has and the program's own buttons do.
-        const Severity severity = loss == styles::Loss::kTurningParts ? Severity::kNote : Severity::kWarning;
+    TellOfLosses(added.losses, ItemOf(symbol), job_);
+    return true;
+}
+
+MaplibreStyles::MaplibreStyles(const TextSink& sink, StyleJob& job)
+    : job_(job), writer_(sink, {job.scale, job.allowsApproximate}) {}
+
+bool MaplibreStyles::Add(TylModel::SymbolDefinition& symbol) {
+    styles::AddedLayer added;
+    if (!writer_.Add(symbol, added)) {
+        return false;
+    }
+    if (added.isRenamed) {
+        TellOfName(added.name, ItemOf(symbol), job_);
+    }
+    TellOfLosses(added.picture.losses, ItemOf(symbol), job_);
+    if (added.pictureName.empty()) {
+        return true;
+    }
+    if (job_.allowsApproximate && added.picture.error > styles::kSeamless) {
+        const std::string error = styles::PlainNumber(std::round(added.picture.error * 100) / 100);
         job_.diagnostics.push_back(
-            {severity, CodeOfLoss(loss), {job_.file, 0, item}, {std::to_string(styles::kMostMarks)}});
+            {Severity::kWarning, Code::kStyleApproximate, {job_.file, 0, ItemOf(symbol)}, {error}});
     }
+    job_.files.push_back({"sprite/" + added.pictureName + ".svg", std::move(added.picture.svg)});
     return true;
 }
 

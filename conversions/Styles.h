@@ -2,6 +2,7 @@
 #pragma once
 
 #include "conversions/Forms.h"
+#include "styles/MaplibreStyle.h"
 #include "styles/QgisLibrary.h"
 
 namespace conversions {
@@ -19,6 +20,21 @@ public:
 private:
     StyleJob& job_;
     styles::QgisLibraryWriter writer_;
+};
+
+/// Writes the symbols that it is given to a style of MapLibre. The pictures that it shows are added to the
+/// job as files, and so is what it does not say of the symbols.
+class MaplibreStyles {
+public:
+    MaplibreStyles(const TextSink& sink, StyleJob& job);
+
+    /// Each is false when the sink refuses a text.
+    bool Add(TylModel::SymbolDefinition& symbol);
+    bool Finish() { return writer_.Finish(); }
+
+private:
+    StyleJob& job_;
+    styles::MaplibreStyleWriter writer_;
 };
 
 } // namespace conversions

@@ -196,6 +196,14 @@ enum class Code : std::uint8_t {
     kStyleAreaFill,
     kStyleUnrepeated,
     kStyleTooManyMarks,
+    kStyleUprightMarks,
+    kStyleFixedText,
+    kStyleNoCell,
+    kStyleLongRepeat,
+    kStyleTooLarge,
+    kStyleTooDense,
+    kStyleNoInk,
+    kStyleApproximate,
 };
 
 } // namespace diagnostics

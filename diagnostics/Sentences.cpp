@@ -390,7 +390,25 @@ constexpr auto kRows = std::to_array<Row>({
     {Code::kStyleUnrepeated, "style-unrepeated",
      "what does not repeat is not part of the style", "", ""},
     {Code::kStyleTooManyMarks, "style-too-many-marks",
-     "the style has only the first {0} dots and marks of a repeat", "", ""},});
+     "the style has only the first {0} dots and marks of a repeat", "", ""},
+    {Code::kStyleUprightMarks, "style-upright-marks",
+     "marks that stay upright turn with the line in the style", "", ""},
+    {Code::kStyleFixedText, "style-fixed-text",
+     "texts that come from attributes keep their defaults in the style", "", ""},
+    {Code::kStyleNoCell, "style-no-cell",
+     "no picture of at most {0} pixels repeats it; it is not part of the style",
+     "--allow-approximate takes the one that comes nearest", ""},
+    {Code::kStyleLongRepeat, "style-long-repeat",
+     "its parts repeat together in no picture of at most {0} pixels; it is not part of the style",
+     "--scale makes it smaller", ""},
+    {Code::kStyleTooLarge, "style-too-large",
+     "larger than a picture of {0} pixels; it is not part of the style", "--scale makes it smaller", ""},
+    {Code::kStyleTooDense, "style-too-dense",
+     "more strokes than a picture can show; it is not part of the style", "--scale makes it larger", ""},
+    {Code::kStyleNoInk, "style-no-ink",
+     "draws nothing; it is not part of the style", "", ""},
+    {Code::kStyleApproximate, "style-approximate",
+     "repeats in the style with an error of {0} pixels", "", ""},});
 // clang-format on
 
 constexpr bool RowsStandInTheOrderOfTheCodes() {

@@ -31,3 +31,4 @@ shown_step "Test debug" ctest --preset debug --progress
 shown_step "Test windows" ctest --preset windows --progress
 shown_step "Test release" ctest --preset release --progress -E '^host\.'
 shown_step "Styles in QGIS" scripts/qgis.sh
+shown_step "Styles in MapLibre" scripts/maplibre.sh

@@ -12,4 +12,10 @@ inline constexpr double kMostStrokes = 100'000;
 /// Layers of one line symbol that repeat a mark.
 inline constexpr std::size_t kMostMarks = 1'000;
 
+/// Pixels of a side of a picture that a map program repeats: it keeps the pictures of a style on one sheet.
+inline constexpr int kLargestPicture = 1'024;
+
+/// Strokes in one such picture. More leave no paper between them.
+inline constexpr double kMostPictureStrokes = 50'000;
+
 } // namespace styles

@@ -14,6 +14,13 @@ enum class Loss : std::uint8_t {
     kAreaFill,     // a filled shape that is repeated over an area
     kUnrepeated,   // a part of a line or an area that does not repeat
     kTooManyMarks, // marks of a line beyond what a program draws in reasonable time
+    kUprightMarks, // marks of a line that do not turn with it
+    kFixedText,    // a text that comes from an attribute
+    kNoCell,       // the symbol: nothing of a size that a picture may have repeats it
+    kLongRepeat,   // the symbol: a repeat of the line is larger than a picture may be
+    kTooLarge,     // the symbol: its picture is larger than a picture may be
+    kTooDense,     // the symbol: more strokes than a picture can show
+    kNoInk,        // the symbol: it draws nothing
 };
 
 /// Each once.

@@ -78,18 +78,6 @@ std::string_view TypeOf(Usage usage) {
 
 } // namespace
 
-// Importing lets a symbol replace another one of its name, of whatever kind.
-std::string QgisLibraryWriter::UniqueName(const std::wstring& wanted, bool& isRenamed) {
-    const std::string name = wanted.empty() ? "unnamed" : platform::WideToValidUtf8(wanted);
-    std::string unique = name;
-    int& number = lastNumbers_.try_emplace(name, 1).first->second;
-    while (!names_.insert(unique).second) {
-        unique = name + " (" + std::to_string(++number) + ")";
-    }
-    isRenamed = wanted.empty() || unique != name;
-    return unique;
-}
-
 std::string QgisLibraryWriter::TagsOf(std::string_view kind) const {
     std::string tags(kind);
     for (const std::string& tag : options_.tags) {
@@ -104,7 +92,10 @@ std::string QgisLibraryWriter::TagsOf(std::string_view kind) const {
 bool QgisLibraryWriter::Add(TylModel::SymbolDefinition& symbol, AddedStyle& added) {
     const ResolvedSymbol resolved = preview::Resolve(symbol);
     added = {};
-    added.name = UniqueName(resolved.name, added.isRenamed);
+    // Importing lets a symbol replace another one of its name, of whatever kind.
+    const std::string wanted = resolved.name.empty() ? "unnamed" : platform::WideToValidUtf8(resolved.name);
+    added.name = names_.Of(wanted);
+    added.isRenamed = resolved.name.empty() || added.name != wanted;
     std::string text(started_ ? std::string_view() : kLibraryHead);
     started_ = true;
     QgisXml xml(text);

@@ -4,10 +4,9 @@
 #include "TylModel/TylModel.h"
 #include "styles/Loss.h"
 #include "styles/QgisExpression.h"
+#include "styles/UniqueNames.h"
 
 #include <functional>
-#include <map>
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,13 +41,11 @@ public:
     bool Finish();
 
 private:
-    std::string UniqueName(const std::wstring& wanted, bool& isRenamed);
     std::string TagsOf(std::string_view kind) const;
 
     TextSink sink_;
     QgisOptions options_;
-    std::set<std::string> names_;
-    std::map<std::string, int> lastNumbers_; // behind names that were wanted again
+    UniqueNames names_{" (", ")"};
     bool started_ = false;
 };
 

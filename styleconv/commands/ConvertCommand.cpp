@@ -128,6 +128,7 @@ void AddConvertCommand(CommandLine& line) {
     AddHatchUnitsOption(command, *options);
     AddStyleScaleOption(command, *options);
     AddStrictSymbolsOption(command, *options);
+    AddApproximateOption(command, *options);
 }
 
 } // namespace styleconv

@@ -56,9 +56,10 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     }
     SayAll(glyphs.diagnostics);
     glyphs.captions.title = TitleOf(file);
-    return WriteForm(options, file, [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
-        return WriteGlyphs(glyphs, options, *form, sink, *front, &styles);
-    });
+    return WriteForm(options, *form, file,
+                     [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
+                         return WriteGlyphs(glyphs, options, *form, sink, *front, &styles);
+                     });
 }
 
 } // namespace

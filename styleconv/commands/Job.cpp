@@ -73,16 +73,34 @@ constexpr FormName kForms[] = {{"json", "", conversions::Form::kJson},
                                {"json", ".json", conversions::Form::kJson},
                                {"svg", ".svg", conversions::Form::kSvg},
                                {"html", ".html", conversions::Form::kHtml},
-                               {"qgis", ".xml", conversions::Form::kQgis}};
+                               {"qgis", ".xml", conversions::Form::kQgis},
+                               // A folder, whose name has no end of its own.
+                               {"maplibre", "/", conversions::Form::kMaplibre}};
+
+bool IsStyle(conversions::Form form) {
+    return form == conversions::Form::kQgis || form == conversions::Form::kMaplibre;
+}
 
 // Says what options of styles cannot be used with this form, or with each other.
-bool CheckStyleForm(const StyleFormOptions& style, conversions::Form form, bool faithful) {
-    const char* const alone = style.strictSymbols         ? "--strict-symbols"
-                              : style.hatchUnits != "map" ? "--hatch-units"
-                              : style.scale != 1.0        ? "--scale"
-                                                          : nullptr;
-    if (alone != nullptr && form != conversions::Form::kQgis) {
-        SayLine("styleconv: " + std::string(alone) + " can only be used with --format qgis");
+bool CheckStyleForm(const CommonOptions& options, conversions::Form form, bool faithful) {
+    const StyleFormOptions& style = options.style;
+    if (form == conversions::Form::kMaplibre && options.output.empty()) {
+        SayLine("styleconv: --format maplibre writes a folder: name it with -o");
+        return false;
+    }
+    const char* const ofStyles = style.strictSymbols  ? "--strict-symbols"
+                                 : style.scale != 1.0 ? "--scale"
+                                                      : nullptr;
+    if (ofStyles != nullptr && !IsStyle(form)) {
+        SayLine("styleconv: " + std::string(ofStyles) + " can only be used with --format qgis or maplibre");
+        return false;
+    }
+    if (style.hatchUnits != "map" && form != conversions::Form::kQgis) {
+        SayLine("styleconv: --hatch-units can only be used with --format qgis");
+        return false;
+    }
+    if (style.allowsApproximate && form != conversions::Form::kMaplibre) {
+        SayLine("styleconv: --allow-approximate can only be used with --format maplibre");
         return false;
     }
     if (style.strictSymbols && faithful) {
@@ -90,6 +108,28 @@ bool CheckStyleForm(const StyleFormOptions& style, conversions::Form form, bool 
         return false;
     }
     return true;
+}
+
+using WriteText = std::function<bool(const conversions::TextSink& sink)>;
+
+// Writes a style into a folder, last of all, behind the files that it needs.
+ExitStatus WriteFolder(const std::string& folder, const conversions::StyleJob& styles,
+                       const WriteText& write) {
+    std::string style;
+    if (!write([&](std::string_view text) {
+            style += text;
+            return true;
+        })) {
+        return kInputFault;
+    }
+    return MakeFolder(folder + "/sprite") &&
+                   std::all_of(styles.files.begin(), styles.files.end(),
+                               [&](const conversions::StyleFile& file) {
+                                   return WriteWholeFile(folder + "/" + file.name, file.text);
+                               }) &&
+                   WriteWholeFile(folder + "/style.json", style)
+               ? kDone
+               : kInputFault;
 }
 
 // Whether it is of a part of the file, so that the rest may be worth having.
@@ -207,20 +247,25 @@ ExitStatus Finish(const conversions::Conversion& conversion, const std::string& 
     SayAll(conversion.diagnostics);
     conversions::Captions captions = conversion.captions;
     captions.title = TitleOf(file);
-    return WriteForm(options, file, [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
-        return WriteSymbols(conversion.symbols, form, sink, front, conversion.fidelity, captions, &styles);
-    });
+    return WriteForm(options, form, file,
+                     [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
+                         return WriteSymbols(conversion.symbols, form, sink, front, conversion.fidelity,
+                                             captions, &styles);
+                     });
 }
 
 ExitStatus WriteForm(
-    const CommonOptions& options, const std::string& file,
+    const CommonOptions& options, conversions::Form form, const std::string& file,
     const std::function<bool(const conversions::TextSink& sink, conversions::StyleJob& styles)>& write) {
     conversions::StyleJob styles;
     styles.file = file == "-" ? "standard input" : file;
     styles.hatchesInMillimetres = options.style.hatchUnits == "mm";
     styles.scale = options.style.scale;
-    const ExitStatus status =
-        WriteResult(options.output, [&](const conversions::TextSink& sink) { return write(sink, styles); });
+    styles.allowsApproximate = options.style.allowsApproximate;
+    const auto writeResult = [&](const conversions::TextSink& sink) { return write(sink, styles); };
+    const ExitStatus status = form == conversions::Form::kMaplibre
+                                  ? WriteFolder(options.output, styles, writeResult)
+                                  : WriteResult(options.output, writeResult);
     MergeAlike(styles.diagnostics);
     SayAll(styles.diagnostics);
     return status;
@@ -233,8 +278,7 @@ std::optional<conversions::Form> FormOf(const CommonOptions& options, bool faith
                    [](char c) { return platform::AsciiLower(c); });
     for (const FormName& name : kForms) {
         if (options.format.empty() ? extension == name.extension : options.format == name.format) {
-            return CheckStyleForm(options.style, name.form, faithful) ? std::optional(name.form)
-                                                                      : std::nullopt;
+            return CheckStyleForm(options, name.form, faithful) ? std::optional(name.form) : std::nullopt;
         }
     }
     SayLine("styleconv: -o " + diagnostics::ShownText(options.output) +
@@ -243,9 +287,8 @@ std::optional<conversions::Form> FormOf(const CommonOptions& options, bool faith
 }
 
 encoding::Fidelity FidelityOf(bool faithful, const CommonOptions& options, conversions::Form form) {
-    return faithful || (form == conversions::Form::kQgis && !options.style.strictSymbols)
-               ? encoding::Fidelity::kFaithful
-               : encoding::Fidelity::kStrict;
+    return faithful || (IsStyle(form) && !options.style.strictSymbols) ? encoding::Fidelity::kFaithful
+                                                                       : encoding::Fidelity::kStrict;
 }
 
 } // namespace styleconv

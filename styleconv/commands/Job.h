@@ -58,9 +58,9 @@ ExitStatus Finish(const conversions::Conversion& conversion, const std::string& 
 std::optional<conversions::Form> FormOf(const CommonOptions& options, bool faithful = false);
 
 /// Writes by `write`, to which it gives how styles are made, and then says what those do not say of the
-/// symbols.
+/// symbols. A form of several files takes the output as their folder.
 ExitStatus
-WriteForm(const CommonOptions& options, const std::string& file,
+WriteForm(const CommonOptions& options, conversions::Form form, const std::string& file,
           const std::function<bool(const conversions::TextSink& sink, conversions::StyleJob& styles)>& write);
 
 /// What the options ask for: styles are made of faithful symbols where nobody says otherwise.

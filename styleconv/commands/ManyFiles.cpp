@@ -159,8 +159,8 @@ ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert,
     const std::string result = files.files.size() == 1  ? files.files.front()
                                : options.output.empty() ? "standard output"
                                                         : options.output;
-    const ExitStatus written =
-        WriteForm(options, result, [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
+    const ExitStatus written = WriteForm(
+        options, form, result, [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
             return gathering.Write(form, files.tellsOrigins, sink, *front, &styles);
         });
     return isComplete ? written : kInputFault;

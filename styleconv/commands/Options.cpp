@@ -100,8 +100,9 @@ void AddOutputOption(Command& command, std::string& output) {
 
 void AddCommonOptions(Command& command, CommonOptions& options) {
     AddOutputOption(command, options.output);
-    command.AddChoice("--format", options.format, {"json", "svg", "html", "qgis"},
-                      "Form of the result: json, svg, html or qgis (default: by the end of -o, else json)");
+    command.AddChoice(
+        "--format", options.format, {"json", "svg", "html", "qgis", "maplibre"},
+        "Form of the result: json, svg, html, qgis or maplibre (default: by the end of -o, else json)");
 }
 
 void AddNameOption(Command& command, std::vector<std::string>& names, const std::string& description) {
@@ -138,8 +139,14 @@ void AddFaithfulOption(Command& command, bool& faithful) {
 }
 
 void AddStrictSymbolsOption(Command& command, CommonOptions& options) {
-    command.AddFlag("--strict-symbols", options.style.strictSymbols,
-                    "With --format qgis: make styles of the required output, not as --faithful draws it");
+    command.AddFlag(
+        "--strict-symbols", options.style.strictSymbols,
+        "With --format qgis or maplibre: make styles of the required output, not as --faithful draws it");
+}
+
+void AddApproximateOption(Command& command, CommonOptions& options) {
+    command.AddFlag("--allow-approximate", options.style.allowsApproximate,
+                    "With --format maplibre: take hatches that no picture repeats without a seam, too");
 }
 
 void AddHatchUnitsOption(Command& command, CommonOptions& options) {
@@ -149,7 +156,7 @@ void AddHatchUnitsOption(Command& command, CommonOptions& options) {
 
 void AddStyleScaleOption(Command& command, CommonOptions& options) {
     AddScaleOption(command, "--scale", options.style.scale,
-                   "With --format qgis: multiply all lengths by this (default: 1)");
+                   "With --format qgis or maplibre: multiply all lengths by this (default: 1)");
 }
 
 void AddLimitOptions(Command& command, LimitOptions& options) {

@@ -44,6 +44,7 @@ struct StyleFormOptions {
     bool strictSymbols = false; // not those of --faithful
     std::string hatchUnits = "map";
     double scale = 1.0;
+    bool allowsApproximate = false; // of areas in styles that repeat pictures
 };
 
 /// Options that every command takes.
@@ -80,6 +81,8 @@ void AddFaithfulOption(Command& command, bool& faithful);
 void AddStrictSymbolsOption(Command& command, CommonOptions& options);
 /// Adds --hatch-units to a command that converts patterns.
 void AddHatchUnitsOption(Command& command, CommonOptions& options);
+/// Adds --allow-approximate to a command that converts areas.
+void AddApproximateOption(Command& command, CommonOptions& options);
 /// Adds --scale to a command that scales nothing else.
 void AddStyleScaleOption(Command& command, CommonOptions& options);
 

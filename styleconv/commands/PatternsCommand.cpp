@@ -87,6 +87,7 @@ void AddPatternsCommand(CommandLine& line) {
     AddHatchUnitsOption(command, *options);
     AddStyleScaleOption(command, *options);
     AddStrictSymbolsOption(command, *options);
+    AddApproximateOption(command, *options);
 }
 
 } // namespace styleconv

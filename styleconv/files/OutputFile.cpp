@@ -99,6 +99,20 @@ bool OutputFile::Commit() {
     return PutInPlace();
 }
 
+bool MakeFolder(const std::string& path) {
+    std::error_code error;
+    fs::create_directories(NativePath(path), error);
+    if (error) {
+        SayError(path, "cannot be made: " + error.message());
+    }
+    return !error;
+}
+
+bool WriteWholeFile(const std::string& path, std::string_view text) {
+    OutputFile file(path);
+    return file.Write(text) && file.Commit();
+}
+
 bool OutputFile::PutInPlace() {
     const std::lock_guard lock(FilesMutex());
     if (!temporary_.Path().empty()) {

@@ -37,4 +37,10 @@ private:
     TemporaryFile temporary_;
 };
 
+/// Makes a folder and those that it stands in. False after saying why not.
+bool MakeFolder(const std::string& path);
+
+/// Writes a file in one step. False after saying why not.
+bool WriteWholeFile(const std::string& path, std::string_view text);
+
 } // namespace styleconv

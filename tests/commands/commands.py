@@ -15,7 +15,7 @@ import sys
 import tempfile
 
 HERE = os.path.dirname(os.path.abspath(__file__))
-NO_COMMANDS = {"cpp", "cmake", "json", "text"}
+NO_COMMANDS = {"cpp", "cmake", "js", "json", "text"}
 
 # Where the commands of the tool run: a folder below the root's copy; the root itself where none is named.
 FOLDERS = {
@@ -33,7 +33,7 @@ OTHERS = [
     (r"scripts/windows\.sh", None, "scripts/test.sh does the same"),
     (r"scripts/msvc\.sh", None, "scripts/test.sh runs it"),
     (r"scripts/tidy\.sh( --all)?", None, "scripts/test.sh runs it; all takes half an hour"),
-    (r"scripts/qgis\.sh", None, "scripts/test.sh runs it"),
+    (r"scripts/(qgis|maplibre)\.sh", None, "scripts/test.sh runs it"),
     (r"scripts/(memcheck|cppcheck|threads)\.sh", None, "takes many minutes"),
     (r"scripts/fuzz\.sh \d+( \w+)?", None, "takes as long as it says"),
     (r"sudo apt-get install [a-z0-9 +-]+", "clone", [("sudo apt-get install", "apt-get install --simulate")]),

@@ -107,16 +107,56 @@ TEST(StyleFormats, WhatIsNotCarriedOverIsTold) {
               words + ": warning: lines under and over texts are not part of the style (symbol HOT)\n");
 }
 
+TEST(StyleFormats, AFolderHoldsTheStyleOfMapLibreAndItsPictures) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("walls.pat", "*LEVEL\n0, 0,0, 0,.125\n");
+    const ToolResult result = RunTool({"patterns", file, "--format", "maplibre", "-o", folder / "map"});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(result.output, "");
+    const std::string style = folder.Read("map/style.json");
+    EXPECT_TRUE(Has(style, "\"fill-pattern\": \"hatch-level\"")) << style;
+    EXPECT_TRUE(folder.Read("map/sprite/hatch-level.svg").starts_with("<svg xmlns="));
+    // Writing again replaces what is there.
+    EXPECT_EQ(RunTool({"patterns", file, "--format", "maplibre", "-o", folder / "map"}).status, 0);
+    EXPECT_EQ(folder.Read("map/style.json"), style);
+}
+
+TEST(StyleFormats, AStyleOfMapLibreNeedsAFolder) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*LEVEL\n0, 0,0, 0,.125\n");
+    const ToolResult nameless = RunTool({"patterns", file, "--format", "maplibre"});
+    EXPECT_EQ(nameless.status, 2);
+    EXPECT_EQ(nameless.errors, "styleconv: --format maplibre writes a folder: name it with -o\n");
+    EXPECT_EQ(RunTool({"patterns", file, "--format", "maplibre", "-o", file}).status, 1);
+}
+
+TEST(StyleFormats, WhatAStyleOfMapLibreLeavesOutIsTold) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("street.json", kRod);
+    const ToolResult result = RunTool({"blocks", file, "--format", "maplibre", "-o", folder / "map"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, file + ": warning: larger than a picture of 1024 pixels; it is not part of the "
+                                    "style; --scale makes it smaller (symbol ROD)\n");
+    const ToolResult small =
+        RunTool({"blocks", file, "--format", "maplibre", "--scale", "0.01", "-o", folder / "map"});
+    EXPECT_EQ(small.errors, "");
+    EXPECT_TRUE(Has(folder.Read("map/style.json"), "\"icon-image\": \"point-rod\""));
+}
+
 TEST(StyleFormats, OptionsOfStylesAreForStyles) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.pat", "*LEVEL\n0, 0,0, 0,.125\n");
-    for (const std::vector<std::string>& option : std::vector<std::vector<std::string>>{
-             {"--scale", "2"}, {"--hatch-units", "mm"}, {"--strict-symbols"}}) {
+    for (const std::vector<std::string>& option :
+         std::vector<std::vector<std::string>>{{"--scale", "2", "qgis or maplibre"},
+                                               {"--strict-symbols", "qgis or maplibre"},
+                                               {"--hatch-units", "mm", "qgis"},
+                                               {"--allow-approximate", "maplibre"}}) {
         std::vector<std::string> arguments = {"patterns", file};
-        arguments.insert(arguments.end(), option.begin(), option.end());
+        arguments.insert(arguments.end(), option.begin(), option.end() - 1);
         const ToolResult result = RunTool(arguments);
         EXPECT_EQ(result.status, 2);
-        EXPECT_EQ(result.errors, "styleconv: " + option.front() + " can only be used with --format qgis\n");
+        EXPECT_EQ(result.errors,
+                  "styleconv: " + option.front() + " can only be used with --format " + option.back() + "\n");
     }
     const ToolResult result = RunQgis({"patterns", file}, {"--faithful", "--strict-symbols"});
     EXPECT_EQ(result.status, 2);
