@@ -25,6 +25,7 @@ using namespace styleconv;
 
 void AddCommands(CommandLine& line, LimitOptions& limits, bool& quiet) {
     AddConvertCommand(line);
+    AddShowCommand(line);
     AddLinetypesCommand(line);
     AddPatternsCommand(line);
     AddBlocksCommand(line);

@@ -7,6 +7,7 @@ namespace styleconv {
 
 /// Each adds its command to the command line.
 void AddConvertCommand(CommandLine& line);
+void AddShowCommand(CommandLine& line);
 void AddLinetypesCommand(CommandLine& line);
 void AddPatternsCommand(CommandLine& line);
 void AddBlocksCommand(CommandLine& line);

@@ -1,20 +1,29 @@
-// styleconv convert: files of all kinds, and folders of them, to one result.
+// styleconv convert: files of all kinds, and folders of them, to one result; and styleconv show: the same to
+// a gallery that opens in the browser.
+#include "StyleConversion/platform/Files.h"
 #include "conversions/Blocks.h"
 #include "conversions/Glyphs.h"
 #include "conversions/Linetypes.h"
 #include "conversions/Patterns.h"
 #include "conversions/SymbolsDocuments.h"
+#include "diagnostics/ShownText.h"
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/DrawingViewOptions.h"
 #include "styleconv/commands/Job.h"
 #include "styleconv/commands/ManyFiles.h"
 #include "styleconv/files/FileWalk.h"
+#include "styleconv/files/Paths.h"
 #include "styleconv/files/ShapeSearch.h"
+#include "styleconv/process/Browser.h"
 #include "styleconv/process/Messages.h"
+#include "styleconv/process/Progress.h"
 
 #include <algorithm>
+#include <cctype>
+#include <filesystem>
 #include <memory>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 namespace styleconv {
@@ -109,26 +118,75 @@ ExitStatus Convert(const ConvertOptions& options) {
         [&](const std::string& file, FileKind kind) { return FrontOf(options, file, kind); }, options, *form);
 }
 
+// As a file of the gallery's folder may be called on every system.
+std::string PageName(const ConvertOptions& options) {
+    std::string name = options.paths.size() == 1 ? TitleOf(options.paths.front()) : "";
+    for (char& c : name) {
+        const auto byte = static_cast<unsigned char>(c);
+        c = byte < 0x80 && std::isalnum(byte) == 0 && c != '-' && c != '_' && c != '.' ? '_' : c;
+    }
+    return (name.empty() || name.front() == '.' ? "symbols" : name) + ".html";
+}
+
+ExitStatus Show(ConvertOptions& options) {
+    std::error_code error;
+    const std::filesystem::path folder = NewTemporaryFolder(error);
+    if (folder.empty()) {
+        SayLine("styleconv: show: no temporary folder can be made: " +
+                error.default_error_condition().message());
+        return kInputFault;
+    }
+    const std::filesystem::path page = folder / NativePath(PageName(options));
+    options.output = platform::PathToBytes(WidePath(page));
+    options.format = "html";
+    const ExitStatus status = Convert(options);
+    std::error_code ignored;
+    if (!std::filesystem::exists(page, ignored)) {
+        std::filesystem::remove(folder, ignored);
+        return status;
+    }
+    ClearProgress();
+    if (OpenInBrowser(page)) {
+        SayLine("styleconv: opened " + diagnostics::ShownText(options.output));
+        return status;
+    }
+    SayLine("styleconv: no browser was found; the page is");
+    const ExitStatus told = WriteResult(
+        "", [&](const conversions::TextSink& sink) { return sink(options.output) && sink("\n"); });
+    return told == kDone ? status : told;
+}
+
+void AddInputOptions(Command& command, ConvertOptions& options) {
+    command.AddFiles(options.paths, ".lin, .pat, .shx, .dxf, drawing and symbols .json files, and folders");
+    AddWalkOptions(command, options.walk);
+    AddStyleOptions(command, options);
+    AddIgnoreLayerOption(command, options.layersToIgnore);
+    AddDrawingViewOptions(command, options);
+    AddTolerantOption(command, options.tolerant);
+    AddFaithfulOption(command, options.faithful);
+    AddAllOrNothingOption(command, options.allOrNothing);
+    AddCodePageOption(command, options.codePage);
+}
+
 } // namespace
 
 void AddConvertCommand(CommandLine& line) {
     const auto options = std::make_shared<ConvertOptions>();
     Command command = line.AddCommand("convert", "Convert files of all kinds, and folders, to one result",
                                       [options] { return Convert(*options); });
-    command.AddFiles(options->paths, ".lin, .pat, .shx, .dxf and drawing .json files, and folders");
-    AddWalkOptions(command, options->walk);
-    AddStyleOptions(command, *options);
-    AddIgnoreLayerOption(command, options->layersToIgnore);
-    AddDrawingViewOptions(command, *options);
-    AddTolerantOption(command, options->tolerant);
-    AddFaithfulOption(command, options->faithful);
-    AddAllOrNothingOption(command, options->allOrNothing);
-    AddCodePageOption(command, options->codePage);
+    AddInputOptions(command, *options);
     AddCommonOptions(command, *options);
     AddHatchUnitsOption(command, *options);
     AddStyleScaleOption(command, *options);
     AddStrictSymbolsOption(command, *options);
     AddApproximateOption(command, *options);
+}
+
+void AddShowCommand(CommandLine& line) {
+    const auto options = std::make_shared<ConvertOptions>();
+    Command command = line.AddCommand("show", "Show the symbols of files, and folders, in the browser",
+                                      [options] { return Show(*options); });
+    AddInputOptions(command, *options);
 }
 
 } // namespace styleconv

@@ -5,7 +5,7 @@ import subprocess
 import sys
 import unittest
 
-COMMANDS = ("convert", "linetypes", "patterns", "blocks", "drawing", "glyphs", "list", "check")
+COMMANDS = ("convert", "show", "linetypes", "patterns", "blocks", "drawing", "glyphs", "list", "check")
 FIRST_SCREEN = 20  # lines
 
 
