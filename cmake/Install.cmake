@@ -17,7 +17,8 @@ set(public_headers
   StyleConversion/platform/Characters.h)
 # What fills a drawing in the model and hands it to a converter.
 if(STYLECONVERSION_HAS_OWN_MODELS)
-  foreach(header database/BlockReference database/Blocks database/CaseFolding database/Core database/Database
+  foreach(header database/Arena database/BlockReference database/Blocks database/CaseFolding database/Core
+          database/Database database/DrawnAs
           database/FailurePlan database/HostServices database/NamePool database/ObjectList database/Records
           database/Resident entities/Areas entities/CurveEntities entities/OtherShape entities/SimpleEntities
           entities/SplineCurves entities/Texts entities/WideSegments geometry/BulgeVertex geometry/Hatch
