@@ -43,6 +43,10 @@ std::string TextOf(const Symbols& symbols) {
     return text;
 }
 
+void RequireJson(const std::string& text) {
+    Require(nlohmann::json::accept(text), "a text that reads as JSON");
+}
+
 void RequireDocument(const std::string& text, std::size_t symbolCount) {
     const auto json = nlohmann::json::parse(text, nullptr, false);
     Require(!json.is_discarded() && json.at("symbols").size() == symbolCount,

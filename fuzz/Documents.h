@@ -23,6 +23,9 @@ Symbols ConvertBlocks(drawing::Database& database);
 /// The symbols document.
 std::string TextOf(const Symbols& symbols);
 
+/// Requires that the text is JSON.
+void RequireJson(const std::string& text);
+
 /// Requires that the text is a JSON document with so many symbols.
 void RequireDocument(const std::string& text, std::size_t symbolCount);
 

@@ -40,14 +40,22 @@ std::string Written(const documents::SymbolsOfDocument& document) {
 }
 
 void WriteInAllForms(const conversions::Conversion& conversion) {
-    for (const conversions::Form form :
-         {conversions::Form::kSvg, conversions::Form::kHtml, conversions::Form::kQgis}) {
+    for (const conversions::Form form : {conversions::Form::kSvg, conversions::Form::kHtml,
+                                         conversions::Form::kQgis, conversions::Form::kMaplibre}) {
         conversions::Front front;
         conversions::StyleJob styles;
-        const auto sink = [](std::string_view) { return true; };
+        styles.allowsApproximate = true;
+        std::string text;
+        const auto sink = [&](std::string_view piece) {
+            text += piece;
+            return true;
+        };
         Require(conversions::WriteSymbols(conversion.symbols, form, sink, front, conversion.fidelity, {},
                                           &styles),
                 "a form that can be written");
+        if (form == conversions::Form::kMaplibre) {
+            fuzzing::RequireJson(text);
+        }
     }
 }
 
