@@ -90,6 +90,7 @@ void AddBlocksCommand(CommandLine& line) {
     AddAllOrNothingOption(command, options->allOrNothing);
     AddCommonOptions(command, *options);
     AddStyleScaleOption(command, *options);
+    AddRestylingOptions(command, *options);
     AddStrictSymbolsOption(command, *options);
 }
 

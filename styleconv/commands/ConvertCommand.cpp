@@ -164,6 +164,7 @@ void AddInputOptions(Command& command, ConvertOptions& options) {
     AddDrawingViewOptions(command, options);
     AddTolerantOption(command, options.tolerant);
     AddFaithfulOption(command, options.faithful);
+    AddRestylingOptions(command, options);
     AddAllOrNothingOption(command, options.allOrNothing);
     AddCodePageOption(command, options.codePage);
 }

@@ -1,7 +1,7 @@
 // The options that say what of a drawing is converted, and how it is seen.
 #include "styleconv/commands/DrawingViewOptions.h"
 
-#include "StyleConversion/platform/Characters.h"
+#include "styleconv/commands/Options.h"
 
 #include <cstdint>
 #include <vector>
@@ -39,18 +39,11 @@ OxDb::UnitsValue DrawingUnitNamed(const std::string& name) {
     return OxDb::kUnitsUndefined;
 }
 
-// "black", "white" or "#rrggbb".
 std::string ReadColor(const std::string& text, std::optional<OxCmColor>& color) {
-    const std::string digits = text == "black" ? "#000000" : text == "white" ? "#ffffff" : text;
     std::uint32_t channels = 0;
-    bool isColor = digits.size() == 7 && digits.front() == '#';
-    for (std::size_t i = 1; isColor && i < digits.size(); ++i) {
-        const int digit = platform::HexDigitValue(digits[i]);
-        isColor = digit >= 0;
-        channels = channels << 4U | static_cast<std::uint32_t>(digit);
-    }
-    if (!isColor) {
-        return "black, white or #rrggbb";
+    std::string expected = ReadColorArgument(text, channels);
+    if (!expected.empty()) {
+        return expected;
     }
     color.emplace().setRGB(static_cast<std::uint8_t>(channels >> 16U & 0xffU),
                            static_cast<std::uint8_t>(channels >> 8U & 0xffU),

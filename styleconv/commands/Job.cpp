@@ -239,13 +239,30 @@ std::string TitleOf(const std::string& file) {
     return file == "-" ? "" : platform::WideToValidUtf8(parts.fileName + parts.extension);
 }
 
-ExitStatus Finish(const conversions::Conversion& conversion, const std::string& file, bool isTolerant,
+void SayRestyled(const conversions::RestyledCounts& counts, const conversions::Restyling& restyling) {
+    const auto say = [&](const std::string& option, std::size_t restyled, const std::string& kind) {
+        if (restyled < counts.symbols) {
+            SayLine("styleconv: " + option + " changes nothing in " +
+                    std::to_string(counts.symbols - restyled) + " of " + std::to_string(counts.symbols) +
+                    (counts.symbols == 1 ? " symbol" : " symbols") + ": no parameter is a " + kind);
+        }
+    };
+    if (restyling.color) {
+        say("--color", counts.colored, "colour");
+    }
+    if (restyling.weight) {
+        say("--weight", counts.weighted, "weight");
+    }
+}
+
+ExitStatus Finish(conversions::Conversion conversion, const std::string& file, bool isTolerant,
                   const CommonOptions& options, conversions::Form form, conversions::Front& front) {
     if (!conversion.isConverted) {
         return SayFailure(file, isTolerant, conversion.diagnostics);
     }
     SayAll(conversion.diagnostics);
-    conversions::Captions captions = conversion.captions;
+    SayRestyled(Restyle(conversion, options.restyling), options.restyling);
+    conversions::Captions captions = std::move(conversion.captions);
     captions.title = TitleOf(file);
     return WriteForm(options, form, file,
                      [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {

@@ -48,8 +48,11 @@ ExitStatus WriteResult(const std::string& output,
 /// What a page of symbols of that file is called.
 std::string TitleOf(const std::string& file);
 
+/// Says how many symbols have no parameter that the options could change.
+void SayRestyled(const conversions::RestyledCounts& counts, const conversions::Restyling& restyling);
+
 /// Says what a conversion told and writes its symbols.
-ExitStatus Finish(const conversions::Conversion& conversion, const std::string& file, bool isTolerant,
+ExitStatus Finish(conversions::Conversion conversion, const std::string& file, bool isTolerant,
                   const CommonOptions& options, conversions::Form form, conversions::Front& front);
 
 /// The form that was asked for, or else the one that the end of the output's name tells; documents where

@@ -89,6 +89,7 @@ void AddLinetypesCommand(CommandLine& line) {
     AddCodePageOption(command, options->codePage);
     AddAllOrNothingOption(command, options->allOrNothing);
     AddCommonOptions(command, *options);
+    AddRestylingOptions(command, *options);
     AddStrictSymbolsOption(command, *options);
 }
 

@@ -137,18 +137,21 @@ bool CheckSeveralFiles(const std::vector<std::string>& files, const std::string&
 ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert, const MakeFront& makeFront,
                         const CommonOptions& options, conversions::Form form) {
     conversions::Gathering gathering;
+    conversions::RestyledCounts restyled;
     for (std::size_t i = 0; i < files.files.size(); ++i) {
         NameProgress("File " + std::to_string(i + 1) + " of " + std::to_string(files.files.size()) + ", " +
                      Counted(gathering.SymbolCount(), "symbol") + ": ");
         FileKind kind = files.kind;
         Conversion conversion = ConvertOne(files.files[i], kind, convert, makeFront);
         conversion.captions.title = TitleOf(files.files[i]);
+        restyled.Add(Restyle(conversion, options.restyling));
         gathering.Add(files.files[i], kind, std::move(conversion));
     }
     NameProgress("");
     Diagnostics told = files.diagnostics;
     Append(told, gathering.Told());
     SayAll(told);
+    SayRestyled(restyled, options.restyling);
     SaySummary(files, gathering, told);
     const bool isComplete = gathering.Refused().empty() && files.diagnostics.empty();
     if (!gathering.HasSymbols() || (files.allOrNothing && !isComplete)) {

@@ -1,6 +1,7 @@
 #include "styleconv/commands/Options.h"
 
 #include "StyleConversion/encoding/NumberReader.h"
+#include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "styleconv/files/FileWalk.h"
 #include "styleconv/process/Messages.h"
@@ -38,6 +39,22 @@ bool ReadNumberArgument(std::string_view text, double& value) {
     }
     value = reading.value;
     return true;
+}
+
+std::string ReadColorArgument(const std::string& text, std::uint32_t& color) {
+    const std::string digits = text == "black" ? "#000000" : text == "white" ? "#ffffff" : text;
+    std::uint32_t channels = 0;
+    bool isColor = digits.size() == 7 && digits.front() == '#';
+    for (std::size_t i = 1; isColor && i < digits.size(); ++i) {
+        const int digit = platform::HexDigitValue(digits[i]);
+        isColor = digit >= 0;
+        channels = channels << 4U | static_cast<std::uint32_t>(digit);
+    }
+    if (!isColor) {
+        return "black, white or #rrggbb";
+    }
+    color = channels;
+    return "";
 }
 
 void AddNumberOption(Command& command, const std::string& name, double& value,
@@ -157,6 +174,28 @@ void AddHatchUnitsOption(Command& command, CommonOptions& options) {
 void AddStyleScaleOption(Command& command, CommonOptions& options) {
     AddScaleOption(command, "--scale", options.style.scale,
                    "With --format qgis or maplibre: multiply all lengths by this (default: 1)");
+}
+
+void AddRestylingOptions(Command& command, CommonOptions& options) {
+    const auto readColor = [&options](const std::string& text) {
+        std::uint32_t color = 0;
+        std::string expected = ReadColorArgument(text, color);
+        if (expected.empty()) {
+            options.restyling.color = color;
+        }
+        return expected;
+    };
+    const auto readWeight = [&options](const std::string& text) -> std::string {
+        double weight = 0.0;
+        if (!ReadNumberArgument(text, weight) || weight < 0.0) {
+            return "a number of millimetres, 0 or above";
+        }
+        options.restyling.weight = weight;
+        return "";
+    };
+    command.AddReader("--color", readColor, "COLOR",
+                      "Make this the default of all colour parameters: black, white or #rrggbb");
+    command.AddReader("--weight", readWeight, "MM", "Make this the default of all weight parameters");
 }
 
 void AddLimitOptions(Command& command, LimitOptions& options) {

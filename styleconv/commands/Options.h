@@ -1,8 +1,10 @@
 // The options that commands share.
 #pragma once
 
+#include "conversions/Restyling.h"
 #include "styleconv/commands/CommandLine.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +16,9 @@ struct WalkOptions;
 
 /// Reads `text` as one finite decimal number, whatever the locale. False where it is none.
 bool ReadNumberArgument(std::string_view text, double& value);
+
+/// Reads "black", "white" or "#rrggbb" as 0xrrggbb. Returns nothing, or what was expected.
+std::string ReadColorArgument(const std::string& text, std::uint32_t& color);
 
 /// Adds an option that takes one finite number.
 void AddNumberOption(Command& command, const std::string& name, double& value,
@@ -52,6 +57,7 @@ struct CommonOptions {
     std::string output; // a path; standard output when empty
     std::string format; // where it is empty, the end of the output's name tells
     StyleFormOptions style;
+    conversions::Restyling restyling;
 };
 
 /// Adds --include and --exclude to a command that takes folders.
@@ -85,6 +91,9 @@ void AddHatchUnitsOption(Command& command, CommonOptions& options);
 void AddApproximateOption(Command& command, CommonOptions& options);
 /// Adds --scale to a command that scales nothing else.
 void AddStyleScaleOption(Command& command, CommonOptions& options);
+
+/// Adds --color and --weight to a command whose symbols have parameters.
+void AddRestylingOptions(Command& command, CommonOptions& options);
 
 /// Adds --time-limit and --memory-limit to a command.
 void AddLimitOptions(Command& command, LimitOptions& options);

@@ -86,6 +86,7 @@ void AddPatternsCommand(CommandLine& line) {
     AddCommonOptions(command, *options);
     AddHatchUnitsOption(command, *options);
     AddStyleScaleOption(command, *options);
+    AddRestylingOptions(command, *options);
     AddStrictSymbolsOption(command, *options);
     AddApproximateOption(command, *options);
 }
