@@ -1,10 +1,16 @@
 #!/usr/bin/env bash
 # Shows the styles of all examples in MapLibre, in a browser without a window, and compares what it shows with drawings of
 # the same symbols: maplibre.sh [STYLECONV]. What it needs comes by npm: without it this is skipped, unless CI is set.
+# "scripts/maplibre.sh --pictures" takes the pictures of docs/maplibre.md anew.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/packages.sh
 
+pictures=()
+if [ "${1:-}" = --pictures ]; then
+  pictures=(docs)
+  shift
+fi
 tool=${1:-build/release/bin/styleconv}
 packages=(maplibre-gl@5.24.1) # and the validator, which it depends on
 modules=build/maplibre
@@ -19,4 +25,4 @@ install_packages chromium chromium-driver python3-selenium python3-numpy python3
 
 mkdir -p "$modules"
 npm install --prefix "$modules" --no-save --no-audit --no-fund --loglevel=error "${packages[@]}"
-timeout 300 /usr/bin/python3 -B tests/maplibre/maplibre_test.py "$tool" examples "$modules/node_modules"
+timeout 300 /usr/bin/python3 -B tests/maplibre/maplibre_test.py "$tool" examples "$modules/node_modules" "${pictures[@]}"

@@ -1,11 +1,13 @@
 """Shows the styles of all examples in MapLibre, in a browser without a window, and compares what it shows with drawings
-of the same symbols: maplibre_test.py STYLECONV EXAMPLES NODE_MODULES"""
+of the same symbols: maplibre_test.py STYLECONV EXAMPLES NODE_MODULES. With a folder behind them it takes the pictures of
+docs/maplibre.md instead, into that folder."""
 import base64
 import functools
 import glob
 import http.server
 import io
 import json
+import math
 import os
 import re
 import subprocess
@@ -35,9 +37,9 @@ PAGE = f"""<!DOCTYPE html>
 """
 
 SHOW = """
-const [style, done] = [arguments[0], arguments[1]];
+const [style, center, done] = arguments;
 style.sprite = new URL('sprite', location.href).href;
-const map = new maplibregl.Map({container: 'map', style, center: [0, 0], zoom: 2, fadeDuration: 0,
+const map = new maplibregl.Map({container: 'map', style, center, zoom: 2, fadeDuration: 0,
   interactive: false, attributionControl: false, canvasContextAttributes: {preserveDrawingBuffer: true}});
 const errors = [];
 map.on('error', event => errors.push(String(event.error)));
@@ -45,9 +47,14 @@ map.once('idle', () => done({errors, picture: map.getCanvas().toDataURL()}));
 """
 
 
-def lonlat(x, y):
+# The world's pixels in the middle of a map: where four tiles meet, and in the middle of one, in which a line begins once.
+CROSSING = (WORLD / 2, WORLD / 2)
+TILE = (WORLD / 2 + 256, WORLD / 2 - 256)
+
+
+def lonlat(x, y, middle=CROSSING):
     """Of a pixel of the map, from its upper left corner."""
-    across, down = (x - SIZE / 2) / WORLD, (y - SIZE / 2) / WORLD
+    across, down = ((at + m - SIZE / 2) / WORLD - 0.5 for at, m in ((x, middle[0]), (y, middle[1])))
     latitude = numpy.degrees(2 * numpy.arctan(numpy.exp(-2 * numpy.pi * down)) - numpy.pi / 2)
     return [360 * across, float(latitude)]
 
@@ -136,8 +143,8 @@ class Styles(unittest.TestCase):
         self.assertNotEqual(result.returncode, 0)
 
 
-class Maps(unittest.TestCase):
-    """What the real renderer shows."""
+class Browser(unittest.TestCase):
+    """Shows maps in the real renderer."""
 
     @classmethod
     def setUpClass(cls):
@@ -159,18 +166,22 @@ class Maps(unittest.TestCase):
         cls.browser.quit()
         cls.server.shutdown()
 
-    def show(self, style, symbol, geometry, **properties):
+    def show(self, style, symbol, geometry, middle=CROSSING, **properties):
         """The map of one feature with that symbol, on white."""
+        center = lonlat(SIZE / 2, SIZE / 2, middle)
         style = dict(style, layers=[{"id": "paper", "type": "background", "paint": {"background-color": "#fff"}}] +
                      [layer for layer in style["layers"] if layer["id"] == symbol])
+        self.assertEqual(len(style["layers"]), 2, symbol)
         style["sources"]["features"]["data"] = {
             "type": "Feature", "geometry": geometry, "properties": dict(properties, symbol=symbol)}
         self.browser.get(f"http://127.0.0.1:{self.server.server_address[1]}/index.html")
-        result = self.browser.execute_async_script(SHOW, style)
+        result = self.browser.execute_async_script(SHOW, style, center)
         self.assertEqual(result["errors"], [])
         png = base64.b64decode(result["picture"].split(",")[1])
         return numpy.asarray(Image.open(io.BytesIO(png)).convert("RGB")).copy()
 
+
+class Maps(Browser):
     def test_hatches_look_as_the_pattern_says(self):
         measured = 0
         for file in sorted(glob.glob(os.path.join(examples, "patterns", "*.pat"))):
@@ -233,6 +244,31 @@ class Maps(unittest.TestCase):
                 measured += 1
         self.assertGreaterEqual(measured, 2)
 
+    def test_linetypes_look_as_the_definition_says(self):
+        worst = []
+        styles = ["--shapes", f"{examples}/shapes", "--drawing", f"{examples}/linetypes/styles.json"]
+        for file in sorted(glob.glob(os.path.join(examples, "linetypes", "*.lin"))):
+            symbols = convert("linetypes", file, site, *styles)
+            make_sheet(site)
+            style = read_style(site)
+            ids = {layer["id"] for layer in style["layers"]}
+            for symbol in symbols:
+                if symbol["name"] not in ids or painter.has_text(symbol):
+                    continue
+                ends = [(20, 200), (380, 200)]
+                geometry = {"type": "LineString", "coordinates": [lonlat(x, y, TILE) for x, y in ends]}
+                shown = self.show(style, symbol["name"], geometry, TILE)
+                sheet = painter.Sheet(SIZE, PIXELS)
+                painter.paint_line(sheet, symbol, painter.Way(ends), PIXELS)
+                picture = sheet.paint()
+                # What reaches over an end is cut in one and whole in the other.
+                for image in (shown, picture):
+                    image[:, :40] = image[:, -40:] = 255
+                worst.append((painter.off(shown, picture), symbol["name"]))
+        print("Off along lines:", ", ".join(f"{name} {share:.1%}" for share, name in sorted(worst, reverse=True)))
+        self.assertGreater(len(worst), 5)
+        self.assertLess(max(worst)[0], 0.01)
+
     def test_what_stands_above_a_line_is_shown_above_it(self):
         file = os.path.join(folder, "above.lin")
         with open(file, "w", encoding="utf-8") as stream:
@@ -258,6 +294,41 @@ class Maps(unittest.TestCase):
         self.assertAlmostEqual(share, 8 / 12, delta=0.06)
 
 
+class Pictures(Browser):
+    """Maps of three symbols side by side."""
+
+    def strip(self, name, maps):
+        image = Image.new("RGB", (900, 300), "white")
+        for i, shown in enumerate(maps):
+            image.paste(Image.fromarray(shown).crop((50, 50, 350, 350)), (i * 300, 0))
+        image.quantize(32).save(os.path.join(pictures, name), optimize=True)
+
+    def maps(self, command, file, options, geometry, names):
+        convert(command, os.path.join(examples, file), site, *options)
+        make_sheet(site)
+        return [self.show(read_style(site), name, geometry, TILE) for name in names]
+
+    def test_takes_pictures(self):
+        def placed(points):
+            return [lonlat(x, y, TILE) for x, y in points]
+
+        rings = [[(70, 90), (310, 70), (330, 280), (200, 335), (80, 310), (70, 90)],
+                 [(160, 170), (240, 160), (205, 250), (160, 170)]]
+        area = {"type": "Polygon", "coordinates": [placed(ring) for ring in rings]}
+        hatches = []
+        for name, scale in (("brick", 4), ("herringbone", 4), ("plank", 4)):
+            hatches += self.maps("patterns", f"patterns/{name}.pat", ["--scale", str(scale)], area, [name.upper()])
+        self.strip("maplibre-hatches.png", hatches)
+        way = [(70 + 2 * i, 200 + 80 * math.sin(i / 20)) for i in range(131)]
+        line = {"type": "LineString", "coordinates": placed(way)}
+        styles = ["--shapes", f"{examples}/shapes", "--drawing", f"{examples}/linetypes/styles.json"]
+        self.strip("maplibre-lines.png", self.maps("linetypes", "linetypes/complex.lin", styles, line,
+                                                   ["FENCE", "RAILWAY", "GAS_MAIN"]))
+        points = {"type": "MultiPoint", "coordinates": placed([(130, 200), (270, 200)])}
+        self.strip("maplibre-blocks.png", self.maps("blocks", "drawings/street-furniture.dxf", ["--scale", "0.01"],
+                                                    points, ["BENCH", "LAMP", "SIGN"]))
+
+
 class Quiet(http.server.SimpleHTTPRequestHandler):
     def log_message(self, *arguments):
         pass
@@ -265,7 +336,8 @@ class Quiet(http.server.SimpleHTTPRequestHandler):
 
 if __name__ == "__main__":
     styleconv, examples, modules = (os.path.abspath(path) for path in sys.argv[1:4])
-    del sys.argv[1:4]
+    pictures = os.path.abspath(sys.argv[4]) if len(sys.argv) > 4 else None
+    sys.argv[1:] = ["Pictures"] if pictures else ["Styles", "Maps"]
     with tempfile.TemporaryDirectory() as folder:
         site = os.path.join(folder, "site")
         os.makedirs(site)
