@@ -54,9 +54,11 @@ public:
         measure_.parts = faithful_.paths.size() + faithful_.texts.size();
         size_ = std::max(faithful_.all.Width(), faithful_.all.Height());
         if (size_ > 0.0 && std::isfinite(size_)) {
+            const double little = kLittle * size_;
+            farthest_ = little;
             ComparePaths();
             CompareTexts();
-            measure_.share = farthest_ / size_;
+            measure_.share = farthest_ > little ? farthest_ / size_ : 0.0;
         }
         return measure_;
     }
@@ -81,7 +83,7 @@ private:
     // Paths that are built alike. They may still start elsewhere, which is no miss of their points.
     void CompareAlike(const PathPart& strict, const PathPart& faithful) {
         double distance = 0.0;
-        double cutDistance = kLittle * size_;
+        double cutDistance = farthest_;
         CutNumber number;
         for (std::size_t i = 0; i < strict.outline.Points().size(); ++i) {
             const Point written = strict.outline.Points()[i];
@@ -96,7 +98,7 @@ private:
             }
         }
         const double before = farthest_;
-        if (distance <= std::max(kLittle * size_, cutDistance)) {
+        if (distance <= cutDistance) {
             TakeDistance(distance, false);
         } else {
             CompareShapes({&strict}, {&faithful});
@@ -136,17 +138,16 @@ private:
             return exact.IsEmpty();
         }
         double distance = Distance(written, exact);
-        if (distance > kLittle * size_ && CanCompareWithAll()) {
-            distance = std::min(distance, std::max(FarthestFrom(*allWritten_, exact, kLittle * size_),
-                                                   FarthestFrom(*allExact_, written, kLittle * size_)));
+        if (distance > farthest_ && CanCompareWithAll()) {
+            distance = std::min(distance, std::max(FarthestFrom(*allWritten_, exact, farthest_),
+                                                   FarthestFrom(*allExact_, written, farthest_)));
         }
         TakeDistance(distance, false);
         return true;
     }
 
     double Distance(const PathLines& written, const PathLines& exact) const {
-        return std::max(FarthestFrom(written, exact, kLittle * size_),
-                        FarthestFrom(exact, written, kLittle * size_));
+        return std::max(FarthestFrom(written, exact, farthest_), FarthestFrom(exact, written, farthest_));
     }
 
     // In a large block only some parts are.
@@ -200,7 +201,7 @@ private:
         return true;
     }
 
-    static constexpr double kLittle = 1e-3; // of the size
+    static constexpr double kLittle = 0.5 * kWarningShare; // of the size
 
     const BlockParts& strict_;
     const BlockParts& faithful_;
@@ -208,7 +209,7 @@ private:
     std::optional<PathLines> allExact_;
     std::size_t linesLeft_ = 1000000; // to be compared with parts
     double size_ = 0.0;
-    double farthest_ = 0.0;
+    double farthest_ = 0.0; // what is not farther changes nothing
     BlockMeasure measure_;
 };
 

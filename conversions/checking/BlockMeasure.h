@@ -19,7 +19,7 @@ struct BlockMeasure {
 
 /// Compares the strict and the faithful symbol of one block: paths by their points or, where they are built
 /// otherwise, by points along each and their distances from the other; texts by the boxes that they take.
-/// What is out of place by less than a thousandth of the block's size may count as in place.
+/// What is out of place by less than half of kWarningShare counts as in place.
 BlockMeasure MeasureBlock(TylModel::SymbolDefinition& strict, TylModel::SymbolDefinition& faithful);
 
 } // namespace conversions

@@ -26,17 +26,17 @@ Point PointOn(const Line& line, double t) {
 // Asks for the distances of points that follow one another, and so are mostly nearest to the same line.
 class NearestLine {
 public:
-    NearestLine(const std::vector<Line>& lines, double little) : lines_(lines), little_(little) {}
+    explicit NearestLine(const std::vector<Line>& lines) : lines_(lines) {}
 
-    // 0 where it is little.
-    double DistanceOf(const Point& point) {
+    // No more than `enough` where a line is as near as that.
+    double DistanceOf(const Point& point, double enough) {
         double nearest = HUGE_VAL;
         for (std::size_t i = 0; i < lines_.size(); ++i) {
             const std::size_t at = start_ + i < lines_.size() ? start_ + i : start_ + i - lines_.size();
             nearest = std::min(nearest, DistanceFrom(lines_[at], point));
-            if (nearest <= little_) {
+            if (nearest <= enough) {
                 start_ = at;
-                return 0.0;
+                return nearest;
             }
         }
         return nearest;
@@ -44,7 +44,6 @@ public:
 
 private:
     const std::vector<Line>& lines_;
-    double little_;
     std::size_t start_ = 0;
 };
 
@@ -59,7 +58,7 @@ PathLines::PathLines(const std::vector<const preview::PathPart*>& paths, As as) 
 }
 
 void PathLines::Append(const preview::Outline& outline) {
-    constexpr int kChords = 16;
+    constexpr int kChords = 8;
     preview::ForEachPiece(
         outline,
         [&](Point from, Point to, bool startsHere) {
@@ -97,7 +96,7 @@ void PathLines::Close() {
     start_.reset();
 }
 
-double FarthestFrom(const PathLines& others, const PathLines& lines, double little) {
+double FarthestFrom(const PathLines& others, const PathLines& lines, double known) {
     constexpr std::size_t kPoints = 64;
     constexpr std::size_t kMostComparisons = 250000; // before only kPoints are asked for
     double total = 0.0;
@@ -106,20 +105,23 @@ double FarthestFrom(const PathLines& others, const PathLines& lines, double litt
     }
     const double step = total / static_cast<double>(kPoints);
     if (!(step > 0.0) || !std::isfinite(step)) {
-        return 0.0;
+        return known;
     }
     const bool takesEach = lines.Lines().size() <= kMostComparisons / others.Lines().size();
-    NearestLine nearest(others.Lines(), little);
+    NearestLine nearest(others.Lines());
     double next = 0.5 * step;
     double before = 0.0;
-    double farthest = 0.0;
+    double farthest = known;
+    const auto look = [&](const Point& point) {
+        farthest = std::max(farthest, nearest.DistanceOf(point, farthest));
+    };
     for (const Line& line : lines.Lines()) {
         const double length = preview::Length(line.to - line.from);
         for (int i = 0; takesEach && i <= 2; ++i) {
-            farthest = std::max(farthest, nearest.DistanceOf(PointOn(line, 0.5 * i)));
+            look(PointOn(line, 0.5 * i));
         }
         for (; length > 0.0 && next <= before + length; next += step) {
-            farthest = std::max(farthest, nearest.DistanceOf(PointOn(line, (next - before) / length)));
+            look(PointOn(line, (next - before) / length));
         }
         before += length;
     }

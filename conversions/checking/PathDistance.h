@@ -8,7 +8,7 @@
 
 namespace conversions {
 
-/// The lines of some paths, curves as chords, which leave an arc by less than a thousandth of its radius.
+/// The lines of some paths, curves as chords, which leave an arc by less than a four-hundredth of its radius.
 /// Filling closes a figure: where a path is not stroked as well, so are its lines.
 class PathLines {
 public:
@@ -36,8 +36,8 @@ private:
 };
 
 /// The farthest that points along some lines are from the others, of which there must be one: points at even
-/// distances, and the ends and the middle of each line where there are few. What is nearer than `little` is
-/// 0. The time grows with the number of lines, not with its square.
-double FarthestFrom(const PathLines& others, const PathLines& lines, double little);
+/// distances, and the ends and the middle of each line where there are few. No less than `known`: what is
+/// nearer is not looked at closely. The time grows with the number of lines, not with its square.
+double FarthestFrom(const PathLines& others, const PathLines& lines, double known);
 
 } // namespace conversions

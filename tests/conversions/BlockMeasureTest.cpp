@@ -84,8 +84,14 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Row{"nothing", {}, {}, true, false, 0, 0.0},
         Row{"the same", {kSquare}, {kSquare}, true, false, 0, 0.0},
-        Row{"a cut number", {L"M 0.0,0.0 L 10.0,0.1"}, {L"M 0,0 L 10,0.105"}, true, false, 0, 0.0005},
-        Row{"two cut numbers", {L"M 0.1,0.1 L 10.0,0.0"}, {L"M 0.103,0.104 L 10,0"}, true, false, 0, 5e-4},
+        Row{"little", {L"M 0.0,0.0 L 10.0,0.1"}, {L"M 0,0 L 10,0.105"}, true, false, 0, 0.0},
+        Row{"two cut numbers",
+            {L"M 0.1,0.1 L 1.0,0.0"},
+            {L"M 0.103,0.104 L 1,0"},
+            true,
+            false,
+            0,
+            0.005 / 0.897},
         Row{"built alike from elsewhere", {kFromLeft}, {kFromBelow}, true, false, 0, 0.0},
         // The middle of the side that is missing is 5 of 10 from the nearest corner.
         Row{"a side lost", {kOpenSquare}, {kSquare}, true, false, 0, 0.5},
@@ -121,13 +127,13 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(BlockMeasure, NamesTheNumberThatIsCut) {
     Symbol strict;
     Symbol faithful;
-    AddPath(strict, L"M 0.0,0.0 L 1.1,2.0", true, false);
-    AddPath(faithful, L"M 0,0 L 1.105,2", true, false);
+    AddPath(strict, L"M 0.0,0.0 L 0.1,0.2", true, false);
+    AddPath(faithful, L"M 0,0 L 0.105,0.2", true, false);
     const BlockMeasure measure = conversions::MeasureBlock(strict, faithful);
-    EXPECT_NEAR(measure.share, 0.0025, 1e-9);
+    EXPECT_NEAR(measure.share, 0.025, 1e-9);
     ASSERT_TRUE(measure.cut.has_value());
-    EXPECT_EQ(measure.cut->exact, 1.105);
-    EXPECT_EQ(measure.cut->written, 1.1);
+    EXPECT_EQ(measure.cut->exact, 0.105);
+    EXPECT_EQ(measure.cut->written, 0.1);
 }
 
 TEST(BlockMeasure, NamesTheNumberThatMakesAnArcAnother) {
