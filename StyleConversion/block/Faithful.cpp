@@ -3,20 +3,24 @@
 namespace block {
 namespace {
 
-thread_local bool isFaithful = false;
+thread_local double faithfulCurves = 0.0; // 0 where none is alive
 
 } // namespace
 
-FaithfulInUse::FaithfulInUse() : before_(isFaithful) {
-    isFaithful = true;
+FaithfulInUse::FaithfulInUse(double curveTolerance) : before_(faithfulCurves) {
+    faithfulCurves = curveTolerance;
 }
 
 FaithfulInUse::~FaithfulInUse() {
-    isFaithful = before_;
+    faithfulCurves = before_;
 }
 
 bool IsFaithful() {
-    return isFaithful;
+    return faithfulCurves > 0.0;
+}
+
+double FaithfulCurveTolerance() {
+    return faithfulCurves;
 }
 
 } // namespace block

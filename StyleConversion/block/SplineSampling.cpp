@@ -12,9 +12,8 @@
 namespace block {
 namespace {
 
-// Parts of the curve's extent that the samples may be off by.
+// The part of the curve's extent that the samples may be off by.
 constexpr double kToleranceOfExtent = 0.001;
-constexpr double kCloseToleranceOfExtent = 1e-6;
 constexpr double kKnotTolerance = 1e-9;
 constexpr double kIntervalTolerance = 1e-12;
 
@@ -133,7 +132,7 @@ std::vector<OxGePoint2d> SampleSpline(OxDbSpline& spline) {
 }
 
 std::vector<OxGePoint2d> SampleClosely(OxGeNurbCurve2d& curve) {
-    return Sample(curve, PartOfExtent(curve, kCloseToleranceOfExtent));
+    return Sample(curve, PartOfExtent(curve, FaithfulCurveTolerance()));
 }
 
 } // namespace block

@@ -10,7 +10,7 @@ namespace {
 
 std::unique_ptr<TylModel::SymbolDefinition> Faithful(BlockConverter& converter,
                                                      const BlockLosses::Convert& convert) {
-    const block::FaithfulInUse inUse;
+    const block::FaithfulInUse inUse(block::kMeasuringCurves);
     return std::unique_ptr<TylModel::SymbolDefinition>(convert(converter));
 }
 
