@@ -46,6 +46,29 @@ TEST_F(FaithfulDrawings, HiddenEntitiesAreNotDrawn) {
     EXPECT_NE(Run("blocks", "a.json", drawing, {}).output.find("M 2.0,0.0"), std::string::npos);
 }
 
+TEST_F(FaithfulDrawings, AreDrawnInPicturesAndGalleries) {
+    const std::string drawing =
+        R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4, "blocks": [
+        {"name": "B", "entities": [{"type": "text", "position": [0, 0], "height": 2, "text": "%%d C"}]}]})";
+    // The linetype's text is a radian from the line, 57.3 degrees.
+    const std::string linetype = "*A,\nA,4,[\"GAS\",STANDARD,R=1r]\n";
+    for (const std::string format : {"svg", "html"}) {
+        for (const bool isFaithful : {false, true}) {
+            std::vector<std::string> options{"--format", format};
+            if (isFaithful) {
+                options.emplace_back("--faithful");
+            }
+            const std::string block = Run("blocks", "a.json", drawing, options).output;
+            EXPECT_EQ(block.find("%%d C") == std::string::npos, isFaithful) << block;
+            // A gallery of strict symbols brings the faithful drawing of those that lose something.
+            EXPECT_EQ(block.find("\xc2\xb0 C") != std::string::npos, isFaithful || format == "html") << block;
+            options.insert(options.end(), {"--font", "Arial"});
+            const std::string line = Run("linetypes", "a.lin", linetype, options).output;
+            EXPECT_EQ(line.find("rotate(-57.29") != std::string::npos, isFaithful) << line;
+        }
+    }
+}
+
 TEST_F(FaithfulDrawings, LinetypesTakeRadiansAsSuch) {
     const std::string linetypes = "*A,\nA,4,[\"GAS\",STANDARD,R=1r]\n";
     const std::vector<std::string> font{"--font", "Arial"};
