@@ -3,6 +3,11 @@
 #include "StyleConversion/encoding/PathCommands.h"
 #include "preview/Outline.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <string>
+
 namespace conversions {
 namespace {
 
@@ -16,16 +21,47 @@ preview::Box BoundsOf(const TylModel::SimpleSymbolDefinition& symbol) {
     return outline.Bounds();
 }
 
-} // namespace
+struct Range {
+    std::uint16_t first;
+    std::uint16_t last;
+};
 
-std::unique_ptr<TylModel::SimpleSymbolDefinition> SymbolOf(const documents::Glyph& glyph) {
-    auto symbol = std::make_unique<TylModel::SimpleSymbolDefinition>();
+// Of Unicode's first 65536 numbers those that nobody sees by themselves, or that are no characters: controls,
+// spaces, marks of direction, halves of pairs, private use.
+constexpr Range kUnseen[] = {{0, 32},          {127, 160},       {173, 173},       {0x061c, 0x061c},
+                             {0x1680, 0x1680}, {0x180e, 0x180e}, {0x2000, 0x200f}, {0x2028, 0x202f},
+                             {0x205f, 0x206f}, {0x3000, 0x3000}, {0xd800, 0xf8ff}, {0xfdd0, 0xfdef},
+                             {0xfe00, 0xfe0f}, {0xfeff, 0xfeff}, {0xfff0, 0xffff}};
+
+// The numbers of fonts of bytes are a code page's beyond ASCII, and nobody knows which.
+bool IsSeenCharacter(std::uint16_t number, ShxUtility::ShapeFileKind kind) {
+    if (kind != ShxUtility::kUnifont && !(kind == ShxUtility::kFont && number < 127)) {
+        return false;
+    }
+    return std::none_of(std::begin(kUnseen), std::end(kUnseen), [number](const Range& range) {
+        return number >= range.first && number <= range.last;
+    });
+}
+
+// "A (65) UCA", "10 LF".
+std::wstring NameOf(const documents::Glyph& glyph, ShxUtility::ShapeFileKind kind) {
     std::wstring name = std::to_wstring(glyph.number);
+    if (IsSeenCharacter(glyph.number, kind)) {
+        name = std::wstring(1, static_cast<wchar_t>(glyph.number)) + L" (" + name + L')';
+    }
     if (!glyph.name.empty()) {
         name += L' ';
         name += glyph.name;
     }
-    symbol->SetName(name);
+    return name;
+}
+
+} // namespace
+
+std::unique_ptr<TylModel::SimpleSymbolDefinition> SymbolOf(const documents::Glyph& glyph,
+                                                           ShxUtility::ShapeFileKind kind) {
+    auto symbol = std::make_unique<TylModel::SimpleSymbolDefinition>();
+    symbol->SetName(NameOf(glyph, kind));
     if (glyph.result != ShxUtility::kSuccess) {
         symbol->SetDescription(L"cannot be drawn: result " + std::to_wstring(glyph.result));
         return symbol;

@@ -137,7 +137,8 @@ GlyphSymbols DrawnSymbols(const ChosenGlyphs& glyphs, const GlyphsOptions& optio
     front.BeginStage("Drawing", glyphs.positions.size());
     for (const std::size_t position : glyphs.positions) {
         front.AtItem(NumberItem(glyphs.file.shapes[position]));
-        symbols.push_back(SymbolOf(Draw(glyphs.file, glyphs.file.shapes[position], options)));
+        symbols.push_back(
+            SymbolOf(Draw(glyphs.file, glyphs.file.shapes[position], options), glyphs.file.kind));
     }
     // Letters that are turned stand on no common line.
     if (glyphs.file.kind != ShxUtility::kShapes && options.rotation == 0.0) {

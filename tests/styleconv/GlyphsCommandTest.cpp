@@ -90,6 +90,36 @@ TEST(GlyphsCommand, NamesTheKindAndTheVersion) {
               std::string::npos);
 }
 
+TEST(GlyphsCommand, PicturesAreNamedByTheCharactersOfFonts) {
+    const ScratchFolder folder;
+    using Numbers = std::vector<std::uint16_t>;
+    const auto named = [&](ShapeFileBuilder builder, bool isFont, const Numbers& numbers) {
+        if (isFont) {
+            builder.FontInfo("F", {1, 2, 3, 0, 0, 0});
+        }
+        for (const std::uint16_t number : numbers) {
+            builder.Shape(number, number == 65 ? "UCA" : "", {0x10, 0});
+        }
+        const ToolResult result =
+            RunTool({"glyphs", folder.Write("a.shx", builder.Text()), "--format", "svg"});
+        EXPECT_EQ(result.status, 0) << result.errors;
+        std::string names;
+        const std::string bold = "font-weight=\"bold\">";
+        for (std::size_t at = result.output.find(bold); at != std::string::npos;
+             at = result.output.find(bold, at)) {
+            at += bold.size();
+            names += result.output.substr(at, result.output.find('<', at) - at) + "|";
+        }
+        return names;
+    };
+    // What a number beyond ASCII is in a font of bytes depends on a code page.
+    EXPECT_EQ(named(ShapeFileBuilder::Shapes(), true, {10, 32, 33, 60, 65, 126, 127, 228}),
+              "10|32|! (33)|&lt; (60)|A (65) UCA|~ (126)|127|228|");
+    EXPECT_EQ(named(ShapeFileBuilder::Unifont(), true, {32, 65, 160, 228, 0x200b, 0x6c34, 0xd800, 0xe000}),
+              "32|A (65) UCA|160|\xc3\xa4 (228)|8203|\xe6\xb0\xb4 (27700)|55296|57344|");
+    EXPECT_EQ(named(ShapeFileBuilder::Shapes(), false, {65, 66}), "65 UCA|66|");
+}
+
 TEST(GlyphsCommand, DrawsTheShapesAskedForInTheOrderAsked) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.shx", TwoShapes());
