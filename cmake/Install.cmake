@@ -94,6 +94,20 @@ configure_file("${CMAKE_CURRENT_LIST_DIR}/StyleConversion.pc.in"
 install(FILES "${PROJECT_BINARY_DIR}/packages/StyleConversion.pc"
   DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 
+# The C interface: its header goes where those of C++ are, and pkg-config knows it by its name.
+if(TARGET StyleConversionC)
+  install(FILES "${PROJECT_SOURCE_DIR}/c/StyleConversionC.h" DESTINATION "${include_root}")
+  set_target_properties(StyleConversionC PROPERTIES INSTALL_RPATH "$ORIGIN")
+  install(TARGETS StyleConversionC
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+  configure_file("${CMAKE_CURRENT_LIST_DIR}/StyleConversionC.pc.in"
+    "${PROJECT_BINARY_DIR}/packages/StyleConversionC.pc" @ONLY)
+  install(FILES "${PROJECT_BINARY_DIR}/packages/StyleConversionC.pc"
+    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+endif()
+
 if(STYLECONVERSION_TOOL)
   file(RELATIVE_PATH libraries_from_tool "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
   set_target_properties(styleconv PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_tool}")

@@ -29,6 +29,8 @@ ALLOWED = {
     "conversions": ["diagnostics", "documents", "preview", "styles", "drawing", "StyleConversion"],
     "conversions/checking": ["conversions/reading", "diagnostics", "preview", "drawing", "StyleConversion"],
     "conversions/reading": ["diagnostics", "documents", "exchange", "drawing", "StyleConversion"],
+    # The jobs once more, for programs in C.
+    "c": ["conversions", "diagnostics", "documents", "StyleConversion"],
     "styleconv": ["StyleConversion/platform"],
     "styleconv/commands": ["styleconv/files", "styleconv/process", "conversions", "diagnostics", "documents",
                            "StyleConversion/encoding", "StyleConversion/platform", "StyleConversion/pattern"],

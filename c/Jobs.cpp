@@ -1,0 +1,241 @@
+#include "c/Jobs.h"
+
+#include "StyleConversion/platform/Files.h"
+#include "StyleConversion/platform/Utf8.h"
+#include "conversions/Blocks.h"
+#include "conversions/Gathering.h"
+#include "conversions/Glyphs.h"
+#include "conversions/Linetypes.h"
+#include "conversions/Patterns.h"
+#include "conversions/SymbolsDocuments.h"
+#include "conversions/TolerantCheck.h"
+#include "conversions/checking/Check.h"
+#include "documents/DiagnosticsDocument.h"
+#include "documents/ListDocument.h"
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace c_interface {
+namespace {
+
+using conversions::Conversion;
+using conversions::FileKind;
+using conversions::Form;
+using conversions::Input;
+using diagnostics::Code;
+using diagnostics::Diagnostic;
+using diagnostics::Diagnostics;
+using diagnostics::Severity;
+using encoding::Fidelity;
+
+// As the command line tells kinds: by the name, and of documents and files of other names by what is in them.
+FileKind KindOf(const Input& input, const Options& options) {
+    if (options.kind != FileKind::kUnknown) {
+        return options.kind;
+    }
+    const FileKind kind = conversions::KindByName(input.name);
+    const FileKind found = conversions::KindByContents(input.bytes);
+    return (kind == FileKind::kDrawing && found == FileKind::kSymbols) ||
+                   (kind == FileKind::kUnknown && found == FileKind::kDrawing)
+               ? found
+               : kind;
+}
+
+Diagnostic Problem(Code code, const std::string& file) {
+    return {Severity::kError, code, {file}, {}};
+}
+
+// The drawing that the callback was asked for, which owns its bytes.
+struct GivenDrawing {
+    styleconversion_answer answer;
+    std::optional<Input> input;
+    std::optional<Diagnostic> problem;
+};
+
+void AskForDrawing(FileKind kind, const Options& options, const CallbackFront& front, GivenDrawing& drawing) {
+    if (options.drawing.empty() || kind != FileKind::kLinetypes) {
+        return;
+    }
+    drawing.answer = front.Ask(options.drawing);
+    if (!drawing.answer.isGiven) {
+        drawing.problem = Problem(Code::kMissingFile, options.drawing);
+        return;
+    }
+    Input& input = drawing.input.emplace();
+    input.name = options.drawing;
+    input.bytes = drawing.answer.bytes;
+}
+
+Fidelity FidelityOf(const Options& options) {
+    return options.isFaithful || options.form == Form::kQgis ? Fidelity::kFaithful : Fidelity::kStrict;
+}
+
+Conversion ConvertLines(const Input& input, const Options& options, CallbackFront& front) {
+    GivenDrawing drawing;
+    AskForDrawing(FileKind::kLinetypes, options, front, drawing);
+    if (drawing.problem) {
+        Conversion failed;
+        failed.diagnostics.push_back(*drawing.problem);
+        return failed;
+    }
+    conversions::LinetypesOptions job;
+    job.drawing = drawing.input;
+    job.font = options.font;
+    job.tolerant = options.isTolerant;
+    job.names = options.names;
+    job.fidelity = FidelityOf(options);
+    return ConvertLinetypes(input, job, front);
+}
+
+Conversion ConvertDrawing(const Input& input, const Options& options, CallbackFront& front) {
+    conversions::BlocksOptions job;
+    job.names = options.names;
+    job.layersToIgnore = options.layersToIgnore;
+    job.tolerant = options.isTolerant;
+    job.fidelity = FidelityOf(options);
+    job.seenAs.leavesOutHidden = job.fidelity == Fidelity::kFaithful;
+    job.seenAs.drawsOthers = job.fidelity == Fidelity::kFaithful;
+    return ConvertBlocks(input, job, front);
+}
+
+Conversion ConvertKind(FileKind kind, const Input& input, const Options& options, CallbackFront& front) {
+    switch (kind) {
+    case FileKind::kLinetypes:
+        return ConvertLines(input, options, front);
+    case FileKind::kPatterns:
+        return ConvertPatterns(
+            input, {options.names, options.isTolerant, pattern::Unit::kNone, FidelityOf(options)}, front);
+    case FileKind::kShapes: {
+        conversions::GlyphsOptions job;
+        job.tolerant = options.isTolerant;
+        return ConvertGlyphs(input, job, front);
+    }
+    case FileKind::kDrawing:
+        return ConvertDrawing(input, options, front);
+    case FileKind::kSymbols:
+        return ConvertSymbols(input, options.isTolerant, front);
+    case FileKind::kUnknown:
+        break;
+    }
+    Conversion failed;
+    failed.diagnostics.push_back(Problem(Code::kUnknownFileKind, input.name));
+    return failed;
+}
+
+// What a page of the file's symbols is called: the name without its folder.
+std::string TitleOf(const std::string& file) {
+    const platform::PathParts parts = platform::SplitPath(platform::PathFromBytes(file));
+    return platform::WideToValidUtf8(parts.fileName + parts.extension);
+}
+
+Diagnostics Convert(FileKind kind, const Input& input, const Options& options, CallbackFront& front,
+                    styleconversion_result& result) {
+    const bool hasNoNames = kind == FileKind::kShapes || kind == FileKind::kSymbols;
+    if (hasNoNames && !options.names.empty()) {
+        result.status = STYLECONVERSION_USAGE;
+        result.error = "option names: only for linetypes, patterns and drawings";
+        return {};
+    }
+    Conversion conversion = ConvertKind(kind, input, options, front);
+    conversion.captions.title = TitleOf(input.name);
+    conversions::Gathering gathering;
+    gathering.Add(input.name, kind, std::move(conversion));
+    Diagnostics told = gathering.Told();
+    if (!gathering.HasSymbols()) {
+        result.status = STYLECONVERSION_INPUT;
+        return told;
+    }
+    conversions::StyleJob styles;
+    styles.file = input.name;
+    const auto append = [&](std::string_view text) {
+        result.document += text;
+        return true;
+    };
+    gathering.Write(options.form, false, append, front, &styles);
+    MergeAlike(styles.diagnostics);
+    Append(told, std::move(styles.diagnostics));
+    return told;
+}
+
+conversions::Listing ListKind(FileKind kind, const Input& input, bool isTolerant) {
+    switch (kind) {
+    case FileKind::kLinetypes:
+        return ListLinetypes(input, isTolerant);
+    case FileKind::kPatterns:
+        return ListPatterns(input, isTolerant);
+    case FileKind::kShapes:
+        return ListGlyphs(input, isTolerant);
+    case FileKind::kDrawing:
+        return ListBlocks(input, isTolerant);
+    case FileKind::kSymbols:
+        return ListSymbols(input, isTolerant);
+    case FileKind::kUnknown:
+        break;
+    }
+    conversions::Listing failed;
+    failed.diagnostics.push_back(Problem(Code::kUnknownFileKind, input.name));
+    return failed;
+}
+
+Diagnostics List(FileKind kind, const Input& input, const Options& options, styleconversion_result& result) {
+    conversions::Listing listing = ListKind(kind, input, options.isTolerant);
+    if (listing.isListed) {
+        result.document = documents::ListText(listing.symbols);
+    } else {
+        result.status = STYLECONVERSION_INPUT;
+    }
+    return std::move(listing.diagnostics);
+}
+
+Diagnostics CheckKind(FileKind kind, const Input& input, const Options& options, CallbackFront& front) {
+    if (kind == FileKind::kUnknown) {
+        return {Problem(Code::kUnknownFileKind, input.name)};
+    }
+    GivenDrawing drawing;
+    AskForDrawing(kind, options, front, drawing);
+    if (drawing.problem) {
+        return {*drawing.problem};
+    }
+    conversions::CheckOptions job;
+    job.linetypes.drawing = drawing.input;
+    job.linetypes.font = options.font;
+    job.layersToIgnore = options.layersToIgnore;
+    Diagnostics found = kind == FileKind::kSymbols ? conversions::CheckSymbols(input)
+                                                   : conversions::Check(kind, input, job, front);
+    return options.isTolerant && CountOf(found, Severity::kError) > 0
+               ? JudgedTolerantly(std::move(found), ConvertTolerantly(kind, input, job, front))
+               : found;
+}
+
+Diagnostics Check(FileKind kind, const Input& input, const Options& options, CallbackFront& front,
+                  styleconversion_result& result) {
+    Diagnostics found = CheckKind(kind, input, options, front);
+    std::erase_if(found, [&](const Diagnostic& diagnostic) {
+        return diagnostic.severity == Severity::kNote && !options.hasNotes;
+    });
+    result.document = documents::DiagnosticsText(found);
+    return found;
+}
+
+} // namespace
+
+void RunJob(Job job, Input input, const char* options, CallbackFront& front, styleconversion_result& result) {
+    Options read;
+    result.error = options == nullptr ? "" : ReadOptions(options, job, read);
+    if (!result.error.empty()) {
+        result.status = STYLECONVERSION_USAGE;
+        return;
+    }
+    input.encoding = read.encoding;
+    const FileKind kind = KindOf(input, read);
+    const Diagnostics told = job == Job::kConvert ? Convert(kind, input, read, front, result)
+                             : job == Job::kList  ? List(kind, input, read, result)
+                                                  : Check(kind, input, read, front, result);
+    if (result.status != STYLECONVERSION_USAGE) {
+        result.diagnostics = documents::DiagnosticsText(told);
+    }
+}
+
+} // namespace c_interface
