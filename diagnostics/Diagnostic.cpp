@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
+#include <set>
 #include <tuple>
 #include <utility>
 
@@ -59,18 +60,26 @@ void MergeAcrossFiles(Diagnostics& diagnostics) {
         return kind;
     };
     std::map<Kind, std::size_t> counts;
+    std::map<Kind, std::set<std::string>> files;
     for (const Diagnostic& diagnostic : diagnostics) {
-        counts[kindIn(diagnostic)] += diagnostic.count;
+        const bool countsEntities = CountsEntities(diagnostic.code);
+        counts[kindIn(diagnostic)] += countsEntities ? 1 : diagnostic.count;
+        if (countsEntities) { // each block of a file is worth its line
+            files[kindIn(diagnostic)].insert(diagnostic.place.file);
+        }
     }
     std::map<Kind, bool> seen;
     Diagnostics merged;
     for (Diagnostic& diagnostic : diagnostics) {
         const Kind kind = kindIn(diagnostic);
         const std::size_t count = counts[kind];
-        const bool isMany = count > kMostAlike && diagnostic.severity != Severity::kError;
-        const bool isMerged = !CountsEntities(diagnostic.code) && (isMany || HasOneCause(diagnostic.code));
+        const bool countsEntities = CountsEntities(diagnostic.code);
+        const bool isMany = (countsEntities ? files[kind].size() : count) > kMostAlike &&
+                            diagnostic.severity != Severity::kError;
+        const bool isMerged = isMany || (!countsEntities && HasOneCause(diagnostic.code));
         if (!isMerged || !std::exchange(seen[kind], true)) {
-            diagnostic.count = isMerged ? count : diagnostic.count;
+            diagnostic.count = isMerged && !countsEntities ? count : diagnostic.count;
+            diagnostic.morePlaces = isMerged && countsEntities ? count - 1 : 0;
             merged.push_back(std::move(diagnostic));
         }
     }

@@ -48,6 +48,8 @@ struct Diagnostic {
     Outcome outcome = Outcome::kNone;
     std::size_t count =
         1; // of entities, where the sentence counts them; else of places alike, the first given
+    std::size_t morePlaces =
+        0; // where the sentence counts entities: those that say it of others, merged here
 };
 
 using Diagnostics = std::vector<Diagnostic>;
@@ -64,7 +66,8 @@ void MergeAlike(Diagnostics& diagnostics);
 inline constexpr std::size_t kMostAlike = 20;
 
 /// The same over files: where they have one cause, and warnings and notes of which there are more than
-/// kMostAlike. Errors of different files stay apart else.
+/// kMostAlike. Errors of different files stay apart else. Sentences that count entities become one where more
+/// than kMostAlike files have them, with the count of the first.
 void MergeAcrossFiles(Diagnostics& diagnostics);
 
 /// Moves all of `more` behind the others.

@@ -544,6 +544,10 @@ std::string SentenceOf(const Diagnostic& diagnostic) {
         const std::size_t more = diagnostic.count - 1;
         text += "; the same in " + std::to_string(more) + " more place" + (more == 1 ? "" : "s");
     }
+    if (diagnostic.morePlaces > 0) {
+        text += "; likewise in " + std::to_string(diagnostic.morePlaces) + " more place" +
+                (diagnostic.morePlaces == 1 ? "" : "s");
+    }
     return text;
 }
 

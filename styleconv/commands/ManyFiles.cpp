@@ -28,7 +28,8 @@ std::string CountsByCode(const Diagnostics& told, Severity severity) {
     std::size_t all = 0;
     for (const diagnostics::Diagnostic& diagnostic : told) {
         if (diagnostic.severity == severity) {
-            const std::size_t count = CountsEntities(diagnostic.code) ? 1 : diagnostic.count;
+            const std::size_t count =
+                CountsEntities(diagnostic.code) ? 1 + diagnostic.morePlaces : diagnostic.count;
             counts[std::string(NameOf(diagnostic.code))] += count;
             all += count;
         }

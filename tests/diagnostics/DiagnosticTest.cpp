@@ -1,5 +1,6 @@
 // Lists of diagnostics: counted, sorted, and what says the same made one.
 #include "diagnostics/Diagnostic.h"
+#include "diagnostics/Sentences.h"
 
 #include <gtest/gtest.h>
 
@@ -66,6 +67,32 @@ TEST(Diagnostics, ErrorsOfManyFilesStayApart) {
     MergeAcrossFiles(warnings);
     ASSERT_EQ(warnings.size(), 1U);
     EXPECT_EQ(warnings[0].count, kMostAlike + 1);
+}
+
+TEST(Diagnostics, ThoseThatCountEntitiesAreOneOverManyFilesWithTheirOwnCount) {
+    Diagnostics few;
+    for (std::size_t i = 0; i < kMostAlike; ++i) {
+        few.push_back(At(0, Code::kUnsupportedClass, "RAY", std::to_string(i)));
+        few.back().severity = Severity::kWarning;
+        few.back().count = i + 2;
+    }
+    Diagnostics many = few;
+    MergeAcrossFiles(few);
+    EXPECT_EQ(few.size(), kMostAlike);
+    EXPECT_EQ(few[0].morePlaces, 0U);
+    many.push_back(many.back()); // another block of a file is no other file
+    Diagnostics blocks = many;
+    MergeAcrossFiles(blocks);
+    EXPECT_EQ(blocks.size(), kMostAlike + 1);
+    many.back().place.file = "one more";
+    many.push_back(At(0, Code::kUnsupportedClass, "XLINE", "other"));
+    MergeAcrossFiles(many);
+    ASSERT_EQ(many.size(), 2U);
+    EXPECT_EQ(many[0].count, 2U);
+    EXPECT_EQ(many[0].morePlaces, kMostAlike);
+    EXPECT_EQ(diagnostics::SentenceOf(many[0]),
+              "2 entities of the type RAY are not drawn; likewise in 20 more places");
+    EXPECT_EQ(many[1].morePlaces, 0U);
 }
 
 TEST(Diagnostics, AlikeAreOneOnlyWhereTheyAreMany) {
