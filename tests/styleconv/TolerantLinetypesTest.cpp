@@ -79,6 +79,14 @@ TEST_F(TolerantLinetypes, CharacterCodesInTextsBecomeCharacters) {
               std::string::npos);
 }
 
+TEST_F(TolerantLinetypes, BackslashesBeforeTheQuotesOfATextAreSkippedAndTold) {
+    const ToolResult result = Run("*X\nA,1,[\\\"GAS\\\",STANDARD],-9\n", {"--tolerant", "--font", "Arial"});
+    EXPECT_EQ(support::ValuesOf(result.output, "content"), std::vector<std::string>{"'GAS'"});
+    EXPECT_EQ(Said(result),
+              ":2:6: warning: a \"\\\" before a quote does not escape it; read as the quote alone "
+              "(linetype X)\n");
+}
+
 TEST_F(TolerantLinetypes, MissingStyleAndShapeFileAreToldWithWhereTheyWereLookedFor) {
     const ToolResult result = Run("*X\nA,1,[\"A\",roads]\n*Y\nA,[M,none.shx]\n");
     EXPECT_EQ(result.status, 0);
