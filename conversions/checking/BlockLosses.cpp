@@ -8,8 +8,8 @@
 namespace conversions {
 namespace {
 
-std::unique_ptr<TylModel::SymbolDefinition> Faithful(BlockConverter& converter,
-                                                     const BlockLosses::Convert& convert) {
+std::unique_ptr<TylModel::SymbolDefinition> FaithfulSymbol(BlockConverter& converter,
+                                                           const BlockLosses::Convert& convert) {
     const block::FaithfulInUse inUse(block::kMeasuringCurves);
     return std::unique_ptr<TylModel::SymbolDefinition>(convert(converter));
 }
@@ -19,7 +19,7 @@ using diagnostics::Diagnostic;
 using diagnostics::Severity;
 
 // ": 0.105 is written 0.1"
-std::string CauseText(const BlockMeasure& measure) {
+std::string CauseOf(const BlockMeasure& measure) {
     if (measure.cut) {
         return TextOf(*measure.cut);
     }
@@ -36,7 +36,7 @@ BlockLosses::BlockLosses(std::string file, OxDbDatabase& drawing,
 
 std::optional<BlockLoss> BlockLosses::Of(TylModel::SymbolDefinition& strict, const std::string& item,
                                          const Convert& convert) {
-    std::unique_ptr<TylModel::SymbolDefinition> faithful = Faithful(converter_, convert);
+    std::unique_ptr<TylModel::SymbolDefinition> faithful = FaithfulSymbol(converter_, convert);
     if (faithful == nullptr) {
         return std::nullopt;
     }
@@ -47,7 +47,7 @@ std::optional<BlockLoss> BlockLosses::Of(TylModel::SymbolDefinition& strict, con
 std::optional<Diagnostic> BlockLosses::DiagnosticOf(const BlockMeasure& measure,
                                                     const std::string& item) const {
     const bool isOutOfPlace = !(measure.share < kWarningShare);
-    std::string cause = isOutOfPlace ? CauseText(measure) : std::string();
+    std::string cause = isOutOfPlace ? CauseOf(measure) : std::string();
     diagnostics::Place place(file_, 0, item);
     if (measure.lost > 0) {
         if (isOutOfPlace) {

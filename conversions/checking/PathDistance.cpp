@@ -8,9 +8,9 @@ namespace conversions {
 namespace {
 
 using preview::Point;
-using Line = PathLines::Line;
+using PathLine = PathLines::Line;
 
-double DistanceFrom(const Line& line, const Point& point) {
+double DistanceFrom(const PathLine& line, const Point& point) {
     const Point along = line.to - line.from;
     const Point offset = point - line.from;
     const double square = along.x * along.x + along.y * along.y;
@@ -19,14 +19,14 @@ double DistanceFrom(const Line& line, const Point& point) {
     return preview::Length(offset - along * t);
 }
 
-Point PointOn(const Line& line, double t) {
+Point PointOn(const PathLine& line, double t) {
     return line.from + (line.to - line.from) * t;
 }
 
 // Asks for the distances of points that follow one another, and so are mostly nearest to the same line.
 class NearestLine {
 public:
-    explicit NearestLine(const std::vector<Line>& lines) : lines_(lines) {}
+    explicit NearestLine(const std::vector<PathLine>& lines) : lines_(lines) {}
 
     // No more than `enough` where a line is as near as that.
     double DistanceOf(const Point& point, double enough) {
@@ -43,7 +43,7 @@ public:
     }
 
 private:
-    const std::vector<Line>& lines_;
+    const std::vector<PathLine>& lines_;
     std::size_t start_ = 0;
 };
 
@@ -100,7 +100,7 @@ double FarthestFrom(const PathLines& others, const PathLines& lines, double know
     constexpr std::size_t kPoints = 64;
     constexpr std::size_t kMostComparisons = 250000; // before only kPoints are asked for
     double total = 0.0;
-    for (const Line& line : lines.Lines()) {
+    for (const PathLine& line : lines.Lines()) {
         total += preview::Length(line.to - line.from);
     }
     const double step = total / static_cast<double>(kPoints);
@@ -115,7 +115,7 @@ double FarthestFrom(const PathLines& others, const PathLines& lines, double know
     const auto look = [&](const Point& point) {
         farthest = std::max(farthest, nearest.DistanceOf(point, farthest));
     };
-    for (const Line& line : lines.Lines()) {
+    for (const PathLine& line : lines.Lines()) {
         const double length = preview::Length(line.to - line.from);
         for (int i = 0; takesEach && i <= 2; ++i) {
             look(PointOn(line, 0.5 * i));

@@ -42,7 +42,7 @@ void AddText(Symbol& symbol, const PlacedText& placed) {
     symbol.GetGraphics().Adopt(text.release());
 }
 
-struct Row {
+struct PathsRow {
     const char* name;
     std::vector<std::wstring> strict;
     std::vector<std::wstring> faithful;
@@ -52,11 +52,11 @@ struct Row {
     double share;
 };
 
-void PrintTo(const Row& row, std::ostream* out) {
+void PrintTo(const PathsRow& row, std::ostream* out) {
     *out << row.name;
 }
 
-class MeasuredPaths : public testing::TestWithParam<Row> {};
+class MeasuredPaths : public testing::TestWithParam<PathsRow> {};
 
 TEST_P(MeasuredPaths, AreSoFarFromTheirPlaces) {
     Symbol strict;
@@ -82,47 +82,47 @@ const std::wstring kFromBelow = L"M 0,-5 A 5,5 0 1 1 0,5 A 5,5 0 1 1 0,-5";
 INSTANTIATE_TEST_SUITE_P(
     Paths, MeasuredPaths,
     testing::Values(
-        Row{"nothing", {}, {}, true, false, 0, 0.0},
-        Row{"the same", {kSquare}, {kSquare}, true, false, 0, 0.0},
-        Row{"little", {L"M 0.0,0.0 L 10.0,0.1"}, {L"M 0,0 L 10,0.105"}, true, false, 0, 0.0},
-        Row{"two cut numbers",
-            {L"M 0.1,0.1 L 1.0,0.0"},
-            {L"M 0.103,0.104 L 1,0"},
-            true,
-            false,
-            0,
-            0.005 / 0.897},
-        Row{"built alike from elsewhere", {kFromLeft}, {kFromBelow}, true, false, 0, 0.0},
+        PathsRow{"nothing", {}, {}, true, false, 0, 0.0},
+        PathsRow{"the same", {kSquare}, {kSquare}, true, false, 0, 0.0},
+        PathsRow{"little", {L"M 0.0,0.0 L 10.0,0.1"}, {L"M 0,0 L 10,0.105"}, true, false, 0, 0.0},
+        PathsRow{"two cut numbers",
+                 {L"M 0.1,0.1 L 1.0,0.0"},
+                 {L"M 0.103,0.104 L 1,0"},
+                 true,
+                 false,
+                 0,
+                 0.005 / 0.897},
+        PathsRow{"built alike from elsewhere", {kFromLeft}, {kFromBelow}, true, false, 0, 0.0},
         // The middle of the side that is missing is 5 of 10 from the nearest corner.
-        Row{"a side lost", {kOpenSquare}, {kSquare}, true, false, 0, 0.5},
-        Row{"a side that filling adds", {kOpenSquare}, {kSquare}, false, true, 0, 0.0},
-        Row{"a side lost of what is filled and stroked", {kOpenSquare}, {kSquare}, true, true, 0, 0.5},
-        Row{"a side that another part draws",
-            {kOpenSquare, L"M 0,0 L 0,10"},
-            {kSquare, L"M 0,0 L 0,10"},
-            true,
-            false,
-            0,
-            0.0},
+        PathsRow{"a side lost", {kOpenSquare}, {kSquare}, true, false, 0, 0.5},
+        PathsRow{"a side that filling adds", {kOpenSquare}, {kSquare}, false, true, 0, 0.0},
+        PathsRow{"a side lost of what is filled and stroked", {kOpenSquare}, {kSquare}, true, true, 0, 0.5},
+        PathsRow{"a side that another part draws",
+                 {kOpenSquare, L"M 0,0 L 0,10"},
+                 {kSquare, L"M 0,0 L 0,10"},
+                 true,
+                 false,
+                 0,
+                 0.0},
         // The middle of a half circle of radius 5 is 5 of 10 from its chord.
-        Row{"a bulge lost", {L"M -5,0 L 5,0"}, {L"M -5,0 A 5,5 0 0 1 5,0"}, true, false, 0, 0.5},
+        PathsRow{"a bulge lost", {L"M -5,0 L 5,0"}, {L"M -5,0 A 5,5 0 0 1 5,0"}, true, false, 0, 0.5},
         // The fill of the right half: 5 of 10 from the left half.
-        Row{"half of a fill lost",
-            {L"M 0,0 L 5,0 L 5,10 L 0,10"},
-            {L"M 0,0 L 5,0 L 10,0 L 10,10 L 5,10 L 0,10"},
-            false,
-            true,
-            0,
-            0.5},
-        Row{"a part lost", {L"M 0,0 L 10,0"}, {L"M 0,0 L 10,0", L"M 0,0 L 5,0"}, true, false, 1, 0.0},
-        Row{"the geometry of a part lost",
-            {L"M 0,0", L"M 0,0 L 10,0"},
-            {L"M 0,0 L 5,0", L"M 0,0 L 10,0"},
-            true,
-            false,
-            1,
-            0.0},
-        Row{"all lost", {}, {kSquare, kSquare}, true, false, 2, 0.0}));
+        PathsRow{"half of a fill lost",
+                 {L"M 0,0 L 5,0 L 5,10 L 0,10"},
+                 {L"M 0,0 L 5,0 L 10,0 L 10,10 L 5,10 L 0,10"},
+                 false,
+                 true,
+                 0,
+                 0.5},
+        PathsRow{"a part lost", {L"M 0,0 L 10,0"}, {L"M 0,0 L 10,0", L"M 0,0 L 5,0"}, true, false, 1, 0.0},
+        PathsRow{"the geometry of a part lost",
+                 {L"M 0,0", L"M 0,0 L 10,0"},
+                 {L"M 0,0 L 5,0", L"M 0,0 L 10,0"},
+                 true,
+                 false,
+                 1,
+                 0.0},
+        PathsRow{"all lost", {}, {kSquare, kSquare}, true, false, 2, 0.0}));
 
 TEST(BlockMeasure, NamesTheNumberThatIsCut) {
     Symbol strict;
