@@ -66,7 +66,7 @@ std::string SubjectOf(styles::Loss loss) {
                                                : std::to_string(styles::kLargestPicture);
 }
 
-std::string ItemOf(TylModel::SymbolDefinition& symbol) {
+std::string SymbolItem(TylModel::SymbolDefinition& symbol) {
     return "symbol " + ShownText(symbol.GetName());
 }
 
@@ -95,9 +95,9 @@ bool QgisStyles::Add(TylModel::SymbolDefinition& symbol) {
         return false;
     }
     if (added.isRenamed) {
-        TellOfName(added.name, ItemOf(symbol), job_);
+        TellOfName(added.name, SymbolItem(symbol), job_);
     }
-    TellOfLosses(added.losses, ItemOf(symbol), job_);
+    TellOfLosses(added.losses, SymbolItem(symbol), job_);
     return true;
 }
 
@@ -110,16 +110,16 @@ bool MaplibreStyles::Add(TylModel::SymbolDefinition& symbol) {
         return false;
     }
     if (added.isRenamed) {
-        TellOfName(added.name, ItemOf(symbol), job_);
+        TellOfName(added.name, SymbolItem(symbol), job_);
     }
-    TellOfLosses(added.picture.losses, ItemOf(symbol), job_);
+    TellOfLosses(added.picture.losses, SymbolItem(symbol), job_);
     if (added.pictureName.empty()) {
         return true;
     }
     if (job_.allowsApproximate && added.picture.error > styles::kSeamless) {
         const std::string error = styles::PlainNumber(std::round(added.picture.error * 100) / 100);
         job_.diagnostics.push_back(
-            {Severity::kWarning, Code::kStyleApproximate, {job_.file, 0, ItemOf(symbol)}, {error}});
+            {Severity::kWarning, Code::kStyleApproximate, {job_.file, 0, SymbolItem(symbol)}, {error}});
     }
     job_.files.push_back({"sprite/" + added.pictureName + ".svg", std::move(added.picture.svg)});
     return true;
