@@ -51,7 +51,7 @@ public:
 private:
     struct Steps {
         double first;
-        double count;
+        int count;
     };
 
     // The picture, and the pen around it, as the tiling's axes see it.
@@ -69,7 +69,9 @@ private:
     static Steps StepsOf(double from, double to, double step, double low, double high) {
         const double first = std::ceil((low - std::max(from, to)) / step);
         const double last = std::floor((high - std::min(from, to)) / step);
-        return {first, std::max(0.0, last - first + 1)};
+        const double count = last - first + 1;
+        // More than can be drawn are as good as one more than that.
+        return {first, count > 0.0 ? static_cast<int>(std::min(count, kMostPictureStrokes + 1)) : 0};
     }
 
     // Whether there are not too many with these.
@@ -82,7 +84,7 @@ private:
     void AddEndless(double place, double step, double low, double high, const StrokeAt& strokeAt) {
         const Steps steps = StepsOf(place, place, step, low, high);
         if (Counts(steps.count)) {
-            for (double i = 0; i < steps.count; ++i) {
+            for (int i = 0; i < steps.count; ++i) {
                 Append(strokeAt(place + (steps.first + i) * step));
             }
         }
@@ -91,11 +93,11 @@ private:
     void AddRepeated(const Stroke& stroke, const Tiling& tiling, const Box& seen) {
         const Steps across = StepsOf(stroke.from.x, stroke.to.x, tiling.stepX, seen.low.x, seen.high.x);
         const Steps upright = StepsOf(stroke.from.y, stroke.to.y, tiling.stepY, seen.low.y, seen.high.y);
-        if (!Counts(across.count * upright.count)) {
+        if (!Counts(double{1} * across.count * upright.count)) {
             return;
         }
-        for (double j = 0; j < upright.count; ++j) {
-            for (double i = 0; i < across.count; ++i) {
+        for (int j = 0; j < upright.count; ++j) {
+            for (int i = 0; i < across.count; ++i) {
                 const Point moved{(across.first + i) * tiling.stepX, (upright.first + j) * tiling.stepY};
                 Append({stroke.from + moved, stroke.to + moved});
             }

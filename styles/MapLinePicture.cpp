@@ -45,7 +45,7 @@ public:
         if (!Counts(repeats * static_cast<double>(dashes.lengths.size()))) {
             return;
         }
-        for (double repeat = 0; repeat < repeats; ++repeat) {
+        for (int repeat = 0; repeat < static_cast<int>(repeats); ++repeat) {
             double at = repeat * period - dashes.phase * kPixelsPerMillimetre;
             for (std::size_t i = 0; i + 1 < dashes.lengths.size(); i += 2) {
                 const double end = at + dashes.lengths[i] * kPixelsPerMillimetre;
@@ -85,7 +85,7 @@ public:
 
 private:
     bool Counts(double strokes) {
-        isTooDense_ = isTooDense_ || strokes > kMostPictureStrokes;
+        isTooDense_ = isTooDense_ || !(strokes <= kMostPictureStrokes);
         return !isTooDense_;
     }
 
@@ -97,7 +97,7 @@ private:
         const double first = std::ceil((-reach - offset) / step);
         const double count = std::floor((length_ + reach - offset) / step) - first + 1;
         if (Counts(count)) {
-            for (double i = 0; i < count; ++i) {
+            for (int i = 0; i < static_cast<int>(count); ++i) {
                 visit(offset + (first + i) * step);
             }
         }

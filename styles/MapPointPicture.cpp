@@ -42,9 +42,10 @@ MapPicture PointPicture(const preview::ResolvedSymbol& symbol, double scale) {
     preview::SvgWriter svg(picture.svg);
     OpenPicture(svg, picture.width, picture.height, side, side);
     const std::string middle = PixelText(side / 2);
+    const std::string center = "translate(" + middle + " " + middle + ")";
     const preview::Placement placement{{}, scale * kPixelsPerMillimetre};
     for (const preview::Member& member : symbol.members) {
-        std::string place = "translate(" + middle + " " + middle + ")";
+        std::string place = center;
         if (member.angle.value != 0.0) {
             place += " rotate(" + PlainNumber(0.0 - member.angle.value) + ")";
         }

@@ -101,7 +101,7 @@ std::string DashPaint(const Dashes& dashes) {
     if (!dashes.lengths.empty()) {
         paint += ", \"line-dasharray\": " + DashList(dashes);
     }
-    return "\"type\": \"line\", \"paint\": {" + paint + "}";
+    return R"("type": "line", "paint": {)" + paint + "}";
 }
 
 std::string PicturePaint(Usage usage, const std::string& picture, int height) {
