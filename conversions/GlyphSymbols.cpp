@@ -44,7 +44,7 @@ bool IsSeenCharacter(std::uint16_t number, ShxUtility::ShapeFileKind kind) {
 }
 
 // "A (65) UCA", "10 LF".
-std::wstring NameOf(const documents::Glyph& glyph, ShxUtility::ShapeFileKind kind) {
+std::wstring GlyphName(const documents::Glyph& glyph, ShxUtility::ShapeFileKind kind) {
     std::wstring name = std::to_wstring(glyph.number);
     if (IsSeenCharacter(glyph.number, kind)) {
         name = std::wstring(1, static_cast<wchar_t>(glyph.number)) + L" (" + name + L')';
@@ -61,7 +61,7 @@ std::wstring NameOf(const documents::Glyph& glyph, ShxUtility::ShapeFileKind kin
 std::unique_ptr<TylModel::SimpleSymbolDefinition> SymbolOf(const documents::Glyph& glyph,
                                                            ShxUtility::ShapeFileKind kind) {
     auto symbol = std::make_unique<TylModel::SimpleSymbolDefinition>();
-    symbol->SetName(NameOf(glyph, kind));
+    symbol->SetName(GlyphName(glyph, kind));
     if (glyph.result != ShxUtility::kSuccess) {
         symbol->SetDescription(L"cannot be drawn: result " + std::to_wstring(glyph.result));
         return symbol;
