@@ -25,10 +25,10 @@ shown_step "The documents' commands" python3 tests/commands/commands.py checkout
 shown_step "clang-tidy" scripts/tidy.sh
 shown_step "The Microsoft compiler's target" scripts/msvc.sh
 shown_step "Ways of building" scripts/builds.sh --quick
+shown_step "Styles in QGIS" scripts/qgis.sh
+shown_step "Styles in MapLibre" scripts/maplibre.sh
 
 # The foreign pair is built and tested with sanitizers and for Windows.
 shown_step "Test debug" ctest --preset debug --progress
 shown_step "Test windows" ctest --preset windows --progress
 shown_step "Test release" ctest --preset release --progress -E '^host\.'
-shown_step "Styles in QGIS" scripts/qgis.sh
-shown_step "Styles in MapLibre" scripts/maplibre.sh
