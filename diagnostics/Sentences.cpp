@@ -129,7 +129,7 @@ constexpr auto kRows = std::to_array<Row>({
     {Code::kMissingTextStyle, "missing-text-style",
      "text style {0} not found in {1}", "", "STANDARD is used instead", true},
     {Code::kUnknownTextStyle, "unknown-text-style",
-     "text style {0} not found: without a drawing there is only STANDARD", "add --drawing with the drawing that has it", "STANDARD is used instead", true},
+     "text style {0} not found: without a drawing there is only {1}", "add --drawing with the drawing that has it, or give it a font with --font STYLE=FONT", "STANDARD is used instead", true},
     {Code::kMissingShapeFile, "missing-shape-file",
      "shape file {0} not found {1}", "", "", true},
     {Code::kMissingFontFile, "missing-font-file",

@@ -145,7 +145,9 @@ public:
 private:
     Finding Style() const {
         if (sources_.DrawingName().empty()) {
-            return {Code::kUnknownTextStyle, {Shown(subject_)}, error_.tolerated};
+            return {Code::kUnknownTextStyle,
+                    {Shown(subject_), sources_.StylesWithoutDrawing()},
+                    error_.tolerated};
         }
         return {Code::kMissingTextStyle, {Shown(subject_), sources_.DrawingName()}, error_.tolerated};
     }

@@ -5,13 +5,16 @@
 #include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/CodePage.h"
 #include "StyleConversion/platform/Files.h"
+#include "StyleConversion/platform/Utf8.h"
 #include "conversions/reading/Drawing.h"
 #include "conversions/reading/ShapeFile.h"
 #include "conversions/reading/Shown.h"
 #include "drawing/database/HostServices.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace conversions {
 namespace {
@@ -36,6 +39,13 @@ bool IsFontFile(const std::wstring& font) {
     return IsSame(platform::SplitPath(font).extension.c_str(), L".shx");
 }
 
+drawing::TextStyleData StyleIn(const std::string& font) {
+    drawing::TextStyleData style;
+    const std::wstring name = platform::PathFromBytes(font);
+    (IsFontFile(name) ? style.fileName : style.typeface) = name;
+    return style;
+}
+
 } // namespace
 
 LinetypeSources::LinetypeSources(const Input& input, const LinetypeSourceOptions& options, Front& front)
@@ -55,14 +65,16 @@ bool LinetypeSources::ReadDrawing(diagnostics::Diagnostics& diagnostics) {
 
 void LinetypeSources::MakeDefaultDrawing() {
     drawing_ = std::make_unique<drawing::Database>();
-    drawing::TextStyleData style;
-    const std::wstring font = platform::PathFromBytes(options_.font);
-    if (font.empty()) {
-        style.fileName = kDefaultFont;
-    } else {
-        (IsFontFile(font) ? style.fileName : style.typeface) = font;
+    if (options_.styleFonts != nullptr) {
+        for (const StyleFonts::Entry& entry : options_.styleFonts->All()) {
+            drawing_->AddTextStyle(platform::Utf8ToWide(entry.style), StyleIn(entry.font));
+        }
     }
-    drawing_->AddTextStyle(kDefaultStyle, std::move(style));
+    drawing::TextStyleData standard;
+    standard.fileName = kDefaultFont;
+    // Where it has a font by name, it is there already.
+    drawing_->AddTextStyle(kDefaultStyle,
+                           options_.font.empty() ? std::move(standard) : StyleIn(options_.font));
 }
 
 bool LinetypeSources::GetFontInfoFromStyle(const wchar_t* styleName, LineConverter::FontInfo& info) {
@@ -76,6 +88,9 @@ bool LinetypeSources::GetFontInfoFromStyle(const wchar_t* styleName, LineConvert
         info = {};
         info.fileName = kDefaultFont;
         info.xScale = 1.0;
+    }
+    if (options_.styleFonts != nullptr) {
+        options_.styleFonts->Use(styleName);
     }
     spellings_[InUpperCase(info.fileName)] = info.fileName;
     return true;
@@ -112,6 +127,22 @@ diagnostics::Diagnostics LinetypeSources::StandIns(diagnostics::Severity severit
 
 std::string LinetypeSources::DrawingName() const {
     return options_.drawing ? options_.drawing->name : std::string();
+}
+
+std::string LinetypeSources::StylesWithoutDrawing() const {
+    std::vector<std::string> names{ShownText(std::wstring_view(kDefaultStyle))};
+    if (options_.styleFonts != nullptr) {
+        for (const StyleFonts::Entry& entry : options_.styleFonts->All()) {
+            if (!IsSame(platform::Utf8ToWide(entry.style).c_str(), kDefaultStyle)) {
+                names.push_back(ShownText(platform::Utf8ToWide(entry.style)));
+            }
+        }
+    }
+    std::string text = names.front();
+    for (std::size_t i = 1; i < names.size(); ++i) {
+        text += (i + 1 < names.size() ? ", " : " and ") + names[i];
+    }
+    return text;
 }
 
 std::wstring LinetypeSources::AsSpelled(const std::wstring& name) const {

@@ -6,6 +6,7 @@
 #include "StyleConversion/linetype/ShapeFileSource.h"
 #include "conversions/reading/Front.h"
 #include "conversions/reading/Input.h"
+#include "conversions/reading/StyleFonts.h"
 #include "diagnostics/Diagnostic.h"
 #include "drawing/database/Database.h"
 
@@ -19,7 +20,8 @@ namespace conversions {
 struct LinetypeSourceOptions {
     std::optional<Input> drawing; // a drawing document with the text styles; else there is one, STANDARD
     std::string font;             // of STANDARD where there is no drawing: a .shx file or a typeface
-    bool tolerant = false;        // STANDARD and its font stand in with a drawing, too
+    const StyleFonts* styleFonts = nullptr; // of more styles, or of STANDARD, where there is no drawing
+    bool tolerant = false;                  // STANDARD and its font stand in with a drawing, too
 };
 
 class LinetypeSources final : public LineConverter::IGetFontInfo, public LineConverter::ShapeFileSource {
@@ -38,6 +40,8 @@ public:
 
     /// What messages call the drawing; empty where there is none.
     std::string DrawingName() const;
+    /// Where there is no drawing, the styles that there are: "STANDARD and GAS".
+    std::string StylesWithoutDrawing() const;
     /// A name that linetypes give in upper case, as it stands in the file or in the drawing.
     std::wstring AsSpelled(const std::wstring& name) const;
     /// "in ., shapes/"

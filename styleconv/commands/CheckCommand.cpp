@@ -8,6 +8,7 @@
 #include "documents/SarifDocument.h"
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/DrawingViewOptions.h"
+#include "styleconv/commands/FontArguments.h"
 #include "styleconv/commands/Job.h"
 #include "styleconv/commands/ManyFiles.h"
 #include "styleconv/commands/Spelling.h"
@@ -56,7 +57,7 @@ std::unique_ptr<conversions::Front> FrontFor(FileKind kind, const std::string& f
     const bool toStandardOutput = options.output.empty();
     switch (kind) {
     case FileKind::kLinetypes:
-        return FrontForLinetypes({file, options.shapeFolders, options.font}, toStandardOutput);
+        return FrontForLinetypes({file, options.shapeFolders, FontsOf(options)}, toStandardOutput);
     case FileKind::kDrawing:
         return FrontForDrawing({file, options.shapeFolders, {}}, toStandardOutput);
     default:
@@ -90,7 +91,7 @@ Diagnostics CheckOne(const CheckOptions& options, const std::string& path) {
         return {{Severity::kError, Code::kUnknownFileKind, {input.Name()}, {}}};
     }
     conversions::CheckOptions job;
-    job.linetypes.font = options.font;
+    job.linetypes.styleFonts = &options.fonts;
     job.layersToIgnore = WideTexts(options.layersToIgnore);
     job.view = ViewOf(options);
     InputFile drawing(options.drawing);
@@ -165,9 +166,9 @@ Findings FindingsOf(const CheckOptions& options, const std::set<Code>& codesToIg
     return findings;
 }
 
-ExitStatus CheckFiles(const CheckOptions& options) {
+ExitStatus CheckFiles(CheckOptions& options) {
     std::set<Code> codesToIgnore;
-    if (!CheckStyleOptions(options) || !CheckEncoding(options.codePage) ||
+    if (!ReadStyleOptions(options) || !CheckEncoding(options.codePage) ||
         !ReadCodes(options.codesToIgnore, codesToIgnore)) {
         return kUsageFault;
     }
@@ -179,6 +180,7 @@ ExitStatus CheckFiles(const CheckOptions& options) {
     const ExitStatus status = WriteResult(options.output, [&](const conversions::TextSink& sink) {
         return sink(TextOf(findings, options.format));
     });
+    SayUnusedFonts(options);
     const std::size_t failures =
         CountOf(findings.found, Severity::kError) +
         (options.failOn == "warning" ? CountOf(findings.found, Severity::kWarning) : 0);

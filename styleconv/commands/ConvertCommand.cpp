@@ -9,6 +9,7 @@
 #include "diagnostics/ShownText.h"
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/DrawingViewOptions.h"
+#include "styleconv/commands/FontArguments.h"
 #include "styleconv/commands/Job.h"
 #include "styleconv/commands/ManyFiles.h"
 #include "styleconv/files/FileWalk.h"
@@ -45,7 +46,7 @@ struct ConvertOptions : CommonOptions, StyleOptions, DrawingViewOptions {
 Conversion LinetypesOf(const ConvertOptions& options, conversions::Form form, const InputFile& input,
                        conversions::Front& front) {
     conversions::LinetypesOptions job;
-    job.font = options.font;
+    job.styleFonts = &options.fonts;
     job.tolerant = options.tolerant;
     job.fidelity = FidelityOf(options.faithful, options, form);
     return ConvertWithStyles(input.ForJob(options.codePage), std::move(job), options, front);
@@ -88,14 +89,14 @@ Conversion ConvertKind(const ConvertOptions& options, conversions::Form form, co
 
 std::unique_ptr<conversions::Front> FrontOf(const ConvertOptions& options, const std::string& file,
                                             FileKind kind) {
-    const SearchOptions search = {file, options.shapeFolders, options.font};
+    const SearchOptions search = {file, options.shapeFolders, FontsOf(options)};
     return kind == FileKind::kDrawing ? FrontForDrawing(search, options.output.empty())
                                       : FrontForLinetypes(search, options.output.empty());
 }
 
-ExitStatus Convert(const ConvertOptions& options) {
+ExitStatus Convert(ConvertOptions& options) {
     const std::optional<conversions::Form> form = FormOf(options, options.faithful);
-    if (!form || !CheckStyleOptions(options) || !CheckEncoding(options.codePage)) {
+    if (!form || !ReadStyleOptions(options) || !CheckEncoding(options.codePage)) {
         return kUsageFault;
     }
     if (std::find(options.paths.begin(), options.paths.end(), "-") != options.paths.end()) {
@@ -110,12 +111,14 @@ ExitStatus Convert(const ConvertOptions& options) {
     files.allOrNothing = options.allOrNothing;
     files.isTolerant = options.tolerant;
     files.tellsOrigins = options.paths.size() > 1 || !walk.folders.empty();
-    return ConvertFiles(
+    const ExitStatus status = ConvertFiles(
         files,
         [&](const InputFile& input, FileKind kind, conversions::Front& front) {
             return ConvertKind(options, *form, input, kind, front);
         },
         [&](const std::string& file, FileKind kind) { return FrontOf(options, file, kind); }, options, *form);
+    SayUnusedFonts(options);
+    return status;
 }
 
 // As a file of the gallery's folder may be called on every system.

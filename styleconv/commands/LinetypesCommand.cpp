@@ -1,6 +1,7 @@
 // styleconv linetypes: linetypes to line symbols.
 #include "conversions/Linetypes.h"
 #include "styleconv/commands/Commands.h"
+#include "styleconv/commands/FontArguments.h"
 #include "styleconv/commands/Job.h"
 #include "styleconv/commands/ManyFiles.h"
 #include "styleconv/files/InputFile.h"
@@ -28,7 +29,7 @@ conversions::Conversion ConvertOpenLinetypes(const LinetypesOptions& options, co
     conversions::LinetypesOptions job;
     job.names = WideTexts(options.names);
     job.scale = options.scale;
-    job.font = options.font;
+    job.styleFonts = &options.fonts;
     job.tolerant = options.tolerant;
     job.fidelity = FidelityOf(options.faithful, options, form);
     return ConvertWithStyles(input.ForJob(options.codePage), std::move(job), options, front);
@@ -45,15 +46,12 @@ ExitStatus SeveralLinetypes(const LinetypesOptions& options, conversions::Form f
             return ConvertOpenLinetypes(options, form, input, front);
         },
         [&](const std::string& file, conversions::FileKind /*kind*/) {
-            return FrontForLinetypes({file, options.shapeFolders, options.font}, options.output.empty());
+            return FrontForLinetypes({file, options.shapeFolders, FontsOf(options)}, options.output.empty());
         },
         options, form);
 }
 
-ExitStatus Linetypes(const LinetypesOptions& options) {
-    if (!CheckStyleOptions(options)) {
-        return kUsageFault;
-    }
+ExitStatus ConvertedLinetypes(const LinetypesOptions& options) {
     const std::optional<conversions::Form> form = FormOf(options, options.faithful);
     if (!form) {
         return kUsageFault;
@@ -69,9 +67,18 @@ ExitStatus Linetypes(const LinetypesOptions& options) {
     if (!CheckEncoding(options.codePage)) {
         return kUsageFault;
     }
-    const auto front = FrontForLinetypes({file, options.shapeFolders, options.font}, options.output.empty());
+    const auto front =
+        FrontForLinetypes({file, options.shapeFolders, FontsOf(options)}, options.output.empty());
     return Finish(ConvertOpenLinetypes(options, *form, input, *front), file, options.tolerant, options, *form,
                   *front);
+}
+
+ExitStatus Linetypes(LinetypesOptions& options) {
+    const ExitStatus status = ReadStyleOptions(options) ? ConvertedLinetypes(options) : kUsageFault;
+    if (status != kUsageFault) {
+        SayUnusedFonts(options);
+    }
+    return status;
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "StyleConversion/encoding/NumberReader.h"
 #include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/Utf8.h"
+#include "styleconv/commands/FontArguments.h"
 #include "styleconv/files/FileWalk.h"
 #include "styleconv/process/Messages.h"
 #include "styleconv/process/WorkLimits.h"
@@ -90,18 +91,18 @@ void AddStyleOptions(Command& command, StyleOptions& options) {
     command.AddText(
         "--drawing", options.drawing, "DRAWING",
         "Take text styles from this DXF file or drawing document (default: one style STANDARD with txt.shx)");
-    command.AddText(
-        "--font", options.font, "FILE.shx|TYPEFACE",
-        "Without --drawing, the font of the style STANDARD: an SHX file, or the name of a typeface");
+    command.AddTexts("--font", options.fontArguments, "[STYLE=]FILE.shx|TYPEFACE",
+                     "Without --drawing, the font of a text style (default: of STANDARD), an SHX file or the "
+                     "name of a typeface; may be given again");
     AddShapesOption(command, options.shapeFolders);
 }
 
-bool CheckStyleOptions(const StyleOptions& options) {
-    if (!options.font.empty() && !options.drawing.empty()) {
+bool ReadStyleOptions(StyleOptions& options) {
+    if (!options.fontArguments.empty() && !options.drawing.empty()) {
         SayLine("styleconv: --font cannot be used with --drawing: the drawing gives text styles their fonts");
         return false;
     }
-    return true;
+    return ReadFontArguments(options);
 }
 
 void AddWalkOptions(Command& command, WalkOptions& options) {

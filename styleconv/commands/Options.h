@@ -2,6 +2,7 @@
 #pragma once
 
 #include "conversions/Restyling.h"
+#include "conversions/reading/StyleFonts.h"
 #include "styleconv/commands/CommandLine.h"
 
 #include <cstdint>
@@ -35,14 +36,15 @@ void AddPointOption(Command& command, const std::string& name, double& x, double
 struct StyleOptions {
     std::string drawing;                   // a DXF file or drawing document; empty for the one style STANDARD
     std::vector<std::string> shapeFolders; // where shape files are looked for, too
-    std::string font;                      // of STANDARD without a drawing: a file or a typeface
+    std::vector<std::string> fontArguments; // of text styles without a drawing, as given
+    conversions::StyleFonts fonts;          // the same, read
 };
 
 /// Adds --drawing, --shapes and --font.
 void AddStyleOptions(Command& command, StyleOptions& options);
 
-/// False, with a message, when they contradict each other.
-bool CheckStyleOptions(const StyleOptions& options);
+/// Reads the fonts. False, with a message, when they are none, or the options contradict each other.
+bool ReadStyleOptions(StyleOptions& options);
 
 /// How styles of map programs are made.
 struct StyleFormOptions {

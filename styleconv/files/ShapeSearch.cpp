@@ -7,6 +7,7 @@
 #include "drawing/database/HostServices.h"
 #include "styleconv/files/InputFile.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -61,13 +62,16 @@ FoundFile LinetypeShapeSearch::Find(const std::wstring& name) const {
 std::FILE* LinetypeShapeSearch::Open(const std::wstring& name) const {
     drawing::HostServices host(WidePaths(options_.folders));
     LineConverter::CLineConverterDep search(&host, folder_.c_str());
-    const std::wstring font = platform::PathFromBytes(options_.font);
-    if (font.empty() || platform::CompareIgnoringCase(name.c_str(), font.c_str()) != 0) {
+    const std::vector<std::wstring> fonts = WidePaths(options_.fonts);
+    const auto font = std::find_if(fonts.begin(), fonts.end(), [&](const std::wstring& each) {
+        return platform::CompareIgnoringCase(name.c_str(), each.c_str()) == 0;
+    });
+    if (font == fonts.end()) {
         return search.GetFile(name.c_str(), L".shx");
     }
     // As it was spelled, and by itself first: a path longer than those in files may be is found here.
-    std::FILE* const stream = platform::OpenForReadingIgnoringCase(font.c_str());
-    return stream != nullptr ? stream : search.GetFile(font.c_str(), L".shx");
+    std::FILE* const stream = platform::OpenForReadingIgnoringCase(font->c_str());
+    return stream != nullptr ? stream : search.GetFile(font->c_str(), L".shx");
 }
 
 std::string LinetypeShapeSearch::Places(const std::wstring& name) const {

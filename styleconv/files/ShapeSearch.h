@@ -12,7 +12,7 @@ namespace styleconv {
 struct SearchOptions {
     std::string file;                 // of the linetypes, or the drawing; "-" has no folder
     std::vector<std::string> folders; // where else to look
-    std::string font;                 // of linetypes' style STANDARD
+    std::vector<std::string> fonts;   // of linetypes' text styles
 };
 
 /// For a linetype file: by the name as it stands, beside the linetype file, and then in the folders.

@@ -261,7 +261,7 @@ TEST_F(LinetypesCommand, UnknownStyleIsAFault) {
     EXPECT_EQ(
         Fault("*X\nA,1,[\"A\",roads]\n"),
         "2: error: text style roads not found: without a drawing there is only STANDARD; add --drawing with "
-        "the drawing that has it (linetype X)\n");
+        "the drawing that has it, or give it a font with --font STYLE=FONT (linetype X)\n");
 }
 
 class LinetypesOverADrawing : public LinetypesCommand {
