@@ -133,7 +133,7 @@ std::string ReadOptions(std::string_view text, Job job, Options& options) {
         return "options: expected an object";
     }
     for (std::size_t i = 0; i < root.keys.size(); ++i) {
-        const std::string error = ReadOption(root.keys[i], root.values[i], job, options);
+        std::string error = ReadOption(root.keys[i], root.values[i], job, options);
         if (!error.empty()) {
             return error;
         }

@@ -10,8 +10,8 @@ install_packages "${tool_packages[@]}" "${test_packages[@]}"
 step "Configure" cmake --preset tidy
 
 case ${1-} in
-  "") folders='StyleConversion|drawing|diagnostics|documents|exchange|preview|styles|conversions' ;;
-  --all) folders='StyleConversion|drawing|diagnostics|documents|exchange|preview|styles|conversions|styleconv|tests|fuzz|benchmarks' ;;
+  "") folders='c|StyleConversion|drawing|diagnostics|documents|exchange|preview|styles|conversions' ;;
+  --all) folders='c|StyleConversion|drawing|diagnostics|documents|exchange|preview|styles|conversions|styleconv|tests|fuzz|benchmarks' ;;
   *) exec python3 scripts/tidy.py build/tidy "$@" ;;
 esac
 mapfile -t sources < <(git ls-files '*.cpp' | grep -E "^($folders)/" | grep -v '/windows/')

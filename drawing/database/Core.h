@@ -36,10 +36,12 @@ struct OxDbStub {
     OxDbObject* object;
     drawing::Core* core;
     // A drawing has as many of these as entities, so that each byte counts: one word for all of it.
+    // NOLINTBEGIN(modernize-use-default-member-init): hosts read this as C++17, which has none for bits
     std::uint32_t openCount : 29;
     std::uint32_t erased : 1;
     std::uint32_t resident : 1; // 0: can be opened, but says that it is in no database
     std::uint32_t hidden : 1;   // an entity that is not shown; conversions look at it only where asked to
+    // NOLINTEND(modernize-use-default-member-init)
     drawing::DrawnAsIndex drawnAs = 0; // of an entity
 };
 
