@@ -149,7 +149,7 @@ private:
             return;
         }
         losses->diagnostic.severity = Severity::kWarning;
-        const std::shared_ptr<TylModel::SymbolDefinition> faithful = std::move(losses->faithful);
+        std::shared_ptr<TylModel::SymbolDefinition> faithful = std::move(losses->faithful);
         result_.captions.losses[&symbol] = {SentenceOf(losses->diagnostic), [faithful] { return faithful; }};
         found.push_back(std::move(losses->diagnostic));
     }

@@ -109,6 +109,7 @@ double FarthestFrom(const PathLines& others, const PathLines& lines, double know
     }
     const bool takesEach = lines.Lines().size() <= kMostComparisons / others.Lines().size();
     NearestLine nearest(others.Lines());
+    std::size_t asked = 0;
     double next = 0.5 * step;
     double before = 0.0;
     double farthest = known;
@@ -120,8 +121,10 @@ double FarthestFrom(const PathLines& others, const PathLines& lines, double know
         for (int i = 0; takesEach && i <= 2; ++i) {
             look(PointOn(line, 0.5 * i));
         }
-        for (; length > 0.0 && next <= before + length; next += step) {
+        while (length > 0.0 && next <= before + length) {
             look(PointOn(line, (next - before) / length));
+            ++asked;
+            next = (static_cast<double>(asked) + 0.5) * step;
         }
         before += length;
     }
