@@ -218,7 +218,7 @@ public:
 
 private:
     static constexpr const char* kExpectedSymbol =
-        "\"SimpleSymbolDefinition\" or \"CompoundSymbolDefinition\"";
+        R"("SimpleSymbolDefinition" or "CompoundSymbolDefinition")";
 
     bool Name(const SymbolNode& node, TylModel::SymbolDefinition& symbol) {
         const JsonValue* const value = Member(node, "name", "a text");
@@ -292,7 +292,7 @@ private:
     }
 
     bool Graphic(const SymbolNode& node, TylModel::SimpleSymbolDefinition& symbol) {
-        constexpr const char* kExpected = "\"Path\" or \"Text\"";
+        constexpr const char* kExpected = R"("Path" or "Text")";
         std::string_view type;
         if (!WordOf(node, "type", type, kExpected)) {
             return false;
@@ -370,7 +370,7 @@ private:
         if (node.value.Find("kind") == nullptr && node.value.Find("source") == nullptr) {
             return true;
         }
-        constexpr const char* kExpected = "\"linetype\", \"pattern\", \"block\" or \"glyph\"";
+        constexpr const char* kExpected = R"("linetype", "pattern", "block" or "glyph")";
         std::string_view kind;
         const JsonValue* const source = Member(node, "source", "an object");
         if (source == nullptr || !WordOf(node, "kind", kind, kExpected)) {
