@@ -68,13 +68,13 @@ struct Property {
     bool isTruth = false; // "true", or left out
 };
 
-constexpr Property<TylModel::Path> kPathProperties[] = {
+const Property<TylModel::Path> kPathProperties[] = {
     {"geometry", &TylModel::Path::SetGeometry},
     {"lineColor", &TylModel::Path::SetLineColor},
     {"fillColor", &TylModel::Path::SetFillColor},
     {"lineWeight", &TylModel::Path::SetLineWeight},
     {"lineWeightScalable", &TylModel::Path::SetLineWeightScalable}};
-constexpr Property<TylModel::Text> kTextProperties[] = {
+const Property<TylModel::Text> kTextProperties[] = {
     {"content", &TylModel::Text::SetContent},
     {"fontName", &TylModel::Text::SetFontName},
     {"height", &TylModel::Text::SetHeight},
@@ -88,21 +88,21 @@ constexpr Property<TylModel::Text> kTextProperties[] = {
     {"italic", &TylModel::Text::SetItalic, true},
     {"underlined", &TylModel::Text::SetUnderlined, true},
     {"overlined", &TylModel::Text::SetOverlined, true}};
-constexpr Property<TylModel::Parameter> kParameterProperties[] = {
+const Property<TylModel::Parameter> kParameterProperties[] = {
     {"identifier", &TylModel::Parameter::SetIdentifier},
     {"displayName", &TylModel::Parameter::SetDisplayName},
     {"description", &TylModel::Parameter::SetDescription},
     {"defaultValue", &TylModel::Parameter::SetDefaultValue}};
-constexpr Property<TylModel::PointUsage> kPointProperties[] = {{"angle", &TylModel::PointUsage::SetAngle}};
-constexpr Property<TylModel::LineUsage> kLineProperties[] = {
+const Property<TylModel::PointUsage> kPointProperties[] = {{"angle", &TylModel::PointUsage::SetAngle}};
+const Property<TylModel::LineUsage> kLineProperties[] = {
     {"angle", &TylModel::LineUsage::SetAngle},
     {"angleControl", &TylModel::LineUsage::SetAngleControl},
     {"repeat", &TylModel::LineUsage::SetRepeat},
     {"startOffset", &TylModel::LineUsage::SetStartOffset}};
-constexpr Property<TylModel::AreaUsage> kAreaProperties[] = {{"angle", &TylModel::AreaUsage::SetAngle},
-                                                             {"repeatX", &TylModel::AreaUsage::SetRepeatX},
-                                                             {"repeatY", &TylModel::AreaUsage::SetRepeatY}};
-constexpr Property<TylModel::SymbolDefinition> kSymbolProperties[] = {
+const Property<TylModel::AreaUsage> kAreaProperties[] = {{"angle", &TylModel::AreaUsage::SetAngle},
+                                                         {"repeatX", &TylModel::AreaUsage::SetRepeatX},
+                                                         {"repeatY", &TylModel::AreaUsage::SetRepeatY}};
+const Property<TylModel::SymbolDefinition> kSymbolProperties[] = {
     {"description", &TylModel::SymbolDefinition::SetDescription}};
 
 constexpr TylModel::Parameter::DataType kDataTypes[] = {

@@ -42,12 +42,20 @@ bool IsOfKnownKind(const std::string& path) {
     return conversions::IsDxf(path, bytes) || conversions::KindByContents(bytes) != FileKind::kUnknown;
 }
 
+bool EndsWithSeparator(const std::string& folder) {
+#if defined(_WIN32)
+    return folder.ends_with('/') || folder.ends_with('\\');
+#else
+    return folder.ends_with('/');
+#endif
+}
+
 class FolderWalk {
 public:
     FolderWalk(const WalkOptions& options, Walk& walk) : options_(options), walk_(walk) {}
 
     void Add(const std::string& folder) {
-        const std::string prefix = folder.ends_with('/') ? folder : folder + "/";
+        const std::string prefix = EndsWithSeparator(folder) ? folder : folder + "/";
         std::vector<std::string> found;
         std::error_code error;
         const fs::path root = NativePath(folder);

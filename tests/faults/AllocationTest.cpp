@@ -154,6 +154,9 @@ TEST(FailedAllocations, OfReadingADxfFileReachTheCaller) {
 }
 
 TEST(FailedAllocations, OfReadingSymbolsReachTheCaller) {
+    if (!kCountsAllocationsOfLibraries) {
+        GTEST_SKIP() << kWhyNot;
+    }
     const std::string text = R"({"format": "styleconversion/symbols", "version": 1, "symbols": [
         {"type": "SimpleSymbolDefinition", "name": "a name that is too long for the room within a string",
          "kind": "linetype", "source": {"file": "a", "line": 1}, "graphics": [{"type": "Path", "geometry": "M 0,0"}],
