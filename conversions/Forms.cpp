@@ -98,7 +98,7 @@ bool WriteSymbols(const SymbolList& symbols, Form form, const TextSink& sink, Fr
         return WriteAll(symbols, CaptionedGallery(symbols, captions, fidelity, sink), front);
     case Form::kQgis: {
         StyleJob unheard;
-        return WriteAll(symbols, QgisStyles(sink, styles != nullptr ? *styles : unheard), front);
+        return WriteAll(symbols, QgisStyles(sink, captions, styles != nullptr ? *styles : unheard), front);
     }
     case Form::kMaplibre: {
         StyleJob unheard;

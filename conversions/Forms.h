@@ -34,7 +34,8 @@ struct StyleFile {
 
 /// How styles are made, and what there is to say about them.
 struct StyleJob {
-    std::string file; // as messages call it
+    std::string file;                 // as messages call it, and where symbols tell no other as tags do
+    std::vector<std::string> folders; // that were given as a whole; tags say where below them a file is
     bool hatchesInMillimetres = false;
     double scale = 1.0;
     bool allowsApproximate = false;

@@ -1,7 +1,7 @@
 #include "conversions/Styles.h"
 
-#include "StyleConversion/platform/Files.h"
 #include "StyleConversion/platform/Utf8.h"
+#include "conversions/StyleTags.h"
 #include "conversions/reading/Shown.h"
 #include "styles/Limits.h"
 #include "styles/Numbers.h"
@@ -53,10 +53,6 @@ styles::QgisOptions OptionsOf(const StyleJob& job) {
     styles::QgisOptions options;
     options.hatchUnit = job.hatchesInMillimetres ? styles::HatchUnit::kMillimetre : styles::HatchUnit::kMap;
     options.scale = job.scale;
-    if (!job.file.empty() && job.file != "standard input" && job.file != "standard output") {
-        const std::wstring stem = platform::SplitPath(platform::PathFromBytes(job.file)).fileName;
-        options.tags.push_back(platform::WideToValidUtf8(stem));
-    }
     return options;
 }
 
@@ -87,11 +83,22 @@ void TellOfLosses(const styles::Losses& losses, const std::string& item, StyleJo
 
 } // namespace
 
-QgisStyles::QgisStyles(const TextSink& sink, StyleJob& job) : job_(job), writer_(sink, OptionsOf(job)) {}
+QgisStyles::QgisStyles(const TextSink& sink, const Captions& captions, StyleJob& job)
+    : captions_(captions), job_(job), writer_(sink, OptionsOf(job)) {}
+
+const std::vector<std::string>& QgisStyles::TagsOf(const TylModel::SymbolDefinition& symbol) {
+    const auto source = captions_.sources.find(&symbol);
+    const std::string& file = source != captions_.sources.end() ? source->second : job_.file;
+    const auto [tags, isNew] = tags_.try_emplace(file);
+    if (isNew && file != "standard input" && file != "standard output") {
+        tags->second = StyleTags(file, job_.folders);
+    }
+    return tags->second;
+}
 
 bool QgisStyles::Add(TylModel::SymbolDefinition& symbol) {
     styles::AddedStyle added;
-    if (!writer_.Add(symbol, added)) {
+    if (!writer_.Add(symbol, TagsOf(symbol), added)) {
         return false;
     }
     if (added.isRenamed) {

@@ -5,20 +5,29 @@
 #include "styles/MaplibreStyle.h"
 #include "styles/QgisLibrary.h"
 
+#include <map>
+#include <string>
+#include <vector>
+
 namespace conversions {
 
 /// Writes the symbols that it is given to a style library. What that does not say of them is added to the
 /// job.
 class QgisStyles {
 public:
-    QgisStyles(const TextSink& sink, StyleJob& job);
+    /// Symbols have tags of the files that captions say, and else of the job's.
+    QgisStyles(const TextSink& sink, const Captions& captions, StyleJob& job);
 
     /// Each is false when the sink refuses a text.
     bool Add(TylModel::SymbolDefinition& symbol);
     bool Finish() { return writer_.Finish(); }
 
 private:
+    const std::vector<std::string>& TagsOf(const TylModel::SymbolDefinition& symbol);
+
+    const Captions& captions_;
     StyleJob& job_;
+    std::map<std::string, std::vector<std::string>> tags_; // of each file
     styles::QgisLibraryWriter writer_;
 };
 

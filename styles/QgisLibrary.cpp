@@ -76,20 +76,22 @@ std::string_view TypeOf(Usage usage) {
     return usage == Usage::kArea ? "fill" : usage == Usage::kLine ? "line" : "marker";
 }
 
-} // namespace
-
-std::string QgisLibraryWriter::TagsOf(std::string_view kind) const {
-    std::string tags(kind);
-    for (const std::string& tag : options_.tags) {
-        tags += ',';
+// The program takes a comma for the end of a tag.
+std::string TagList(std::string_view kind, const std::vector<std::string>& tags) {
+    std::string list(kind);
+    for (const std::string& tag : tags) {
+        list += ',';
         for (const char c : tag) {
-            tags += c == ',' ? ' ' : c;
+            list += c == ',' ? ' ' : c;
         }
     }
-    return tags;
+    return list;
 }
 
-bool QgisLibraryWriter::Add(TylModel::SymbolDefinition& symbol, AddedStyle& added) {
+} // namespace
+
+bool QgisLibraryWriter::Add(TylModel::SymbolDefinition& symbol, const std::vector<std::string>& tags,
+                            AddedStyle& added) {
     const ResolvedSymbol resolved = preview::Resolve(symbol);
     added = {};
     // Importing lets a symbol replace another one of its name, of whatever kind.
@@ -101,7 +103,7 @@ bool QgisLibraryWriter::Add(TylModel::SymbolDefinition& symbol, AddedStyle& adde
     QgisXml xml(text);
     // Lines are not cut at the map's edge: dashes would begin there, and move with the map.
     xml.OpenSymbol(TypeOf(resolved.usage), added.name, resolved.usage == Usage::kArea,
-                   TagsOf(KindOf(resolved)));
+                   TagList(KindOf(resolved), tags));
     if (!WriteLayers(xml, resolved, options_, added)) {
         WriteEmptyLayer(xml, resolved.usage);
     }

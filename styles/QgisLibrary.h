@@ -18,8 +18,7 @@ using TextSink = std::function<bool(std::string_view)>;
 
 struct QgisOptions {
     HatchUnit hatchUnit = HatchUnit::kMap;
-    double scale = 1.0;            // multiplies all lengths but pens
-    std::vector<std::string> tags; // UTF-8, beside the one that names the kind
+    double scale = 1.0; // multiplies all lengths but pens
 };
 
 /// What became of one symbol.
@@ -33,16 +32,14 @@ struct AddedStyle {
 /// held in memory.
 class QgisLibraryWriter {
 public:
-    QgisLibraryWriter(TextSink sink, QgisOptions options)
-        : sink_(std::move(sink)), options_(std::move(options)) {}
+    QgisLibraryWriter(TextSink sink, QgisOptions options) : sink_(std::move(sink)), options_(options) {}
 
-    /// False when the sink refused a piece; nothing more is to be written then.
-    bool Add(TylModel::SymbolDefinition& symbol, AddedStyle& added);
+    /// The tags, as UTF-8, stand beside the one that names the kind. False when the sink refused a piece;
+    /// nothing more is to be written then.
+    bool Add(TylModel::SymbolDefinition& symbol, const std::vector<std::string>& tags, AddedStyle& added);
     bool Finish();
 
 private:
-    std::string TagsOf(std::string_view kind) const;
-
     TextSink sink_;
     QgisOptions options_;
     UniqueNames names_{" (", ")"};

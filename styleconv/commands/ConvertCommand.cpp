@@ -111,6 +111,7 @@ ExitStatus Convert(ConvertOptions& options) {
     files.allOrNothing = options.allOrNothing;
     files.isTolerant = options.tolerant;
     files.tellsOrigins = options.paths.size() > 1 || !walk.folders.empty();
+    files.folders = std::move(walk.folders);
     const ExitStatus status = ConvertFiles(
         files,
         [&](const InputFile& input, FileKind kind, conversions::Front& front) {

@@ -165,6 +165,7 @@ ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert,
                                                         : options.output;
     const ExitStatus written = WriteForm(
         options, form, result, [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
+            styles.folders = files.folders;
             return gathering.Write(form, files.tellsOrigins, sink, *front, &styles);
         });
     return isComplete ? written : kInputFault;

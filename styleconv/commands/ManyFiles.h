@@ -32,6 +32,7 @@ struct FilesToConvert {
     std::vector<std::string> files;
     conversions::FileKind kind =
         conversions::FileKind::kUnknown;  // of all; by their names where it is unknown
+    std::vector<std::string> folders;     // that were given, where some of the files are
     diagnostics::Diagnostics diagnostics; // what was told when they were looked for
     std::size_t others = 0;               // files that were not taken
     bool allOrNothing = false;

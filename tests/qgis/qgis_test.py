@@ -117,6 +117,33 @@ class Library(unittest.TestCase):
         self.assertEqual(sorted(symbols_of(path).symbolNames()), ["@A", "@A (2)"])
         self.assertIn("twice.lin: warning: the library has the name already; this style is named @A (2)", messages)
 
+    def test_symbols_of_several_files_keep_the_tags_of_their_own(self):
+        root = os.path.join(folder, "standard")
+        files = {
+            "roads/kerbs.lin": "*KERB\nA,1,-1\n*KERB (2)\nA,2,-1\n",
+            "rail/rail.lin": "*KERB\nA,3,-1\n",
+            "fields, wet/marsh.pat": "*MARSH\n0, 0,0, 0,.125\n",
+        }
+        for name, text in files.items():
+            os.makedirs(os.path.dirname(os.path.join(root, name)), exist_ok=True)
+            with open(os.path.join(root, name), "w", encoding="utf-8") as stream:
+                stream.write(text)
+        path, symbols, _ = convert("convert", root)
+        style = symbols_of(path)
+        names = style.symbolNames()
+        self.assertEqual(sorted(names), sorted(symbol["name"] for symbol in symbols))
+        self.assertEqual(len(names), 4)
+
+        def tags(start):
+            found = [style.tagsOfSymbol(QgsStyle.SymbolEntity, name) for name in names if name.startswith(start)]
+            return sorted(sorted(of_one) for of_one in found)
+
+        kerbs = ["kerbs", "linetype", "roads", "standard"]
+        rail = ["linetype", "rail", "standard"]
+        self.assertEqual(tags("KERB"), [kerbs, kerbs, rail])
+        self.assertEqual(tags("MARSH"), [["fields  wet", "hatch", "marsh", "standard"]])
+        self.assertEqual(len(style.symbolsWithTag(QgsStyle.SymbolEntity, style.tagId("roads"))), 2)
+
     def test_every_colour_follows_the_button_of_the_symbol(self):
         for command, file, options, _ in all_files():
             path, _, _ = convert(command, file, *options)

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <utility>
+
 namespace {
 
 using support::RunTool;
@@ -49,6 +52,40 @@ TEST(StyleFormats, EveryCommandWritesALibraryWithTagsOfKindAndFile) {
         EXPECT_TRUE(Has(result.output, test.symbol)) << result.output;
         EXPECT_TRUE(result.output.ends_with("</qgis_style>\n"));
     }
+}
+
+// Where the folder itself stands is no tag.
+TEST(StyleFormats, SymbolsOfSeveralFilesHaveTagsOfTheirOwnFoldersAndFiles) {
+    const ScratchFolder folder;
+    std::filesystem::create_directories(folder / "city/roads");
+    folder.Write("city/walls.pat", "*LEVEL\n0, 0,0, 0,.125\n");
+    folder.Write("city/roads/kerbs.lin", "*KERB\nA,1,-1\n");
+    const std::string pipes = folder.Write("pipes.lin", "*GAS\nA,1,-1\n*KERB\nA,2,-1\n");
+    const ToolResult result = RunQgis({"convert", folder / "city", pipes});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    for (const auto& [name, tags] : {std::pair<std::string, std::string>{"LEVEL", "hatch,city,walls"},
+                                     {"KERB", "linetype,city,roads,kerbs"},
+                                     {"GAS", "linetype,pipes"}}) {
+        const std::size_t symbol = result.output.find("name=\"" + name + "\"");
+        ASSERT_NE(symbol, std::string::npos) << name;
+        EXPECT_TRUE(Has(result.output.substr(symbol, result.output.find('>', symbol) - symbol),
+                        " tags=\"" + tags + "\""))
+            << result.output;
+    }
+    // The second KERB is told apart by its file.
+    EXPECT_TRUE(Has(result.output, "name=\"KERB (")) << result.output;
+    EXPECT_FALSE(Has(result.output, "tags=\"linetype,city,roads,kerbs,")) << result.output;
+}
+
+TEST(StyleFormats, SymbolsOfADocumentKeepTheTagsOfTheFilesTheyCameFrom) {
+    const ScratchFolder folder;
+    const std::string walls = folder.Write("walls.pat", "*LEVEL\n0, 0,0, 0,.125\n");
+    const std::string pipes = folder.Write("pipes.lin", "*GAS\nA,1,-1\n");
+    const ToolResult made = RunTool({"convert", walls, pipes, "--faithful", "-o", folder / "all.json"});
+    EXPECT_EQ(made.status, 0) << made.errors;
+    const std::string library = RunQgis({"convert", folder / "all.json"}).output;
+    EXPECT_TRUE(Has(library, " tags=\"hatch,walls\"")) << library;
+    EXPECT_TRUE(Has(library, " tags=\"linetype,pipes\"")) << library;
 }
 
 TEST(StyleFormats, TheEndOfTheOutputsNameTellsTheFormat) {
@@ -102,9 +139,14 @@ TEST(StyleFormats, WhatIsNotCarriedOverIsTold) {
         RunQgis({"linetypes", lines}).errors,
         lines +
             ": warning: the library has the name already; this style is named TWICE (2) (symbol TWICE)\n");
-    const std::string words = folder.Write("b.lin", "*HOT\nA,8,-1,[\"%%u90\",STANDARD,S=1],-6\n");
-    EXPECT_EQ(RunQgis({"linetypes", words, "--font", "Arial"}).errors,
-              words + ": warning: lines under and over texts are not part of the style (symbol HOT)\n");
+    for (const auto& [text, isTold] :
+         {std::pair<std::string, bool>{"%%u90", true}, {"%%o90", true}, {"90", false}}) {
+        const std::string words = folder.Write("b.lin", "*HOT\nA,8,-1,[\"" + text + "\",STANDARD,S=1],-6\n");
+        EXPECT_EQ(
+            RunQgis({"linetypes", words, "--font", "Arial"}).errors,
+            isTold ? words + ": warning: lines under and over texts are not part of the style (symbol HOT)\n"
+                   : "");
+    }
 }
 
 TEST(StyleFormats, AFolderHoldsTheStyleOfMapLibreAndItsPictures) {

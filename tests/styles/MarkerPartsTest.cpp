@@ -61,15 +61,29 @@ TEST(MarkerParts, TheSquareHoldsWhatIsFarthestFromTheInsertionPoint) {
     EXPECT_DOUBLE_EQ(MarkerPartsOf(Resolved(*definition), 0.5).reach, 4.0);
 }
 
-TEST(MarkerParts, UnderliningAndAnglesOfTextsThatFollowAParameterAreLost) {
-    const auto definition = preview_test::NewSymbol(L"POINT");
-    preview_test::AddParameter(*definition, L"TILT", L"Tilt", L"15", TylModel::Parameter::kAngle);
-    TylModel::Text& text = preview_test::AddText(*definition, L"'A'");
-    text.SetUnderlined(L"true");
-    text.SetAngle(L"%TILT%");
-    preview_test::SetPointUsage(*definition);
-    EXPECT_EQ(MarkerPartsOf(Resolved(*definition), 1.0).losses,
-              (Losses{Loss::kUnderlining, Loss::kTurningText}));
+TEST(MarkerParts, LinesOfTextsAndAnglesOfTextsThatFollowAParameterAreLost) {
+    const struct {
+        const wchar_t* underlined;
+        const wchar_t* overlined;
+        const wchar_t* angle;
+        Losses losses;
+    } kCases[] = {
+        {L"false", L"false", L"15", {}},
+        {L"true", L"false", L"0", {Loss::kUnderlining}},
+        {L"false", L"true", L"0", {Loss::kUnderlining}},
+        {L"false", L"false", L"%TILT%", {Loss::kTurningText}},
+        {L"true", L"true", L"%TILT%+30", {Loss::kUnderlining, Loss::kTurningText}},
+    };
+    for (const auto& test : kCases) {
+        const auto definition = preview_test::NewSymbol(L"POINT");
+        preview_test::AddParameter(*definition, L"TILT", L"Tilt", L"15", TylModel::Parameter::kAngle);
+        TylModel::Text& text = preview_test::AddText(*definition, L"'A'");
+        text.SetUnderlined(test.underlined);
+        text.SetOverlined(test.overlined);
+        text.SetAngle(test.angle);
+        preview_test::SetPointUsage(*definition);
+        EXPECT_EQ(MarkerPartsOf(Resolved(*definition), 1.0).losses, test.losses) << test.angle;
+    }
 }
 
 TEST(SquareSvg, HasTheAnchorInItsMiddleAndColourAndPenAsParameters) {

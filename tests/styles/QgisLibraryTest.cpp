@@ -15,16 +15,17 @@ struct Library {
     bool Has(const std::string& part) const { return text.find(part) != std::string::npos; }
 };
 
-Library LibraryOf(const std::vector<TylModel::SymbolDefinition*>& symbols, QgisOptions options = {}) {
+Library LibraryOf(const std::vector<TylModel::SymbolDefinition*>& symbols, QgisOptions options = {},
+                  const std::vector<std::string>& tags = {}) {
     Library library;
     QgisLibraryWriter writer(
         [&](std::string_view text) {
             library.text += text;
             return true;
         },
-        std::move(options));
+        options);
     for (TylModel::SymbolDefinition* const symbol : symbols) {
-        EXPECT_TRUE(writer.Add(*symbol, library.added.emplace_back()));
+        EXPECT_TRUE(writer.Add(*symbol, tags, library.added.emplace_back()));
     }
     EXPECT_TRUE(writer.Finish());
     return library;
@@ -52,10 +53,10 @@ TEST(QgisLibrary, DashesArePlainLinesWithDashesOfTheirOwn) {
     const auto symbol = NewSymbol(L"DASHED");
     preview_test::AddPath(*symbol, L"M 0,0 L 4,0 M 5,0 L 9,0 ");
     preview_test::SetLineUsage(*symbol, L"9");
-    const Library library = LibraryOf({symbol.get()}, {HatchUnit::kMap, 1.0, {"posts, and more"}});
+    const Library library = LibraryOf({symbol.get()}, {HatchUnit::kMap, 1.0}, {"roads", "posts, and more"});
     EXPECT_TRUE(library.Has(
         "<symbol type=\"line\" name=\"DASHED\" alpha=\"1\" clip_to_extent=\"0\" force_rhr=\"0\" "
-        "tags=\"linetype,posts  and more\">" +
+        "tags=\"linetype,roads,posts  and more\">" +
         LayerOf("SimpleLine") + kThinLine + Option("use_custom_dash", "1") + Option("customdash", "8;1") +
         Option("customdash_unit", "MM") + Option("dash_pattern_offset", "4") +
         Option("dash_pattern_offset_unit", "MM") + Option("align_dash_pattern", "0") +
@@ -67,7 +68,7 @@ TEST(QgisLibrary, DotsAreMarkersInALine) {
     const auto symbol = NewSymbol(L"DOTTED");
     preview_test::AddPath(*symbol, L"M 1,0 L 1,0 ");
     preview_test::SetLineUsage(*symbol, L"1.5");
-    const Library library = LibraryOf({symbol.get()}, {HatchUnit::kMap, 2.0, {}});
+    const Library library = LibraryOf({symbol.get()}, {HatchUnit::kMap, 2.0});
     EXPECT_TRUE(library.Has(
         LayerOf("MarkerLine") + Option("interval", "3") + Option("interval_unit", "MM") +
         Option("offset_along_line", "2") + Option("offset_along_line_unit", "MM") + Option("rotate", "1") +
@@ -107,7 +108,7 @@ TEST(QgisLibrary, HatchesOfThePageHaveTheLimitInTheExpression) {
     const auto symbol = NewSymbol(L"HATCH");
     preview_test::AddPath(*symbol, L"M 0,0 L 1,2");
     preview_test::SetAreaUsage(*symbol, L"0", L"2", L"2");
-    const Library library = LibraryOf({symbol.get()}, {HatchUnit::kMillimetre, 1.0, {}});
+    const Library library = LibraryOf({symbol.get()}, {HatchUnit::kMillimetre, 1.0});
     EXPECT_TRUE(library.Has("value=\"if(area(bounds($geometry))&lt;400000,with_variable(")) << library.text;
     EXPECT_TRUE(library.Has(",NULL)\"/>" + Option("units", "MM") + "</Option><symbol "));
 }
@@ -184,7 +185,7 @@ TEST(QgisLibrary, EndsWhereTheSinkRefuses) {
     const auto symbol = NewSymbol(L"A");
     QgisLibraryWriter writer([](std::string_view) { return false; }, {});
     AddedStyle added;
-    EXPECT_FALSE(writer.Add(*symbol, added));
+    EXPECT_FALSE(writer.Add(*symbol, {}, added));
     EXPECT_FALSE(writer.Finish());
 }
 
