@@ -333,6 +333,11 @@ class Quiet(http.server.SimpleHTTPRequestHandler):
     def log_message(self, *arguments):
         pass
 
+    def end_headers(self):
+        # Files of one name follow each other within the second that their times are told in.
+        self.send_header("Cache-Control", "no-store")
+        super().end_headers()
+
 
 if __name__ == "__main__":
     styleconv, examples, modules = (os.path.abspath(path) for path in sys.argv[1:4])
