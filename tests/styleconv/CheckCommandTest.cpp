@@ -249,7 +249,8 @@ TEST_F(Check, SignatureAndTrailerOfAShapeFileAreTold) {
 }
 
 TEST_F(Check, EntitiesThatWillNotBeDrawnAreCountedByBlock) {
-    const std::string found = Found("drawing.json", R"({"format": "styleconversion/drawing", "version": 1, "insunits": 6,
+    const std::string found =
+        Found("drawing.json", R"({"format": "styleconversion/drawing", "version": 1, "insunits": 6,
         "linetypes": [{"name": "GAS", "dashes": [{"length": 1, "shapeStyle": "MARKS", "shapeNumber": 130}]}],
         "textStyles": [{"name": "MARKS", "fileName": "marks.shx"}],
         "blocks": [
@@ -274,7 +275,8 @@ TEST_F(Check, EntitiesThatWillNotBeDrawnAreCountedByBlock) {
 }
 
 std::string DrawingOf(const std::string& blocks) {
-    return R"({"format": "styleconversion/drawing", "version": 1, "insunits": 6, "blocks": [)" + blocks + "]}";
+    return R"({"format": "styleconversion/drawing", "version": 1, "insunits": 6, "blocks": [)" + blocks +
+           "]}";
 }
 
 TEST_F(Check, WhatADrawingIsRefusedForIsFoundAllAtOnce) {
