@@ -129,6 +129,7 @@ enum class Code : std::uint8_t {
     kShapesLikeFont,
     kDuplicateShapeName,
     kLowerCaseShapeName,
+    kFontCoverage,
     // Drawings: the document.
     kInvalidJson,
     kInvalidValue,

@@ -261,6 +261,8 @@ constexpr auto kRows = std::to_array<Row>({
      "shape {0} has the same name", "linetypes find that one", ""},
     {Code::kLowerCaseShapeName, "lower-case-shape-name",
      "no linetype can find a name with lower-case letters", "rename the shape", ""},
+    {Code::kFontCoverage, "font-coverage",
+     "has {0} of 95 characters of ASCII, {1} of 96 of Latin-1{2}", "", ""},
     // Drawings: the document.
     {Code::kInvalidJson, "invalid-json",
      "expected JSON, found an error at {0}", "", "{part} is skipped"},

@@ -1,6 +1,7 @@
 // Checks shape files.
 #include "StyleConversion/platform/Characters.h"
 #include "conversions/checking/Check.h"
+#include "conversions/checking/FontCoverage.h"
 #include "conversions/reading/ShapeFile.h"
 
 #include <algorithm>
@@ -47,6 +48,8 @@ public:
             Add(Severity::kError, Code::kFontWithoutInfo, InFile());
         } else if (file.kind == ShxUtility::kShapes && LooksLikeFont(file)) {
             Add(Severity::kWarning, Code::kShapesLikeFont, InFile());
+        } else if (!file.fontInfo.empty()) {
+            Add(Severity::kNote, Code::kFontCoverage, InFile(), FontCoverage(file));
         }
     }
 

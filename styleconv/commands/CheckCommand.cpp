@@ -199,7 +199,7 @@ void AddCheckCommand(CommandLine& line) {
     AddIgnoreLayerOption(command, options->layersToIgnore);
     AddDrawingViewOptions(command, *options);
     command.AddFlag("--notes", options->notes,
-                    "Also report what is as it should be: families with an exact tile, unused shapes");
+                    "Also report what is as it should be: unused shapes, which characters a font has");
     command.AddFlag("--tolerant", options->tolerant,
                     "Judge as a tolerant conversion would: what it reads or skips is a warning");
     command.AddTexts("--ignore", options->codesToIgnore, "CODE",

@@ -228,6 +228,44 @@ TEST_F(Check, ShapesThatCannotBeDrawnOrFoundAreTold) {
     EXPECT_NE(found.find("1 error, 3 warnings in 1 file\n"), std::string::npos) << found;
 }
 
+TEST_F(Check, NotesTellWhichCharactersAFontHas) {
+    const auto fontOf = [](ShapeFileBuilder builder, unsigned first, unsigned last) {
+        builder.FontInfo("FONT", {4, 1, 0, 0, 0, 0});
+        for (unsigned number = first; number <= last; ++number) {
+            builder.Shape(static_cast<std::uint16_t>(number), "", {0x10, 0});
+        }
+        return builder;
+    };
+    struct Row {
+        std::string font;
+        std::string coverage;
+    };
+    const Row rows[] = {
+        {fontOf(ShapeFileBuilder::Unifont(), 32, 255).Text(),
+         "has 95 of 95 characters of ASCII, 96 of 96 of Latin-1"},
+        {fontOf(ShapeFileBuilder::Unifont(), 32, 126).Text(),
+         "has 95 of 95 characters of ASCII, 0 of 96 of Latin-1: lacks U+00A0 to U+00FF"},
+        {fontOf(ShapeFileBuilder::Shapes(), 33, 175).Shape(177, "", {0x10, 0}).Text(),
+         "has 94 of 95 characters of ASCII, 17 of 96 of Latin-1: lacks U+0020, U+00B0, U+00B2 to U+00FF"},
+        {fontOf(ShapeFileBuilder::Shapes(), 65, 65).Text(),
+         "has 1 of 95 characters of ASCII, 0 of 96 of Latin-1: lacks U+0020 to U+0040, U+0042 to U+007E, "
+         "U+00A0 to U+00FF"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(Found("font.shx", row.font), "0 errors, 0 warnings in 1 file\n");
+        EXPECT_EQ(Found("font.shx", row.font, {"--notes"}),
+                  ": note: " + row.coverage + " [font-coverage]\n0 errors, 0 warnings in 1 file\n");
+    }
+    const std::string json =
+        RunTool({"check", folder.Write("font.shx", rows[1].font), "--notes", "--format", "json"}).output;
+    EXPECT_NE(json.find("\"severity\": \"note\",\n      \"code\": \"font-coverage\",\n      \"message\": "
+                        "\"has 95 of 95"),
+              std::string::npos)
+        << json;
+    const std::string sarif = RunTool({"check", folder / "font.shx", "--notes", "--format", "sarif"}).output;
+    EXPECT_NE(sarif.find("\"ruleId\": \"font-coverage\""), std::string::npos) << sarif;
+}
+
 TEST_F(Check, SignatureAndTrailerOfAShapeFileAreTold) {
     std::string shapes = ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Text();
     shapes.replace(0, 7, "Someone");
