@@ -3,11 +3,12 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <numbers>
 
 namespace blocktest {
 namespace {
 
-constexpr double kPi = 3.141592653589793;
+using std::numbers::pi;
 
 TEST(Angles, DirectionIsTakenFromTheQuotientAndAHalfTurnMoreToTheLeft) {
     struct Case {
@@ -18,16 +19,16 @@ TEST(Angles, DirectionIsTakenFromTheQuotientAndAHalfTurnMoreToTheLeft) {
     const Case cases[] = {
         {{1, 2}, {4, 6}, std::atan(4.0 / 3.0)},
         {{1, 2}, {4, -2}, std::atan(-4.0 / 3.0)},
-        {{1, 2}, {-2, 6}, std::atan(4.0 / -3.0) + kPi},
-        {{1, 2}, {-2, -2}, std::atan(-4.0 / -3.0) + kPi},
+        {{1, 2}, {-2, 6}, std::atan(4.0 / -3.0) + pi},
+        {{1, 2}, {-2, -2}, std::atan(-4.0 / -3.0) + pi},
         {{1, 2}, {5, 2}, 0.0},
-        {{1, 2}, {-5, 2}, kPi},
+        {{1, 2}, {-5, 2}, pi},
         // Vertical ones are exact, and one without length points down.
         {{1, 2}, {1, 2.5}, 1.5707963267948966},
         {{1, 2}, {1, -7}, -1.5707963267948966},
         {{1, 2}, {1, 2}, -1.5707963267948966},
         // Nearly vertical is not vertical: the quotient is infinite, or nearly so.
-        {{0, 0}, {-5e-324, -1}, std::atan(HUGE_VAL) + kPi},
+        {{0, 0}, {-5e-324, -1}, std::atan(HUGE_VAL) + pi},
     };
     for (const Case& row : cases) {
         EXPECT_EQ(block::CalcLineAngle(row.from, row.to), row.angle) << row.to.x << ", " << row.to.y;

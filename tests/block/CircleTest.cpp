@@ -2,10 +2,12 @@
 #include "tests/block/BlockTest.h"
 #include "tests/block/CirclePoints.h"
 
+#include <numbers>
+
 namespace blocktest {
 namespace {
 
-constexpr double kPi = 3.141592653589793;
+using std::numbers::pi;
 
 class Circle : public BlockTest {
 protected:
@@ -30,14 +32,14 @@ TEST_F(Circle, WithoutALinetypeOrWithoutDashesIsSolid) {
 
 TEST_F(Circle, AsLongAsThePatternIsSolid) {
     const double radius = 5;
-    EXPECT_EQ(Path({5, -5}, radius, radius * 2.0 * kPi),
+    EXPECT_EQ(Path({5, -5}, radius, radius * 2.0 * pi),
               L"M 6.0,2.0 A 5.0,5.0 0.0 0 1 -4.0,2.0 A 5.0,5.0 0.0 0 1 6.0,2.0");
 }
 
 TEST_F(Circle, DashedHoldsAWholeNumberOfRepetitionsStretchedToFit) {
     // A circumference of 31.4 holds 3 patterns of 10, each stretched by 31.4 / 30: a third of the circle,
     // six tenths of it drawn. The sweep flag of the dashes is 0.
-    const double radius = 31.4 / (2 * kPi);
+    const double radius = 31.4 / (2 * pi);
     const auto on = [&](double degrees) { return OnCircle(1, 2, radius, degrees); };
     const std::wstring dash = L" A 4.99747,4.99747 0.0 0 0 ";
     EXPECT_EQ(Path({6, -4}, radius), L"M 5.99747,2.0" + dash + on(72) + L" M " + on(120) + dash + on(192) +
@@ -54,7 +56,7 @@ TEST_F(Circle, NumberOfRepetitionsIsRoundedHalfUp) {
         const double circumference = 10 * row.patterns;
         drawing::BlockRecord& other = *database.AddBlock(L"C" + std::to_wstring(circumference));
         database.AddLinetype(L"HALF", Dashes({5, -5}));
-        other.Add<drawing::Circle>(Dashed(L"HALF"), OxGePoint3d{}, circumference / (2 * kPi));
+        other.Add<drawing::Circle>(Dashed(L"HALF"), OxGePoint3d{}, circumference / (2 * pi));
         const Symbol symbol = Convert(L"C" + std::to_wstring(circumference));
         const std::wstring path = PathAt(symbol, 0).GetGeometry();
         std::size_t gaps = 0;
@@ -67,7 +69,7 @@ TEST_F(Circle, NumberOfRepetitionsIsRoundedHalfUp) {
 
 TEST_F(Circle, DashOfHalfTheCircleOrMoreIsLarge) {
     const double radius = 5;
-    const double circumference = radius * 2.0 * kPi;
+    const double circumference = radius * 2.0 * pi;
     // 0.7 and 0.3 of a pattern a hair shorter than the circle.
     const double pattern = circumference * 0.999999;
     EXPECT_EQ(Path({0.7 * pattern, -0.3 * pattern}, radius),
@@ -87,7 +89,7 @@ TEST_F(Circle, DashOfLessThanHalfTheCircleIsNotLarge) {
 
 TEST_F(Circle, DotIsALineToTheSamePoint) {
     const double radius = 5;
-    const double pattern = radius * kPi;
+    const double pattern = radius * pi;
     const auto on = [&](double degrees) { return OnCircle(1, 2, 5, degrees); };
     EXPECT_EQ(Path({0, -pattern}, radius),
               L"M 6.0,2.0 L 6.0,2.0 M " + on(180) + L" L " + on(180) + L" M " + on(360));

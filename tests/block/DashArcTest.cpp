@@ -2,10 +2,12 @@
 #include "tests/block/BlockTest.h"
 #include "tests/block/CirclePoints.h"
 
+#include <numbers>
+
 namespace blocktest {
 namespace {
 
-constexpr double kPi = 3.141592653589793;
+using std::numbers::pi;
 
 class DashArc : public BlockTest {
 protected:
@@ -17,8 +19,8 @@ protected:
         data.center = {10, 20, 0};
         data.radius = 2;
         // A clockwise arc's parameters run in its own, mirrored plane: 150 there is 30 here.
-        data.startAngle = (clockwise ? 150 : 30) * kPi / 180;
-        data.endAngle = data.startAngle + degrees * kPi / 180;
+        data.startAngle = (clockwise ? 150 : 30) * pi / 180;
+        data.endAngle = data.startAngle + degrees * pi / 180;
         data.normal = {0, 0, clockwise ? -1.0 : 1.0};
         block.Add<drawing::Arc>(Dashed(L"DASHED"), data);
         return Geometry();
@@ -28,7 +30,7 @@ protected:
     static std::wstring On(double degrees) { return OnCircle(10, 20, 2, 30 + degrees); }
 
     // The length along the arc of so many degrees.
-    static double Length(double degrees) { return 2 * degrees * kPi / 180; }
+    static double Length(double degrees) { return 2 * degrees * pi / 180; }
 
     static constexpr const wchar_t* kArc = L" A 2.0,2.0 0.0 0 0 ";
     static constexpr const wchar_t* kLargeArc = L" A 2.0,2.0 0.0 1 0 ";
@@ -45,23 +47,23 @@ drawing::ArcData ArcOf(double startAngle, double endAngle, double normalZ = 1.0)
 }
 
 TEST_F(DashArc, SolidArcIsOnePiece) {
-    block.Add<drawing::Arc>(Solid(), ArcOf(0, kPi / 2));
+    block.Add<drawing::Arc>(Solid(), ArcOf(0, pi / 2));
     EXPECT_EQ(Geometry(), L"M 5.0,0.0 A 5.0,5.0 0.0 0 0 0.0,5.0");
 }
 
 TEST_F(DashArc, ArcWithItsNormalDownRunsClockwise) {
-    block.Add<drawing::Arc>(Solid(), ArcOf(0, kPi / 2, -1.0));
+    block.Add<drawing::Arc>(Solid(), ArcOf(0, pi / 2, -1.0));
     // Mirrored: from (-5, 0) to the top, where x is a negative zero.
     EXPECT_EQ(Geometry(), L"M -5.0,0.0 A 5.0,5.0 0.0 0 1 -0.0,5.0");
 }
 
 TEST_F(DashArc, SweepOfExactlyPiIsLarge) {
-    block.Add<drawing::Arc>(Solid(), ArcOf(0, kPi));
+    block.Add<drawing::Arc>(Solid(), ArcOf(0, pi));
     EXPECT_EQ(Geometry(), L"M 5.0,0.0 A 5.0,5.0 0.0 1 0 -5.0,0.0");
 }
 
 TEST_F(DashArc, SweepJustBelowPiIsNotLarge) {
-    block.Add<drawing::Arc>(Solid(), ArcOf(0, std::nextafter(kPi, 0.0)));
+    block.Add<drawing::Arc>(Solid(), ArcOf(0, std::nextafter(pi, 0.0)));
     EXPECT_EQ(Geometry(), L"M 5.0,0.0 A 5.0,5.0 0.0 0 0 -5.0,0.0");
 }
 
@@ -72,8 +74,8 @@ TEST_F(DashArc, OfNoSweepIsNotLarge) {
 
 TEST_F(DashArc, EndBelowTheStartRunsOnThroughAFullTurn) {
     // From 270 degrees to 45: 135 degrees. From 45 to 270: 225 degrees, large.
-    block.Add<drawing::Arc>(Solid(), ArcOf(kPi * 1.5, kPi / 4));
-    block.Add<drawing::Arc>(Solid(), ArcOf(kPi / 4, kPi * 1.5));
+    block.Add<drawing::Arc>(Solid(), ArcOf(pi * 1.5, pi / 4));
+    block.Add<drawing::Arc>(Solid(), ArcOf(pi / 4, pi * 1.5));
     const std::vector<std::wstring> paths = Geometries();
     EXPECT_EQ(paths.at(0), L"M -0.0,-5.0 A 5.0,5.0 0.0 0 0 " + OnCircle(0, 0, 5, 45));
     EXPECT_EQ(paths.at(1), L"M " + OnCircle(0, 0, 5, 45) + L" A 5.0,5.0 0.0 1 0 -0.0,-5.0");

@@ -9,6 +9,7 @@
 #include "tests/support/ShapeProgramBuilder.h"
 
 #include <cmath>
+#include <numbers>
 
 namespace blocktest {
 namespace {
@@ -18,7 +19,7 @@ using test_support::ShapeFileBuilder;
 using test_support::ShapeProgramBuilder;
 using Vertices = std::vector<drawing::BulgeVertex>;
 
-constexpr double kPi = 3.141592653589793;
+using std::numbers::pi;
 
 // A segment that a shape drew: where it starts and how far it goes.
 struct Stroke {
@@ -131,7 +132,7 @@ TEST_F(DashShapes, OffsetScaleAndRotationAreTheDashs) {
     drawing::Dash dash = ShapeDash(-1);
     dash.offset = {0.25, 0.5};
     dash.scale = 2;
-    dash.rotation = kPi / 2;
+    dash.rotation = pi / 2;
     // A right angle reaches the program as exactly 90 degrees.
     EXPECT_EQ(LinePath(dash), kLine + std::wstring(L" M 2.25,0.5 l 1.22464679914735e-16,2 "));
 }
@@ -337,7 +338,7 @@ TEST_F(DashShapes, EveryKindOfShapeFileIsAccepted) {
 // 2.07, that is at an angle of 1.0354.
 class ShapesOnArcs : public DashShapes {
 protected:
-    static constexpr double kAngle = (1 + kPi - 2) / 2 / 2 + 0.5;
+    static constexpr double kAngle = (1 + pi - 2) / 2 / 2 + 0.5;
 
     std::vector<Stroke> ArcStrokes(bool clockwise) {
         drawing::Dash dash = ShapeDash(-1);
@@ -345,8 +346,8 @@ protected:
         database.AddLinetype(L"SHAPED", {Dashes({1})[0], dash});
         drawing::ArcData data;
         data.radius = 2;
-        data.startAngle = clockwise ? kPi / 2 : 0;
-        data.endAngle = data.startAngle + kPi / 2;
+        data.startAngle = clockwise ? pi / 2 : 0;
+        data.endAngle = data.startAngle + pi / 2;
         data.normal = {0, 0, clockwise ? -1.0 : 1.0};
         block.Add<drawing::Arc>(Dashed(L"SHAPED"), data);
         const std::wstring path = Geometry();
@@ -357,7 +358,7 @@ protected:
 TEST_F(ShapesOnArcs, CounterClockwiseTheyFollowTheTangent) {
     const std::vector<Stroke> strokes = ArcStrokes(false);
     ASSERT_EQ(strokes.size(), 1U);
-    const double tangent = kAngle + kPi / 2;
+    const double tangent = kAngle + pi / 2;
     ExpectStroke(strokes[0], 2 * std::cos(kAngle) + 0.5 * std::cos(tangent) - 0.25 * std::sin(tangent),
                  2 * std::sin(kAngle) + 0.5 * std::sin(tangent) + 0.25 * std::cos(tangent), 1, tangent);
 }
@@ -367,8 +368,8 @@ TEST_F(ShapesOnArcs, ClockwiseTheyFaceAgainstTheDirectionOfTravel) {
     // same.
     const std::vector<Stroke> strokes = ArcStrokes(true);
     ASSERT_EQ(strokes.size(), 1U);
-    const double angle = kPi / 2 - kAngle;
-    const double tangent = angle + kPi / 2;
+    const double angle = pi / 2 - kAngle;
+    const double tangent = angle + pi / 2;
     ExpectStroke(strokes[0], 2 * std::cos(angle) + 0.5 * std::cos(tangent) - 0.25 * std::sin(tangent),
                  2 * std::sin(angle) + 0.5 * std::sin(tangent) + 0.25 * std::cos(tangent), 1, tangent);
 }
@@ -380,7 +381,7 @@ TEST_F(DashShapes, OnACircleScaleStretchesWithTheDashes) {
     dash.scale = 2;
     dash.rotation = 0.125;
     database.AddLinetype(L"SHAPED", {Dashes({5})[0], dash});
-    const double radius = 25 / (2 * kPi);
+    const double radius = 25 / (2 * pi);
     block.Add<drawing::Circle>(Dashed(L"SHAPED"), OxGePoint3d{1, 2, 0}, radius);
     const std::wstring path = Geometry();
     constexpr std::size_t repetitions = 3;
@@ -392,8 +393,8 @@ TEST_F(DashShapes, OnACircleScaleStretchesWithTheDashes) {
     ASSERT_EQ(strokes.size(), repetitions);
     const double stretch = 25.0 / (10.0 * static_cast<double>(repetitions));
     for (std::size_t i = 0; i < repetitions; ++i) {
-        const double angle = 2 * kPi * static_cast<double>(i + 1) / static_cast<double>(repetitions);
-        const double tangent = angle + kPi / 2;
+        const double angle = 2 * pi * static_cast<double>(i + 1) / static_cast<double>(repetitions);
+        const double tangent = angle + pi / 2;
         // The offset is not stretched, the scale is.
         ExpectStroke(strokes[i],
                      1 + radius * std::cos(angle) + 0.5 * std::cos(tangent) - 0.25 * std::sin(tangent),
@@ -405,7 +406,7 @@ TEST_F(DashShapes, OnACircleScaleStretchesWithTheDashes) {
 TEST_F(DashShapes, TextOnACircleIsDividedByTheFontsHeightOrDrawnUndividedWithoutOne) {
     database.AddLinetype(L"WITH", {Dashes({5})[0], TextDash(-5, L"FONT", L"A")}, 10.0);
     database.AddLinetype(L"WITHOUT", {Dashes({5})[0], TextDash(-5, L"LIB", L"A")}, 10.0);
-    const double radius = 10.1 / (2 * kPi);
+    const double radius = 10.1 / (2 * pi);
     block.Add<drawing::Circle>(Dashed(L"WITH"), OxGePoint3d{1, 2, 0}, radius);
     block.Add<drawing::Circle>(Dashed(L"WITHOUT"), OxGePoint3d{1, 2, 0}, radius);
     const std::vector<std::wstring> paths = Geometries();
@@ -437,13 +438,13 @@ TEST_F(DashShapes, ContinuousPatternTurnsShapesOnArcsWithTheSenseOfTravel) {
     // Half circles of radius 1 below and above the axis, in opposite senses, with the lead 1.0708 and a gap
     // of 1: 3.14 = 1 x 2 + 1.14.
     database.AddLinetype(L"SHAPED", {Dashes({1})[0], ShapeDash(-1)});
-    const double stop = (1 + kPi - 2) / 2 + 1;
+    const double stop = (1 + pi - 2) / 2 + 1;
     struct Case {
         double bulge;
         double angle;
         double direction;
     };
-    const Case cases[] = {{1, kPi + stop, kPi + stop + kPi / 2}, {-1, kPi - stop, kPi - stop - kPi / 2}};
+    const Case cases[] = {{1, pi + stop, pi + stop + pi / 2}, {-1, pi - stop, pi - stop - pi / 2}};
     for (const Case& row : cases) {
         block.Add<drawing::Polyline>(Dashed(L"SHAPED"), Vertices{{{0, 0}, row.bulge}, {{2, 0}}}, false, true);
     }
@@ -467,7 +468,7 @@ TEST_F(DashShapes, ShapeOfADotIsDrawnAtTheDot) {
     EXPECT_EQ(path.substr(0, line.size()), line);
     const std::vector<Stroke> strokes = StrokesFrom(path, path.rfind(L" M ") + 1);
     ASSERT_EQ(strokes.size(), 1U);
-    ExpectStroke(strokes[0], 0, 2, 1, kPi / 2);
+    ExpectStroke(strokes[0], 0, 2, 1, pi / 2);
 }
 
 // Shape 130 goes two units up, and only "lib.shx" is there.

@@ -11,7 +11,7 @@
 namespace blocktest {
 namespace {
 
-constexpr double kPi = std::numbers::pi;
+using std::numbers::pi;
 
 using Texts = std::vector<std::wstring>;
 
@@ -28,8 +28,8 @@ double Distance(At a, At b) {
 // on elliptical arcs; here a sweep flag of 1 is clockwise.
 void AddArc(std::vector<At>& points, double rx, double ry, double turn, bool large, bool clockwise, At to) {
     const At from = points.back();
-    const double c = std::cos(turn * kPi / 180.0);
-    const double s = std::sin(turn * kPi / 180.0);
+    const double c = std::cos(turn * pi / 180.0);
+    const double s = std::sin(turn * pi / 180.0);
     const double hx = (from.x - to.x) / 2;
     const double hy = (from.y - to.y) / 2;
     const double x = (c * hx + s * hy) / rx;
@@ -41,7 +41,7 @@ void AddArc(std::vector<At>& points, double rx, double ry, double turn, bool lar
     const At center{factor * y, -factor * x};
     const double begin = std::atan2(y / grow - center.y, x / grow - center.x);
     double sweep = std::atan2(-y / grow - center.y, -x / grow - center.x) - begin;
-    sweep += clockwise && sweep > 0 ? -2 * kPi : !clockwise && sweep < 0 ? 2 * kPi : 0.0;
+    sweep += clockwise && sweep > 0 ? -2 * pi : !clockwise && sweep < 0 ? 2 * pi : 0.0;
     constexpr int kPieces = 2000;
     for (int i = 1; i <= kPieces; ++i) {
         const double angle = begin + sweep * i / kPieces;
@@ -52,7 +52,7 @@ void AddArc(std::vector<At>& points, double rx, double ry, double turn, bool lar
 }
 
 // The subpaths of a path, each as points so dense that lines between them are near enough.
-std::vector<std::vector<At>> Drawn(const std::wstring& path) {
+std::vector<std::vector<At>> PointsDrawn(const std::wstring& path) {
     std::wistringstream in(path);
     std::vector<std::vector<At>> subpaths;
     wchar_t command = 0;
@@ -163,8 +163,8 @@ TEST_F(Faithful, AnEdgeThatIsAllButLevelIsKept) {
 TEST_F(Faithful, EllipticalEdgesKeepTheirTurn) {
     for (const bool clockwise : {false, true}) {
         for (const double turn : {0.0, 0.7, 2.5, -1.2}) {
-            for (const double end : {2.0, 5.5, 2 * kPi}) {
-                const double start = end == 2 * kPi ? 0.0 : 0.4;
+            for (const double end : {2.0, 5.5, 2 * pi}) {
+                const double start = end == 2 * pi ? 0.0 : 0.4;
                 const OxGeEllipArc2d arc({3, 1}, {2 * std::cos(turn), 2 * std::sin(turn)}, 0.3, start, end,
                                          clockwise);
                 drawing::HatchLoop loop;
@@ -179,15 +179,15 @@ TEST_F(Faithful, EllipticalEdgesKeepTheirTurn) {
                 const block::FaithfulInUse faithful;
                 const Symbol symbol(
                     static_cast<TylModel::SimpleSymbolDefinition*>(BlockConverter(&other).Convert(L"B")));
-                const auto path = Drawn(PathAt(symbol, 0).GetGeometry());
+                const auto path = PointsDrawn(PathAt(symbol, 0).GetGeometry());
                 for (int i = 0; i <= 100; ++i) {
                     const OxGePoint2d point = arc.pointAt(start + (end - start) * i / 100);
                     EXPECT_LT(DistanceToPath({point.x, point.y}, path), 1e-6)
                         << clockwise << turn << end << i;
                 }
                 // And not the other way round the ellipse.
-                if (end != 2 * kPi) {
-                    const OxGePoint2d beyond = arc.pointAt((start + end) / 2 + kPi);
+                if (end != 2 * pi) {
+                    const OxGePoint2d beyond = arc.pointAt((start + end) / 2 + pi);
                     EXPECT_GT(DistanceToPath({beyond.x, beyond.y}, path), 0.05) << clockwise << turn << end;
                 }
             }
@@ -205,7 +205,7 @@ TEST_F(Faithful, SplineEdgesAreFilled) {
     drawing::HatchLoop loop;
     loop.edges = {curve, OxGeLineSeg2d({4, 0}, {0, 0})};
     AddSolid({loop});
-    const auto path = Drawn(FaithfulPath());
+    const auto path = PointsDrawn(FaithfulPath());
     ASSERT_EQ(path.size(), 1U);
     OxGePoint2dArray samples;
     OxGeDoubleArray parameters;
@@ -233,7 +233,7 @@ TEST_F(Faithful, ASplineIsDrawnCloselyInTheColourOfItsOwnLayer) {
     OxGeInterval interval;
     curve->getInterval(interval);
     curve->getSamplePoints(interval.lowerBound(), interval.upperBound(), 1e-9, samples, parameters);
-    const auto path = Drawn(PathAt(symbol, 0).GetGeometry());
+    const auto path = PointsDrawn(PathAt(symbol, 0).GetGeometry());
     for (int i = 0; i < samples.logicalLength(); i += 7) {
         EXPECT_LT(DistanceToPath({samples[i].x, samples[i].y}, path), 4.1e-6);
     }
@@ -245,7 +245,7 @@ TEST_F(Faithful, LineWeightsAreMillimetres) {
         const wchar_t* text;
     } rows[] = {{25, L"0.25"}, {200, L"2"}, {211, L"2.11"}, {0, L"0"}, {OxDb::kLnWtByLwDefault, L"0.25"}};
     for (const auto& row : rows) {
-        block.Add<drawing::Point>(blocktest::Drawn(L"0", Rgb(0, 0, 0), row.weight), OxGePoint3d{});
+        block.Add<drawing::Point>(Drawn(L"0", Rgb(0, 0, 0), row.weight), OxGePoint3d{});
     }
     const Symbol symbol = FaithfulSymbol();
     for (std::int32_t i = 0; i < 5; ++i) {
@@ -383,7 +383,7 @@ TEST_F(Faithful, DashesGoOnBehindAnArcWhereTheyWereCut) {
     block.Add<drawing::Polyline>(Dashed(L"DASHED"),
                                  std::vector<drawing::BulgeVertex>{{{0, 0}, 1.0}, {{2, 0}}, {{12, 0}}}, false,
                                  true);
-    const auto path = Drawn(FaithfulPath());
+    const auto path = PointsDrawn(FaithfulPath());
     double drawn = 0;
     for (const auto& subpath : path) {
         for (std::size_t i = 1; i < subpath.size(); ++i) {
@@ -391,7 +391,7 @@ TEST_F(Faithful, DashesGoOnBehindAnArcWhereTheyWereCut) {
         }
     }
     // Four repetitions have four gaps of 1.
-    EXPECT_NEAR(drawn, kPi + 10 - 4, 1e-5);
+    EXPECT_NEAR(drawn, pi + 10 - 4, 1e-5);
     EXPECT_NEAR(path.back().back().x, 12, 1e-9);
 }
 

@@ -2,6 +2,7 @@
 #include "tests/block/BlockTest.h"
 
 #include <memory>
+#include <numbers>
 
 namespace blocktest {
 namespace {
@@ -9,7 +10,7 @@ namespace {
 using drawing::Operation;
 using Texts = std::vector<std::wstring>;
 
-constexpr double kPi = 3.141592653589793;
+using std::numbers::pi;
 
 using Edge = drawing::HatchEdge;
 
@@ -129,59 +130,58 @@ TEST_F(SolidHatch, LoopsOfBothKindsMix) {
 
 TEST_F(SolidHatch, ArcEdges) {
     // A quarter counter-clockwise, a half clockwise: its points are mirrored.
-    EXPECT_EQ(Path(LoopOf(Arc({0, 0}, 2, 0, kPi / 2))), L"M 2.0,0.0 A 2.0,2.0 0.0 0 0 0.0,2.0");
+    EXPECT_EQ(Path(LoopOf(Arc({0, 0}, 2, 0, pi / 2))), L"M 2.0,0.0 A 2.0,2.0 0.0 0 0 0.0,2.0");
 }
 
 TEST_F(SolidHatch, ClockwiseArcEdge) {
-    EXPECT_EQ(Path(LoopOf(Arc({5, 5}, 2, 0, kPi, true))), L"M 7.0,5.0 A 2.0,2.0 0.0 1 1 3.0,5.0");
+    EXPECT_EQ(Path(LoopOf(Arc({5, 5}, 2, 0, pi, true))), L"M 7.0,5.0 A 2.0,2.0 0.0 1 1 3.0,5.0");
 }
 
 TEST_F(SolidHatch, ArcEdgeWhoseEndIsBelowItsStartRunsThroughAFullTurn) {
     // From 270 to 45 degrees is 135; the other way round 225.
-    EXPECT_EQ(Path(LoopOf(Arc({5, 5}, 2, 1.5 * kPi, 0))), L"M 5.0,3.0 A 2.0,2.0 0.0 0 0 7.0,5.0");
+    EXPECT_EQ(Path(LoopOf(Arc({5, 5}, 2, 1.5 * pi, 0))), L"M 5.0,3.0 A 2.0,2.0 0.0 0 0 7.0,5.0");
     drawing::HatchData data;
     data.solid = true;
-    data.loops.push_back(LoopOf(Arc({5, 5}, 2, kPi / 2, 0)));
+    data.loops.push_back(LoopOf(Arc({5, 5}, 2, pi / 2, 0)));
     drawing::BlockRecord& other = *database.AddBlock(L"LONG");
     other.Add<drawing::Hatch>(Solid(), std::move(data));
     EXPECT_EQ(PathAt(Convert(L"LONG"), 0).GetGeometry(), L"M 5.0,7.0 A 2.0,2.0 0.0 1 0 7.0,5.0");
 }
 
 TEST_F(SolidHatch, ClosedCircleEdgeIsTwoHalves) {
-    EXPECT_EQ(Path(LoopOf(Arc({0, 0}, 1, 0, 2 * kPi))),
+    EXPECT_EQ(Path(LoopOf(Arc({0, 0}, 1, 0, 2 * pi))),
               L"M -1.0,0.0 A 1.0,1.0 0.0 1 1 1.0,0.0 A 1.0,1.0 0.0 1 1 -1.0,0.0");
 }
 
 TEST_F(SolidHatch, ClosedCircleThatBeginsWhereTheLastEdgeEndedHasNoMove) {
-    EXPECT_EQ(Path(LoopOf(Segment({-5, 3}, {-1, 0}), Arc({0, 0}, 1, 0, 2 * kPi), Arc({9, 0}, 1, 0, 2 * kPi))),
+    EXPECT_EQ(Path(LoopOf(Segment({-5, 3}, {-1, 0}), Arc({0, 0}, 1, 0, 2 * pi), Arc({9, 0}, 1, 0, 2 * pi))),
               L"M -5.0,3.0 L -1.0,0.0 A 1.0,1.0 0.0 1 1 1.0,0.0 A 1.0,1.0 0.0 1 1 -1.0,0.0"
               L" M 8.0,0.0 A 1.0,1.0 0.0 1 1 10.0,0.0 A 1.0,1.0 0.0 1 1 8.0,0.0");
 }
 
 TEST_F(SolidHatch, ClosedEdgeEndsWhereItBegan) {
-    EXPECT_EQ(Path(LoopOf(Arc({0, 0}, 1, 0, 2 * kPi), Segment({-1, 0}, {5, 5}))),
+    EXPECT_EQ(Path(LoopOf(Arc({0, 0}, 1, 0, 2 * pi), Segment({-1, 0}, {5, 5}))),
               L"M -1.0,0.0 A 1.0,1.0 0.0 1 1 1.0,0.0 A 1.0,1.0 0.0 1 1 -1.0,0.0 L 5.0,5.0");
 }
 
 TEST_F(SolidHatch, EdgesJoinBehindArcsAsBehindSegments) {
-    EXPECT_EQ(Path(LoopOf(Arc({0, 0}, 2, kPi, 1.5 * kPi), Segment({0, -2}, {3, 1}),
-                          Ellipse({3, 2}, {2, 0}, 0.5, 1.5 * kPi, 2 * kPi), Segment({5, 2}, {7, 7}))),
+    EXPECT_EQ(Path(LoopOf(Arc({0, 0}, 2, pi, 1.5 * pi), Segment({0, -2}, {3, 1}),
+                          Ellipse({3, 2}, {2, 0}, 0.5, 1.5 * pi, 2 * pi), Segment({5, 2}, {7, 7}))),
               L"M -2.0,0.0 A 2.0,2.0 0.0 0 0 -0.0,-2.0 L 3.0,1.0 A 2.0,1.0 0.0 0 0 5.0,2.0 L 7.0,7.0");
 }
 
 TEST_F(SolidHatch, EllipseEdgesAreWrittenAsIfTheirMajorAxisLayHorizontal) {
     // The major axis is upright: from (1, 6) to (-1, 2) in drawing axes, counter-clockwise.
-    EXPECT_EQ(Path(LoopOf(Ellipse({1, 2}, {0, 4}, 0.5, 0, kPi / 2))),
-              L"M 1.0,6.0 A 4.0,2.0 0.0 0 0 -1.0,2.0");
+    EXPECT_EQ(Path(LoopOf(Ellipse({1, 2}, {0, 4}, 0.5, 0, pi / 2))), L"M 1.0,6.0 A 4.0,2.0 0.0 0 0 -1.0,2.0");
 }
 
 TEST_F(SolidHatch, ClosedEllipseEdgeIsTwoHalves) {
-    EXPECT_EQ(Path(LoopOf(Ellipse({1, 2}, {0, 4}, 0.5, 0, 2 * kPi))),
+    EXPECT_EQ(Path(LoopOf(Ellipse({1, 2}, {0, 4}, 0.5, 0, 2 * pi))),
               L"M -3.0,2.0 A 4.0,2.0 0.0 1 1 5.0,2.0 A 4.0,2.0 0.0 1 1 -3.0,2.0");
 }
 
 TEST_F(SolidHatch, ClockwiseEllipseEdgeOfExactlyHalfATurnIsLarge) {
-    EXPECT_EQ(Path(LoopOf(Ellipse({1, 2}, {4, 0}, 0.5, 0, kPi, true))),
+    EXPECT_EQ(Path(LoopOf(Ellipse({1, 2}, {4, 0}, 0.5, 0, pi, true))),
               L"M 5.0,2.0 A 4.0,2.0 0.0 1 1 -3.0,2.0");
 }
 

@@ -3,11 +3,12 @@
 #include "tests/block/CirclePoints.h"
 
 #include <limits>
+#include <numbers>
 
 namespace blocktest {
 namespace {
 
-constexpr double kPi = 3.141592653589793;
+using std::numbers::pi;
 
 class PointAndEllipse : public BlockTest {
 protected:
@@ -37,14 +38,14 @@ TEST_F(PointAndEllipse, PointIsALineWithoutLength) {
 }
 
 TEST_F(PointAndEllipse, WholeEllipseIsTwoHalvesWithBothFlagsSet) {
-    EXPECT_EQ(EllipsePath({{1, 2, 0}, {4, 0, 0}, 0.5, 0, 2 * kPi}),
+    EXPECT_EQ(EllipsePath({{1, 2, 0}, {4, 0, 0}, 0.5, 0, 2 * pi}),
               L"M 5.0,2.0 A 4.0,2.0 0.0 1 1 -3.0,2.0 A 4.0,2.0 0.0 1 1 5.0,2.0");
 }
 
 TEST_F(PointAndEllipse, RotationIsInDegreesAndNotScaled) {
     database.SetInsunits(OxDb::kUnitsCentimeters);
     // The start is at the top, the minor axis (-2, 0).
-    EXPECT_EQ(EllipsePath({{0, 0, 0}, {0, 4, 0}, 0.5, 0, 2 * kPi}),
+    EXPECT_EQ(EllipsePath({{0, 0, 0}, {0, 4, 0}, 0.5, 0, 2 * pi}),
               L"M 0.0,40.0 A 40.0,20.0 90.0 1 1 0.0,-40.0 A 40.0,20.0 90.0 1 1 0.0,40.0");
 }
 
@@ -63,13 +64,13 @@ TEST_F(PointAndEllipse, RotationLiesWithinHalfATurnEitherWay) {
 
 TEST_F(PointAndEllipse, LinetypeIsNeverApplied) {
     database.AddLinetype(L"DASHED", Dashes({1, -1}));
-    EXPECT_EQ(EllipsePath({{0, 0, 0}, {4, 0, 0}, 0.5, 0, kPi / 2}), L"M 4.0,0.0 A 4.0,2.0 0.0 0 0 0.0,2.0");
+    EXPECT_EQ(EllipsePath({{0, 0, 0}, {4, 0, 0}, 0.5, 0, pi / 2}), L"M 4.0,0.0 A 4.0,2.0 0.0 0 0 0.0,2.0");
     EXPECT_EQ(database.Failures().Calls(drawing::Operation::kOpenObject), 0U);
 }
 
 TEST_F(PointAndEllipse, AxesInSpaceCountWithTheirWholeLength) {
     // A major axis of (3, 0, 4) is 5 long; its minor axis (0, 3, 0) x 0.5.
-    EXPECT_EQ(EllipsePath({{0, 0, 0}, {3, 0, 4}, 0.5, 0, kPi / 2}), L"M 3.0,0.0 A 5.0,1.5 0.0 0 0 0.0,1.5");
+    EXPECT_EQ(EllipsePath({{0, 0, 0}, {3, 0, 4}, 0.5, 0, pi / 2}), L"M 3.0,0.0 A 5.0,1.5 0.0 0 0 0.0,1.5");
 }
 
 TEST_F(PointAndEllipse, ArcIsLargeFromHalfATurnOn) {
@@ -80,8 +81,8 @@ TEST_F(PointAndEllipse, ArcIsLargeFromHalfATurnOn) {
     };
     const Case cases[] = {
         {0, 1, L"0 0"},
-        {0, std::nextafter(kPi, 0.0), L"0 0"},
-        {0, kPi, L"1 0"},
+        {0, std::nextafter(pi, 0.0), L"0 0"},
+        {0, pi, L"1 0"},
         {0, 6, L"1 0"},
         // End below start: a turn is added. -5 is 1.28, -1 is 5.28.
         {6, 1, L"0 0"},
@@ -91,7 +92,7 @@ TEST_F(PointAndEllipse, ArcIsLargeFromHalfATurnOn) {
         {0, 7, L"0 0"},  // 0.72
         {0, 17, L"1 0"}, // 4.43
         // Two turns exactly: one stays.
-        {0, 4 * kPi, L"1 0"},
+        {0, 4 * pi, L"1 0"},
         {0, 0, L"0 0"},
     };
     for (const Case& row : cases) {
@@ -111,8 +112,8 @@ TEST_F(PointAndEllipse, AnglesOfAnySizeEnd) {
 
 TEST_F(PointAndEllipse, LongSweepIsDividedBeforeTurnsAreTakenAway) {
     // 2e6 = 318309 turns and 5.56 radians; 1e7 = 1591549 turns and 2.71 radians.
-    EXPECT_EQ(Flags(0, 2e6), std::fmod(2e6, 2 * kPi) >= kPi ? L"1 0" : L"0 0");
-    EXPECT_EQ(Flags(0, 1e7), std::fmod(1e7, 2 * kPi) >= kPi ? L"1 0" : L"0 0");
+    EXPECT_EQ(Flags(0, 2e6), std::fmod(2e6, 2 * pi) >= pi ? L"1 0" : L"0 0");
+    EXPECT_EQ(Flags(0, 1e7), std::fmod(1e7, 2 * pi) >= pi ? L"1 0" : L"0 0");
 }
 
 } // namespace

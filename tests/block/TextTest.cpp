@@ -2,6 +2,7 @@
 #include "tests/block/BlockTest.h"
 
 #include <limits>
+#include <numbers>
 
 namespace blocktest {
 namespace {
@@ -9,7 +10,7 @@ namespace {
 using drawing::Operation;
 using Texts = std::vector<std::wstring>;
 
-constexpr double kPi = 3.141592653589793;
+using std::numbers::pi;
 
 class TextEntities : public BlockTest {
 protected:
@@ -81,7 +82,7 @@ TEST_F(TextEntities, AnglesAreWholeDegreesCutOffBehindHalfADegree) {
                           {720, L"720"}, {-2.6, L"-2"}, {1e12, L"-2147483648"}};
     for (const Case& row : cases) {
         drawing::TextData data = Data(L"x");
-        data.rotation = row.degrees * kPi / 180;
+        data.rotation = row.degrees * pi / 180;
         Add(data);
         drawing::ParagraphTextData paragraph;
         paragraph.rotation = data.rotation;

@@ -23,7 +23,7 @@ std::string SymbolWith(const std::string& members, const std::string& graphics =
 }
 
 // "symbols[0].name: expected a text, found nothing"; empty where the document is read.
-std::string Refusal(const std::string& document, bool tolerant = false) {
+std::string RefusalOf(const std::string& document, bool tolerant = false) {
     SymbolsOfDocument read;
     diagnostics::Diagnostics problems;
     const bool isRead = ReadSymbols(document, tolerant, read, problems);
@@ -39,7 +39,7 @@ std::string Refusal(const std::string& document, bool tolerant = false) {
 std::string Rewritten(const std::string& document) {
     SymbolsOfDocument read;
     diagnostics::Diagnostics problems;
-    EXPECT_TRUE(ReadSymbols(document, false, read, problems)) << Refusal(document);
+    EXPECT_TRUE(ReadSymbols(document, false, read, problems)) << RefusalOf(document);
     std::string text;
     documents::SymbolsWriter writer(
         [&](std::string_view piece) {
@@ -146,22 +146,22 @@ TEST(SymbolsReader, DocumentWithEveryPropertyIsWrittenAgainAsItWas) {
 }
 
 TEST(SymbolsReader, OrderOfMembersIsFree) {
-    EXPECT_EQ(Refusal(R"({"symbols": [{"parameters": [], "graphics": [], "name": "A",
+    EXPECT_EQ(RefusalOf(R"({"symbols": [{"parameters": [], "graphics": [], "name": "A",
                           "type": "SimpleSymbolDefinition"}], "version": 1,
                           "format": "styleconversion/symbols"})"),
               "");
 }
 
 TEST(SymbolsReader, WhatIsNoSymbolsDocumentIsRefused) {
-    EXPECT_EQ(Refusal("[]"), "expected an object, found a list");
-    EXPECT_EQ(Refusal("{}"), "format: expected \"styleconversion/symbols\", found nothing");
-    EXPECT_EQ(Refusal(R"({"format": "styleconversion/glyphs"})"),
+    EXPECT_EQ(RefusalOf("[]"), "expected an object, found a list");
+    EXPECT_EQ(RefusalOf("{}"), "format: expected \"styleconversion/symbols\", found nothing");
+    EXPECT_EQ(RefusalOf(R"({"format": "styleconversion/glyphs"})"),
               "format: expected \"styleconversion/symbols\", found \"styleconversion/glyphs\"");
-    EXPECT_EQ(Refusal(R"({"format": "styleconversion/symbols", "version": 2})"),
+    EXPECT_EQ(RefusalOf(R"({"format": "styleconversion/symbols", "version": 2})"),
               "version: expected 1, found 2");
-    EXPECT_EQ(Refusal(R"({"format": "styleconversion/symbols", "version": 1})"),
+    EXPECT_EQ(RefusalOf(R"({"format": "styleconversion/symbols", "version": 1})"),
               "symbols: expected a list, found nothing");
-    EXPECT_EQ(Refusal(R"({"format": "styleconversion/symbols", "version": 1, "fidelity": "strict"})"),
+    EXPECT_EQ(RefusalOf(R"({"format": "styleconversion/symbols", "version": 1, "fidelity": "strict"})"),
               "fidelity: expected \"faithful\", found \"strict\"");
 }
 
@@ -207,15 +207,15 @@ TEST(SymbolsReader, InvalidValueIsRefusedWithItsPlace) {
          list + "symbols[0].type: expected \"SimpleSymbolDefinition\", found \"CompoundSymbolDefinition\""},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(Refusal(DocumentOf(row.symbol)), row.refusal) << row.symbol;
+        EXPECT_EQ(RefusalOf(DocumentOf(row.symbol)), row.refusal) << row.symbol;
     }
 }
 
 TEST(SymbolsReader, KeyThatStandsTwiceIsRefused) {
-    EXPECT_EQ(Refusal(DocumentOf(SymbolWith(R"("description": "a", "description": "b", )"))),
+    EXPECT_EQ(RefusalOf(DocumentOf(SymbolWith(R"("description": "a", "description": "b", )"))),
               "symbols[0].description: the key is given twice");
     // The same key in objects beside each other is fine.
-    EXPECT_EQ(Refusal(DocumentOf(SymbolWith("") + "," + SymbolWith(""))), "");
+    EXPECT_EQ(RefusalOf(DocumentOf(SymbolWith("") + "," + SymbolWith(""))), "");
 }
 
 TEST(SymbolsReader, TolerantReadingSkipsTheSymbolAlone) {
@@ -234,7 +234,7 @@ TEST(SymbolsReader, EveryCutDocumentIsRefused) {
     const std::string document = kEveryProperty;
     // The last two characters are the bracket and the end of its line.
     for (std::size_t length = 0; length + 1 < document.size(); ++length) {
-        EXPECT_NE(Refusal(document.substr(0, length)), "") << length;
+        EXPECT_NE(RefusalOf(document.substr(0, length)), "") << length;
     }
 }
 
@@ -243,17 +243,17 @@ TEST(SymbolsReader, DepthIsLimitedAndTakesNoStack) {
         return DocumentOf(std::string(levels, '[') + std::string(levels, ']'));
     };
     // The document and its list are two levels.
-    EXPECT_EQ(Refusal(nested(14)), "symbols[0]: expected an object, found a list");
-    EXPECT_EQ(Refusal(nested(15)), "expected at most 16 levels, found more");
-    EXPECT_EQ(Refusal(nested(300000)), "expected at most 16 levels, found more");
+    EXPECT_EQ(RefusalOf(nested(14)), "symbols[0]: expected an object, found a list");
+    EXPECT_EQ(RefusalOf(nested(15)), "expected at most 16 levels, found more");
+    EXPECT_EQ(RefusalOf(nested(300000)), "expected at most 16 levels, found more");
 }
 
 TEST(SymbolsReader, MessagesOfBrokenDocumentsAreShortAndMoveNoCursor) {
-    const std::string refusal = Refusal("{\"format\": \"" + std::string(5000, 'x') + "\x1b[2J");
+    const std::string refusal = RefusalOf("{\"format\": \"" + std::string(5000, 'x') + "\x1b[2J");
     EXPECT_EQ(refusal.rfind("expected JSON, found an error at ", 0), 0U) << refusal;
     EXPECT_LT(refusal.size(), 300U);
     EXPECT_EQ(refusal.find('\x1b'), std::string::npos);
-    EXPECT_NE(Refusal(DocumentOf(SymbolWith(R"("shape": 1e999, )"))), "");
+    EXPECT_NE(RefusalOf(DocumentOf(SymbolWith(R"("shape": 1e999, )"))), "");
 }
 
 } // namespace

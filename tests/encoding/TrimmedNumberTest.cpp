@@ -5,13 +5,13 @@
 
 namespace {
 
-struct Row {
+struct Trimmed {
     double value;
     const wchar_t* text;
 };
 
 TEST(TrimmedNumber, KeepsOneDecimalAtLeastAndIsCutAtTheLeftmostZeroBehindIt) {
-    const Row rows[] = {
+    const Trimmed rows[] = {
         {0.0, L"0.0"},        {3.0, L"3.0"},         {1.25, L"1.25"},
         {100.0, L"100.0"},    {0.12345, L"0.12345"}, {2.10305, L"2.1"},
         {1.50001, L"1.5"},    {-0.5, L"-0.5"},       {-0.0, L"-0.0"},
@@ -20,7 +20,7 @@ TEST(TrimmedNumber, KeepsOneDecimalAtLeastAndIsCutAtTheLeftmostZeroBehindIt) {
         {0.00001, L"0.0"},    {10.20304, L"10.2"},   {0.11101, L"0.111"},
         {0.11110, L"0.1111"}, {-0.000001, L"-0.0"},  {99999.99999, L"99999.99999"},
     };
-    for (const Row& row : rows) {
+    for (const Trimmed& row : rows) {
         EXPECT_EQ(encoding::Double2TrimmedString(row.value), row.text) << row.value;
     }
 }

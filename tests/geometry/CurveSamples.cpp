@@ -11,6 +11,11 @@ namespace geometrytests {
 
 using namespace geometry;
 
+void ExpectNear(Point actual, Point expected, double precision) {
+    EXPECT_NEAR(actual.x, expected.x, precision);
+    EXPECT_NEAR(actual.y, expected.y, precision);
+}
+
 NurbsCurve MakeCurve(int degree, const std::vector<double>& knots, const std::vector<Point>& points,
                      const std::vector<double>& weights) {
     NurbsCurve curve;

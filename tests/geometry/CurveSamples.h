@@ -30,6 +30,8 @@ double RandomBetween(std::mt19937_64& random, double low, double high);
 /// control points: slow, and nothing like the way the library does it.
 geometry::Point ByDefinition(const geometry::NurbsCurve& curve, double parameter);
 
+void ExpectNear(geometry::Point actual, geometry::Point expected, double precision = 1e-12);
+
 double DistanceToSegment(geometry::Point point, geometry::Point start, geometry::Point end);
 
 struct NamedCurve {

@@ -12,16 +12,12 @@
 namespace {
 
 using namespace geometry;
+using geometrytests::ExpectNear;
 
 NurbsCurve Through(const std::vector<Point>& points, const std::optional<EndTangents>& tangents = {}) {
     NurbsCurve curve;
     EXPECT_EQ(InterpolateThroughPoints(points, tangents, curve), Status::kOk);
     return curve;
-}
-
-void ExpectNear(Point actual, Point expected, double precision = 1e-12) {
-    EXPECT_NEAR(actual.x, expected.x, precision);
-    EXPECT_NEAR(actual.y, expected.y, precision);
 }
 
 /// The parabola through the curve at t, t + h and t + 2 h (h negative: from the left), differentiated at t:

@@ -12,15 +12,11 @@ namespace {
 
 using namespace geometry;
 using geometrytests::ClampedKnots;
+using geometrytests::ExpectNear;
 using geometrytests::MakeCurve;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-
-void ExpectNear(Point actual, Point expected, double precision = 1e-12) {
-    EXPECT_NEAR(actual.x, expected.x, precision);
-    EXPECT_NEAR(actual.y, expected.y, precision);
-}
 
 struct Refusal {
     const char* name;

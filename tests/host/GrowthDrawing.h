@@ -20,6 +20,7 @@ public:
     long CountOpen() const;
 
 private:
+    class Services;
     struct Parts;
     std::unique_ptr<Parts> parts_;
 };

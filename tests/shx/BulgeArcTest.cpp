@@ -4,12 +4,13 @@
 #include <cmath>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <numbers>
 
 namespace {
 
 using namespace ShxUtility;
 
-constexpr double kPi = 3.141592653589793;
+using std::numbers::pi;
 
 ShapeInstruction One(int dx, int dy, int bulge) {
     const Decoded decoded = Decode({12, dx & 255, dy & 255, bulge & 255});
@@ -52,7 +53,7 @@ TEST(BulgeArc, TheBulgeIsSigned) {
     // -128 / 127 is a little more than a half circle, clockwise.
     const ShapeInstruction arc = One(2, 0, -128);
     EXPECT_EQ(arc.op, ShapeOp::Arc);
-    EXPECT_NEAR(arc.y - arc.x, -4 * std::atan(128.0 / 127.0) * 180 / kPi, 1e-12);
+    EXPECT_NEAR(arc.y - arc.x, -4 * std::atan(128.0 / 127.0) * 180 / pi, 1e-12);
 }
 
 // An arc with the bulge b sweeps 4 atan(b) and its ends are the displacement apart.
@@ -66,9 +67,9 @@ TEST(BulgeArc, EveryBulgeOfManyDisplacements) {
             }
             const ShapeInstruction arc = One(dx, dy, bulge);
             ASSERT_EQ(arc.op, ShapeOp::Arc);
-            const double start = arc.x * kPi / 180;
-            const double end = arc.y * kPi / 180;
-            EXPECT_NEAR(arc.y - arc.x, 4 * std::atan(bulge / 127.0) * 180 / kPi, 1e-9)
+            const double start = arc.x * pi / 180;
+            const double end = arc.y * pi / 180;
+            EXPECT_NEAR(arc.y - arc.x, 4 * std::atan(bulge / 127.0) * 180 / pi, 1e-9)
                 << dx << ' ' << dy << ' ' << bulge;
             const double tolerance = 1e-11 * arc.radius;
             EXPECT_NEAR(arc.radius * (std::cos(end) - std::cos(start)), dx, tolerance);

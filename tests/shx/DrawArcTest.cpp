@@ -4,12 +4,13 @@
 
 #include <cmath>
 #include <gtest/gtest.h>
+#include <numbers>
 
 namespace {
 
 using namespace ShxUtility;
 
-constexpr double kPi = 3.141592653589793;
+using std::numbers::pi;
 
 Drawing Drawn(const test_support::Bytes& program, double rotation = 0.0, double scale = 1.0) {
     Drawing drawing;
@@ -205,8 +206,8 @@ TEST(DrawArc, TheEndIsSummedFromTheCurrentPoint) {
     drawing.x = 0.1;
     drawing.y = 0.7;
     EXPECT_EQ(drawing.Draw({Arc(10, 50, 3)}), 0);
-    const double start = 10 * kPi / 180;
-    const double end = 50 * kPi / 180;
+    const double start = 10 * pi / 180;
+    const double end = 50 * pi / 180;
     EXPECT_EQ(drawing.x, 0.1 + 3 * (std::cos(end) - std::cos(start)));
     EXPECT_EQ(drawing.y, 0.7 + 3 * (std::sin(end) - std::sin(start)));
 }

@@ -1,5 +1,5 @@
 // "shapes " files: libraries and fonts.
-#include "StyleConversion/shx/ShxUtility.h"
+#include "tests/shx/Loading.h"
 #include "tests/support/MemoryFile.h"
 #include "tests/support/ShapeFileBuilder.h"
 
@@ -11,19 +11,11 @@
 namespace {
 
 using namespace ShxUtility;
+using shx_tests::Load;
 using test_support::Bytes;
 using test_support::File;
 using test_support::FileOf;
 using test_support::ShapeFileBuilder;
-
-ShxResult Load(const std::string& bytes, ShapesInFile& file, std::uint32_t kinds = kAllKinds) {
-    return LoadShapeFile(bytes, file, kinds);
-}
-
-ShxResult Load(const std::string& bytes) {
-    ShapesInFile file;
-    return Load(bytes, file);
-}
 
 Bytes BytesOf(const CharArray& data) {
     return {data.data(), data.data() + data.size()};

@@ -1,5 +1,5 @@
 // "unifont " files.
-#include "StyleConversion/shx/ShxUtility.h"
+#include "tests/shx/Loading.h"
 #include "tests/support/ShapeFileBuilder.h"
 
 #include <gtest/gtest.h>
@@ -8,17 +8,9 @@
 namespace {
 
 using namespace ShxUtility;
+using shx_tests::Load;
 using test_support::Bytes;
 using test_support::ShapeFileBuilder;
-
-ShxResult Load(const std::string& bytes, ShapesInFile& file, std::uint32_t kinds = kAllKinds) {
-    return LoadShapeFile(bytes, file, kinds);
-}
-
-ShxResult Load(const std::string& bytes) {
-    ShapesInFile file;
-    return Load(bytes, file);
-}
 
 TEST(LoadUnifont, ReadsEntriesBehindTheirHeads) {
     // Count 2; shape 0 of 5 bytes ("F", 0, three bytes); shape 0x0141 of 4 bytes ("", 0, three bytes).

@@ -1,4 +1,5 @@
 // styleconv blocks and styleconv list on drawings: what is converted, what is refused, and in which words.
+#include "tests/styleconv/SampleFiles.h"
 #include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ToolRun.h"
 
@@ -8,6 +9,7 @@
 
 namespace {
 
+using samples::Drawing;
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
@@ -15,12 +17,6 @@ using support::ValuesOf;
 using test_support::ShapeFileBuilder;
 
 using Texts = std::vector<std::string>;
-
-// A drawing in millimetres with these blocks.
-std::string Drawing(const std::string& blocks, const std::string& tables = "") {
-    return R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,)" + tables +
-           R"("layers": [{"name": "0", "lineWeight": 25}], "blocks": [)" + blocks + "]}";
-}
 
 // A block with one line from (0, 0) to (length, 0).
 std::string Block(const std::string& name, int length, const std::string& more = "",

@@ -1,6 +1,8 @@
 // styleconv convert, and the converting commands on several files: one result, its origins and names, and
 // what is said at the end.
+#include "tests/styleconv/SampleFiles.h"
 #include "tests/support/DxfWriter.h"
+#include "tests/support/Has.h"
 #include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ShapeProgramBuilder.h"
 #include "tests/support/ToolRun.h"
@@ -13,6 +15,8 @@
 
 namespace {
 
+using samples::Marks;
+using support::Has;
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
@@ -21,17 +25,11 @@ using support::ValuesOf;
 using Texts = std::vector<std::string>;
 
 constexpr const char* kBrick = "*BRICK\n0,0,0,0,1\n";
-constexpr const char* kGas = "; pipes\n*GAS\nA,1,-1\n";
-constexpr const char* kTree = R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,
+constexpr const char* kPipes = "; pipes\n*GAS\nA,1,-1\n";
+constexpr const char* kTreeAlone = R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,
   "layers": [{"name": "0"}],
   "blocks": [{"name": "*P", "layout": true, "entities": []},
              {"name": "TREE", "entities": [{"type": "line", "start": [0, 0], "end": [5, 0]}]}]})";
-
-std::string Marks() {
-    using test_support::ShapeFileBuilder;
-    using test_support::ShapeProgramBuilder;
-    return ShapeFileBuilder::Shapes().Shape(130, "MARK", ShapeProgramBuilder().Vector(8, 4).End()).Text();
-}
 
 class ConvertCommand : public testing::Test {
 protected:
@@ -53,15 +51,11 @@ protected:
     ScratchFolder folder;
 };
 
-bool Has(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
-}
-
 TEST_F(ConvertCommand, FilesOfAllKindsBecomeOneDocumentThatTellsTheirOrigins) {
     const std::string shapes = Write("d.shx", Marks());
-    const std::string lines = Write("b.lin", kGas);
+    const std::string lines = Write("b.lin", kPipes);
     const std::string patterns = Write("a.pat", kBrick);
-    const std::string drawing = Write("c.json", kTree);
+    const std::string drawing = Write("c.json", kTreeAlone);
     const ToolResult result = RunTool({"convert", patterns, lines, drawing, shapes});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(Said(result), "styleconv: 4 files, 4 symbols\n");
@@ -73,8 +67,10 @@ TEST_F(ConvertCommand, FilesOfAllKindsBecomeOneDocumentThatTellsTheirOrigins) {
 }
 
 TEST_F(ConvertCommand, OneFileGivesTheDocumentOfItsOwnCommand) {
-    for (const auto& [command, name, text] : std::vector<std::array<std::string, 3>>{
-             {"patterns", "a.pat", kBrick}, {"linetypes", "b.lin", kGas}, {"blocks", "c.json", kTree}}) {
+    for (const auto& [command, name, text] :
+         std::vector<std::array<std::string, 3>>{{"patterns", "a.pat", kBrick},
+                                                 {"linetypes", "b.lin", kPipes},
+                                                 {"blocks", "c.json", kTreeAlone}}) {
         const std::string file = Write(name, text);
         const ToolResult alone = RunTool({command, file});
         EXPECT_EQ(alone.status, 0);
@@ -88,7 +84,7 @@ TEST_F(ConvertCommand, FoldersAreWalkedInSortedOrderAndOtherFilesCounted) {
     Write("std/a.pat", "*B\n0,0,0,0,1\n");
     Write("std/readme.txt", "text");
     Write("std/package.json", "{\"name\": \"x\"}");
-    Write("std/c.json", kTree);
+    Write("std/c.json", kTreeAlone);
     const ToolResult result = RunTool({"convert", folder / "std"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"B", "A", "Z", "TREE"}));
@@ -171,7 +167,7 @@ TEST_F(ConvertCommand, SameCauseInManyFilesIsOneMessageWithTheirNumber) {
 
 TEST_F(ConvertCommand, GalleriesTellTheFilesOfTheirSymbols) {
     const std::string first = Write("a.pat", kBrick);
-    const std::string second = Write("b.lin", kGas);
+    const std::string second = Write("b.lin", kPipes);
     const ToolResult result = RunTool({"convert", first, second, "-o", folder / "all.html"});
     EXPECT_EQ(result.status, 0);
     const std::string page = folder.Read("all.html");
@@ -202,8 +198,8 @@ TEST_F(ConvertCommand, EveryConvertingCommandTakesSeveralFiles) {
     const std::string rod = R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,
       "blocks": [{"name": "ROD", "entities": [{"type": "point", "position": [1, 2]}]}]})";
     for (const Row& row : {Row{"patterns", ".pat", {kBrick, "*A\n0,0,0,0,1\n"}, {"BRICK", "A"}},
-                           Row{"linetypes", ".lin", {kGas, "*A\nA,1,-1\n"}, {"GAS", "A"}},
-                           Row{"blocks", ".json", {kTree, rod}, {"TREE", "ROD"}}}) {
+                           Row{"linetypes", ".lin", {kPipes, "*A\nA,1,-1\n"}, {"GAS", "A"}},
+                           Row{"blocks", ".json", {kTreeAlone, rod}, {"TREE", "ROD"}}}) {
         const std::string first = Write(std::string("first") + row.ending, row.texts[0]);
         const std::string second = Write(std::string("second") + row.ending, row.texts[1]);
         const ToolResult result = RunTool({row.command, first, second});

@@ -1,5 +1,6 @@
 // styleconv linetypes and styleconv list on linetype files: what is converted, what is refused, and in which
 // words.
+#include "tests/styleconv/SampleFiles.h"
 #include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ToolRun.h"
 
@@ -9,6 +10,8 @@
 
 namespace {
 
+using samples::Font;
+using samples::Marks;
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
@@ -16,16 +19,6 @@ using support::ValuesOf;
 using test_support::ShapeFileBuilder;
 
 using Texts = std::vector<std::string>;
-
-// A library with the shape MARK, a stroke of one unit.
-std::string Marks() {
-    return ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Text();
-}
-
-// A font, 4 units high, with the letter A, a stroke of one unit.
-std::string Font() {
-    return ShapeFileBuilder::Shapes().FontInfo("FONT", {4, 1, 0}).Shape(65, "A", {0x10, 0}).Text();
-}
 
 class LinetypesCommand : public testing::Test {
 protected:

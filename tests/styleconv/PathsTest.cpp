@@ -1,8 +1,8 @@
 // Files of any name and path are read and written, and their lines may end in either way, on every system.
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/platform/Utf8.h"
+#include "tests/styleconv/SampleFiles.h"
 #include "tests/support/LineEnds.h"
-#include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ToolRun.h"
 
 #include <cerrno>
@@ -14,11 +14,12 @@
 
 namespace {
 
+using samples::Font;
+using samples::Marks;
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
 using support::WithCarriageReturns;
-using test_support::ShapeFileBuilder;
 
 namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
@@ -77,20 +78,13 @@ private:
 
 const char* const kLinetypes = "*X,d\nA,1,-.5,[MARK,marks.shx],-1\n*Y\nA,2,\n-1,[\"A\",STANDARD]\n";
 const char* const kPatterns = "; walls\n*BRICK,b\n0,0,0,0,1\n90,0,0,0,2,1,-1\n\n*DOTS\n0,0,0,1,1,0,-1\n";
-const char* const kDrawing = "{\"format\": \"styleconversion/drawing\",\n\"version\": 1, \"insunits\": 4,\n"
-                             "\"textStyles\": [{\"name\": \"STANDARD\", \"fileName\": \"font.shx\"}],\n"
-                             "\"blocks\": [{\"name\": \"B\", \"entities\": [\n"
-                             "{\"type\": \"line\", \"start\": [0, 0], \"end\": [1, 0]},\n"
-                             "{\"type\": \"text\", \"text\": \"A\", \"style\": \"STANDARD\", \"height\": "
-                             "2, \"position\": [1, 2]}]}]}\n";
-
-std::string Marks() {
-    return ShapeFileBuilder::Shapes().Shape(130, "MARK", {0x10, 0}).Text();
-}
-
-std::string Font() {
-    return ShapeFileBuilder::Shapes().FontInfo("FONT", {4, 1, 0}).Shape(65, "A", {0x10, 0}).Text();
-}
+const char* const kDrawingWithText =
+    "{\"format\": \"styleconversion/drawing\",\n\"version\": 1, \"insunits\": 4,\n"
+    "\"textStyles\": [{\"name\": \"STANDARD\", \"fileName\": \"font.shx\"}],\n"
+    "\"blocks\": [{\"name\": \"B\", \"entities\": [\n"
+    "{\"type\": \"line\", \"start\": [0, 0], \"end\": [1, 0]},\n"
+    "{\"type\": \"text\", \"text\": \"A\", \"style\": \"STANDARD\", \"height\": "
+    "2, \"position\": [1, 2]}]}]}\n";
 
 // What every kind of file that is in the place gives, by commands that write it there.
 Texts ResultsIn(Place& place, const std::string& start) {
@@ -98,7 +92,7 @@ Texts ResultsIn(Place& place, const std::string& start) {
     const std::string font = place.Write("font.shx", Font());
     const std::string linetypes = place.Write(start + ".lin", kLinetypes);
     const std::string patterns = place.Write(start + ".pat", kPatterns);
-    const std::string drawing = place.Write(start + ".json", kDrawing);
+    const std::string drawing = place.Write(start + ".json", kDrawingWithText);
     const std::string shapes = place.Write(start + ".shx", Marks());
     const std::string result = place.Result(start + " result.json");
     Texts results;
@@ -185,8 +179,9 @@ TEST(LineEnds, OfEitherKindGiveTheSame) {
         const char* command;
         const char* name;
         const char* text;
-    } rows[] = {
-        {"linetypes", "x.lin", kLinetypes}, {"patterns", "x.pat", kPatterns}, {"blocks", "x.json", kDrawing}};
+    } rows[] = {{"linetypes", "x.lin", kLinetypes},
+                {"patterns", "x.pat", kPatterns},
+                {"blocks", "x.json", kDrawingWithText}};
     for (const auto& row : rows) {
         const std::string file = place.Write(row.name, row.text);
         for (const Texts& more : {Texts{}, Texts{"--tolerant"}}) {

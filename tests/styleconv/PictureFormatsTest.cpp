@@ -1,4 +1,5 @@
 // The pictures that every command writes with --format.
+#include "tests/support/Has.h"
 #include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ShapeProgramBuilder.h"
 #include "tests/support/ToolRun.h"
@@ -10,6 +11,7 @@
 
 namespace {
 
+using support::Has;
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
@@ -25,14 +27,14 @@ std::string TallAndLow() {
         .Text();
 }
 
-std::string TwoShapes() {
+std::string TallAndLowShapes() {
     return ShapeFileBuilder::Shapes()
         .Shape(130, "TALL", ShapeProgramBuilder().Vector(8, 4).End())
         .Shape(131, "LOW", ShapeProgramBuilder().Vector(2, 12).End())
         .Text();
 }
 
-constexpr const char* kDrawing = R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,
+constexpr const char* kRodAndRing = R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,
   "layers": [{"name": "0"}],
   "blocks": [
     {"name": "ROD", "entities": [{"type": "line", "start": [0, 0], "end": [5, 0]}]},
@@ -49,8 +51,8 @@ std::vector<Kind> Kinds(const ScratchFolder& folder) {
     const std::string pattern =
         folder.Write("a.pat", "*LEVEL,Lines\n0, 0,0, 0,.125\n*STEEP,More\n90, 0,0, 0,.125\n");
     const std::string lines = folder.Write("a.lin", "*DASHED,Dashes\nA,1,-1\n*DOTTED,Dots\nA,0,-1\n");
-    const std::string drawing = folder.Write("a.json", kDrawing);
-    const std::string shapes = folder.Write("a.shx", TwoShapes());
+    const std::string drawing = folder.Write("a.json", kRodAndRing);
+    const std::string shapes = folder.Write("a.shx", TallAndLowShapes());
     return {{{"patterns", pattern}, {"LEVEL", "STEEP"}, {"--name", "LEVEL"}},
             {{"linetypes", lines}, {"DASHED", "DOTTED"}, {"--name", "DASHED"}},
             {{"blocks", drawing}, {"RING", "ROD"}, {"--name", "RING"}},
@@ -74,10 +76,6 @@ std::size_t Count(const std::string& text, const std::string& part) {
         ++count;
     }
     return count;
-}
-
-bool Has(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
 }
 
 TEST(PictureFormats, SvgOfOneSymbolIsItsPicture) {
@@ -219,7 +217,7 @@ double HeightOfFirstLine(const std::string& svg) {
 TEST(PictureFormats, LettersOfAFontAreShownAtOneScale) {
     const ScratchFolder folder;
     const std::string font = folder.Write("font.shx", TallAndLow());
-    const std::string shapes = folder.Write("shapes.shx", TwoShapes());
+    const std::string shapes = folder.Write("shapes.shx", TallAndLowShapes());
     const auto ratio = [](const std::string& file) {
         const std::string sheet = WithFormat({"glyphs", file}, "svg");
         return HeightOfFirstLine(sheet) / HeightOfFirstLine(sheet.substr(sheet.rfind("<svg")));

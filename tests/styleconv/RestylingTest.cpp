@@ -1,10 +1,12 @@
 // --color and --weight: other defaults of the parameters, in all that is written.
+#include "tests/support/Has.h"
 #include "tests/support/ToolRun.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
+using support::Has;
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
@@ -19,10 +21,6 @@ constexpr const char* kTree = R"({"format": "styleconversion/drawing", "version"
   "blocks": [{"name": "TREE", "entities": [{"type": "line", "start": [0, 0], "end": [2, 0]}]},
              {"name": "ROD", "entities": [
     {"type": "line", "start": [0, 0], "end": [2, 0], "lineWeight": 50, "color": 1}]}]})";
-
-bool Has(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
-}
 
 class Restyling : public testing::Test {
 protected:

@@ -1,4 +1,5 @@
 // The style libraries that commands write. How they look on a map is tested in the map program.
+#include "tests/support/Has.h"
 #include "tests/support/ToolRun.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,7 @@
 
 namespace {
 
+using support::Has;
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
@@ -16,10 +18,6 @@ ToolResult RunQgis(std::vector<std::string> arguments, const std::vector<std::st
     arguments.insert(arguments.end(), {"--format", "qgis"});
     arguments.insert(arguments.end(), more.begin(), more.end());
     return RunTool(arguments);
-}
-
-bool Has(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
 }
 
 // A pattern whose numbers the required output cuts.

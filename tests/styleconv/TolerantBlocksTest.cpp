@@ -1,4 +1,5 @@
 // styleconv blocks --tolerant: what is right of a drawing is converted, what is wrong is left out and named.
+#include "tests/styleconv/SampleFiles.h"
 #include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ToolRun.h"
 
@@ -6,6 +7,7 @@
 
 namespace {
 
+using samples::Drawing;
 using support::RunTool;
 using support::ScratchFolder;
 using support::ToolResult;
@@ -13,16 +15,11 @@ using test_support::ShapeFileBuilder;
 
 using Texts = std::vector<std::string>;
 
-std::string Drawing(const std::string& blocks, const std::string& tables = "") {
-    return R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4,)" + tables +
-           R"("layers": [{"name": "0", "lineWeight": 25}], "blocks": [)" + blocks + "]}";
-}
-
 std::string Block(const std::string& name, const std::string& entities, const std::string& more = "") {
     return R"({"name": ")" + name + R"(", "entities": [)" + entities + "]" + more + "}";
 }
 
-std::string Line(const std::string& more = "") {
+std::string ThreeLong(const std::string& more = "") {
     return R"({"type": "line", "start": [0, 0], "end": [3, 0])" + more + "}";
 }
 
@@ -54,20 +51,20 @@ protected:
 };
 
 TEST_F(TolerantBlocks, ADrawingWithoutFaultsGivesTheSameBytesAndNothingIsSaid) {
-    const std::string text = Drawing(Block("TREE", Line()));
+    const std::string text = Drawing(Block("TREE", ThreeLong()));
     EXPECT_EQ(Said(text), "");
     EXPECT_EQ(output, Run(text).output);
 }
 
 TEST_F(TolerantBlocks, AWrongEntityIsLeftOutByNameOfItsBlock) {
     const std::string text =
-        Drawing(Block("TREE", R"({"type": "circle", "center": [0, 0], "radius": "2"}, )" + Line()) + "," +
-                Block("POST", Line()));
+        Drawing(Block("TREE", R"({"type": "circle", "center": [0, 0], "radius": "2"}, )" + ThreeLong()) +
+                "," + Block("POST", ThreeLong()));
     EXPECT_EQ(Run(text).status, 1);
     EXPECT_EQ(Said(text),
               "drawing.json: warning: blocks[0].entities[0].radius: expected a number, found a string; "
               "the entity is skipped (block TREE)\n");
-    EXPECT_EQ(output, Run(Drawing(Block("TREE", Line()) + "," + Block("POST", Line()))).output);
+    EXPECT_EQ(output, Run(Drawing(Block("TREE", ThreeLong()) + "," + Block("POST", ThreeLong()))).output);
 }
 
 TEST_F(TolerantBlocks, FaultsOfOneKindAreSaidOnceInABlock) {
@@ -81,7 +78,8 @@ TEST_F(TolerantBlocks, FaultsOfOneKindAreSaidOnceInABlock) {
 }
 
 TEST_F(TolerantBlocks, ADocumentThatIsCutGivesTheBlocksBefore) {
-    const std::string text = Drawing(Block("TREE", Line()) + "," + Block("POST", Line() + "," + Line()));
+    const std::string text =
+        Drawing(Block("TREE", ThreeLong()) + "," + Block("POST", ThreeLong() + "," + ThreeLong()));
     const std::string said = Said(text.substr(0, text.size() - 10));
     EXPECT_EQ(
         said.rfind(
@@ -106,7 +104,7 @@ TEST_F(TolerantBlocks, WhatIsNoDrawingOrHasNoBlocksIsRefused) {
 }
 
 TEST_F(TolerantBlocks, ABlockThatIsNotThereIsNamedAndTheOthersAreConverted) {
-    const std::string text = Drawing(Block("TREE", Line()));
+    const std::string text = Drawing(Block("TREE", ThreeLong()));
     EXPECT_EQ(Said(text, {"--name", "NONE", "--name", "TREE"}),
               "drawing.json: warning: there is no block named NONE\n");
     EXPECT_TRUE(Has("\"TREE\""));
@@ -117,7 +115,7 @@ TEST_F(TolerantBlocks, ABlockThatIsNotThereIsNamedAndTheOthersAreConverted) {
 
 TEST_F(TolerantBlocks, WhatAConversionLeavesOutIsNamedByBlock) {
     const std::string text = Drawing(
-        Block("TREE", Line(R"(, "linetype": "GAS")") + "," + Line(R"(, "linetype": "GAS")") +
+        Block("TREE", ThreeLong(R"(, "linetype": "GAS")") + "," + ThreeLong(R"(, "linetype": "GAS")") +
                           R"(, {"type": "hatch", "loops": []}, {"type": "hatch", "loops": [], "solid": true},
                 {"type": "hatch", "loops": [], "pattern": [{"angle": 0, "base": [0, 0], "offset": [0, 1],
                  "dashes": []}]},
@@ -127,7 +125,7 @@ TEST_F(TolerantBlocks, WhatAConversionLeavesOutIsNamedByBlock) {
                 {"type": "text", "position": [0, 0], "height": 1, "text": "T", "style": "ROMAN"},
                 {"type": "other", "class": "Ray"}, {"type": "line", "start": [0, 0], "end": [1, 0]})") +
         "," +
-        Block("POST", R"({"type": "point", "position": [0, 0], "id": "a"}, )" + Line(),
+        Block("POST", R"({"type": "point", "position": [0, 0], "id": "a"}, )" + ThreeLong(),
               R"(, "drawOrder": ["a"])"));
     EXPECT_EQ(
         Said(text),
@@ -154,7 +152,7 @@ TEST_F(TolerantBlocks, WhatAConversionLeavesOutIsNamedByBlock) {
 class TolerantBlockShapes : public TolerantBlocks {
 protected:
     static std::string Marked(const std::string& style, const std::string& carried) {
-        return Drawing(Block("FENCE", Line(R"(, "linetype": "MARKED")")),
+        return Drawing(Block("FENCE", ThreeLong(R"(, "linetype": "MARKED")")),
                        R"("textStyles": [{"name": "MARKS", "fileName": "marks"},
                           {"name": "STANDARD", "fileName": "txt.shx"}, {"name": "ARIAL", "typeface": "Arial"}],
                           "linetypes": [{"name": "MARKED", "dashes": [{"length": 1},

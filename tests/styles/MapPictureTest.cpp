@@ -1,5 +1,6 @@
 #include "styles/MapPicture.h"
 #include "tests/styles/StyleSamples.h"
+#include "tests/support/Has.h"
 
 #include <gtest/gtest.h>
 
@@ -8,13 +9,10 @@ namespace {
 using namespace styles;
 using styles_test::AreaSymbol;
 using styles_test::LineSymbol;
+using support::Has;
 
 // So that a unit is 10 pixels.
 constexpr double kTenPixels = 10 / (96 / 25.4);
-
-bool Has(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
-}
 
 preview::ResolvedSymbol PointOf(const std::wstring& geometry) {
     const auto symbol = preview_test::PointSymbol(L"POINT", geometry);

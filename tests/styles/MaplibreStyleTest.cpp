@@ -1,5 +1,6 @@
 #include "styles/MaplibreStyle.h"
 #include "tests/preview/SampleSymbols.h"
+#include "tests/support/Has.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +9,7 @@ namespace {
 using namespace styles;
 using preview_test::AddPath;
 using preview_test::NewSymbol;
+using support::Has;
 
 struct Written {
     std::string text;
@@ -27,10 +29,6 @@ Written Write(const std::vector<TylModel::SymbolDefinition*>& symbols, const Map
     }
     EXPECT_TRUE(writer.Finish());
     return written;
-}
-
-bool Has(const std::string& text, const std::string& part) {
-    return text.find(part) != std::string::npos;
 }
 
 std::unique_ptr<TylModel::SimpleSymbolDefinition> Line(const std::wstring& name,

@@ -7,22 +7,6 @@
 
 namespace {
 
-class Services final : public OxDbHostApplicationServices {
-public:
-    explicit Services(std::wstring shapeFile) : shapeFile_(std::move(shapeFile)) {}
-    bool lookFor(wchar_t* path, std::size_t room, const wchar_t* /*name*/, int /*hint*/) override {
-        if (shapeFile_.size() >= room) {
-            return false;
-        }
-        std::wmemcpy(path, shapeFile_.c_str(), shapeFile_.size() + 1);
-        return true;
-    }
-    OxDbDatabase* currentDrawing() override { return nullptr; }
-
-private:
-    std::wstring shapeFile_;
-};
-
 RecordedEntity Entity(const std::wstring& kind, int linetype, const std::vector<double>& numbers) {
     RecordedEntity entity;
     entity.kind = kind;
@@ -51,6 +35,23 @@ RecordedDrawing Record() {
 }
 
 } // namespace
+
+/// Finds one shape file, whatever is asked for.
+class GrowthDrawing::Services final : public OxDbHostApplicationServices {
+public:
+    explicit Services(std::wstring shapeFile) : shapeFile_(std::move(shapeFile)) {}
+    bool lookFor(wchar_t* path, std::size_t room, const wchar_t* /*name*/, int /*hint*/) override {
+        if (shapeFile_.size() >= room) {
+            return false;
+        }
+        std::wmemcpy(path, shapeFile_.c_str(), shapeFile_.size() + 1);
+        return true;
+    }
+    OxDbDatabase* currentDrawing() override { return nullptr; }
+
+private:
+    std::wstring shapeFile_;
+};
 
 struct GrowthDrawing::Parts {
     explicit Parts(const std::wstring& shapeFile) : services(shapeFile) {}

@@ -7,9 +7,8 @@
 
 #include <cwchar>
 
-namespace {
-
-class Services final : public OxDbHostApplicationServices {
+/// Finds one shape file, whatever is asked for.
+class GrowthDrawing::Services final : public OxDbHostApplicationServices {
 public:
     explicit Services(std::wstring shapeFile) : shapeFile_(std::move(shapeFile)) {}
     Oxsys::ErrorStatus findFile(wchar_t* path, int length, const wchar_t* /*name*/,
@@ -24,8 +23,6 @@ public:
 private:
     std::wstring shapeFile_;
 };
-
-} // namespace
 
 struct GrowthDrawing::Parts {
     explicit Parts(const std::wstring& shapeFile) : services(shapeFile) {}
