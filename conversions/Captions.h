@@ -2,6 +2,7 @@
 #pragma once
 
 #include "TylModel/TylModel.h"
+#include "preview/Gallery.h"
 
 #include <functional>
 #include <map>
@@ -25,6 +26,8 @@ struct Captions {
     std::map<const TylModel::SymbolDefinition*, std::string> sources;
     /// Of strict symbols that are measured and not right.
     std::map<const TylModel::SymbolDefinition*, SymbolLoss> losses;
+    /// Of glyphs of fonts that are drawn as a line of text has them.
+    std::map<const TylModel::SymbolDefinition*, preview::GlyphFacts> glyphs;
 };
 
 } // namespace conversions

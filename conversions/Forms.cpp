@@ -66,6 +66,9 @@ public:
             faithful = found->second.makeFaithful();
             facts.faithful = faithful.get();
         }
+        if (const auto found = captions_.glyphs.find(&symbol); found != captions_.glyphs.end()) {
+            facts.glyph = &found->second;
+        }
         facts.json = documents::SymbolText(symbol);
         return writer_.Add(symbol, facts);
     }

@@ -54,6 +54,7 @@ void Gathering::Add(const std::string& file, FileKind kind, Conversion conversio
     captions_.title = symbols_.empty() ? conversion.captions.title : "";
     captions_.descriptions.merge(conversion.captions.descriptions);
     captions_.losses.merge(conversion.captions.losses);
+    captions_.glyphs.merge(conversion.captions.glyphs);
     AddNames(file, conversion);
     AddSymbols(file, kind, std::move(conversion));
 }

@@ -132,13 +132,30 @@ bool WriteDocument(const ChosenGlyphs& glyphs, const GlyphsOptions& options, con
 
 using GlyphSymbols = std::vector<std::unique_ptr<TylModel::SimpleSymbolDefinition>>;
 
-GlyphSymbols DrawnSymbols(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Front& front) {
+// Whether the glyphs are drawn as in a line of text from the left to the right.
+bool FormLines(const ShxUtility::ShapesInFile& file, const GlyphsOptions& options) {
+    return !file.fontInfo.empty() && options.rotation == 0.0 && !options.vertical && options.x == 0.0 &&
+           options.y == 0.0;
+}
+
+preview::GlyphFacts FactsOf(const documents::Glyph& glyph, const ShxUtility::ShapesInFile& file,
+                            const GlyphsOptions& options) {
+    const double below = file.fontInfo.size() > 1 ? file.fontInfo[1] : 0.0;
+    return {glyph.number, glyph.endX, file.fontInfo[0] * options.scale, below * options.scale};
+}
+
+// Adds what is to be said of the symbols to the captions.
+GlyphSymbols DrawnSymbols(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Front& front,
+                          Captions& captions) {
     GlyphSymbols symbols;
     front.BeginStage("Drawing", glyphs.positions.size());
     for (const std::size_t position : glyphs.positions) {
         front.AtItem(NumberItem(glyphs.file.shapes[position]));
-        symbols.push_back(
-            SymbolOf(Draw(glyphs.file, glyphs.file.shapes[position], options), glyphs.file.kind));
+        const documents::Glyph glyph = Draw(glyphs.file, glyphs.file.shapes[position], options);
+        symbols.push_back(SymbolOf(glyph, glyphs.file.kind));
+        if (glyph.result == ShxUtility::kSuccess && FormLines(glyphs.file, options)) {
+            captions.glyphs[symbols.back().get()] = FactsOf(glyph, glyphs.file, options);
+        }
     }
     // Letters that are turned stand on no common line.
     if (glyphs.file.kind != ShxUtility::kShapes && options.rotation == 0.0) {
@@ -149,12 +166,13 @@ GlyphSymbols DrawnSymbols(const ChosenGlyphs& glyphs, const GlyphsOptions& optio
 
 bool WritePictures(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,
                    Front& front, StyleJob* styles) {
-    const GlyphSymbols symbols = DrawnSymbols(glyphs, options, front);
+    Captions captions = glyphs.captions;
+    const GlyphSymbols symbols = DrawnSymbols(glyphs, options, front, captions);
     std::vector<TylModel::SymbolDefinition*> borrowed;
     for (const auto& symbol : symbols) {
         borrowed.push_back(symbol.get());
     }
-    return WriteSymbols(borrowed, form, sink, front, encoding::Fidelity::kStrict, glyphs.captions, styles);
+    return WriteSymbols(borrowed, form, sink, front, encoding::Fidelity::kStrict, captions, styles);
 }
 
 } // namespace
@@ -181,7 +199,7 @@ Conversion ConvertGlyphs(const Input& input, const GlyphsOptions& options, Front
     if (!result.isConverted) {
         return result;
     }
-    for (auto& symbol : DrawnSymbols(glyphs, options, front)) {
+    for (auto& symbol : DrawnSymbols(glyphs, options, front, result.captions)) {
         diagnostics::Place place(input.name);
         place.shape = glyphs.file.shapes[glyphs.positions[result.owned.size()]].number;
         result.places.push_back(std::move(place));

@@ -126,6 +126,10 @@ std::string WithSymbol(const Json& data, const std::string& symbol) {
     return text + ",\"symbol\":" + InScript(symbol) + "}";
 }
 
+std::string GlyphMarkup(const GlyphFacts* glyph) {
+    return glyph == nullptr ? "" : " data-glyph=\"" + std::to_string(glyph->character) + "\"";
+}
+
 std::string NotesMarkup(const Picture& picture, const std::string& loss) {
     std::string markup = loss.empty() ? "" : "<li class=\"loss\">" + Escaped(loss) + "</li>";
     for (const std::string& note : picture.notes) {
@@ -174,13 +178,17 @@ bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol, const GalleryFacts& 
     if (facts.faithful != nullptr && picture.scale > 0) {
         data["faithful"] = FaithfulSvg(resolved, picture, added_, *facts.faithful);
     }
+    if (facts.glyph != nullptr) {
+        data["glyph"] = {
+            {"advance", facts.glyph->advance}, {"above", facts.glyph->above}, {"below", facts.glyph->below}};
+    }
     const std::string description =
         resolved.description.empty() ? facts.description : platform::WideToValidUtf8(resolved.description);
     const bool written =
         (added_ > 0 || WriteHead()) &&
         sink_(Filled(gallery_files::kCard,
                      {Field::Text("kind", KindOf(resolved.usage)), Field::Text("source", facts.source),
-                      Field::Text("name", resolved.name),
+                      Field::Markup("glyph", GlyphMarkup(facts.glyph)), Field::Text("name", resolved.name),
                       Field::Markup("breakableName", BreakableName(resolved.name)),
                       Field::Text("description", description), Field::Text("detail", Describe(resolved)),
                       Field::Markup("notes", NotesMarkup(picture, facts.loss)),

@@ -18,6 +18,14 @@ struct GalleryPage {
     std::string document = "{}";   // a symbols document without symbols: what downloaded ones stand in
 };
 
+/// What a line of text needs of a glyph besides its path; lengths in units of the symbol.
+struct GlyphFacts {
+    unsigned character = 0; // its number
+    double advance = 0.0;   // to the next one
+    double above = 0.0;     // the height of capitals of the font
+    double below = 0.0;     // how far its letters reach below the line
+};
+
 /// What a gallery says of one symbol besides what the symbol says itself; all as UTF-8.
 struct GalleryFacts {
     std::string source;      // the file that it comes from; empty where there is but one
@@ -25,12 +33,13 @@ struct GalleryFacts {
     std::string json = "{}"; // the symbol as it stands in a symbols document
     std::string loss;        // what the symbol does not draw, or draws elsewhere; empty where it is right
     TylModel::SymbolDefinition* faithful = nullptr; // the one that draws it, if there is one; borrowed
+    const GlyphFacts* glyph = nullptr;              // of a font's glyph; borrowed
 };
 
 /// Writes one HTML file that needs no other: a card for each symbol, a search, groups, light and dark, a
-/// control for every parameter, a large view, and downloads. Call Measure for each symbol, if all are to be
-/// shown at one scale, too; then Add for each, then Finish. The text of one symbol at a time is held in
-/// memory.
+/// control for every parameter, a large view, downloads, and a line to type in each font. Call Measure for
+/// each symbol, if all are to be shown at one scale, too; then Add for each, then Finish. The text of one
+/// symbol at a time is held in memory.
 class GalleryWriter {
 public:
     GalleryWriter(GalleryPage page, TextSink sink) : page_(std::move(page)), sink_(std::move(sink)) {}

@@ -10,5 +10,6 @@ set(gallery_scripts
   drawing.js
   arrangement.js
   taking.js
+  sample.js
   link.js
   page.js)

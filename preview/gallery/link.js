@@ -1,6 +1,6 @@
 // The page's address keeps what the reader did: "#NAME" opens a symbol, and behind a "?" stand the values that
 // were changed, for all symbols ("color=…", "weight=…", "angle=…", "text=…") and for single ones
-// ("set=NAME/IDENTIFIER/VALUE", each written as in an address).
+// ("set=NAME/IDENTIFIER/VALUE", each written as in an address), and the line of text that was typed ("sample=…").
 
 const kQuantityNames = ["color", "weight", "angle", "text"];
 
@@ -40,6 +40,9 @@ const link = {
         values.set(quantity, restyling[quantity]);
       }
     }
+    if (sample.text !== undefined) {
+      values.set("sample", sample.text);
+    }
     for (const symbol of symbols) {
       for (const [identifier, value] of symbol.own) {
         values.append("set", [linkNames.get(symbol), identifier, value].map(encodeURIComponent).join("/"));
@@ -67,6 +70,8 @@ const link = {
         symbol.own.set(identifier, kept);
       }
     }
+    sample.text = values.get("sample") ?? undefined;
+    sample.draw();
     showRestyling();
     for (const symbol of symbols) {
       symbol.refresh();

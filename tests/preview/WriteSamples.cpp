@@ -92,6 +92,42 @@ void WriteCompared() {
     Write("compared.html", text);
 }
 
+// Three letters of one font and one of another, each a box as wide as its advance but for a unit; capitals
+// are ten units high, and J reaches below the line.
+void WriteFonts() {
+    struct Letter {
+        const wchar_t* name;
+        const wchar_t* path;
+        preview::GlyphFacts facts;
+        const char* file;
+    };
+    const Letter letters[] = {
+        {L"I (73)", L"M 0,0 l 2,0 l 0,10 l -2,0 l 0,-10 ", {'I', 3, 10, 4}, "one.shx"},
+        {L"J (74)", L"M 0,-4 l 4,0 l 0,14 l -4,0 l 0,-14 ", {'J', 5, 10, 4}, "one.shx"},
+        {L"Space (32)", L"", {' ', 6, 10, 4}, "one.shx"},
+        {L"I (73)", L"M 0,0 l 8,0 l 0,10 l -8,0 l 0,-10 ", {'I', 9, 10, 0}, "two.shx"},
+    };
+    for (const std::size_t count : {std::size_t{3}, std::size_t{4}}) {
+        std::string text;
+        preview::GalleryWriter writer({.count = count}, [&](std::string_view piece) {
+            text += piece;
+            return true;
+        });
+        for (std::size_t i = 0; i < count; ++i) {
+            const auto symbol = NewSymbol(letters[i].name);
+            AddPath(*symbol, letters[i].path);
+            preview::GalleryFacts facts;
+            facts.source = letters[i].file;
+            facts.glyph = &letters[i].facts;
+            facts.json =
+                R"({"graphics": [{"geometry": ")" + platform::WideToValidUtf8(letters[i].path) + R"("}]})";
+            writer.Add(*symbol, facts);
+        }
+        writer.Finish();
+        Write(count == 3 ? "font.html" : "fonts.html", text);
+    }
+}
+
 // As many symbols as a large office has.
 std::vector<SymbolPointer> ManySymbols() {
     constexpr std::size_t kMany = 2'000;
@@ -125,6 +161,7 @@ int main(int argc, char** argv) {
     WriteGallery("hostile.html", HostileSymbols());
     WriteGallery("many.html", ManySymbols());
     WriteCompared();
+    WriteFonts();
     WriteGallery("folders.html", TypicalSymbols(), {"roads/a.lin", "water/b.lin", "water/c.pat"});
     return 0;
 }

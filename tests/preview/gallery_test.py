@@ -757,7 +757,7 @@ class Gallery(unittest.TestCase):
             {"width": 375, "height": 812, "deviceScaleFactor": 1, "mobile": True},
         )
         try:
-            for name in ("typical", "hostile"):
+            for name in ("typical", "hostile", "font"):
                 self.open(name)
                 self.assertLess(self.find(".bar").rect["height"], 100)
                 self.assertEqual(browser.execute_script("return document.documentElement.scrollWidth"), 375)
@@ -837,6 +837,64 @@ class Gallery(unittest.TestCase):
             self.assertEqual(widths[0], widths[1])
             self.assertGreater(self.count(self.shot(self.find("#closeup-picture")), over), 100, theme)
             browser.execute_script("setTheme(true)")
+
+    def places_of_letters(self):
+        """Where each letter of the first sample line begins and how wide it is, in units of the font."""
+        return browser.execute_script(
+            "const svg = document.querySelector('.sample svg'), { left } = svg.getBoundingClientRect();"
+            "const { x, width } = svg.viewBox.baseVal, unit = svg.getBoundingClientRect().width / width;"
+            "return [...svg.querySelectorAll('path')].map((path) => {"
+            "  const box = path.getBoundingClientRect();"
+            "  return [path.dataset.character, (box.left - left) / unit + x, box.width / unit]"
+            "    .map((value) => typeof value === 'number' ? Math.round(value * 10) / 10 : value); })"
+        )
+
+    def test_a_reader_types_a_line_in_the_font(self):
+        self.open("font")
+        # A font without most letters shows its own first.
+        self.assertEqual(self.find("#sample-text").get_attribute("value"), "IJ")
+        for theme in ("light", "dark"):
+            self.enter(self.find("#sample-text"), "JIé I")
+            # Advances are 5, 3, 7 (what is lacking) and 6 (the space, which draws nothing).
+            letters = self.places_of_letters()
+            self.assertEqual([letter for letter, _, _ in letters], list("JIé I"))
+            self.assertEqual(letters[:3] + letters[4:], [["J", 0, 4], ["I", 5, 2], ["é", 9, 5], ["I", 21, 2]])
+            self.assertEqual(self.texts(".sample .notes"), ["Not in the font: é"])
+            view = self.find(".sample svg")
+            self.assertEqual(view.accessible_name, "JIé I in one.shx")
+            self.assertGreaterEqual(browser.execute_script(CONTRAST, view), 4.5, theme)
+            image = self.shot(view)
+            paper = image.getpixel((0, 0))
+            unlike = lambda pixel: max(abs(a - b) for a, b in zip(pixel, paper)) > 60
+            self.assertGreater(self.count(image, unlike), 200, theme)
+            self.switch_theme()
+        self.enter(self.find("#sample-text"), "I")
+        self.assertEqual(self.texts(".sample .notes"), [])
+
+    def test_the_address_keeps_the_line_that_was_typed(self):
+        self.open("font")
+        self.enter(self.find("#sample-text"), "I & J")
+        address = self.address()
+        self.assertEqual(address, "#?sample=I+%26+J")
+        browser.get("about:blank")
+        browser.get(pathlib.Path(samples, "font.html").as_uri() + address)
+        self.wait(lambda: browser.find_elements(By.CSS_SELECTOR, ".sample svg"))
+        self.assertEqual(self.find("#sample-text").get_attribute("value"), "I & J")
+        self.assertEqual([letter for letter, _, _ in self.places_of_letters()], list("I & J"))
+
+    def test_each_font_has_a_line_with_its_name(self):
+        self.open("fonts")
+        self.enter(self.find("#sample-text"), "II")
+        self.assertEqual(self.texts(".sample figcaption"), ["one.shx", "two.shx"])
+        lines = browser.execute_script(
+            "return [...document.querySelectorAll('.sample svg')].map((svg) => svg.viewBox.baseVal.width)"
+        )
+        # Twice an advance and a margin of a unit at either side.
+        self.assertEqual(lines, [2 * 3 + 2, 2 * 9 + 2])
+
+    def test_pages_without_fonts_have_no_line_to_type(self):
+        self.open("typical")
+        self.assertFalse(self.find("#sample").is_displayed())
 
     def test_two_controls_of_one_name_are_told_apart(self):
         self.open("typical")

@@ -120,6 +120,39 @@ TEST(GlyphsCommand, PicturesAreNamedByTheCharactersOfFonts) {
     EXPECT_EQ(named(ShapeFileBuilder::Shapes(), false, {65, 66}), "65 UCA|66|");
 }
 
+TEST(GlyphsCommand, GalleriesOfFontsKnowHowGlyphsFollowEachOther) {
+    const ScratchFolder folder;
+    const std::string font = folder.Write(
+        "font.shx", ShapeFileBuilder::Shapes().FontInfo("F", {8, 2, 0, 0}).Shape(65, "A", {0x30, 0}).Text());
+    const std::string other = folder.Write(
+        "other.shx",
+        ShapeFileBuilder::Unifont().FontInfo("F", {6, 0, 0, 0, 0, 0}).Shape(0x3a9, "", {0x20, 0}).Text());
+    const auto page = [](std::vector<std::string> arguments) {
+        arguments.insert(arguments.end(), {"--format", "html"});
+        return RunTool(arguments).output;
+    };
+    const auto has = [](const std::string& text, const std::string& part) {
+        return text.find(part) != std::string::npos;
+    };
+    const std::string one = page({"glyphs", font, "--scale", "2"});
+    EXPECT_TRUE(has(one, R"( data-glyph="65">)"));
+    EXPECT_TRUE(has(one, R"("glyph":{"advance":6.0,"above":16.0,"below":4.0})")) << one;
+    const std::string both = page({"convert", font, other});
+    EXPECT_TRUE(has(both, R"( data-glyph="65">)"));
+    EXPECT_TRUE(has(both, R"( data-glyph="937">)"));
+    EXPECT_TRUE(has(both, R"("glyph":{"advance":2.0,"above":6.0,"below":0.0})")) << both;
+    // Neither shapes nor letters that stand on no line from the left to the right.
+    const std::string shapes = folder.Write("marks.shx", TwoShapes());
+    EXPECT_FALSE(has(page({"glyphs", shapes}), "data-glyph=\""));
+    const std::vector<std::vector<std::string>> others = {
+        {"--rotation", "30"}, {"--vertical"}, {"--at", "1,0"}};
+    for (const std::vector<std::string>& options : others) {
+        std::vector<std::string> arguments = {"glyphs", font};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        EXPECT_FALSE(has(page(arguments), "data-glyph=\"")) << options[0];
+    }
+}
+
 TEST(GlyphsCommand, DrawsTheShapesAskedForInTheOrderAsked) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.shx", TwoShapes());
