@@ -1,6 +1,7 @@
 // An area symbol over a rectangle.
 
 #include "preview/Limits.h"
+#include "preview/NumberTexts.h"
 #include "preview/PictureParts.h"
 
 #include "StyleConversion/encoding/IntegerConversion.h"
@@ -179,7 +180,13 @@ void AreaPicture::DrawTiled(const Member& member, const PathPart& part) {
         return true;
     });
     data.Finish();
-    DrawPath(canvas_.svg, part, data, scale_, canvas_.style);
+    PathData tile;
+    const bool saysTile = canvas_.style.tiles && part.outline.Size() <= kMostTileCommands;
+    if (saysTile) {
+        AppendOutline(tile, part.outline, Placement{{}, scale_});
+        tile.Finish();
+    }
+    DrawPath(canvas_.svg, part, data, scale_, canvas_.style, saysTile ? &tile : nullptr);
 }
 
 void AreaPicture::DrawTiled(const Member& member, const Part& part) {
@@ -196,6 +203,10 @@ void AreaPicture::DrawTiled(const Member& member, const Part& part) {
 void AreaPicture::Draw(const Member& member) {
     canvas_.svg.Open("g");
     SetRotation(canvas_.svg, member.angle, canvas_.style);
+    if (canvas_.style.tiles) {
+        canvas_.svg.Set("data-step", ExactNumber(member.repeatX.value_or(0.0) * scale_) + ' ' +
+                                         ExactNumber(member.repeatY.value_or(0.0) * scale_));
+    }
     for (const Part& part : member.parts) {
         if (!IsVisible(part) || PartBounds(part).IsEmpty()) {
             continue;

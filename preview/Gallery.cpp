@@ -93,6 +93,7 @@ PictureStyle StyleOfCard(std::size_t number) {
     style.idPrefix = 's';
     style.idPrefix += std::to_string(number);
     style.bindings = true;
+    style.tiles = true;
     return style;
 }
 

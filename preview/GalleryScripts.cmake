@@ -4,6 +4,7 @@ set(gallery_scripts
   paper.js
   card.js
   scale.js
+  spread.js
   restyling.js
   controls.js
   closeup.js

@@ -24,6 +24,9 @@ inline constexpr int kMostTiles = 20'000;
 /// included. The first copy is always drawn, whatever its length.
 inline constexpr std::size_t kMostCopiedCommands = 4'000'000;
 
+/// Path commands of a tile that a page still takes to show more of a hatch.
+inline constexpr std::size_t kMostTileCommands = 2'000;
+
 /// Path commands that the copies of one member may add to the picture.
 inline constexpr std::size_t kMostDrawnCommands = 100'000;
 

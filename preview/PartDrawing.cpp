@@ -106,9 +106,13 @@ void SetRotation(SvgWriter& svg, const Amount& angle, const PictureStyle& style)
 }
 
 void DrawPath(SvgWriter& svg, const PathPart& part, const PathData& data, double scale,
-              const PictureStyle& style) {
-    if (!data.Strokes().empty() && IsVisible(part)) {
+              const PictureStyle& style, const PathData* tile) {
+    const bool repeatsStrokes = tile != nullptr && !tile->Strokes().empty();
+    if ((!data.Strokes().empty() || repeatsStrokes) && IsVisible(part)) {
         svg.Open("path").Set("d", data.Strokes());
+        if (tile != nullptr) {
+            svg.Set("data-tile", tile->Strokes());
+        }
         if (part.fill) {
             SetPaint(svg, "fill", *part.fill, style);
             svg.Set("fill-rule", "evenodd");
@@ -118,8 +122,12 @@ void DrawPath(SvgWriter& svg, const PathPart& part, const PathData& data, double
         }
         svg.Close();
     }
-    if (!data.Dots().empty() && part.line) {
+    const bool repeatsDots = tile != nullptr && !tile->Dots().empty();
+    if ((!data.Dots().empty() || repeatsDots) && part.line) {
         svg.Open("path").Set("d", data.Dots()).Set("stroke-linecap", "round");
+        if (tile != nullptr) {
+            svg.Set("data-tile", tile->Dots());
+        }
         SetStroke(svg, part, scale, kSmallestDot, style);
         svg.Close();
     }

@@ -15,9 +15,10 @@ inline constexpr double kPixelsPerMillimetre = 96 / 25.4;
 inline constexpr double kHairline = 1.0;
 inline constexpr double kSmallestDot = 2.0;
 
-/// Writes a path part whose outline was brought into pixels as `data`. `scale` is pixels per unit.
+/// Writes a path part whose outline was brought into pixels as `data`. `scale` is pixels per unit; `tile` is
+/// what the data repeat, if the page is to know.
 void DrawPath(SvgWriter& svg, const PathPart& part, const PathData& data, double scale,
-              const PictureStyle& style);
+              const PictureStyle& style, const PathData* tile = nullptr);
 
 /// Writes a part as it is placed, which must not turn it.
 void DrawPart(SvgWriter& svg, const Part& part, const Placement& placement, const PictureStyle& style);

@@ -17,6 +17,8 @@ struct PictureStyle {
     std::string idPrefix = "s";
     /// Whether elements say, in data attributes, which parameters they follow, for a page that changes them.
     bool bindings = false;
+    /// Whether what repeats over an area says so in data attributes, for a page that shows more of it.
+    bool tiles = false;
     /// Whether a point symbol that fits is drawn as large as it is, rather than as large as fits.
     bool trueSize = false;
     /// Pixels for each unit of the symbol; 0 for as many as show it well.

@@ -6,6 +6,8 @@ const kAngle = 5;
 const kWeight = 8;
 const kColors = [6, 7, 23];
 
+const kUsualCard = 280; // pixels, as in the page
+
 function parsePicture(markup) {
   const parsed = new DOMParser().parseFromString(markup, "image/svg+xml");
   return document.importNode(parsed.documentElement, true);
@@ -63,11 +65,21 @@ class SymbolCard {
     }
     this.isShown = true;
     const svg = this.draw();
-    this.picture.replaceChildren(svg, scaleBar(this));
+    const share = this.shareShown(svg);
+    if (share < 1) {
+      spread(svg, share);
+    }
+    this.picture.replaceChildren(svg, scaleBar(this, share));
     if (this.isRestyled) {
       restyle(svg, this.values);
     }
     layPaper(this.picture, inksOf(this.isRestyled ? svg.outerHTML : this.markup));
+  }
+
+  // A larger card shows a hatch larger, and more of it: the share of its size that remains.
+  shareShown(svg) {
+    const share = this.kind === "area" ? Math.min(1, Math.sqrt(kUsualCard / Number(zoom.value))) : 1;
+    return share < 1 && canSpread(svg, share) ? share : 1;
   }
 
   // Draws again what is seen, by the values and the scale in force.

@@ -1,6 +1,7 @@
-// One symbol, large: it zooms by a control, a wheel and two fingers, and goes on to the next.
+// One symbol, large: it zooms by a control, a wheel and two fingers, and goes on to the next. Enlarged, it shows more
+// detail; made smaller, a hatch shows more of itself.
 
-const kSmallestZoom = 100;
+const kSmallestZoom = 25;
 const kLargestZoom = 800;
 
 const closeup = {
@@ -20,7 +21,8 @@ const closeup = {
       symbol.card.querySelector(".detail").textContent,
       symbol.card.querySelector(".loss")?.textContent,
     ].filter(Boolean).join(" · ");
-    this.zoom.value = kSmallestZoom;
+    this.zoom.min = smallestZoomOf(symbol);
+    this.zoom.value = kWholePicture;
     this.compare.hidden = symbol.data.faithful === undefined;
     if (!this.dialog.open) {
       this.dialog.showModal();
@@ -58,19 +60,25 @@ const closeup = {
     const view = this.picture;
     const x = (view.scrollLeft + atX) / view.scrollWidth;
     const y = (view.scrollTop + atY) / view.scrollHeight;
+    const zoom = Number(this.zoom.value);
+    const share = Math.min(1, zoom / kWholePicture);
     for (const svg of view.children) {
-      svg.style.width = `${this.zoom.value}%`;
+      svg.style.width = `${Math.max(zoom, kWholePicture)}%`;
+    }
+    if (this.symbol.kind === "area") {
+      spread(this.svg, share);
+      view.querySelectorAll(".faithful").forEach((over) => spread(over, share * enlargementOf(this.symbol)));
     }
     view.scrollLeft = x * view.scrollWidth - atX;
     view.scrollTop = y * view.scrollHeight - atY;
     const bar = document.getElementById("closeup-scale");
-    const pixels = this.svg.getBoundingClientRect().width / kPictureWidth;
+    const pixels = (share * this.svg.getBoundingClientRect().width) / kPictureWidth;
     weigh(this.svg, this.symbol.values, pixels);
     bar.style.width = `${tellScale(bar, this.symbol.scale * pixels)}px`;
   },
 
   zoomBy(factor, atX, atY) {
-    this.zoom.value = Math.min(kLargestZoom, Math.max(kSmallestZoom, Number(this.zoom.value) * factor));
+    this.zoom.value = Math.min(kLargestZoom, Math.max(Number(this.zoom.min), Number(this.zoom.value) * factor));
     this.applyZoom(atX, atY);
   },
 
@@ -82,6 +90,18 @@ const closeup = {
     link.keep();
   },
 };
+
+// A hatch can be made smaller as long as a browser draws what is then seen.
+function smallestZoomOf(symbol) {
+  const svg = symbol.kind === "area" ? symbol.draw() : null;
+  const zooms = [kSmallestZoom, 2 * kSmallestZoom].filter((zoom) => svg && canSpread(svg, zoom / kWholePicture));
+  return zooms[0] ?? kWholePicture;
+}
+
+// How many times as large a symbol is shown at the scale in force as at its own.
+function enlargementOf(symbol) {
+  return symbol.scale / symbol.data.scale;
+}
 
 // Two pictures of one symbol must not refer to each other's parts.
 function renameIds(svg) {
@@ -102,7 +122,7 @@ function faithfulOver(svg, symbol) {
   over.classList.add("faithful");
   over.querySelector(".fit")?.setAttribute("transform", svg.querySelector(".fit").getAttribute("transform"));
   const { width, height } = over.viewBox.baseVal;
-  const enlarged = symbol.scale / symbol.data.scale;
+  const enlarged = enlargementOf(symbol);
   const [seenWidth, seenHeight] = [width / enlarged, height / enlarged];
   over.setAttribute("viewBox", [(width - seenWidth) / 2, (height - seenHeight) / 2, seenWidth, seenHeight].join(" "));
   return over;

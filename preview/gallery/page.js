@@ -21,6 +21,9 @@ paper.addEventListener("change", () => {
 zoom.addEventListener("input", () => {
   document.documentElement.style.setProperty("--card", `${zoom.value}px`);
   arrangement.resized();
+  for (const symbol of symbols.filter((each) => each.kind === "area")) {
+    symbol.refresh();
+  }
 });
 document.getElementById("one-scale").addEventListener("change", (event) => scales.set(event.target.checked));
 
@@ -117,7 +120,7 @@ document.addEventListener("keydown", (event) => {
     return;
   }
   if (closeup.dialog.open) {
-    const scrolls = event.target === closeup.picture && Number(closeup.zoom.value) > kSmallestZoom;
+    const scrolls = event.target === closeup.picture && Number(closeup.zoom.value) > kWholePicture;
     const step = { ArrowLeft: -1, ArrowRight: 1 }[event.key];
     if (step && !scrolls) {
       event.preventDefault();

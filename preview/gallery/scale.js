@@ -1,7 +1,8 @@
 // How large symbols are shown: bars that tell, and one scale for all pictures of a kind.
 
 const kPictureWidth = 300; // of a card's markup
-const kPictureShape = 220 / 300; // its height, as a share of its width
+const kPictureHeight = 220;
+const kPictureShape = kPictureHeight / kPictureWidth;
 const kLongestBar = 90;
 
 // The greatest of 1, 2, 5, 10, 20 … and their tenths that is no longer than `most`.
@@ -23,11 +24,11 @@ function tellScale(bar, pixelsPerUnit) {
   return length * pixelsPerUnit;
 }
 
-// The bar of a card, which grows with it.
-function scaleBar(symbol) {
+// The bar of a card, which grows with it. The card shows the symbol at a share of its scale.
+function scaleBar(symbol, share) {
   const bar = document.createElement("span");
   bar.className = "scale-bar";
-  bar.style.width = `${(100 * tellScale(bar, symbol.scale)) / kPictureWidth}%`;
+  bar.style.width = `${(100 * tellScale(bar, symbol.scale * share)) / kPictureWidth}%`;
   return bar;
 }
 

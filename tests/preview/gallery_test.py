@@ -838,6 +838,118 @@ class Gallery(unittest.TestCase):
             self.assertGreater(self.count(self.shot(self.find("#closeup-picture")), over), 100, theme)
             browser.execute_script("setTheme(true)")
 
+    def courses(self, image):
+        """How many lines run across a picture of bricks, and how far each is from the next, in pixels."""
+        dark = [
+            y
+            for y in range(image.height)
+            if sum(max(image.getpixel((x, y))) < 160 for x in range(image.width // 3, image.width // 2))
+            > image.width / 8
+        ]
+        lines = [y for i, y in enumerate(dark) if i == 0 or y > dark[i - 1] + 1]
+        return len(lines), (lines[-1] - lines[0]) / max(1, len(lines) - 1)
+
+    def zoom_to(self, percent):
+        browser.execute_script(
+            "closeup.zoom.value = arguments[0]; closeup.zoom.dispatchEvent(new Event('input'))", percent
+        )
+
+    def units_of_a_pixel(self, bar):
+        return float(bar.text) / bar.rect["width"]
+
+    def on_a_phone(self, test):
+        browser.execute_cdp_cmd(
+            "Emulation.setDeviceMetricsOverride",
+            {"width": 375, "height": 812, "deviceScaleFactor": 1, "mobile": True},
+        )
+        try:
+            test()
+        finally:
+            browser.execute_cdp_cmd("Emulation.clearDeviceMetricsOverride", {})
+
+    def test_a_hatch_that_is_made_smaller_shows_more_of_itself(self):
+        def zoom_out():
+            self.open("typical")
+            self.card("BRICKS").find_element(By.CSS_SELECTOR, ".picture").send_keys(Keys.ENTER)
+            bar, view = self.find("#closeup-scale"), self.find("#closeup-picture svg")
+            count, step = self.courses(self.shot(view))
+            units = self.units_of_a_pixel(bar)
+            self.zoom_to(50)
+            count_of_half, step_of_half = self.courses(self.shot(view))
+            self.assertAlmostEqual(step_of_half, step / 2, delta=step / 20)
+            self.assertAlmostEqual(count_of_half, 2 * count, delta=2)
+            self.assertAlmostEqual(self.units_of_a_pixel(bar), 2 * units, delta=units / 10)
+            self.zoom_to(100)
+            self.assertEqual(self.courses(self.shot(view)), (count, step))
+
+        zoom_out()
+        self.on_a_phone(zoom_out)
+
+    def test_a_wheel_makes_a_hatch_smaller_and_nothing_else(self):
+        self.open("typical")
+        for name, smallest in (("BRICKS", 25), ("TREE", 100), ("DASHDOT", 100)):
+            self.card(name).find_element(By.CSS_SELECTOR, ".picture").send_keys(Keys.ENTER)
+            browser.execute_script(
+                "closeup.picture.dispatchEvent(new WheelEvent('wheel', {deltaY: 4000, cancelable: true}))"
+            )
+            self.assertEqual(float(self.find("#closeup-zoom").get_attribute("value")), smallest, name)
+            self.find("#closeup-close").click()
+
+    def test_a_hatch_fills_its_frame_at_every_angle_and_zoom(self):
+        self.open("typical")
+        self.card("BRICKS").find_element(By.CSS_SELECTOR, ".picture").send_keys(Keys.ENTER)
+        for angle in (0, 30, 45):
+            self.enter(self.control(self.find("#closeup"), "HATCHANGLE"), str(angle))
+            self.zoom_to(25)
+            image = self.shot(self.find("#closeup-picture svg"))
+            inks = []
+            for column, row in ((0.1, 0.13), (0.7, 0.13), (0.4, 0.4), (0.1, 0.67), (0.7, 0.67)):
+                left, top = round(column * image.width), round(row * image.height)
+                part = image.crop((left, top, left + image.width // 5, top + image.height // 5))
+                inks.append(self.count(part, lambda pixel: max(pixel) < 200))
+            self.assertGreater(min(inks), 0.8 * max(inks), (angle, inks))
+
+    def test_copies_of_a_tile_lie_where_the_picture_has_them(self):
+        for page, name in (("typical", "BRICKS"), ("compared", "COURSES")):
+            self.open(page)
+            self.card(name).find_element(By.CSS_SELECTOR, ".picture").send_keys(Keys.ENTER)
+            view = self.find("#closeup-picture svg")
+            before = self.shot(view)
+            count = browser.execute_script(
+                "let count = 0;"
+                "for (const { step, paths } of tilesIn(closeup.svg)) for (const { path, pieces } of paths) {"
+                "  path.setAttribute('d', copiesOf(step, pieces, radiusAt(1))); ++count; }"
+                "return count;"
+            )
+            self.assertGreater(count, 0)
+            self.assertEqual(differs(self.shot(view), before), 0, name)
+
+    def test_a_larger_card_shows_more_of_a_hatch_and_it_larger(self):
+        self.open("typical")
+        card = self.card("BRICKS")
+        picture = self.picture(card)
+        count, step = self.courses(picture)
+        self.menu("View")
+        self.find("#zoom").send_keys(Keys.END)
+        self.menu("View")
+        self.wait(lambda: self.courses(self.picture(card))[0] > 1.3 * count)
+        larger, larger_step = self.courses(self.picture(card))
+        self.assertGreater(larger_step, 1.2 * step)
+        # Both at once: the card grew by their product.
+        grown = self.picture(card).width / picture.width
+        self.assertAlmostEqual(larger / count * larger_step / step, grown, delta=0.15 * grown)
+
+    def test_a_hatch_is_compared_where_it_is_made_smaller(self):
+        self.open("compared")
+        over = lambda pixel: pixel[0] > 150 and pixel[2] > 120 and pixel[1] < 130
+        whole = self.count(self.compare("COURSES"), over)
+        self.zoom_to(50)
+        boxes = browser.execute_script(
+            "return [...closeup.picture.children].map((svg) => svg.getAttribute('viewBox'))"
+        )
+        self.assertEqual(boxes, ["-150 -110 600 440"] * 2)
+        self.assertGreater(self.count(self.shot(self.find("#closeup-picture")), over), 1.5 * whole)
+
     def places_of_letters(self):
         """Where each letter of the first sample line begins and how wide it is, in units of the font."""
         return browser.execute_script(
