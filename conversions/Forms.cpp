@@ -7,6 +7,7 @@
 #include "preview/SymbolSvg.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace conversions {
 namespace {
@@ -44,9 +45,13 @@ std::string EmptyDocument(encoding::Fidelity fidelity) {
 // A gallery's writer with what is said of each symbol.
 class CaptionedGallery {
 public:
+    // `styles` are those that it holds; null for none.
     CaptionedGallery(const SymbolList& symbols, const Captions& captions, encoding::Fidelity fidelity,
-                     const TextSink& sink)
-        : captions_(captions), writer_(PageOf(symbols, captions, fidelity), sink) {
+                     const TextSink& sink, StyleJob* styles)
+        : captions_(captions), writer_(PageOf(symbols, captions, fidelity, styles != nullptr), sink) {
+        if (styles != nullptr) {
+            entries_ = std::make_unique<QgisEntries>(captions, *styles);
+        }
         for (TylModel::SymbolDefinition* const symbol : symbols) {
             writer_.Measure(*symbol);
         }
@@ -69,6 +74,9 @@ public:
         if (const auto found = captions_.glyphs.find(&symbol); found != captions_.glyphs.end()) {
             facts.glyph = &found->second;
         }
+        if (entries_ != nullptr) {
+            facts.style = entries_->Of(symbol);
+        }
         facts.json = documents::SymbolText(symbol);
         return writer_.Add(symbol, facts);
     }
@@ -77,16 +85,21 @@ public:
 
 private:
     static preview::GalleryPage PageOf(const SymbolList& symbols, const Captions& captions,
-                                       encoding::Fidelity fidelity) {
+                                       encoding::Fidelity fidelity, bool hasStyles) {
         preview::GalleryPage page;
         page.count = symbols.size();
         page.title = captions.title.empty() ? page.title : captions.title;
         page.document = EmptyDocument(fidelity);
+        if (hasStyles) {
+            page.styleHead = styles::kQgisLibraryHead;
+            page.styleTail = styles::kQgisLibraryTail;
+        }
         return page;
     }
 
     const Captions& captions_;
     preview::GalleryWriter writer_;
+    std::unique_ptr<QgisEntries> entries_;
 };
 
 } // namespace
@@ -98,7 +111,10 @@ bool WriteSymbols(const SymbolList& symbols, Form form, const TextSink& sink, Fr
     case Form::kJson:
         return WriteAll(symbols, documents::SymbolsWriter(sink, fidelity), front);
     case Form::kHtml:
-        return WriteAll(symbols, CaptionedGallery(symbols, captions, fidelity, sink), front);
+        return WriteAll(symbols,
+                        CaptionedGallery(symbols, captions, fidelity, sink,
+                                         styles != nullptr && styles->isInGallery ? styles : nullptr),
+                        front);
     case Form::kQgis: {
         StyleJob unheard;
         return WriteAll(symbols, QgisStyles(sink, captions, styles != nullptr ? *styles : unheard), front);

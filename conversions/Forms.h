@@ -39,6 +39,7 @@ struct StyleJob {
     bool hatchesInMillimetres = false;
     double scale = 1.0;
     bool allowsApproximate = false;
+    bool isInGallery = false;             // a gallery holds styles for QGIS, which a reader takes out
     std::vector<StyleFile> files;         // what the style needs beside it is added here
     diagnostics::Diagnostics diagnostics; // what styles do not say of the symbols is added here
 };

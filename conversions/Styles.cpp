@@ -108,6 +108,21 @@ bool QgisStyles::Add(TylModel::SymbolDefinition& symbol) {
     return true;
 }
 
+QgisEntries::QgisEntries(const Captions& captions, StyleJob& job)
+    : styles_(
+          [this](std::string_view piece) {
+              text_ += piece;
+              return true;
+          },
+          captions, job) {}
+
+std::string QgisEntries::Of(TylModel::SymbolDefinition& symbol) {
+    text_.clear();
+    styles_.Add(symbol);
+    return text_.starts_with(styles::kQgisLibraryHead) ? text_.substr(styles::kQgisLibraryHead.size())
+                                                       : text_;
+}
+
 MaplibreStyles::MaplibreStyles(const TextSink& sink, StyleJob& job)
     : job_(job), writer_(sink, {job.scale, job.allowsApproximate}) {}
 

@@ -31,6 +31,20 @@ private:
     styles::QgisLibraryWriter writer_;
 };
 
+/// The same symbols one by one, for who puts some of them into a library of styles::kQgisLibraryHead and
+/// kQgisLibraryTail.
+class QgisEntries {
+public:
+    QgisEntries(const Captions& captions, StyleJob& job);
+
+    /// How the symbol stands in a library.
+    std::string Of(TylModel::SymbolDefinition& symbol);
+
+private:
+    std::string text_;
+    QgisStyles styles_;
+};
+
 /// Writes the symbols that it is given to a style of MapLibre. The pictures that it shows are added to the
 /// job as files, and so is what it does not say of the symbols.
 class MaplibreStyles {

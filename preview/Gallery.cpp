@@ -127,6 +127,12 @@ std::string WithSymbol(const Json& data, const std::string& symbol) {
     return text + ",\"symbol\":" + InScript(symbol) + "}";
 }
 
+// What the styles that a reader takes out stand in.
+std::string LibraryOf(const GalleryPage& page) {
+    return page.styleHead.empty() ? "null"
+                                  : JsonInScript(Json{{"head", page.styleHead}, {"tail", page.styleTail}});
+}
+
 std::string GlyphMarkup(const GlyphFacts* glyph) {
     return glyph == nullptr ? "" : " data-glyph=\"" + std::to_string(glyph->character) + "\"";
 }
@@ -183,6 +189,9 @@ bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol, const GalleryFacts& 
         data["glyph"] = {
             {"advance", facts.glyph->advance}, {"above", facts.glyph->above}, {"below", facts.glyph->below}};
     }
+    if (!page_.styleHead.empty()) {
+        data["style"] = facts.style;
+    }
     const std::string description =
         resolved.description.empty() ? facts.description : platform::WideToValidUtf8(resolved.description);
     const bool written =
@@ -204,6 +213,7 @@ bool GalleryWriter::Finish() {
     const std::string_view page = SplitAt(gallery_files::kPage, "cards").after;
     return (added_ > 0 || WriteHead()) &&
            sink_(Filled(page, {Field::Markup("document", InScript(page_.document)),
+                               Field::Markup("library", LibraryOf(page_)),
                                Field::Markup("script", gallery_files::kScript)}));
 }
 

@@ -16,6 +16,9 @@ struct GalleryPage {
     std::size_t count = 0;         // of the symbols
     std::string title = "Symbols"; // of the page and its tab, as UTF-8
     std::string document = "{}";   // a symbols document without symbols: what downloaded ones stand in
+    // What stands before and behind the symbols of a style library; empty where the gallery holds no styles.
+    std::string styleHead = {};
+    std::string styleTail = {};
 };
 
 /// What a line of text needs of a glyph besides its path; lengths in units of the symbol.
@@ -31,6 +34,7 @@ struct GalleryFacts {
     std::string source;      // the file that it comes from; empty where there is but one
     std::string description; // where the symbol has none
     std::string json = "{}"; // the symbol as it stands in a symbols document
+    std::string style;       // the symbol as it stands in a style library, if galleries hold one
     std::string loss;        // what the symbol does not draw, or draws elsewhere; empty where it is right
     TylModel::SymbolDefinition* faithful = nullptr; // the one that draws it, if there is one; borrowed
     const GlyphFacts* glyph = nullptr;              // of a font's glyph; borrowed

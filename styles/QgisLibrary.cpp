@@ -9,16 +9,6 @@ namespace {
 using preview::ResolvedSymbol;
 using preview::Usage;
 
-constexpr std::string_view kLibraryHead = "<!DOCTYPE qgis_style>\n"
-                                          "<qgis_style version=\"2\">\n"
-                                          "<symbols>\n";
-constexpr std::string_view kLibraryTail = "</symbols>\n"
-                                          "<colorramps/>\n"
-                                          "<textformats/>\n"
-                                          "<labelsettings/>\n"
-                                          "<legendpatchshapes/>\n"
-                                          "</qgis_style>\n";
-
 std::string_view KindOf(const ResolvedSymbol& symbol) {
     switch (symbol.usage) {
     case Usage::kArea:
@@ -98,7 +88,7 @@ bool QgisLibraryWriter::Add(TylModel::SymbolDefinition& symbol, const std::vecto
     const std::string wanted = resolved.name.empty() ? "unnamed" : platform::WideToValidUtf8(resolved.name);
     added.name = names_.Of(wanted);
     added.isRenamed = resolved.name.empty() || added.name != wanted;
-    std::string text(started_ ? std::string_view() : kLibraryHead);
+    std::string text(started_ ? std::string_view() : kQgisLibraryHead);
     started_ = true;
     QgisXml xml(text);
     // Lines are not cut at the map's edge: dashes would begin there, and move with the map.
@@ -113,7 +103,7 @@ bool QgisLibraryWriter::Add(TylModel::SymbolDefinition& symbol, const std::vecto
 }
 
 bool QgisLibraryWriter::Finish() {
-    return (started_ || sink_(kLibraryHead)) && sink_(kLibraryTail);
+    return (started_ || sink_(kQgisLibraryHead)) && sink_(kQgisLibraryTail);
 }
 
 } // namespace styles

@@ -16,6 +16,17 @@ namespace styles {
 /// Takes the next piece of a document's UTF-8 text. False stops the writing: the piece could not be stored.
 using TextSink = std::function<bool(std::string_view)>;
 
+/// What stands before and behind the symbols of a library.
+inline constexpr std::string_view kQgisLibraryHead = "<!DOCTYPE qgis_style>\n"
+                                                     "<qgis_style version=\"2\">\n"
+                                                     "<symbols>\n";
+inline constexpr std::string_view kQgisLibraryTail = "</symbols>\n"
+                                                     "<colorramps/>\n"
+                                                     "<textformats/>\n"
+                                                     "<labelsettings/>\n"
+                                                     "<legendpatchshapes/>\n"
+                                                     "</qgis_style>\n";
+
 struct QgisOptions {
     HatchUnit hatchUnit = HatchUnit::kMap;
     double scale = 1.0; // multiplies all lengths but pens

@@ -102,3 +102,12 @@ document.getElementById("take-svg").addEventListener("click", () => {
 document.getElementById("take-json").addEventListener("click", () => {
   download("symbols.json", "application/json", documentOf(arrangement.shown));
 });
+
+// Galleries hold styles where they were asked for.
+const library = JSON.parse(document.getElementById("library").textContent);
+const takeStyle = document.getElementById("take-style");
+takeStyle.hidden = library === null;
+takeStyle.addEventListener("click", () => {
+  const entries = arrangement.shown.map((symbol) => symbol.data.style);
+  download("symbols.xml", "application/xml", library.head + entries.join("") + library.tail);
+});

@@ -92,6 +92,7 @@ void AddBlocksCommand(CommandLine& line) {
     AddStyleScaleOption(command, *options);
     AddRestylingOptions(command, *options);
     AddStrictSymbolsOption(command, *options);
+    AddWithStyleOption(command, *options);
 }
 
 } // namespace styleconv

@@ -185,6 +185,7 @@ void AddConvertCommand(CommandLine& line) {
     AddStyleScaleOption(command, *options);
     AddStrictSymbolsOption(command, *options);
     AddApproximateOption(command, *options);
+    AddWithStyleOption(command, *options);
 }
 
 void AddShowCommand(CommandLine& line) {

@@ -79,6 +79,7 @@ void AddGlyphsCommand(CommandLine& line) {
     AddTolerantOption(command, options->tolerant);
     AddCodePageOption(command, options->codePage);
     AddAllOrNothingOption(command, options->allOrNothing);
+    AddWithStyleOption(command, *options);
     AddCommonOptions(command, *options);
 }
 

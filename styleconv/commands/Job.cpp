@@ -88,14 +88,18 @@ bool CheckStyleForm(const CommonOptions& options, conversions::Form form, bool f
         SayLine("styleconv: --format maplibre writes a folder: name it with -o");
         return false;
     }
+    if (!style.inGallery.empty() && form != conversions::Form::kHtml) {
+        SayLine("styleconv: --with-style can only be used with --format html");
+        return false;
+    }
     const char* const ofStyles = style.strictSymbols  ? "--strict-symbols"
                                  : style.scale != 1.0 ? "--scale"
                                                       : nullptr;
-    if (ofStyles != nullptr && !IsStyle(form)) {
+    if (ofStyles != nullptr && !IsStyle(form) && style.inGallery.empty()) {
         SayLine("styleconv: " + std::string(ofStyles) + " can only be used with --format qgis or maplibre");
         return false;
     }
-    if (style.hatchUnits != "map" && form != conversions::Form::kQgis) {
+    if (style.hatchUnits != "map" && form != conversions::Form::kQgis && style.inGallery.empty()) {
         SayLine("styleconv: --hatch-units can only be used with --format qgis");
         return false;
     }
@@ -279,6 +283,7 @@ ExitStatus WriteForm(
     styles.hatchesInMillimetres = options.style.hatchUnits == "mm";
     styles.scale = options.style.scale;
     styles.allowsApproximate = options.style.allowsApproximate;
+    styles.isInGallery = !options.style.inGallery.empty();
     const auto writeResult = [&](const conversions::TextSink& sink) { return write(sink, styles); };
     const ExitStatus status = form == conversions::Form::kMaplibre
                                   ? WriteFolder(options.output, styles, writeResult)
@@ -304,8 +309,9 @@ std::optional<conversions::Form> FormOf(const CommonOptions& options, bool faith
 }
 
 encoding::Fidelity FidelityOf(bool faithful, const CommonOptions& options, conversions::Form form) {
-    return faithful || (IsStyle(form) && !options.style.strictSymbols) ? encoding::Fidelity::kFaithful
-                                                                       : encoding::Fidelity::kStrict;
+    const bool hasStyles = IsStyle(form) || !options.style.inGallery.empty();
+    return faithful || (hasStyles && !options.style.strictSymbols) ? encoding::Fidelity::kFaithful
+                                                                   : encoding::Fidelity::kStrict;
 }
 
 } // namespace styleconv

@@ -98,6 +98,7 @@ void AddLinetypesCommand(CommandLine& line) {
     AddCommonOptions(command, *options);
     AddRestylingOptions(command, *options);
     AddStrictSymbolsOption(command, *options);
+    AddWithStyleOption(command, *options);
 }
 
 } // namespace styleconv

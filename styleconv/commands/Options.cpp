@@ -167,6 +167,11 @@ void AddApproximateOption(Command& command, CommonOptions& options) {
                     "With --format maplibre: take hatches that no picture repeats without a seam, too");
 }
 
+void AddWithStyleOption(Command& command, CommonOptions& options) {
+    command.AddChoice("--with-style", options.style.inGallery, {"qgis"},
+                      "With --format html: let readers take out styles for this program, too: qgis");
+}
+
 void AddHatchUnitsOption(Command& command, CommonOptions& options) {
     command.AddChoice("--hatch-units", options.style.hatchUnits, {"map", "mm"},
                       "With --format qgis: repeat hatches in units of the map, or in mm of the page");

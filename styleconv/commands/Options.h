@@ -52,6 +52,7 @@ struct StyleFormOptions {
     std::string hatchUnits = "map";
     double scale = 1.0;
     bool allowsApproximate = false; // of areas in styles that repeat pictures
+    std::string inGallery;          // the style that a gallery holds for its readers; empty for none
 };
 
 /// Options that every command takes.
@@ -91,6 +92,8 @@ void AddStrictSymbolsOption(Command& command, CommonOptions& options);
 void AddHatchUnitsOption(Command& command, CommonOptions& options);
 /// Adds --allow-approximate to a command that converts areas.
 void AddApproximateOption(Command& command, CommonOptions& options);
+/// Adds --with-style to a command that writes galleries.
+void AddWithStyleOption(Command& command, CommonOptions& options);
 /// Adds --scale to a command that scales nothing else.
 void AddStyleScaleOption(Command& command, CommonOptions& options);
 

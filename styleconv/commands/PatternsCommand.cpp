@@ -88,6 +88,7 @@ void AddPatternsCommand(CommandLine& line) {
     AddStyleScaleOption(command, *options);
     AddRestylingOptions(command, *options);
     AddStrictSymbolsOption(command, *options);
+    AddWithStyleOption(command, *options);
     AddApproximateOption(command, *options);
 }
 

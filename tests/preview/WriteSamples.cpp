@@ -41,6 +41,8 @@ void WriteGallery(const std::string& name, const std::vector<SymbolPointer>& sym
     page.count = symbols.size();
     page.title = name;
     page.document = R"({"format": "styleconversion/symbols", "version": 1, "symbols": []})";
+    page.styleHead = files.empty() ? "" : "<styles>\n";
+    page.styleTail = files.empty() ? "" : "</styles>\n";
     preview::GalleryWriter writer(page, [&](std::string_view piece) {
         text += piece;
         return true;
@@ -53,6 +55,7 @@ void WriteGallery(const std::string& name, const std::vector<SymbolPointer>& sym
         facts.source = files.empty() ? "" : files[i * files.size() / symbols.size()];
         facts.description = files.empty() ? "" : "from the works";
         facts.json = R"({"name": "</script>)" + std::to_string(i) + "\"}";
+        facts.style = "<style>\xc3\xa4 \"" + std::to_string(i) + "\" &lt;/script></style>\n";
         writer.Add(*symbols[i], facts);
     }
     writer.Finish();

@@ -750,6 +750,22 @@ class Gallery(unittest.TestCase):
             },
         )
 
+    def test_what_is_shown_can_be_taken_out_as_styles_where_the_page_has_them(self):
+        self.open("folders")
+        self.enter(self.find("#search"), "water")
+        self.menu("Download")
+        self.assertTrue(self.find("#take-style").is_displayed())
+        self.menu("Download")
+        entry = lambda place: f'<style>ä "{place}" &lt;/script></style>\n'
+        self.assertEqual(
+            self.taken("#take-style"),
+            ["symbols.xml", "<styles>\n" + entry(2) + entry(3) + entry(4) + "</styles>\n"],
+        )
+        self.open("typical")
+        self.menu("Download")
+        self.assertTrue(self.find("#take-json").is_displayed())
+        self.assertFalse(self.find("#take-style").is_displayed())
+
     def test_a_phone_has_a_small_bar_and_whole_names(self):
         size = browser.get_window_size()
         browser.execute_cdp_cmd(

@@ -3,7 +3,9 @@
 #include "tests/support/ToolRun.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -181,6 +183,78 @@ TEST(StyleFormats, WhatAStyleOfMapLibreLeavesOutIsTold) {
         RunTool({"blocks", file, "--format", "maplibre", "--scale", "0.01", "-o", folder / "map"});
     EXPECT_EQ(small.errors, "");
     EXPECT_TRUE(Has(folder.Read("map/style.json"), "\"icon-image\": \"point-rod\""));
+}
+
+// What a reader takes out of a gallery where the symbols of these places are shown; all where there are none.
+std::string TakenOut(const std::string& page, const std::vector<std::size_t>& places = {}) {
+    using Json = nlohmann::json;
+    const auto after = [&page](const std::string& start, std::size_t& at) {
+        at = page.find(start, at);
+        if (at == std::string::npos) {
+            return Json();
+        }
+        at += start.size();
+        return Json::parse(page.substr(at, page.find("</script>", at) - at));
+    };
+    std::vector<std::string> entries;
+    std::size_t at = 0;
+    for (Json data; !(data = after("\n<script type=\"application/json\">", at)).is_null();) {
+        entries.push_back(data.value("style", "none"));
+    }
+    at = 0;
+    const Json library = after("<script id=\"library\" type=\"application/json\">", at);
+    if (library.is_null()) {
+        return "";
+    }
+    std::string text = library["head"].get<std::string>();
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (places.empty() || std::find(places.begin(), places.end(), i) != places.end()) {
+            text += entries[i];
+        }
+    }
+    return text + library["tail"].get<std::string>();
+}
+
+TEST(StyleFormats, GalleriesHoldTheSymbolsOfTheLibraryWhereTheyAreToldTo) {
+    const ScratchFolder folder;
+    const std::string patterns =
+        folder.Write("a.pat", "*LEVEL\n0, 0,0, 0,.125\n*UP\n90, 0,0, 0,.5, .25,-.1\n*STEEP\n60, 0,0, 0,.5\n");
+    const std::string linetypes = folder.Write(
+        "b.lin", "*\xc3\x84 & <DASH>\nA,1,-.25\n*GAS\nA,.5,-.2,[\"GAS\",STANDARD,S=.1,X=-.1],-.25\n");
+    const auto output = [](std::vector<std::string> arguments, const std::vector<std::string>& more) {
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return RunTool(arguments).output;
+    };
+    const std::vector<std::string> html = {"--format", "html", "--with-style", "qgis"};
+    const std::vector<std::string> qgis = {"--format", "qgis"};
+    for (const std::vector<std::string>& options : std::vector<std::vector<std::string>>{
+             {}, {"--strict-symbols"}, {"--faithful"}, {"--scale", "3", "--hatch-units", "mm"}}) {
+        std::vector<std::string> arguments = {"convert", patterns, linetypes};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        const std::string library = output(arguments, qgis);
+        EXPECT_NE(library.find("name=\"GAS\""), std::string::npos);
+        EXPECT_EQ(TakenOut(output(arguments, html)), library);
+    }
+    // A selection is what a conversion of these symbols alone makes.
+    EXPECT_EQ(TakenOut(output({"patterns", patterns}, html), {0, 2}),
+              output({"patterns", patterns, "--name", "LEVEL", "--name", "UP"}, qgis));
+    EXPECT_EQ(TakenOut(output({"linetypes", linetypes}, html), {1}),
+              output({"linetypes", linetypes, "--name", "GAS"}, qgis));
+    EXPECT_EQ(TakenOut(output({"patterns", patterns}, {"--format", "html"})), "");
+}
+
+TEST(StyleFormats, GalleriesWithStylesTellWhatThoseLose) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*UP\n90, 0,0, 0,.5, .25,-.1\n");
+    const ToolResult gallery = RunTool({"patterns", file, "--with-style", "qgis", "--format", "html"});
+    EXPECT_EQ(gallery.status, 0);
+    EXPECT_EQ(gallery.errors, RunTool({"patterns", file, "--format", "qgis"}).errors);
+    EXPECT_NE(gallery.errors.find("the style keeps the angle"), std::string::npos);
+    for (const std::string format : {"json", "svg", "qgis"}) {
+        const ToolResult result = RunTool({"patterns", file, "--with-style", "qgis", "--format", format});
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.errors, "styleconv: --with-style can only be used with --format html\n");
+    }
 }
 
 TEST(StyleFormats, OptionsOfStylesAreForStyles) {
