@@ -124,6 +124,7 @@ bool WriteSymbols(const SymbolList& symbols, Form form, const TextSink& sink, Fr
         return WriteAll(symbols, MaplibreStyles(sink, styles != nullptr ? *styles : unheard), front);
     }
     case Form::kSvg:
+    case Form::kPng:
         break;
     }
     if (symbols.size() == 1) {

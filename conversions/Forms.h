@@ -18,6 +18,7 @@ namespace conversions {
 enum class Form : std::uint8_t {
     kJson,     // the symbols document
     kSvg,      // a picture of one symbol, a sheet of several
+    kPng,      // the same, written as SVG here; who stores it makes pixels of it
     kHtml,     // a gallery for the browser
     kQgis,     // a style library for QGIS
     kMaplibre, // a style of MapLibre
@@ -26,10 +27,12 @@ enum class Form : std::uint8_t {
 /// Takes the next piece of a result; false ends the writing.
 using TextSink = std::function<bool(std::string_view text)>;
 
-/// A file beside a result.
-struct StyleFile {
-    std::string name; // relative to the result, with /
-    std::string text;
+/// A picture that a style shows.
+struct StylePicture {
+    std::string name; // of letters, digits and hyphens
+    std::string svg;
+    int width = 0; // pixels
+    int height = 0;
 };
 
 /// How styles are made, and what there is to say about them.
@@ -40,7 +43,7 @@ struct StyleJob {
     double scale = 1.0;
     bool allowsApproximate = false;
     bool isInGallery = false;             // a gallery holds styles for QGIS, which a reader takes out
-    std::vector<StyleFile> files;         // what the style needs beside it is added here
+    std::vector<StylePicture> pictures;   // what the style needs beside it is added here
     diagnostics::Diagnostics diagnostics; // what styles do not say of the symbols is added here
 };
 

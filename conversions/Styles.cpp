@@ -143,7 +143,8 @@ bool MaplibreStyles::Add(TylModel::SymbolDefinition& symbol) {
         job_.diagnostics.push_back(
             {Severity::kWarning, Code::kStyleApproximate, {job_.file, 0, SymbolItem(symbol)}, {error}});
     }
-    job_.files.push_back({"sprite/" + added.pictureName + ".svg", std::move(added.picture.svg)});
+    job_.pictures.push_back(
+        {added.pictureName, std::move(added.picture.svg), added.picture.width, added.picture.height});
     return true;
 }
 

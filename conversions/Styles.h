@@ -46,7 +46,7 @@ private:
 };
 
 /// Writes the symbols that it is given to a style of MapLibre. The pictures that it shows are added to the
-/// job as files, and so is what it does not say of the symbols.
+/// job, and so is what it does not say of the symbols.
 class MaplibreStyles {
 public:
     MaplibreStyles(const TextSink& sink, StyleJob& job);

@@ -21,7 +21,7 @@ if ! command -v npm >/dev/null && [ -z "${CI:-}" ]; then
   exit 0
 fi
 command -v npm >/dev/null || install_packages nodejs npm || { echo "Skipped: npm cannot be installed here."; exit 0; }
-install_packages chromium chromium-driver python3-selenium python3-numpy python3-pil librsvg2-bin fonts-dejavu-core
+install_packages chromium chromium-driver python3-selenium python3-numpy python3-pil librsvg2-2 librsvg2-bin fonts-dejavu-core
 [ -x "$tool" ] || { echo "$tool is not there: build it first" >&2; exit 1; }
 
 mkdir -p "$modules"

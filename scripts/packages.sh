@@ -32,6 +32,8 @@ tool_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
 test_packages=(libgtest-dev libbenchmark-dev ccache clang clang-format clang-tidy clang-tools llvm python3 python3-jsonschema)
 # What an installed tree is looked at with.
 test_packages+=(pkgconf doxygen valgrind dpkg-dev file zsh fish)
+# What PNG pictures are made by where the tool runs; it is built and works without.
+test_packages+=(librsvg2-2)
 # What looks at pictures and opens the gallery, and a typeface for their texts.
 test_packages+=(librsvg2-bin chromium chromium-driver python3-selenium python3-pil fonts-dejavu-core)
 

@@ -15,6 +15,9 @@ inline constexpr std::size_t kMostMarks = 1'000;
 /// Pixels of a side of a picture that a map program repeats: it keeps the pictures of a style on one sheet.
 inline constexpr int kLargestPicture = 1'024;
 
+/// Pixels of a row of pictures on such a sheet, which is drawn twice as large, too.
+inline constexpr int kSheetRow = 2'048;
+
 /// Strokes in one such picture. More leave no paper between them.
 inline constexpr double kMostPictureStrokes = 50'000;
 

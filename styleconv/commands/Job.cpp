@@ -4,11 +4,13 @@
 #include "StyleConversion/platform/Files.h"
 #include "StyleConversion/platform/Utf8.h"
 #include "diagnostics/ShownText.h"
+#include "styleconv/commands/StyleFolder.h"
 #include "styleconv/files/InputFile.h"
 #include "styleconv/files/OutputFile.h"
 #include "styleconv/files/ShapeSearch.h"
 #include "styleconv/process/Messages.h"
 #include "styleconv/process/Progress.h"
+#include "styleconv/process/Rasteriser.h"
 #include "styleconv/process/WorkLimits.h"
 
 #include <algorithm>
@@ -72,6 +74,7 @@ struct FormName {
 constexpr FormName kForms[] = {{"json", "", conversions::Form::kJson},
                                {"json", ".json", conversions::Form::kJson},
                                {"svg", ".svg", conversions::Form::kSvg},
+                               {"png", ".png", conversions::Form::kPng},
                                {"html", ".html", conversions::Form::kHtml},
                                {"qgis", ".xml", conversions::Form::kQgis},
                                // A folder, whose name has no end of its own.
@@ -90,6 +93,10 @@ bool CheckStyleForm(const CommonOptions& options, conversions::Form form, bool f
     }
     if (!style.inGallery.empty() && form != conversions::Form::kHtml) {
         SayLine("styleconv: --with-style can only be used with --format html");
+        return false;
+    }
+    if (form == conversions::Form::kPng && !WhyNoRasteriser().empty()) {
+        SayLine("styleconv: --format png: " + WhyNoRasteriser());
         return false;
     }
     const char* const ofStyles = style.strictSymbols  ? "--strict-symbols"
@@ -116,24 +123,34 @@ bool CheckStyleForm(const CommonOptions& options, conversions::Form form, bool f
 
 using WriteText = std::function<bool(const conversions::TextSink& sink)>;
 
-// Writes a style into a folder, last of all, behind the files that it needs.
-ExitStatus WriteFolder(const std::string& folder, const conversions::StyleJob& styles,
-                       const WriteText& write) {
-    std::string style;
+// Writes pictures as pixels, which are made of the SVG when all of it is there.
+ExitStatus WritePng(const std::string& output, const WriteText& write) {
+    std::string svg;
     if (!write([&](std::string_view text) {
-            style += text;
+            svg += text;
             return true;
         })) {
         return kInputFault;
     }
-    return MakeFolder(folder + "/sprite") &&
-                   std::all_of(styles.files.begin(), styles.files.end(),
-                               [&](const conversions::StyleFile& file) {
-                                   return WriteWholeFile(folder + "/" + file.name, file.text);
-                               }) &&
-                   WriteWholeFile(folder + "/style.json", style)
-               ? kDone
-               : kInputFault;
+    const Raster raster = DrawPicture(svg);
+    if (!raster.problem.empty()) {
+        SayError(output.empty() ? "standard output" : output,
+                 raster.problem + "; --format svg has no such limits");
+        return kInputFault;
+    }
+    return WriteResult(output, [&](const conversions::TextSink& sink) { return sink(raster.png); });
+}
+
+ExitStatus WriteInForm(const CommonOptions& options, conversions::Form form,
+                       const conversions::StyleJob& styles, const WriteText& write) {
+    switch (form) {
+    case conversions::Form::kMaplibre:
+        return WriteStyleFolder(options.output, styles, write);
+    case conversions::Form::kPng:
+        return WritePng(options.output, write);
+    default:
+        return WriteResult(options.output, write);
+    }
 }
 
 // Whether it is of a part of the file, so that the rest may be worth having.
@@ -285,9 +302,7 @@ ExitStatus WriteForm(
     styles.allowsApproximate = options.style.allowsApproximate;
     styles.isInGallery = !options.style.inGallery.empty();
     const auto writeResult = [&](const conversions::TextSink& sink) { return write(sink, styles); };
-    const ExitStatus status = form == conversions::Form::kMaplibre
-                                  ? WriteFolder(options.output, styles, writeResult)
-                                  : WriteResult(options.output, writeResult);
+    const ExitStatus status = WriteInForm(options, form, styles, writeResult);
     MergeAlike(styles.diagnostics);
     SayAll(styles.diagnostics);
     return status;
@@ -304,7 +319,7 @@ std::optional<conversions::Form> FormOf(const CommonOptions& options, bool faith
         }
     }
     SayLine("styleconv: -o " + diagnostics::ShownText(options.output) +
-            ": the end of the name tells no format; use .json, .svg, .html or .xml, or --format");
+            ": the end of the name tells no format; use .json, .svg, .png, .html or .xml, or --format");
     return std::nullopt;
 }
 

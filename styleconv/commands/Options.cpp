@@ -119,8 +119,8 @@ void AddOutputOption(Command& command, std::string& output) {
 void AddCommonOptions(Command& command, CommonOptions& options) {
     AddOutputOption(command, options.output);
     command.AddChoice(
-        "--format", options.format, {"json", "svg", "html", "qgis", "maplibre"},
-        "Form of the result: json, svg, html, qgis or maplibre (default: by the end of -o, else json)");
+        "--format", options.format, {"json", "svg", "png", "html", "qgis", "maplibre"},
+        "Form of the result: json, svg, png, html, qgis or maplibre (default: by the end of -o, else json)");
 }
 
 void AddNameOption(Command& command, std::vector<std::string>& names, const std::string& description) {

@@ -38,7 +38,7 @@ PAGE = f"""<!DOCTYPE html>
 
 SHOW = """
 const [style, center, done] = arguments;
-style.sprite = new URL('sprite', location.href).href;
+style.sprite = new URL(style.sprite, location.href).href;
 const map = new maplibregl.Map({container: 'map', style, center, zoom: 2, fadeDuration: 0,
   interactive: false, attributionControl: false, canvasContextAttributes: {preserveDrawingBuffer: true}});
 const errors = [];
@@ -61,7 +61,7 @@ def lonlat(x, y, middle=CROSSING):
 
 def convert(command, file, target, *options):
     """Writes the style into a folder and returns the symbols that it is made of, not scaled."""
-    for old in glob.glob(os.path.join(target, "sprite", "*.svg")):
+    for old in glob.glob(os.path.join(target, "sprite", "*.svg")) + glob.glob(os.path.join(target, "sprite*.*")):
         os.remove(old)
     subprocess.run([styleconv, command, file, "--format", "maplibre", "-o", target, *options],
                    stderr=subprocess.DEVNULL, check=True)
@@ -76,24 +76,6 @@ def legible_scale(symbols):
     closest = min(float(member["areaUsage"][key]) for symbol in symbols for member in painter.members(symbol)
                   for key in ("repeatX", "repeatY"))
     return max(1, round(4 / closest))
-
-
-def make_sheet(target):
-    """Puts the pictures side by side, as a builder of sprites does."""
-    pictures, across = {}, 0
-    for path in sorted(glob.glob(os.path.join(target, "sprite", "*.svg"))):
-        png = subprocess.run(["rsvg-convert", path], stdout=subprocess.PIPE, check=True).stdout
-        picture = Image.open(io.BytesIO(png)).convert("RGBA")
-        pictures[os.path.basename(path)[:-4]] = (picture, across)
-        across += picture.width
-    sheet = Image.new("RGBA", (max(1, across), max([p.height for p, _ in pictures.values()], default=1)))
-    index = {}
-    for name, (picture, x) in pictures.items():
-        sheet.paste(picture, (x, 0))
-        index[name] = {"x": x, "y": 0, "width": picture.width, "height": picture.height, "pixelRatio": 1}
-    sheet.save(os.path.join(target, "sprite.png"))
-    with open(os.path.join(target, "sprite.json"), "w", encoding="utf-8") as stream:
-        json.dump(index, stream)
 
 
 def read_style(target):
@@ -187,7 +169,6 @@ class Maps(Browser):
         for file in sorted(glob.glob(os.path.join(examples, "patterns", "*.pat"))):
             scale = legible_scale(convert("patterns", file, site))
             symbols = convert("patterns", file, site, "--scale", str(scale))
-            make_sheet(site)
             style = read_style(site)
             ids = {layer["id"]: layer for layer in style["layers"]}
             for symbol in symbols:
@@ -226,7 +207,6 @@ class Maps(Browser):
     def test_blocks_stand_at_their_points_and_turn(self):
         file = os.path.join(examples, "drawings", "street-furniture.dxf")
         symbols = convert("blocks", file, site, "--scale", "0.01")
-        make_sheet(site)
         style = read_style(site)
         ids = {layer["id"] for layer in style["layers"]}
         measured = 0
@@ -249,7 +229,6 @@ class Maps(Browser):
         styles = ["--shapes", f"{examples}/shapes", "--drawing", f"{examples}/linetypes/styles.json"]
         for file in sorted(glob.glob(os.path.join(examples, "linetypes", "*.lin"))):
             symbols = convert("linetypes", file, site, *styles)
-            make_sheet(site)
             style = read_style(site)
             ids = {layer["id"] for layer in style["layers"]}
             for symbol in symbols:
@@ -274,7 +253,6 @@ class Maps(Browser):
         with open(file, "w", encoding="utf-8") as stream:
             stream.write('*ABOVE\nA,4,["L",STANDARD,S=2,X=0,Y=1],-4\n')
         convert("linetypes", file, site)
-        make_sheet(site)
         for points, above in (([(20, 200), (380, 200)], True), ([(380, 200), (20, 200)], False)):
             geometry = {"type": "LineString", "coordinates": [lonlat(x, y) for x, y in points]}
             ink = painter.darkness(self.show(read_style(site), "ABOVE", geometry)) > 127
@@ -286,7 +264,6 @@ class Maps(Browser):
         with open(file, "w", encoding="utf-8") as stream:
             stream.write("*DASHES\nA,8,-4\n")
         convert("linetypes", file, site)
-        make_sheet(site)
         geometry = {"type": "LineString", "coordinates": [lonlat(20, 200), lonlat(380, 200)]}
         row = (painter.darkness(self.show(read_style(site), "DASHES", geometry)) > 127)[200 - 1 : 200 + 2].any(axis=0)
         # 8 of 12 millimetres; half a dash at each end is neither.
@@ -305,7 +282,6 @@ class Pictures(Browser):
 
     def maps(self, command, file, options, geometry, names):
         convert(command, os.path.join(examples, file), site, *options)
-        make_sheet(site)
         return [self.show(read_style(site), name, geometry, TILE) for name in names]
 
     def test_takes_pictures(self):

@@ -32,7 +32,7 @@ ALLOWED = {
     # The jobs once more, for programs in C.
     "c": ["conversions", "diagnostics", "documents", "StyleConversion"],
     "styleconv": ["StyleConversion/platform"],
-    "styleconv/commands": ["styleconv/files", "styleconv/process", "conversions", "diagnostics", "documents",
+    "styleconv/commands": ["styleconv/files", "styleconv/process", "conversions", "diagnostics", "documents", "styles",
                            "StyleConversion/encoding", "StyleConversion/platform", "StyleConversion/pattern"],
     # Shape files are searched for as the library's own host services search.
     "styleconv/files": ["styleconv/process", "conversions/reading", "diagnostics", "drawing",

@@ -36,7 +36,7 @@ TEST(CommandLine, AnUnknownCommandOptionOrFormatIsWrong) {
                                                       {"patterns"},
                                                       {"drawing", "a.dxf", "b.dxf"},
                                                       {"patterns", "--colour", "x"},
-                                                      {"patterns", "a.pat", "--format", "png"},
+                                                      {"patterns", "a.pat", "--format", "gif"},
                                                       {"patterns", "a.pat", "--name"}}) {
         const ToolResult result = RunTool(arguments);
         EXPECT_EQ(result.status, 2) << arguments.back();

@@ -164,7 +164,7 @@ TEST(PictureFormats, AreWrittenWholeOrNotAtAll) {
         EXPECT_EQ(RunTool({"patterns", file, "--format", format, "-o", folder / format}).status, 0);
         EXPECT_EQ(folder.Read(format), WithFormat({"patterns", file}, format));
     }
-    EXPECT_EQ(RunTool({"patterns", file, "--format", "png"}).status, 2);
+    EXPECT_EQ(RunTool({"patterns", file, "--format", "gif"}).status, 2);
 }
 
 TEST(PictureFormats, EndOfTheOutputsNameTellsTheFormat) {
@@ -197,16 +197,44 @@ TEST(PictureFormats, NameThatTellsNoFormatIsAFaultOfTheCommandLine) {
     const ScratchFolder folder;
     for (const Kind& kind : Kinds(folder)) {
         std::vector<std::string> arguments = kind.arguments;
-        arguments.insert(arguments.end(), {"-o", folder / "a.png"});
+        arguments.insert(arguments.end(), {"-o", folder / "a.gif"});
         const ToolResult result = RunTool(arguments);
         EXPECT_EQ(result.status, 2);
         EXPECT_EQ(result.errors,
-                  "styleconv: -o " + (folder / "a.png") +
-                      ": the end of the name tells no format; use .json, .svg, .html or .xml, or "
+                  "styleconv: -o " + (folder / "a.gif") +
+                      ": the end of the name tells no format; use .json, .svg, .png, .html or .xml, or "
                       "--format\n");
-        EXPECT_EQ(folder.Read("a.png"), "(none)");
+        EXPECT_EQ(folder.Read("a.gif"), "(none)");
     }
 }
+
+#if defined(_WIN32)
+TEST(PictureFormats, PngIsNotMadeOnWindows) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.pat", "*LEVEL,Lines\n0, 0,0, 0,.125\n");
+    const ToolResult result = RunTool({"patterns", file, "-o", folder / "a.png"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "styleconv: --format png: PNG pictures are not made on Windows\n");
+    EXPECT_EQ(folder.Read("a.png"), "(none)");
+}
+#else
+TEST(PictureFormats, PngIsAsLargeAsTheSvg) {
+    const ScratchFolder folder;
+    for (const Kind& kind : Kinds(folder)) {
+        for (const auto& [more, size] : {std::pair<std::vector<std::string>, std::string>{
+                                             kind.first, {0, 0, 2, '\x80', 0, 0, 2, 0x2c}}, // 640 x 556
+                                         {{}, {0, 0, 2, '\x88', 0, 0, 1, 0x50}}}) {         // 648 x 336
+            const std::string png = WithFormat(kind.arguments, "png", more);
+            EXPECT_EQ(png.substr(0, 8), "\x89PNG\r\n\x1a\n");
+            EXPECT_EQ(png.substr(12, 12), "IHDR" + size) << kind.arguments[0];
+        }
+        std::vector<std::string> arguments = kind.arguments;
+        arguments.insert(arguments.end(), {"-o", folder / "a.PNG"});
+        EXPECT_EQ(RunTool(arguments).status, 0);
+        EXPECT_EQ(folder.Read("a.PNG"), WithFormat(kind.arguments, "png"));
+    }
+}
+#endif
 
 // The pixels that the strokes of a picture "M0 0v-123" are high.
 double HeightOfFirstLine(const std::string& svg) {
