@@ -80,7 +80,7 @@ check() {
 
 if [ $# -eq 0 ]; then
   folders=(StyleConversion drawing diagnostics documents exchange preview styles conversions styleconv examples/host)
-  mapfile -t sources < <(git ls-files "${folders[@]/%//*.cpp}" | grep -v '/posix/')
+  mapfile -t sources < <(git ls-files "${folders[@]/%//*.cpp}" | grep -vE '/(posix|wasi)/')
   mapfile -t headers < <(git ls-files 'StyleConversion/interfaces/*.h' ':(glob)drawing/database/*.h' ':(glob)drawing/entities/*.h' \
     'StyleConversion/*Converter.h' StyleConversion/{Export,linetype/FontInfo,linetype/Services}.h)
   set -- "${sources[@]}" $work/GalleryFiles.cpp "${headers[@]}"

@@ -29,7 +29,7 @@ install_packages() {
 
 # What the library and the tool are built with, and what the tests need beside it.
 tool_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
-test_packages=(libgtest-dev libbenchmark-dev ccache clang clang-format clang-tidy clang-tools llvm python3 python3-jsonschema)
+test_packages=(libgtest-dev libbenchmark-dev libfast-float-dev ccache clang clang-format clang-tidy clang-tools llvm python3 python3-jsonschema)
 # What an installed tree is looked at with.
 test_packages+=(pkgconf doxygen valgrind dpkg-dev file zsh fish)
 # What PNG pictures are made by where the tool runs; it is built and works without.

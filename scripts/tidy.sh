@@ -14,5 +14,5 @@ case ${1-} in
   --all) folders='c|StyleConversion|drawing|diagnostics|documents|exchange|preview|styles|conversions|styleconv|tests|fuzz|benchmarks' ;;
   *) exec python3 scripts/tidy.py build/tidy "$@" ;;
 esac
-mapfile -t sources < <(git ls-files '*.cpp' | grep -E "^($folders)/" | grep -v '/windows/')
+mapfile -t sources < <(git ls-files '*.cpp' | grep -E "^($folders)/" | grep -vE '/(windows|wasi)/')
 exec python3 scripts/tidy.py build/tidy "${sources[@]}"

@@ -1,5 +1,6 @@
 #include "StyleConversion/encoding/NumberReader.h"
 
+#include "StyleConversion/encoding/ReadDecimal.h"
 #include "StyleConversion/platform/Characters.h"
 
 #include <charconv>
@@ -56,7 +57,7 @@ NumberReading ReadNumber(std::string_view text) {
         return {};
     }
     double value = 0.0;
-    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
+    const auto [end, error] = ReadDecimal(number.data(), number.data() + number.size(), value);
     const auto length = static_cast<std::size_t>(end - number.data());
     if (error == std::errc::result_out_of_range) {
         value = IsTooLarge(number.substr(0, length)) ? std::numeric_limits<double>::infinity() : 0.0;

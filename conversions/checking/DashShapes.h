@@ -8,6 +8,7 @@
 
 #include <map>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace conversions {
@@ -18,7 +19,10 @@ struct Loss {
     std::vector<std::string> subjects;
 
     bool operator==(const Loss&) const = default;
-    auto operator<=>(const Loss&) const = default;
+    // Standard libraries that are not the newest have no <=> of lists.
+    bool operator<(const Loss& other) const {
+        return std::tie(code, subjects) < std::tie(other.code, other.subjects);
+    }
 };
 
 /// Looks at each linetype once.

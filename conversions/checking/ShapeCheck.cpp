@@ -98,7 +98,8 @@ private:
     std::optional<std::uint64_t> PlaceOf(const ShxUtility::Shape& shape) {
         std::string entry = shape.name;
         entry.push_back('\0');
-        entry.append(reinterpret_cast<const char*>(shape.data.data()), shape.data.size());
+        entry.append(reinterpret_cast<const char*>(shape.data.data()),
+                     static_cast<std::size_t>(shape.data.size()));
         const std::size_t at = input_.bytes.find(entry, searched_);
         if (at == std::string_view::npos) {
             return std::nullopt;

@@ -4,6 +4,7 @@
 #include "StyleConversion/platform/Characters.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace drawing {
@@ -11,11 +12,11 @@ namespace drawing {
 /// Hashes and compares names without regard to case.
 struct FoldedHash {
     std::size_t operator()(std::wstring_view name) const {
-        std::size_t hash = 14695981039346656037ULL; // FNV-1a
+        std::uint64_t hash = 14695981039346656037ULL; // FNV-1a
         for (const wchar_t c : name) {
-            hash = (hash ^ static_cast<std::size_t>(platform::FoldCase(c))) * 1099511628211ULL;
+            hash = (hash ^ static_cast<std::uint64_t>(platform::FoldCase(c))) * 1099511628211ULL;
         }
-        return hash;
+        return static_cast<std::size_t>(hash);
     }
 };
 

@@ -1,7 +1,6 @@
 // Opening files on systems whose paths are bytes, by custom UTF-8.
 #include "StyleConversion/platform/Files.h"
 
-#include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/Utf8.h"
 
 #include <algorithm>
@@ -34,14 +33,6 @@ std::FILE* OpenBytes(const std::string& path) {
     return nullptr;
 }
 
-std::wstring Lower(std::wstring_view text) {
-    std::wstring lower(text);
-    for (wchar_t& c : lower) {
-        c = AsciiLower(c);
-    }
-    return lower;
-}
-
 // The first name in byte order in `directory` that equals `name` but for case, or an empty text.
 std::string FindIgnoringCase(const std::string& directory, std::wstring_view name) {
     const std::unique_ptr<DIR, CloseDirectory> entries(opendir(directory.empty() ? "." : directory.c_str()));
@@ -49,10 +40,11 @@ std::string FindIgnoringCase(const std::string& directory, std::wstring_view nam
     if (!entries) {
         return best;
     }
-    const std::wstring wanted = Lower(name);
+    const std::wstring wanted(name);
     while (const dirent* const entry = readdir(entries.get())) {
         const std::string candidate = entry->d_name;
-        if (Lower(Utf8ToWide(candidate)) == wanted && (best.empty() || candidate < best)) {
+        if (CompareIgnoringCase(Utf8ToWide(candidate).c_str(), wanted.c_str()) == 0 &&
+            (best.empty() || candidate < best)) {
             best = candidate;
         }
     }
@@ -78,30 +70,6 @@ std::FILE* OpenForReadingIgnoringCase(const wchar_t* path) {
     std::replace(directory.begin(), directory.end(), '\\', '/');
     const std::string found = FindIgnoringCase(directory, parts.fileName + parts.extension);
     return found.empty() ? nullptr : OpenBytes(directory + found);
-}
-
-PathParts SplitPath(std::wstring_view path) {
-    PathParts parts;
-    const std::size_t separator = path.find_last_of(L"/\\");
-    const std::size_t nameStart = separator == std::wstring_view::npos ? 0 : separator + 1;
-    parts.directory = path.substr(0, nameStart);
-    const std::wstring_view name = path.substr(nameStart);
-    const std::size_t point = std::min(name.rfind(L'.'), name.size());
-    parts.fileName = name.substr(0, point);
-    parts.extension = name.substr(point);
-    return parts;
-}
-
-int CompareIgnoringCase(const wchar_t* first, const wchar_t* second) {
-    return Lower(first).compare(Lower(second));
-}
-
-std::wstring PathFromBytes(std::string_view bytes) {
-    return Utf8ToWide(bytes);
-}
-
-std::string PathToBytes(std::wstring_view path) {
-    return WideToUtf8Bytes(path);
 }
 
 } // namespace platform
