@@ -137,12 +137,29 @@ std::string GlyphMarkup(const GlyphFacts* glyph) {
     return glyph == nullptr ? "" : " data-glyph=\"" + std::to_string(glyph->character) + "\"";
 }
 
-std::string NotesMarkup(const Picture& picture, const std::string& loss) {
-    std::string markup = loss.empty() ? "" : "<li class=\"loss\">" + Escaped(loss) + "</li>";
-    for (const std::string& note : picture.notes) {
-        markup += "<li>" + Escaped(note) + "</li>";
+// A browser takes in pages of thousands of cards the faster the less there is in each: what has no text is
+// left out.
+std::string Line(std::string_view kind, std::string_view text) {
+    std::string markup;
+    if (!text.empty()) {
+        markup.append("<p class=\"").append(kind).append("\">").append(Escaped(text)).append("</p>\n");
     }
     return markup;
+}
+
+std::string NotesMarkup(const Picture& picture, const std::string& loss) {
+    std::string items = loss.empty() ? "" : "<li class=\"loss\">" + Escaped(loss) + "</li>";
+    for (const std::string& note : picture.notes) {
+        items += "<li>" + Escaped(note) + "</li>";
+    }
+    return items.empty() ? items : "<ul class=\"notes\">" + items + "</ul>\n";
+}
+
+std::string ParametersMarkup(std::size_t count) {
+    return count == 0
+               ? ""
+               : "<details class=\"parameters\"><summary tabindex=\"-1\">" + Counted(count, "parameter") +
+                     "</summary><div class=\"controls\"></div></details>\n";
 }
 
 } // namespace
@@ -200,10 +217,11 @@ bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol, const GalleryFacts& 
                      {Field::Text("kind", KindOf(resolved.usage)), Field::Text("source", facts.source),
                       Field::Markup("glyph", GlyphMarkup(facts.glyph)), Field::Text("name", resolved.name),
                       Field::Markup("breakableName", BreakableName(resolved.name)),
-                      Field::Text("description", description), Field::Text("detail", Describe(resolved)),
+                      Field::Markup("description", Line("description", description)),
+                      Field::Text("detail", Describe(resolved)),
+                      Field::Markup("sourceLine", Line("source", facts.source)),
                       Field::Markup("notes", NotesMarkup(picture, facts.loss)),
-                      Field::Markup("noParameters", resolved.parameters.empty() ? " hidden" : ""),
-                      Field::Text("parameterCount", Counted(resolved.parameters.size(), "parameter")),
+                      Field::Markup("parameters", ParametersMarkup(resolved.parameters.size())),
                       Field::Markup("data", WithSymbol(data, facts.json))}));
     ++added_;
     return written;

@@ -21,10 +21,15 @@ class SymbolCard {
     this.name = card.querySelector(".name").textContent;
     this.kind = card.dataset.kind;
     this.source = card.dataset.source;
-    const words = [this.name, card.querySelector(".description").textContent, this.source];
+    const words = [this.name, this.textOf(".description"), this.source];
     this.words = words.join("\n").toLocaleLowerCase();
     this.own = new Map(); // values of this symbol alone, by identifier
     this.isShown = false;
+  }
+
+  // What stands in a part of the card; cards have no empty parts.
+  textOf(selector) {
+    return this.card.querySelector(selector)?.textContent ?? "";
   }
 
   get data() {

@@ -17,9 +17,9 @@ const closeup = {
     this.symbol = symbol;
     document.getElementById("closeup-name").textContent = symbol.name;
     document.getElementById("closeup-description").textContent = [
-      symbol.card.querySelector(".description").textContent,
-      symbol.card.querySelector(".detail").textContent,
-      symbol.card.querySelector(".loss")?.textContent,
+      symbol.textOf(".description"),
+      symbol.textOf(".detail"),
+      symbol.textOf(".loss"),
     ].filter(Boolean).join(" · ");
     this.zoom.min = smallestZoomOf(symbol);
     this.zoom.value = kWholePicture;

@@ -102,7 +102,7 @@ function resetButton(symbol) {
 // A symbol's controls may be seen twice: in its card and in the close-up. All but those in `source`, where the
 // reader is typing, show the values in force.
 function showValues(symbol, source) {
-  const containers = [symbol.card.querySelector(".controls")];
+  const containers = [symbol.card.querySelector(".controls")].filter(Boolean);
   if (closeup.symbol === symbol) {
     containers.push(closeup.controls);
   }

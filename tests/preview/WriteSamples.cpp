@@ -131,6 +131,33 @@ void WriteFonts() {
     }
 }
 
+// As many glyphs as a font of a large script has.
+void WriteManyGlyphs() {
+    constexpr unsigned kMany = 7'000;
+    constexpr unsigned kFirst = 0x4e00;
+    std::string text;
+    preview::GalleryWriter writer({.count = kMany}, [&](std::string_view piece) {
+        text += piece;
+        return true;
+    });
+    for (unsigned i = 0; i < kMany; ++i) {
+        const auto symbol = NewSymbol(std::to_wstring(kFirst + i));
+        std::wstring path = L"M 0,0 ";
+        for (unsigned stroke = 0; stroke < 12; ++stroke) {
+            path += L"l " + std::to_wstring((i + stroke * 7) % 5) + L',' +
+                    std::to_wstring((i / 5 + stroke) % 4) + L' ';
+        }
+        AddPath(*symbol, path);
+        const preview::GlyphFacts glyph = {kFirst + i, 12, 10, 2};
+        preview::GalleryFacts facts;
+        facts.glyph = &glyph;
+        facts.json = R"({"graphics": [{"geometry": ")" + platform::WideToValidUtf8(path) + R"("}]})";
+        writer.Add(*symbol, facts);
+    }
+    writer.Finish();
+    Write("glyphs.html", text);
+}
+
 // As many symbols as a large office has.
 std::vector<SymbolPointer> ManySymbols() {
     constexpr std::size_t kMany = 2'000;
@@ -165,6 +192,7 @@ int main(int argc, char** argv) {
     WriteGallery("many.html", ManySymbols());
     WriteCompared();
     WriteFonts();
+    WriteManyGlyphs();
     WriteGallery("folders.html", TypicalSymbols(), {"roads/a.lin", "water/b.lin", "water/c.pat"});
     return 0;
 }
