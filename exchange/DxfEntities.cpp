@@ -350,10 +350,7 @@ void DxfEntityReader::AddArc(const DxfRecord& record) {
     arc.center = Point(record, 10, isMirrored);
     arc.radius = record.Number(40, 0.0);
     arc.startAngle = Radians(record.Number(50, 0.0));
-    arc.endAngle = geometry::FullTurn(arc.startAngle, Radians(record.Number(51, 0.0)));
-    if (arc.endAngle < arc.startAngle) {
-        arc.endAngle += kTurn;
-    }
+    arc.endAngle = EndBehind(arc.startAngle, Radians(record.Number(51, 0.0)));
     arc.normal = {0.0, 0.0, isMirrored ? -1.0 : 1.0};
     Add<drawing::Arc>(record, arc);
 }
@@ -364,12 +361,8 @@ void DxfEntityReader::AddEllipse(const DxfRecord& record) {
     const OxGePoint3d axis = Point(record, 11);
     ellipse.majorAxis = {axis.x, axis.y, axis.z};
     ellipse.radiusRatio = record.Number(40, 1.0);
-    double start = record.Number(41, 0.0);
-    double end = record.Number(42, kTurn);
-    if (end < start) {
-        end += kTurn * std::ceil((start - end) / kTurn);
-    }
-    end = geometry::FullTurn(start, end);
+    const double start = record.Number(41, 0.0);
+    const double end = EndBehind(start, record.Number(42, kTurn));
     const bool isMirrored = IsMirrored(record); // the minor axis points the other way
     ellipse.startAngle = isMirrored ? -end : start;
     ellipse.endAngle = isMirrored ? -start : end;

@@ -42,38 +42,102 @@ Axes AxesOf(const OxGeVector2d& u, const OxGeVector2d& v) {
     return axes;
 }
 
-// Chords instead of the arcs of a polyline, which would not be circular any more.
-std::vector<BulgeVertex> WithChords(const std::vector<BulgeVertex>& vertices, bool closed) {
-    constexpr double kChord = kTurn / 128.0; // a chord leaves its arc by 0.03 % of the radius
-    std::vector<BulgeVertex> chords;
-    for (std::size_t i = 0; i < vertices.size(); ++i) {
-        const BulgeVertex& from = vertices[i];
-        chords.push_back({from.point, 0.0});
-        if (from.bulge == 0.0 || (i + 1 == vertices.size() && !closed)) {
-            continue;
+// Circular arcs along what the arcs of a polyline become where circles do not stay circles: pieces of
+// ellipses.
+class ArcsAlongEllipses {
+public:
+    explicit ArcsAlongEllipses(const PlaneMap& map) : map_(map) {}
+
+    std::vector<BulgeVertex> Of(const std::vector<BulgeVertex>& vertices, bool closed) {
+        for (std::size_t i = 0; i < vertices.size(); ++i) {
+            const BulgeVertex& from = vertices[i];
+            const bool isLast = i + 1 == vertices.size() && !closed;
+            if (from.bulge == 0.0 || isLast) {
+                placed_.push_back({map_.Of(from.point), 0.0});
+            } else {
+                AddSegment(from, vertices[(i + 1) % vertices.size()].point);
+            }
         }
-        const OxGePoint2d to = vertices[(i + 1) % vertices.size()].point;
+        return std::move(placed_);
+    }
+
+private:
+    static constexpr double kQuarter = kTurn / 4.0;
+    static constexpr double kTolerance = 5e-7; // of the size
+    static constexpr int kMostHalvings = 10;
+
+    void AddSegment(const BulgeVertex& from, const OxGePoint2d& to) {
         const double sweep = 4.0 * std::atan(from.bulge);
         const double x = to.x - from.point.x;
         const double y = to.y - from.point.y;
         const double toCenter = (1.0 - from.bulge * from.bulge) / (4.0 * from.bulge);
-        const OxGePoint2d center = {(from.point.x + to.x) * 0.5 - y * toCenter,
-                                    (from.point.y + to.y) * 0.5 + x * toCenter};
-        const OxGeVector2d radius = {from.point.x - center.x, from.point.y - center.y};
-        const int count = static_cast<int>(std::ceil(std::fabs(sweep) / kChord));
-        for (int chord = 1; chord < count; ++chord) {
-            const OxGeVector2d turned = PlaneMap::Turn(sweep * chord / count).OfVector(radius);
-            chords.push_back({{center.x + turned.x, center.y + turned.y}, 0.0});
+        center_ = {(from.point.x + to.x) * 0.5 - y * toCenter, (from.point.y + to.y) * 0.5 + x * toCenter};
+        radius_ = {from.point.x - center_.x, from.point.y - center_.y};
+        tolerance_ = kTolerance * std::hypot(radius_.x, radius_.y) * std::min(std::fabs(sweep), 1.0) *
+                     std::max(std::hypot(map_.a, map_.c), std::hypot(map_.b, map_.d));
+        const int count = static_cast<int>(std::ceil(std::fabs(sweep) / kQuarter));
+        for (int piece = 0; piece < count; ++piece) {
+            AddPiece(sweep * piece / count, sweep * (piece + 1) / count, kMostHalvings);
         }
     }
-    return chords;
-}
+
+    // The point at an angle from the segment's start, put through the map.
+    OxGePoint2d At(double angle) const {
+        const OxGeVector2d turned = PlaneMap::Turn(angle).OfVector(radius_);
+        return map_.Of(OxGePoint2d{center_.x + turned.x, center_.y + turned.y});
+    }
+
+    // One arc through start, middle and end; or, where that leaves the ellipse, the arcs of both halves.
+    void AddPiece(double start, double end, int halvings) {
+        const double middle = 0.5 * (start + end);
+        const OxGePoint2d first = At(start);
+        const OxGePoint2d last = At(end);
+        const double bulge = BulgeThrough(first, At(middle), last);
+        if (halvings > 0 && (IsOff(first, last, bulge, At(0.5 * (start + middle))) ||
+                             IsOff(first, last, bulge, At(0.5 * (middle + end))))) {
+            AddPiece(start, middle, halvings - 1);
+            AddPiece(middle, end, halvings - 1);
+        } else {
+            placed_.push_back({first, bulge});
+        }
+    }
+
+    // The angle between the chords of an arc's two parts is half its sweep.
+    static double BulgeThrough(const OxGePoint2d& first, const OxGePoint2d& through,
+                               const OxGePoint2d& last) {
+        const OxGeVector2d in = {through.x - first.x, through.y - first.y};
+        const OxGeVector2d out = {last.x - through.x, last.y - through.y};
+        return std::tan(0.5 * std::atan2(in.x * out.y - in.y * out.x, in.x * out.x + in.y * out.y));
+    }
+
+    bool IsOff(const OxGePoint2d& first, const OxGePoint2d& last, double bulge,
+               const OxGePoint2d& point) const {
+        if (bulge == 0.0) {
+            return false;
+        }
+        const double x = last.x - first.x;
+        const double y = last.y - first.y;
+        const double toCenter = (1.0 - bulge * bulge) / (4.0 * bulge);
+        const OxGePoint2d center = {(first.x + last.x) * 0.5 - y * toCenter,
+                                    (first.y + last.y) * 0.5 + x * toCenter};
+        const double radius = std::hypot(first.x - center.x, first.y - center.y);
+        return std::fabs(std::hypot(point.x - center.x, point.y - center.y) - radius) > tolerance_;
+    }
+
+    const PlaneMap& map_;
+    std::vector<BulgeVertex> placed_;
+    OxGePoint2d center_;
+    OxGeVector2d radius_;
+    double tolerance_ = 0.0;
+};
 
 std::vector<BulgeVertex> Placed(const std::vector<BulgeVertex>& vertices, bool closed, const PlaneMap& map) {
     const bool hasArcs = std::any_of(vertices.begin(), vertices.end(),
                                      [](const BulgeVertex& vertex) { return vertex.bulge != 0.0; });
-    std::vector<BulgeVertex> placed =
-        hasArcs && !map.KeepsCircles() ? WithChords(vertices, closed) : vertices;
+    if (hasArcs && !map.KeepsCircles()) {
+        return ArcsAlongEllipses(map).Of(vertices, closed);
+    }
+    std::vector<BulgeVertex> placed = vertices;
     for (BulgeVertex& vertex : placed) {
         vertex.point = map.Of(vertex.point);
         vertex.bulge = map.IsMirrored() ? -vertex.bulge : vertex.bulge;

@@ -375,17 +375,31 @@ TEST_F(BlockCopy, EdgesOfHatchesGoWithTheirAreas) {
     }
 }
 
-TEST_F(BlockCopy, ArcsOfPolylinesBecomeChordsWhereCirclesDoNotStay) {
+// The point half way along a segment of a polyline.
+OxGePoint2d MiddleOf(const drawing::BulgeVertex& from, const OxGePoint2d& to) {
+    return {(from.point.x + to.x + from.bulge * (to.y - from.point.y)) / 2.0,
+            (from.point.y + to.y - from.bulge * (to.x - from.point.x)) / 2.0};
+}
+
+TEST_F(BlockCopy, ArcsOfPolylinesFollowTheEllipsesThatTheyBecome) {
     drawing::BlockRecord& block = Block(L"A");
     block.Add<drawing::Polyline>(
-        EntityProperties(), std::vector<drawing::BulgeVertex>{{{-1, 0}, 1.0}, {{1, 0}, 0.0}}, false, false);
-    drawing::AddPlaced(block, block.EntityId(0), EntityProperties(), PlaneMap::Scale(3.0, 2.0));
-    const auto& placed = static_cast<const drawing::Polyline&>(*block.EntityId(1).stub()->object);
-    ASSERT_GT(placed.Vertices().size(), 50U);
-    for (const drawing::BulgeVertex& vertex : placed.Vertices()) {
-        EXPECT_EQ(vertex.bulge, 0.0);
-        EXPECT_NEAR(std::hypot(vertex.point.x / 3.0, vertex.point.y / 2.0), 1.0, 1e-12);
-        EXPECT_LT(vertex.point.y, 1e-12); // the arc runs counter-clockwise, below its chord
+        EntityProperties(), std::vector<drawing::BulgeVertex>{{{-1, 0}, 1.0}, {{1, 0}, 0.0}, {{5, 0}, 0.0}},
+        false, false);
+    for (const double mirror : {1.0, -1.0}) {
+        drawing::AddPlaced(block, block.EntityId(0), EntityProperties(), PlaneMap::Scale(mirror * 3.0, 2.0));
+        const OxDbObjectId last = block.EntityId(block.EntityCount() - 1);
+        const auto& vertices = static_cast<const drawing::Polyline&>(*last.stub()->object).Vertices();
+        ASSERT_LT(vertices.size(), 130U);
+        EXPECT_EQ(vertices.back().point, (OxGePoint2d{15.0 * mirror, 0.0}));
+        EXPECT_EQ(vertices[vertices.size() - 2].point, (OxGePoint2d{3.0 * mirror, 0.0}));
+        for (std::size_t i = 0; i + 2 < vertices.size(); ++i) {
+            for (const OxGePoint2d& point :
+                 {vertices[i].point, MiddleOf(vertices[i], vertices[i + 1].point)}) {
+                EXPECT_NEAR(std::hypot(point.x / 3.0, point.y / 2.0), 1.0, 6e-7);
+                EXPECT_LT(point.y, 1e-9); // below the chord from left to right, mirrored or not
+            }
+        }
     }
 }
 

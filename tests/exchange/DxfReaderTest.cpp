@@ -59,6 +59,24 @@ TEST(DxfReader, ArcsRunCounterClockwiseThroughZero) {
                     Json(90 * (std::numbers::pi / 180) + 2 * std::numbers::pi) + "}"});
 }
 
+TEST(DxfReader, ArcsOfMoreThanATurnEndWhereTheirAngleLies) {
+    ExpectSame({DxfWriter().Text(0, "ARC").Point(10, 0, 0).Number(40, 2).Number(50, 10).Number(51, 460),
+                R"({"type": "arc", "center": [0, 0], "radius": 2, "startAngle": )" +
+                    Json(10 * (std::numbers::pi / 180)) + R"(, "endAngle": )" +
+                    Json(460 * (std::numbers::pi / 180) - 2 * std::numbers::pi) + "}"});
+    ExpectSame({DxfWriter().Text(0, "ARC").Point(10, 0, 0).Number(40, 2).Number(50, 400).Number(51, 10),
+                R"({"type": "arc", "center": [0, 0], "radius": 2, "startAngle": )" +
+                    Json(400 * (std::numbers::pi / 180)) + R"(, "endAngle": )" +
+                    Json(10 * (std::numbers::pi / 180) + 4 * std::numbers::pi) + "}"});
+}
+
+TEST(DxfReader, AnArcThroughZeroThatIsFullButForRoundingIsFull) {
+    const double start = 0.00001 * (std::numbers::pi / 180);
+    ExpectSame({DxfWriter().Text(0, "ARC").Point(10, 0, 0).Number(40, 2).Number(50, 0.00001).Number(51, 0),
+                R"({"type": "arc", "center": [0, 0], "radius": 2, "startAngle": )" + Json(start) +
+                    R"(, "endAngle": )" + Json(start + 2 * std::numbers::pi) + "}"});
+}
+
 TEST(DxfReader, AnEllipseThatIsFullButForRoundingIsFull) {
     ExpectSame({DxfWriter()
                     .Text(0, "ELLIPSE")
