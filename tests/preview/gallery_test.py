@@ -645,6 +645,90 @@ class Gallery(unittest.TestCase):
         scale = browser.execute_script("return symbols.find((symbol) => symbol.name === 'DASHDOT').scale")
         self.assertEqual(thick, {round(2 * scale, 2)})  # two millimetres of the scale shown
 
+    def test_one_angle_turns_all_symbols_and_stands_in_the_address(self):
+        self.open("typical")
+        turned = lambda name: browser.execute_script(
+            "return [...arguments[0].querySelectorAll('[data-angle]')].map((e) => e.getAttribute('transform'))",
+            self.card(name),
+        )
+        self.assertEqual(turned("BRICKS"), ["rotate(0)", "rotate(-90)"])
+        self.menu("Restyle")
+        self.enter(self.find("[data-all=angle]"), "30")
+        self.menu("Restyle")
+        self.wait(lambda: turned("BRICKS") == ["rotate(-30)", "rotate(-120)"])
+        self.wait(lambda: turned("TREE") == ["rotate(-30)"])
+        self.assertEqual(self.address(), "#?angle=30")
+        browser.get("about:blank")
+        browser.get(pathlib.Path(samples, "typical.html").as_uri() + "#?angle=30")
+        self.wait(lambda: turned("TREE") == ["rotate(-30)"])
+
+    def test_units_stand_behind_controls_and_tiles_have_sizes(self):
+        self.open("typical")
+        units = {}
+        for name in ("GAS", "TREE"):
+            card = self.card(name)
+            self.unfold(card)
+            for row in card.find_elements(By.CSS_SELECTOR, ".control"):
+                identifier = row.find_element(By.TAG_NAME, "input").get_attribute("data-identifier")
+                units[identifier] = [unit.text for unit in row.find_elements(By.CSS_SELECTOR, ".unit")]
+        self.assertEqual(units["LINEWEIGHT"], ["mm"])
+        self.assertEqual(units["ROTATION"], ["°"])
+        self.assertEqual(units["LINECOLOR"], [])
+        self.open("compared")
+        detail = self.card("COURSES").find_element(By.CSS_SELECTOR, ".detail").text
+        self.assertEqual(detail, "Area symbol, tile 1 × 0.1")
+
+    def test_escape_closes_menus(self):
+        self.open("typical")
+        for name in ("View", "Restyle", "Download"):
+            self.menu(name)
+            body = self.find(".menu[open] .menu-body")
+            self.assertTrue(body.is_displayed())
+            browser.switch_to.active_element.send_keys(Keys.ESCAPE)
+            self.assertFalse(body.is_displayed(), name)
+
+    def test_long_names_are_whole_on_a_sheet_that_is_taken_out(self):
+        self.open("hostile")
+        long_names = [name for name in self.texts(".name") if len(name) > 36]
+        self.assertGreater(len(long_names), 0)
+        root = ElementTree.fromstring(self.taken("#take-svg")[1])
+        captions = [text for text in root.findall("{http://www.w3.org/2000/svg}text") if len(text.text or "") > 36]
+        self.assertEqual([caption.text for caption in captions], long_names)
+        for caption in captions:
+            self.assertLessEqual(float(caption.get("textLength")), 300 - 16)
+
+    def test_a_phone_does_all_that_a_desk_does_in_light_and_dark(self):
+        def walk():
+            self.open("folders")
+            for dark in (False, True):
+                browser.execute_script("setTheme(arguments[0])", dark)
+                for name in ("View", "Restyle", "Download"):
+                    self.menu(name)
+                    place = self.find(".menu[open] .menu-body").rect
+                    self.assertGreaterEqual(place["x"], 0)
+                    self.assertLessEqual(place["x"] + place["width"], 375, name)
+                    self.menu(name)
+                self.choose("#group", "folder")
+                self.enter(self.find("#search"), "water")
+                self.assertEqual(self.texts(".group h2"), ["water 3"])
+                self.assertEqual(len(json.loads(self.taken("#take-json")[1])["symbols"]), 3)
+                self.assertEqual(self.taken("#take-svg")[0], "symbols.svg")
+                self.assertTrue(self.taken("#take-style")[1].startswith("<styles>"))
+                self.card("FENCE").find_element(By.CSS_SELECTOR, ".picture").send_keys(Keys.ENTER)
+                self.assertEqual(self.address(), "#FENCE")
+                dialog = self.find("#closeup")
+                self.pick(self.control(dialog, "LINECOLOR"), "#ff0000")
+                self.assertGreater(self.count(self.shot(self.find("#closeup-picture")), is_red), 100)
+                dialog.find_element(By.CSS_SELECTOR, ".controls .button").click()
+                for selector in ("#closeup-close", "#closeup-svg", "#closeup-copy", "#closeup-next", "#closeup-zoom"):
+                    place = self.find(selector).rect
+                    self.assertLessEqual(place["x"] + place["width"], 375, selector)
+                self.find("#closeup-next").click()
+                self.assertEqual(self.find("#closeup-name").text, "BRICKS")
+                self.find("#closeup-close").click()
+
+        self.on_a_phone(walk)
+
     def test_the_address_keeps_what_was_changed_and_opened(self):
         self.open("typical")
         self.pick(self.find("[data-all=color]"), "#00aa00")
