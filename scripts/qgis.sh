@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Imports the styles of all examples into QGIS, without a window, and compares its maps with drawings of the same symbols:
 # qgis.sh [STYLECONV]. QGIS is large: where it is not installed this is skipped, unless CI is set, which installs it.
+# Where STYLECONV_MORE_FILES names a folder, its .pat and .lin files are tested with the examples.
 # "scripts/qgis.sh --pictures" takes the pictures of docs/qgis.md anew.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."

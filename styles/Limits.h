@@ -9,6 +9,10 @@ namespace styles {
 /// none.
 inline constexpr double kMostStrokes = 100'000;
 
+/// Groups of a hatch in one expression. A map program takes a millisecond or more to read each, and it reads
+/// expressions again and again.
+inline constexpr std::size_t kMostGroups = 2;
+
 /// Layers of one line symbol that repeat a mark.
 inline constexpr std::size_t kMostMarks = 1'000;
 

@@ -3,7 +3,9 @@
 #include "styles/Limits.h"
 #include "styles/Numbers.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 namespace styles {
 namespace {
@@ -125,37 +127,46 @@ private:
     std::string seen_;
 };
 
-std::string Collected(const std::vector<std::string>& groups) {
-    if (groups.empty()) {
-        return {};
-    }
-    if (groups.size() == 1) {
-        return groups.front();
+using Groups = std::vector<std::string>;
+
+std::string Collected(Groups::const_iterator first, Groups::const_iterator last) {
+    if (last - first == 1) {
+        return *first;
     }
     std::string text = "collect_geometries(";
-    for (const std::string& group : groups) {
-        text += group + ",";
+    for (; first != last; ++first) {
+        text += *first + ",";
     }
     text.back() = ')';
     return text;
 }
 
+Groups InExpressions(const Groups& groups) {
+    Groups expressions;
+    for (auto first = groups.begin(); first != groups.end();) {
+        const auto last = first + std::min<std::ptrdiff_t>(kMostGroups, groups.end() - first);
+        expressions.push_back(Collected(first, last));
+        first = last;
+    }
+    return expressions;
+}
+
 } // namespace
 
-std::string LinesExpression(const std::vector<Tiling>& tilings, HatchUnit unit) {
+std::vector<std::string> LinesExpressions(const std::vector<Tiling>& tilings, HatchUnit unit) {
     std::vector<std::string> groups;
     for (const Tiling& tiling : tilings) {
         TilingExpression(tiling, unit).AppendLines(groups);
     }
-    return Collected(groups);
+    return InExpressions(groups);
 }
 
-std::string DotsExpression(const std::vector<Tiling>& tilings, HatchUnit unit) {
+std::vector<std::string> DotsExpressions(const std::vector<Tiling>& tilings, HatchUnit unit) {
     std::vector<std::string> groups;
     for (const Tiling& tiling : tilings) {
         TilingExpression(tiling, unit).AppendDots(groups);
     }
-    return Collected(groups);
+    return InExpressions(groups);
 }
 
 std::string EnabledExpression(double density, HatchUnit unit) {

@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace styles {
 
@@ -12,10 +13,10 @@ namespace styles {
 /// downwards.
 enum class HatchUnit { kMap, kMillimetre };
 
-/// The lines of all tilings as one geometry; empty where they have none.
-std::string LinesExpression(const std::vector<Tiling>& tilings, HatchUnit unit);
+/// The lines of all tilings as geometries, each of at most kMostGroups groups; none where they have none.
+std::vector<std::string> LinesExpressions(const std::vector<Tiling>& tilings, HatchUnit unit);
 /// Their dots.
-std::string DotsExpression(const std::vector<Tiling>& tilings, HatchUnit unit);
+std::vector<std::string> DotsExpressions(const std::vector<Tiling>& tilings, HatchUnit unit);
 
 /// Whether a feature has not too many strokes of so many on a square unit, as far as it is seen.
 std::string EnabledExpression(double density, HatchUnit unit);

@@ -1,4 +1,4 @@
-// Hatches: a generator of geometry for the lines of each ink, and one for its dots.
+// Hatches: generators of geometry for the lines of each ink, and for its dots.
 
 #include "styles/QgisSymbols.h"
 
@@ -26,7 +26,7 @@ bool WriteFillLayers(QgisXml& xml, const AreaParts& area, HatchUnit unit, std::s
     std::size_t layers = 0;
     for (const AreaLayer& layer : area.layers) {
         const double density = DensityOf(layer.tilings);
-        if (const std::string lines = LinesExpression(layer.tilings, unit); !lines.empty()) {
+        for (const std::string& lines : LinesExpressions(layer.tilings, unit)) {
             OpenGenerator(xml, "Line", lines, density, unit);
             xml.OpenSymbol("line", InnerName(name, layers++), true);
             OpenSimpleLine(xml, layer.ink);
@@ -35,7 +35,7 @@ bool WriteFillLayers(QgisXml& xml, const AreaParts& area, HatchUnit unit, std::s
             xml.CloseSymbol();
             xml.CloseLayer();
         }
-        if (const std::string dots = DotsExpression(layer.tilings, unit); !dots.empty()) {
+        for (const std::string& dots : DotsExpressions(layer.tilings, unit)) {
             OpenGenerator(xml, "Marker", dots, density, unit);
             WriteDotSymbol(xml, layer.ink, InnerName(name, layers++));
             xml.CloseLayer();

@@ -1,7 +1,8 @@
 """Imports what the tool writes into QGIS and compares its maps with drawings of the same symbols:
 qgis_test.py STYLECONV EXAMPLES [PICTURES]
 
-PICTURES is a folder for the pictures of the documentation."""
+PICTURES is a folder for what the maps look like. Where STYLECONV_MORE_FILES names a folder, its .pat and .lin files are
+tested with the examples."""
 import glob
 import json
 import math
@@ -24,6 +25,7 @@ from qgis.PyQt.QtGui import QColor
 MOST_OFF = 0.001
 TILTED = [[(4, 4), (61, 9), (55, 60), (9, 52)], [(25, 25), (42, 28), (33, 44)]]  # with a hole
 ORIGIN = (400000.0, 5700000.0)
+SCALED = ["--scale", "10"]  # what is drawn in metres, so that its strokes can be told apart
 UNITS = maps.SIZE / maps.MM  # of a map with a unit to each millimetre of the page
 
 
@@ -33,19 +35,30 @@ def convert(command, file, *options):
     run = subprocess.run(
         [styleconv, command, file, "--format", "qgis", "-o", target, *options], stderr=subprocess.PIPE, check=True
     )
-    plain = [option for option in options if option not in ("--hatch-units", "mm")]
+    plain = [option for option in options if option not in ("--hatch-units", "mm", *SCALED)]
     document = subprocess.run(
         [styleconv, command, file, "--faithful", *plain], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=True
     )
     return target, json.loads(document.stdout)["symbols"], run.stderr.decode()
 
 
+def pattern_files():
+    return sorted(glob.glob(f"{examples}/patterns/*.pat")) + (sorted(glob.glob(f"{more}/*.pat")) if more else [])
+
+
+def scale_options(file):
+    return [] if file.startswith(examples) else SCALED
+
+
 def all_files():
     styles = ["--shapes", f"{examples}/shapes", "--drawing", f"{examples}/linetypes/styles.json"]
-    for file in sorted(glob.glob(f"{examples}/patterns/*.pat")):
-        yield "patterns", file, [], "hatch"
+    for file in pattern_files():
+        yield "patterns", file, scale_options(file), "hatch"
     for file in sorted(glob.glob(f"{examples}/linetypes/*.lin")):
         yield "linetypes", file, styles, "linetype"
+    # What else they need is not at hand; the rest of each is converted.
+    for file in sorted(glob.glob(f"{more}/*.lin")) if more else []:
+        yield "linetypes", file, ["--tolerant"], "linetype"
     for file in sorted(glob.glob(f"{examples}/drawings/*.json") + glob.glob(f"{examples}/drawings/*.dxf")):
         yield "blocks", file, styles[:2], "block"
 
@@ -184,18 +197,19 @@ class Areas(unittest.TestCase):
             self.assertLess(part, MOST_OFF)
 
     def test_hatches_in_map_units_look_as_the_pattern_says(self):
-        for file in sorted(glob.glob(f"{examples}/patterns/*.pat")):
-            path, symbols, _ = convert("patterns", file)
+        for file in pattern_files():
+            path, symbols, _ = convert("patterns", file, *scale_options(file))
             style = symbols_of(path)
             for symbol in symbols:
-                self.compare(style, symbol, TILTED, 1, (4, 4), symbol["name"])
+                self.compare(style, symbol, TILTED, float((scale_options(file) or [1])[-1]), (4, 4), symbol["name"])
 
     def test_hatches_in_millimetres_look_as_the_pattern_says(self):
-        for file in sorted(glob.glob(f"{examples}/patterns/*.pat")):
-            path, symbols, _ = convert("patterns", file, "--hatch-units", "mm")
+        for file in pattern_files():
+            path, symbols, _ = convert("patterns", file, "--hatch-units", "mm", *scale_options(file))
             style = symbols_of(path)
             for symbol in symbols:
-                self.compare(style, symbol, TILTED, 1, (4, 4), symbol["name"] + "-mm")
+                scale = float((scale_options(file) or [1])[-1])
+                self.compare(style, symbol, TILTED, scale, (4, 4), symbol["name"] + "-mm")
 
     def test_two_views_that_overlap_agree(self):
         path, symbols, _ = convert("patterns", f"{examples}/patterns/marsh.pat")
@@ -278,7 +292,7 @@ class Areas(unittest.TestCase):
 
     def test_expressions_are_read_quickly(self):
         worst = 0.0
-        for file in sorted(glob.glob(f"{examples}/patterns/*.pat")):
+        for file in pattern_files():
             for options in ([], ["--hatch-units", "mm"]):
                 path, _, _ = convert("patterns", file, *options)
                 for option in ElementTree.parse(path).iter("Option"):
@@ -432,6 +446,7 @@ class Points(unittest.TestCase):
 if __name__ == "__main__":
     styleconv, examples = os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2])
     pictures = os.path.abspath(sys.argv[3]) if len(sys.argv) > 3 else None
+    more = os.environ.get("STYLECONV_MORE_FILES")
     with tempfile.TemporaryDirectory() as folder:
         program = unittest.main(argv=sys.argv[:1] + ["-v"], exit=False)
     # Without the program's own end, which waits for nothing of ours.

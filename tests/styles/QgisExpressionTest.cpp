@@ -1,5 +1,7 @@
 #include "styles/QgisExpression.h"
 
+#include "styles/Limits.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -19,11 +21,25 @@ Tiling TilingOf(double angle, double stepX, double stepY) {
     return tiling;
 }
 
+// What one expression says; nothing where there is none.
+std::string Only(const std::vector<std::string>& expressions) {
+    EXPECT_LE(expressions.size(), 1U);
+    return expressions.empty() ? "" : expressions.front();
+}
+
+std::string OnlyLines(const std::vector<Tiling>& tilings, HatchUnit unit) {
+    return Only(LinesExpressions(tilings, unit));
+}
+
+std::string OnlyDots(const std::vector<Tiling>& tilings, HatchUnit unit) {
+    return Only(DotsExpressions(tilings, unit));
+}
+
 TEST(QgisExpression, RowsAreLinesFromOneSideOfThePolygonToTheOther) {
     Tiling tiling = TilingOf(0, 10, 5);
     tiling.rows = {1.5};
     EXPECT_EQ(
-        LinesExpression({tiling}, HatchUnit::kMap),
+        OnlyLines({tiling}, HatchUnit::kMap),
         "with_variable('g'," + kSeen +
             ",intersection(collect_geometries(array_foreach("
             "generate_series((y_min(@g)-y_min($geometry)+-1.5)//5,(y_max(@g)-y_min($geometry)+-1.5)//5+1),"
@@ -35,7 +51,7 @@ TEST(QgisExpression, ColumnsAreLinesFromItsFootToItsHead) {
     Tiling tiling = TilingOf(0, 10, 5);
     tiling.columns = {2};
     EXPECT_EQ(
-        LinesExpression({tiling}, HatchUnit::kMap),
+        OnlyLines({tiling}, HatchUnit::kMap),
         "with_variable('g'," + kSeen +
             ",intersection(collect_geometries(array_foreach("
             "generate_series((x_min(@g)-x_min($geometry)+-2)//10,(x_max(@g)-x_min($geometry)+-2)//10+1),"
@@ -47,7 +63,7 @@ TEST(QgisExpression, StrokesAreTilesOfTheTurnedPolygonThatAreTurnedBack) {
     Tiling tiling = TilingOf(30, 4, 3);
     tiling.strokes = {{{0, 0}, {1, 2}}, {{2, -1}, {3, 0}}};
     const std::string anchor = ",make_point(x_min($geometry),y_min($geometry)))";
-    EXPECT_EQ(LinesExpression({tiling}, HatchUnit::kMap),
+    EXPECT_EQ(OnlyLines({tiling}, HatchUnit::kMap),
               "rotate(with_variable('g',rotate(" + kSeen + ",30" + anchor +
                   ",intersection(collect_geometries(with_variable('r',collect_geometries(array_foreach("
                   "generate_series((x_min(@g)-x_min($geometry)+-3)//4,(x_max(@g)-x_min($geometry)+0)//4+1),"
@@ -62,7 +78,7 @@ TEST(QgisExpression, OnThePageYPointsDown) {
     Tiling tiling = TilingOf(30, 4, 3);
     tiling.strokes = {{{0, 0}, {1, 2}}};
     const std::string anchor = ",make_point(x_min($geometry),y_max($geometry)))";
-    EXPECT_EQ(LinesExpression({tiling}, HatchUnit::kMillimetre),
+    EXPECT_EQ(OnlyLines({tiling}, HatchUnit::kMillimetre),
               "rotate(with_variable('g',rotate(" + kWhole + ",330" + anchor +
                   ",intersection(collect_geometries(with_variable('r',collect_geometries(array_foreach("
                   "generate_series((x_min(@g)-x_min($geometry)+-1)//4,(x_max(@g)-x_min($geometry)+0)//4+1),"
@@ -76,14 +92,34 @@ TEST(QgisExpression, OnThePageYPointsDown) {
 TEST(QgisExpression, DotsAreAnExpressionOfTheirOwn) {
     Tiling tiling = TilingOf(0, 4, 3);
     tiling.dots = {{1, 2}};
-    EXPECT_EQ(LinesExpression({tiling}, HatchUnit::kMap), "");
-    const std::string dots = DotsExpression({tiling}, HatchUnit::kMap);
+    EXPECT_EQ(OnlyLines({tiling}, HatchUnit::kMap), "");
+    const std::string dots = OnlyDots({tiling}, HatchUnit::kMap);
     EXPECT_NE(dots.find("geom_from_wkt('MULTIPOINT((1 2))')"), std::string::npos);
-    EXPECT_EQ(DotsExpression({tiling, tiling}, HatchUnit::kMap),
-              "collect_geometries(" + dots + "," + dots + ")");
+    EXPECT_EQ(OnlyDots({tiling, tiling}, HatchUnit::kMap), "collect_geometries(" + dots + "," + dots + ")");
 }
 
 // "--" begins a comment.
+TEST(QgisExpression, ManyGroupsAreSeveralExpressions) {
+    std::vector<Tiling> tilings;
+    std::vector<std::string> alone;
+    static_assert(kMostGroups == 2);
+    for (std::size_t i = 0; i < 2 * kMostGroups + 1; ++i) {
+        Tiling tiling = TilingOf(0, 10, 5);
+        tiling.rows = {static_cast<double>(i)};
+        tiling.dots = {{static_cast<double>(i), 1}};
+        tilings.push_back(tiling);
+        alone.push_back(OnlyLines({tiling}, HatchUnit::kMap));
+    }
+    const std::vector<std::string> lines = LinesExpressions(tilings, HatchUnit::kMap);
+    ASSERT_EQ(lines.size(), 3U);
+    EXPECT_EQ(lines[0], "collect_geometries(" + alone[0] + "," + alone[1] + ")");
+    EXPECT_EQ(lines[1], "collect_geometries(" + alone[2] + "," + alone[3] + ")");
+    EXPECT_EQ(lines[2], alone[4]);
+    EXPECT_EQ(DotsExpressions(tilings, HatchUnit::kMap).size(), 3U);
+    tilings.resize(kMostGroups);
+    EXPECT_EQ(LinesExpressions(tilings, HatchUnit::kMap).size(), 1U);
+}
+
 TEST(QgisExpression, NoNumberMakesAComment) {
     Tiling tiling = TilingOf(-400, 4, 3);
     tiling.rows = {-1, 1};
@@ -91,8 +127,10 @@ TEST(QgisExpression, NoNumberMakesAComment) {
     tiling.strokes = {{{-3, -4}, {3, 4}}};
     tiling.dots = {{-1, -1}};
     for (const HatchUnit unit : {HatchUnit::kMap, HatchUnit::kMillimetre}) {
-        EXPECT_EQ(LinesExpression({tiling}, unit).find("--"), std::string::npos);
-        EXPECT_EQ(DotsExpression({tiling}, unit).find("--"), std::string::npos);
+        for (const std::string& lines : LinesExpressions({tiling}, unit)) {
+            EXPECT_EQ(lines.find("--"), std::string::npos);
+        }
+        EXPECT_EQ(OnlyDots({tiling}, unit).find("--"), std::string::npos);
     }
 }
 
