@@ -108,16 +108,16 @@ Json DataOf(const ResolvedSymbol& symbol, const Picture& picture, PictureStyle s
     return data;
 }
 
-// The drawing that can be laid over the symbol's own.
-std::string FaithfulSvg(const ResolvedSymbol& symbol, const Picture& picture, std::size_t number,
-                        TylModel::SymbolDefinition& faithful) {
+// Adds the drawing that can be laid over the symbol's own, and the parameters that it follows.
+void AddFaithful(Json& data, const ResolvedSymbol& symbol, const Picture& picture, std::size_t number,
+                 TylModel::SymbolDefinition& faithful) {
     PictureStyle style = StyleOfCard(number);
     style.idPrefix.insert(0, "f");
-    style.bindings = false;
     style.scale = picture.scale;
     style.frame = FrameOf(symbol);
     const ResolvedSymbol resolved = Resolve(faithful);
-    return PictureSvg(resolved, DrawPicture(resolved, style));
+    data["faithful"] = PictureSvg(resolved, DrawPicture(resolved, style));
+    data["faithfulParameters"] = ParametersOf(resolved);
 }
 
 // The data with one more member, whose text is JSON already.
@@ -200,7 +200,7 @@ bool GalleryWriter::Add(TylModel::SymbolDefinition& symbol, const GalleryFacts& 
     const Picture picture = DrawPicture(resolved, style);
     Json data = DataOf(resolved, picture, style, CommonScale(resolved.usage));
     if (facts.faithful != nullptr && picture.scale > 0) {
-        data["faithful"] = FaithfulSvg(resolved, picture, added_, *facts.faithful);
+        AddFaithful(data, resolved, picture, added_, *facts.faithful);
     }
     if (facts.glyph != nullptr) {
         data["glyph"] = {

@@ -39,7 +39,11 @@ class SymbolCard {
 
   // The value in force: the symbol's own, else that for all symbols, else the default.
   get values() {
-    return this.data.parameters.map(
+    return this.valuesOf(this.data.parameters);
+  }
+
+  valuesOf(parameters) {
+    return parameters.map(
       (parameter) => this.own.get(parameter.identifier) ?? restyling.valueFor(parameter) ?? parameter.value,
     );
   }

@@ -50,7 +50,7 @@ const closeup = {
     restyle(this.svg, symbol.values);
     layPaper(this.picture, inksOf(this.svg.outerHTML));
     if (!this.compare.hidden && this.compare.ariaPressed === "true") {
-      this.picture.append(faithfulOver(this.svg, symbol));
+      layFaithful(this.picture, this.svg, symbol);
     }
     this.applyZoom();
   },
@@ -74,6 +74,9 @@ const closeup = {
     const bar = document.getElementById("closeup-scale");
     const pixels = (share * this.svg.getBoundingClientRect().width) / kPictureWidth;
     weigh(this.svg, this.symbol.values, pixels);
+    for (const over of view.querySelectorAll(".faithful")) {
+      weigh(over, faithfulValuesOf(this.symbol), pixels * enlargementOf(this.symbol));
+    }
     bar.style.width = `${tellScale(bar, this.symbol.scale * pixels)}px`;
   },
 
@@ -115,17 +118,24 @@ function renameIds(svg) {
   }
 }
 
-// The faithful drawing of a symbol as it lies over the picture of the strict one, in a colour of its own.
-function faithfulOver(svg, symbol) {
+// The values in force for the faithful drawing, which may have other texts.
+function faithfulValuesOf(symbol) {
+  return symbol.valuesOf(symbol.data.faithfulParameters);
+}
+
+// Lays the faithful drawing of a symbol over the picture of the strict one, in a colour of its own. It follows the same
+// values, and moves as the strict one was moved.
+function layFaithful(picture, svg, symbol) {
   const over = parsePicture(symbol.data.faithful);
   renameIds(over);
   over.classList.add("faithful");
+  picture.append(over);
+  restyle(over, faithfulValuesOf(symbol));
   over.querySelector(".fit")?.setAttribute("transform", svg.querySelector(".fit").getAttribute("transform"));
   const { width, height } = over.viewBox.baseVal;
   const enlarged = enlargementOf(symbol);
   const [seenWidth, seenHeight] = [width / enlarged, height / enlarged];
   over.setAttribute("viewBox", [(width - seenWidth) / 2, (height - seenHeight) / 2, seenWidth, seenHeight].join(" "));
-  return over;
 }
 
 closeup.compare.addEventListener("click", () => {

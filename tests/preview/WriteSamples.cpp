@@ -66,8 +66,9 @@ void WriteGallery(const std::string& name, const std::vector<SymbolPointer>& sym
 void WriteCompared() {
     const auto area = [](const wchar_t* repeat) {
         auto symbol = NewSymbol(L"COURSES");
-        AddPath(*symbol, L"M 0,0 L 1,0 ");
-        SetAreaUsage(*symbol, L"0", L"1", repeat);
+        AddLineParameters(*symbol);
+        AddPath(*symbol, L"M 0,0 L 1,0 ", L"%LINECOLOR%").SetLineWeight(L"%LINEWEIGHT%");
+        SetAreaUsage(*symbol, L"%HATCHANGLE%", L"1", repeat);
         return symbol;
     };
     const auto strict = PointSymbol(L"OPEN", L"M 0,0 L 10,0 L 10,10 L 0,10");

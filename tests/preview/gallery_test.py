@@ -955,6 +955,32 @@ class Gallery(unittest.TestCase):
         self.find("#closeup-compare").click()
         self.assertEqual(self.count(self.shot(self.find("#closeup-picture")), over), 0)
 
+    def test_the_drawing_laid_over_follows_changed_values(self):
+        self.open("compared")
+        values = lambda: browser.execute_script(
+            "return [...closeup.picture.children].map((svg) => {"
+            "  const path = svg.querySelector('path[stroke]'), { a, b, c, d, e, f } = path.getScreenCTM();"
+            "  return { place: [a, b, c, d, e, f].map((value) => Math.round(value * 1000) / 1000),"
+            "    weight: Number(path.getAttribute('stroke-width')), color: getComputedStyle(path).stroke }; })"
+        )
+        for name, angle in (("OPEN", "30"), ("OPEN", "90"), ("COURSES", "30")):
+            self.compare(name)
+            before, _ = values()
+            browser.execute_script("restyling.set('angle', Number(arguments[0]))", angle)
+            strict, over = values()
+            self.assertNotEqual(before["place"], strict["place"], name)
+            self.assertEqual(strict["place"], over["place"], name)
+            browser.execute_script("restyling.set('angle', undefined)")
+        # The weight of a line, at every zoom; the colour of the drawing laid over stays its own.
+        own = values()[1]["color"]
+        browser.execute_script("restyling.set('weight', 0.05); restyling.set('color', '#00aa00')")
+        for key in (Keys.HOME, Keys.END):
+            self.find("#closeup-zoom").send_keys(key)
+            strict, over = values()
+            self.assertGreater(strict["weight"], 1.5)
+            self.assertEqual(strict["weight"], over["weight"])
+            self.assertEqual((strict["color"], over["color"]), ("rgb(0, 170, 0)", own))
+
     def test_a_hatch_is_compared_at_every_zoom_in_light_and_dark(self):
         self.open("compared")
         over = lambda pixel: pixel[0] > 150 and pixel[2] > 120 and pixel[1] < 130
