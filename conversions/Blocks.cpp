@@ -144,7 +144,7 @@ private:
     // What the symbol loses is told, and is no reason to fail.
     void Measure(TylModel::SymbolDefinition& symbol, const std::wstring& name,
                  const BlockLosses::Convert& convert, Diagnostics& found) {
-        auto losses = losses_.Of(symbol, "block " + ShownText(name), convert);
+        auto losses = losses_.Of(symbol, "block " + ShownText(name), name, convert);
         if (!losses) {
             return;
         }

@@ -55,6 +55,9 @@ public:
         size_ = std::max(faithful_.all.Width(), faithful_.all.Height());
         if (size_ > 0.0 && std::isfinite(size_)) {
             const double little = kLittle * size_;
+            if (const double size = std::max(strict_.all.Width(), strict_.all.Height()); size > 0.0) {
+                measure_.scale = size_ / size;
+            }
             farthest_ = little;
             ComparePaths();
             CompareTexts();

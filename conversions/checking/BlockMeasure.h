@@ -14,6 +14,7 @@ struct BlockMeasure {
     std::size_t lost = 0;         // of these
     double share = 0.0;           // the farthest that something is from its place, of the block's larger side
     std::optional<CutNumber> cut; // the number that makes it so, where one does
+    double scale = 1.0;           // how many times as large the drawing shows it
     bool isText = false;          // whether a text makes it so, by its codes or its place
 };
 

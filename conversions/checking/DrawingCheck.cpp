@@ -91,21 +91,22 @@ private:
         if (!ChangesBlocks(view_) || block == nullptr) {
             blockCheck_.Check(record, false, found_);
             if (isNamed) {
-                Measure(ItemOf(record),
+                Measure(ItemOf(record), name,
                         [&](BlockConverter& converter) { return converter.Convert(std::wstring(name)); });
             }
         } else if (const auto copy = CopyAsSeen(view_, input_.name, drawing_, *block, found_)) {
             blockCheck_.Check(*copy, view_.seenAs.startsAtBasePoint, found_);
-            Measure(ItemOf(record), [&](BlockConverter& converter) { return converter.Convert(copy.get()); });
+            Measure(ItemOf(record), name,
+                    [&](BlockConverter& converter) { return converter.Convert(copy.get()); });
         }
     }
 
-    void Measure(const std::string& item, const BlockLosses::Convert& convert) {
+    void Measure(const std::string& item, const std::wstring& name, const BlockLosses::Convert& convert) {
         const std::unique_ptr<TylModel::SymbolDefinition> strict(convert(converter_));
         if (strict == nullptr) {
             return;
         }
-        if (auto losses = losses_.Of(*strict, item, convert)) {
+        if (auto losses = losses_.Of(*strict, item, name, convert)) {
             found_.push_back(std::move(losses->diagnostic));
         }
     }

@@ -359,6 +359,29 @@ TEST_F(Check, BlocksThatAreDrawnOutOfPlaceAreTold) {
               "0 errors, 0 warnings in 1 file\n");
 }
 
+TEST_F(Check, BlocksOfAUnitWithoutAFactorAreTold) {
+    const auto drawing = [](int ofDrawing, int ofBlock) {
+        return R"({"format": "styleconversion/drawing", "version": 1, "insunits": )" +
+               std::to_string(ofDrawing) + R"(, "blocks": [{"name": "B", "units": )" +
+               std::to_string(ofBlock) +
+               R"(, "entities": [{"type": "line", "start": [0, 0], "end": [10, 0]}]}]})";
+    };
+    const std::string rest = " has no factor and leaves the scale as it was; --faithful draws it "
+                             "(block B) [block-out-of-place]\n"
+                             "1 error, 0 warnings in 1 file\n";
+    // 10 mm for 254 mm: inches are 25.4 mm, and those of land surveys hardly more.
+    EXPECT_EQ(Found("a.json", drawing(4, 22)),
+              ": error: drawn up to 96 % of its size out of place: unit 22" + rest);
+    EXPECT_EQ(Found("a.json", drawing(22, 0)),
+              ": error: drawn up to 96 % of its size out of place: unit 22" + rest);
+    // 100 mm for 10 mm.
+    EXPECT_EQ(Found("a.json", drawing(5, 99)),
+              ": error: drawn up to 900 % of its size out of place: unit 99" + rest);
+    // A millimetre either way.
+    EXPECT_EQ(Found("a.json", drawing(4, 99)), "0 errors, 0 warnings in 1 file\n");
+    EXPECT_EQ(Found("a.json", drawing(99, 0)), "0 errors, 0 warnings in 1 file\n");
+}
+
 TEST_F(Check, BlocksAreMeasuredAsTheyAreSeen) {
     // 0.00999 of 10, of 0.10999 where the long line is left out, and of nothing where it is 1.0999 as
     // inserted.
