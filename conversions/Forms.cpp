@@ -121,7 +121,8 @@ bool WriteSymbols(const SymbolList& symbols, Form form, const TextSink& sink, Fr
     }
     case Form::kMaplibre: {
         StyleJob unheard;
-        return WriteAll(symbols, MaplibreStyles(sink, styles != nullptr ? *styles : unheard), front);
+        return WriteAll(symbols, MaplibreStyles(sink, captions, styles != nullptr ? *styles : unheard),
+                        front);
     }
     case Form::kSvg:
     case Form::kPng:

@@ -62,22 +62,28 @@ std::string SubjectOf(styles::Loss loss) {
                                                : std::to_string(styles::kLargestPicture);
 }
 
-std::string SymbolItem(TylModel::SymbolDefinition& symbol) {
-    return "symbol " + ShownText(symbol.GetName());
+// The file that a symbol comes from.
+const std::string& SourceOf(const TylModel::SymbolDefinition& symbol, const Captions& captions,
+                            const StyleJob& job) {
+    const auto source = captions.sources.find(&symbol);
+    return source != captions.sources.end() ? source->second : job.file;
 }
 
-void TellOfName(const std::string& name, const std::string& item, StyleJob& job) {
-    job.diagnostics.push_back({Severity::kWarning,
-                               Code::kStyleRenamed,
-                               {job.file, 0, item},
-                               {ShownText(platform::Utf8ToWide(name))}});
+diagnostics::Place PlaceOf(TylModel::SymbolDefinition& symbol, const Captions& captions,
+                           const StyleJob& job) {
+    return {SourceOf(symbol, captions, job), 0, "symbol " + ShownText(symbol.GetName())};
 }
 
-void TellOfLosses(const styles::Losses& losses, const std::string& item, StyleJob& job) {
+void TellOfName(const std::string& name, const diagnostics::Place& place, StyleJob& job) {
+    job.diagnostics.push_back(
+        {Severity::kWarning, Code::kStyleRenamed, place, {ShownText(platform::Utf8ToWide(name))}});
+}
+
+void TellOfLosses(const styles::Losses& losses, const diagnostics::Place& place, StyleJob& job) {
     for (const styles::Loss loss : losses) {
         // Nobody misses what every pattern has and the program's own buttons do.
         const Severity severity = loss == styles::Loss::kTurningParts ? Severity::kNote : Severity::kWarning;
-        job.diagnostics.push_back({severity, CodeOfLoss(loss), {job.file, 0, item}, {SubjectOf(loss)}});
+        job.diagnostics.push_back({severity, CodeOfLoss(loss), place, {SubjectOf(loss)}});
     }
 }
 
@@ -87,8 +93,7 @@ QgisStyles::QgisStyles(const TextSink& sink, const Captions& captions, StyleJob&
     : captions_(captions), job_(job), writer_(sink, OptionsOf(job)) {}
 
 const std::vector<std::string>& QgisStyles::TagsOf(const TylModel::SymbolDefinition& symbol) {
-    const auto source = captions_.sources.find(&symbol);
-    const std::string& file = source != captions_.sources.end() ? source->second : job_.file;
+    const std::string& file = SourceOf(symbol, captions_, job_);
     const auto [tags, isNew] = tags_.try_emplace(file);
     if (isNew && file != "standard input" && file != "standard output") {
         tags->second = StyleTags(file, job_.folders);
@@ -101,10 +106,11 @@ bool QgisStyles::Add(TylModel::SymbolDefinition& symbol) {
     if (!writer_.Add(symbol, TagsOf(symbol), added)) {
         return false;
     }
+    const diagnostics::Place place = PlaceOf(symbol, captions_, job_);
     if (added.isRenamed) {
-        TellOfName(added.name, SymbolItem(symbol), job_);
+        TellOfName(added.name, place, job_);
     }
-    TellOfLosses(added.losses, SymbolItem(symbol), job_);
+    TellOfLosses(added.losses, place, job_);
     return true;
 }
 
@@ -123,25 +129,25 @@ std::string QgisEntries::Of(TylModel::SymbolDefinition& symbol) {
                                                        : text_;
 }
 
-MaplibreStyles::MaplibreStyles(const TextSink& sink, StyleJob& job)
-    : job_(job), writer_(sink, {job.scale, job.allowsApproximate}) {}
+MaplibreStyles::MaplibreStyles(const TextSink& sink, const Captions& captions, StyleJob& job)
+    : captions_(captions), job_(job), writer_(sink, {job.scale, job.allowsApproximate}) {}
 
 bool MaplibreStyles::Add(TylModel::SymbolDefinition& symbol) {
     styles::AddedLayer added;
     if (!writer_.Add(symbol, added)) {
         return false;
     }
+    const diagnostics::Place place = PlaceOf(symbol, captions_, job_);
     if (added.isRenamed) {
-        TellOfName(added.name, SymbolItem(symbol), job_);
+        TellOfName(added.name, place, job_);
     }
-    TellOfLosses(added.picture.losses, SymbolItem(symbol), job_);
+    TellOfLosses(added.picture.losses, place, job_);
     if (added.pictureName.empty()) {
         return true;
     }
     if (job_.allowsApproximate && added.picture.error > styles::kSeamless) {
         const std::string error = styles::PlainNumber(std::round(added.picture.error * 100) / 100);
-        job_.diagnostics.push_back(
-            {Severity::kWarning, Code::kStyleApproximate, {job_.file, 0, SymbolItem(symbol)}, {error}});
+        job_.diagnostics.push_back({Severity::kWarning, Code::kStyleApproximate, place, {error}});
     }
     job_.pictures.push_back(
         {added.pictureName, std::move(added.picture.svg), added.picture.width, added.picture.height});

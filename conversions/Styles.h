@@ -49,13 +49,14 @@ private:
 /// job, and so is what it does not say of the symbols.
 class MaplibreStyles {
 public:
-    MaplibreStyles(const TextSink& sink, StyleJob& job);
+    MaplibreStyles(const TextSink& sink, const Captions& captions, StyleJob& job);
 
     /// Each is false when the sink refuses a text.
     bool Add(TylModel::SymbolDefinition& symbol);
     bool Finish() { return writer_.Finish(); }
 
 private:
+    const Captions& captions_;
     StyleJob& job_;
     styles::MaplibreStyleWriter writer_;
 };

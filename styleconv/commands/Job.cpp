@@ -304,6 +304,7 @@ ExitStatus WriteForm(
     const auto writeResult = [&](const conversions::TextSink& sink) { return write(sink, styles); };
     const ExitStatus status = WriteInForm(options, form, styles, writeResult);
     MergeAlike(styles.diagnostics);
+    MergeAcrossFiles(styles.diagnostics);
     SayAll(styles.diagnostics);
     return status;
 }

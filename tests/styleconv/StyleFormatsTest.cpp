@@ -186,6 +186,24 @@ TEST(StyleFormats, AFolderHoldsTheStyleOfMapLibreAndItsPictures) {
     EXPECT_EQ(folder.Read("map/style.json"), style);
 }
 
+TEST(StyleFormats, WhatIsNotCarriedOverOfSeveralFilesIsToldOfTheSymbolsOwn) {
+    const ScratchFolder folder;
+    const std::string plain = folder.Write("a.lin", "*PLAIN\nA,1,-1\n");
+    const std::string hot = folder.Write("b.lin", "*HOT\nA,8,-1,[\"%%u90\",STANDARD,S=1],-6\n");
+    const std::string cold = folder.Write("c.lin", "*COLD\nA,8,-1,[\"%%u90\",STANDARD,S=1],-6\n");
+    const std::string errors =
+        RunQgis({"convert", plain, hot, cold}, {"--font", "Arial", "-o", folder / "all.xml"}).errors;
+    const std::string lost = ": warning: lines under and over texts are not part of the style (symbol ";
+    EXPECT_TRUE(Has(errors, hot + lost + "HOT)\n")) << errors;
+    EXPECT_TRUE(Has(errors, cold + lost + "COLD)\n")) << errors;
+    EXPECT_FALSE(Has(errors, "all.xml")) << errors;
+    const std::string walls = folder.Write("walls.pat", "*LEVEL\n0, 0,0, 0,.125\n");
+    const ToolResult map = RunTool({"convert", plain, walls, "--format", "maplibre", "-o", folder / "map"});
+    EXPECT_TRUE(Has(map.errors, walls + ": note: the style keeps the angle at the default of its parameter "
+                                        "(symbol LEVEL)\n"))
+        << map.errors;
+}
+
 TEST(StyleFormats, AStyleOfMapLibreNeedsAFolder) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.pat", "*LEVEL\n0, 0,0, 0,.125\n");
