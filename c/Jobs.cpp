@@ -155,6 +155,7 @@ Diagnostics Convert(FileKind kind, const Input& input, const Options& options, C
     };
     gathering.Write(options.form, false, append, front, &styles);
     MergeAlike(styles.diagnostics);
+    MergeAcrossFiles(styles.diagnostics);
     Append(told, std::move(styles.diagnostics));
     return told;
 }
