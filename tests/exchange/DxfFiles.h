@@ -4,6 +4,7 @@
 #include "StyleConversion/block/BlockConverter.h"
 #include "diagnostics/Sentences.h"
 #include "documents/DrawingReader.h"
+#include "documents/DrawingWriter.h"
 #include "documents/SymbolsDocument.h"
 #include "exchange/DxfReader.h"
 #include "tests/support/DxfWriter.h"
@@ -52,6 +53,37 @@ inline std::string SymbolsOfDxf(const std::string& bytes, exchange::DxfNotes* no
     const auto database = exchange::ReadDxf(bytes, fault, notes != nullptr ? *notes : own);
     fault.place.file = "f";
     return database != nullptr ? SymbolsOf(*database) : diagnostics::MessageOf(fault);
+}
+
+/// The drawing document of a drawing, which holds every value of it.
+inline std::string DocumentOf(const drawing::Database& database) {
+    std::string document;
+    documents::WriteDrawing(database, [&](std::string_view piece) {
+        document += piece;
+        return true;
+    });
+    return document;
+}
+
+/// The same of a file, or the message of its refusal.
+inline std::string DocumentOfDxf(const std::string& bytes) {
+    diagnostics::Diagnostic fault;
+    exchange::DxfNotes notes;
+    const auto database = exchange::ReadDxf(bytes, fault, notes);
+    return database != nullptr ? DocumentOf(*database) : diagnostics::MessageOf(fault);
+}
+
+/// The same of a drawing document with these members.
+inline std::string DocumentOfJson(const std::string& members) {
+    documents::DrawingError error;
+    const auto database = documents::ReadDrawing(
+        std::string_view(R"({"format": "styleconversion/drawing", "version": 1, )" + members + "}"), error);
+    return database != nullptr ? DocumentOf(*database) : error.Text();
+}
+
+/// The members of a drawing document with one block "B" of these entities.
+inline std::string BlockOfJson(const std::string& entities) {
+    return R"("layers": [{"name": "0"}], "blocks": [{"name": "B", "entities": [)" + entities + "]}]";
 }
 
 /// The symbols of a drawing document with one block "B" of these entities, and with the layer 0, which a file
