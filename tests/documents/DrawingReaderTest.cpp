@@ -2,7 +2,9 @@
 #include "OxDb/OxDb.h"
 #include "tests/documents/DrawingDocuments.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
@@ -327,6 +329,78 @@ TEST_F(DrawingReader, HatchesHaveLoopsOfBothKinds) {
     EXPECT_TRUE(edges[2]->isClosed());
     EXPECT_EQ(static_cast<const OxGeEllipArc2d&>(*edges[2]).minorRadius(), 1.0);
     EXPECT_TRUE(edges[3]->isKindOf(OxGe::kNurbCurve2d));
+}
+
+// A square whose edges are given by the numbers of their corners, from 0 to 3 counter-clockwise.
+std::string SquareHatch(std::initializer_list<std::pair<int, int>> edges, const std::string& filling) {
+    const char* const corners[] = {"[0, 0]", "[4, 0]", "[4, 4]", "[0, 4]"};
+    std::string all;
+    for (const auto& [start, end] : edges) {
+        all += (all.empty() ? "" : ", ") + std::string(R"({"type": "line", "start": )") + corners[start] +
+               R"(, "end": )" + corners[end] + "}";
+    }
+    return R"({"type": "hatch", "loops": [{"edges": [)" + all + "]}], " + filling + "}";
+}
+
+TEST_F(DrawingReader, EdgesOfAHatchMayStandInAnyOrderAndDirection) {
+    const std::string lines =
+        R"("pattern": [{"angle": 0, "base": [0, 0.5], "offset": [0, 1], "dashes": []}])";
+    Read(EntityDocument(SquareHatch({{0, 1}, {1, 2}, {2, 3}, {3, 0}}, lines) + "," +
+                        SquareHatch({{0, 1}, {2, 3}, {2, 1}, {0, 3}}, lines) + "," +
+                        SquareHatch({{0, 1}, {2, 3}, {2, 1}, {0, 3}}, R"("solid": true)")));
+    for (int number = 0; number < 2; ++number) {
+        auto* const hatch = Entity<OxDbHatch>(number);
+        ASSERT_EQ(hatch->evaluateHatch(true), Oxsys::eOk);
+        ASSERT_EQ(hatch->numHatchLines(), 4) << number;
+        for (int line = 0; line < 4; ++line) {
+            OxGePoint2d start;
+            OxGePoint2d end;
+            ASSERT_EQ(hatch->getHatchLineDataAt(line, start, end), Oxsys::eOk);
+            EXPECT_EQ(start.y, end.y);
+            EXPECT_EQ(std::min(start.x, end.x), 0);
+            EXPECT_EQ(std::max(start.x, end.x), 4);
+        }
+    }
+    const auto startsOf = [&](int number) {
+        int type = 0;
+        OxArray<const OxGeCurve2d*> edges;
+        OxArray<int> types;
+        EXPECT_EQ(Entity<OxDbHatch>(number)->getLoopAt(0, type, edges, types), Oxsys::eOk);
+        std::vector<OxGePoint2d> starts;
+        for (int edge = 0; edge < edges.length(); ++edge) {
+            starts.push_back(static_cast<const OxGeLineSeg2d*>(edges[edge])->startPoint());
+        }
+        return starts;
+    };
+    EXPECT_EQ(startsOf(1), startsOf(0));
+    // Filled areas are drawn by their edges as they stand.
+    EXPECT_EQ(startsOf(2), (std::vector<OxGePoint2d>{{0, 0}, {4, 4}, {4, 4}, {0, 0}}));
+}
+
+TEST_F(DrawingReader, ATurnThatIsFullButForRoundingIsFull) {
+    constexpr double kTurn = 6.283185307179586;
+    const auto read = [&](const std::string& angles) {
+        Read(EntityDocument(
+            R"({"type": "ellipse", "center": [0, 0], "majorAxis": [4, 0], "radiusRatio": 0.5, )" + angles +
+            R"(}, {"type": "arc", "center": [0, 0], "radius": 2, )" + angles + "}"));
+    };
+    const auto sweepOfArc = [&] {
+        double start = 0.0;
+        double end = 0.0;
+        EXPECT_EQ(Entity<OxDbArc>(1)->getStartParam(start), Oxsys::eOk);
+        EXPECT_EQ(Entity<OxDbArc>(1)->getEndParam(end), Oxsys::eOk);
+        return end - start;
+    };
+    for (const char* const angles :
+         {R"("startAngle": 0, "endAngle": 6.283185)", R"("startAngle": 0, "endAngle": 6.283186)",
+          R"("startAngle": 1, "endAngle": 7.283185)"}) {
+        read(angles);
+        EXPECT_TRUE(Entity<OxDbEllipse>(0)->isClosed()) << angles;
+        EXPECT_EQ(sweepOfArc(), kTurn) << angles;
+    }
+    read(R"("startAngle": 0, "endAngle": 6.28317)"); // more is missing than a millionth
+    EXPECT_FALSE(Entity<OxDbEllipse>(0)->isClosed());
+    EXPECT_EQ(sweepOfArc(), 6.28317);
 }
 
 TEST_F(DrawingReader, HatchLinesAreWhatAnEvaluationGives) {
