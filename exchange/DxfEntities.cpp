@@ -568,7 +568,6 @@ void DxfEntityReader::AddParagraphText(const DxfRecord& record) {
 }
 
 void DxfEntityReader::AddOther(const DxfRecord& record) {
-    ++others_[std::string(record.type)];
     const bool isArea = record.type == "SOLID" || record.type == "TRACE";
     drawing::OtherShape shape = ShapeOf(record, isArea && IsMirrored(record), texts_);
     if (record.invalid) { // the class is right, whatever is drawn of it

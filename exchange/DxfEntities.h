@@ -11,7 +11,6 @@
 #include "exchange/DxfText.h"
 
 #include <cstdint>
-#include <map>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -40,9 +39,6 @@ public:
     void End();
     /// Takes a record that is no mark of the file's structure.
     void Take(const DxfRecord& record);
-
-    /// How many entities of each class became an entity of which only the class is known.
-    const std::map<std::string, std::size_t>& Others() const { return others_; }
 
 private:
     // Null for one that is left out, since a number that it takes is none.
@@ -92,7 +88,6 @@ private:
     drawing::EntityProperties properties_;                     // of the entity that is read
     bool hasLayer_ = false;                                    // its layer is in the table
     std::unordered_map<std::string_view, std::wstring> names_; // by their bytes in the file
-    std::map<std::string, std::size_t> others_;
 };
 
 /// Group code 370, in hundredths of a millimetre; below 0 by layer, by block and default.

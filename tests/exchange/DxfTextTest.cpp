@@ -19,7 +19,8 @@ TEST(DxfText, CodesStandForCharacters) {
     EXPECT_EQ(texts.Decode("a\\U+00e4b\\u+20AC"), L"a\u00e4b\u20ac");
     EXPECT_EQ(texts.Decode("\\U+D83D\\U+DE00"), L"\U0001f600");
     EXPECT_EQ(texts.Decode("\\M+18DC0"), texts.Decode("\\m+18dc0"));
-    EXPECT_NE(texts.Decode("\\M+18DC0"), L"\\M+18DC0");
+    EXPECT_EQ(texts.Decode("a\\M+18DC0b"), L"a\u5ea7b"); // of page 932
+    EXPECT_EQ(texts.Decode("\\M+5B0A1"), L"\u554a");     // of page 936
     EXPECT_EQ(texts.Decode("a^Ib^ c^J"), L"a\tb^c\n");
 }
 
