@@ -139,7 +139,8 @@ TEST_F(RealDrawings, AUnitThatIsNoneScalesNothing) {
         EXPECT_EQ(Geometries(file), (Texts{"M 0.0,0.0 L 1.0,0.0"}));
         // The first is a foot of land surveys, which strict symbols do not know.
         EXPECT_EQ(result.errors, unit == 25 ? ""
-                                            : file + ": warning: drawn up to 100 % of its size out of place; "
+                                            : file + ": warning: drawn up to 100 % of its size out of place: "
+                                                     "unit 21 has no factor and leaves the scale as it was; "
                                                      "--faithful draws it (block A)\n");
         const std::string document = folder.Write("a.json", RunTool({"drawing", file}).output);
         EXPECT_EQ(Geometries(document), (Texts{"M 0.0,0.0 L 1.0,0.0"}));
@@ -308,6 +309,30 @@ TEST_F(RealDrawings, ADimensionThatIsDrawnByItselfEnds) {
     EXPECT_EQ(Geometries(file, {"--name", "A", "--faithful"}), (Texts{"M 0,0 L 1,0"}));
     EXPECT_NE(result.errors.find("the drawing has no block *D9"), std::string::npos) << result.errors;
     EXPECT_NE(result.errors.find("in the inserted block itself"), std::string::npos) << result.errors;
+}
+
+// By the names that files have for them, in their documents, too.
+TEST_F(RealDrawings, WhatNothingDrawsIsCountedByClass) {
+    const auto entity = [](const std::string& type) {
+        return DxfWriter().Text(0, type).Text(8, "0").Point(10, 0, 0).Point(11, 1, 1);
+    };
+    DxfWriter entities = entity("RAY").Append(entity("3DFACE")).Append(Line(0, 0, 1, 0));
+    entities.Append(entity("RAY")).Append(DxfWriter().Text(0, "POLYLINE").Text(8, "0").Integer(70, 64));
+    entities.Text(0, "VERTEX").Text(8, "0").Point(10, 0, 0).Text(0, "SEQEND");
+    const std::string file = folder.Write("a.dxf", File(Block("A", entities)));
+    const std::string json = folder.Write("a.json", RunTool({"drawing", file}).output);
+    for (const std::string& drawing : {file, json}) {
+        const std::string found = RunTool({"check", drawing}).output;
+        const auto told = [&](const std::string& what) {
+            return found.find(drawing + ": warning: " + what +
+                              " not drawn (block A) [unsupported-class]\n") != std::string::npos;
+        };
+        EXPECT_TRUE(told("2 entities of the type RAY are")) << found;
+        EXPECT_TRUE(told("1 entity of the type 3DFACE is")) << found;
+        EXPECT_TRUE(told("1 entity of the type POLYLINE is")) << found;
+        EXPECT_NE(found.find("0 errors, 3 warnings in 1 file\n"), std::string::npos) << found;
+        EXPECT_EQ(Geometries(drawing), (Texts{"M 0.0,0.0 L 1.0,0.0"}));
+    }
 }
 
 TEST_F(RealDrawings, ACheckTakesTheOptionsOfDrawings) {
