@@ -15,7 +15,7 @@ import sys
 import tempfile
 
 HERE = os.path.dirname(os.path.abspath(__file__))
-NO_COMMANDS = {"cpp", "cmake", "js", "json", "text"}
+NO_COMMANDS = {"cpp", "cmake", "js", "json", "text", "pycon"}
 
 # Where the commands of the tool run: a folder below the root's copy; the root itself where none is named.
 FOLDERS = {
