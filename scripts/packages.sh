@@ -31,7 +31,7 @@ install_packages() {
 tool_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
 test_packages=(libgtest-dev libbenchmark-dev libfast-float-dev ccache clang clang-format clang-tidy clang-tools llvm python3 python3-jsonschema)
 # What the Python package is installed into.
-test_packages+=(python3-venv)
+test_packages+=(python3-venv python3-pytest)
 # What an installed tree is looked at with.
 test_packages+=(pkgconf doxygen valgrind dpkg-dev file zsh fish)
 # What PNG pictures are made by where the tool runs; it is built and works without.

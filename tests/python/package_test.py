@@ -1,15 +1,14 @@
-"""The installed package, as programs and notebooks use it: package_test.py EXAMPLES TOOL"""
+"""The installed package, as programs and notebooks use it. EXAMPLES and STYLECONV are the examples and the tool."""
 import dataclasses
 import json
 import os
 import subprocess
-import sys
 import tempfile
 import unittest
 
 import styleconversion
 
-EXAMPLES, TOOL = (os.path.abspath(path) for path in sys.argv[1:])
+EXAMPLES, TOOL = os.environ["EXAMPLES"], os.environ["STYLECONV"]
 BRICK = os.path.join(EXAMPLES, "patterns", "brick.pat")
 COMPLEX = os.path.join(EXAMPLES, "linetypes", "complex.lin")
 
@@ -135,7 +134,3 @@ class Pictures(unittest.TestCase):
 
     def test_style_libraries_are_the_tools(self):
         self.assertEqual(styleconversion.convert(BRICK).qgis(), written_by_tool("convert", BRICK, "--format", "qgis"))
-
-
-if __name__ == "__main__":
-    unittest.main(argv=sys.argv[:1])

@@ -1,4 +1,5 @@
-"""The wheel for Windows holds the package and one library, as its record says: windows_wheel_test.py ROOT VERSION LIBRARY"""
+"""The wheel for Windows holds the package and one library, as its record says:
+windows_wheel_test.py ROOT VERSION LIBRARY"""
 import base64
 import csv
 import hashlib
