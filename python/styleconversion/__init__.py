@@ -127,6 +127,9 @@ class Result(Sequence[Symbol]):
     def __iter__(self) -> Iterator[Symbol]:
         return iter(self.symbols)
 
+    def __contains__(self, key: object) -> bool:
+        return any(key in (symbol, symbol.name) for symbol in self.symbols)
+
     def __getitem__(self, key):  # type: ignore[override]
         if isinstance(key, str):
             for symbol in self.symbols:

@@ -42,6 +42,7 @@ class Converting(unittest.TestCase):
         self.assertEqual([symbol.name for symbol in result], ["ONE", "TWO"])
         self.assertEqual((len(result), result[1].name, result["TWO"].name), (2, "TWO", "TWO"))
         self.assertEqual(repr(result), "<Result of a.pat: 2 symbols>")
+        self.assertTrue("TWO" in result and result[0] in result and "THREE" not in result)
         with self.assertRaises(KeyError):
             result["THREE"]
 
