@@ -30,19 +30,6 @@ using diagnostics::Diagnostics;
 using diagnostics::Severity;
 using encoding::Fidelity;
 
-// As the command line tells kinds: by the name, and of documents and files of other names by what is in them.
-FileKind KindOf(const Input& input, const Options& options) {
-    if (options.kind != FileKind::kUnknown) {
-        return options.kind;
-    }
-    const FileKind kind = conversions::KindByName(input.name);
-    const FileKind found = conversions::KindByContents(input.bytes);
-    return (kind == FileKind::kDrawing && found == FileKind::kSymbols) ||
-                   (kind == FileKind::kUnknown && found == FileKind::kDrawing)
-               ? found
-               : kind;
-}
-
 Diagnostic Problem(Code code, const std::string& file) {
     return {Severity::kError, code, {file}, {}};
 }
@@ -100,6 +87,20 @@ Conversion ConvertDrawing(const Input& input, const Options& options, CallbackFr
     return ConvertBlocks(input, job, front);
 }
 
+} // namespace
+
+FileKind KindOf(const Input& input, const Options& options) {
+    if (options.kind != FileKind::kUnknown) {
+        return options.kind;
+    }
+    const FileKind kind = conversions::KindByName(input.name);
+    const FileKind found = conversions::KindByContents(input.bytes);
+    return (kind == FileKind::kDrawing && found == FileKind::kSymbols) ||
+                   (kind == FileKind::kUnknown && found == FileKind::kDrawing)
+               ? found
+               : kind;
+}
+
 Conversion ConvertKind(FileKind kind, const Input& input, const Options& options, CallbackFront& front) {
     switch (kind) {
     case FileKind::kLinetypes:
@@ -124,11 +125,12 @@ Conversion ConvertKind(FileKind kind, const Input& input, const Options& options
     return failed;
 }
 
-// What a page of the file's symbols is called: the name without its folder.
 std::string TitleOf(const std::string& file) {
     const platform::PathParts parts = platform::SplitPath(platform::PathFromBytes(file));
     return platform::WideToValidUtf8(parts.fileName + parts.extension);
 }
+
+namespace {
 
 Diagnostics Convert(FileKind kind, const Input& input, const Options& options, CallbackFront& front,
                     styleconversion_result& result) {

@@ -27,5 +27,5 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 # nothing. "try" and "catch" are read and left out.
 set(CMAKE_CXX_FLAGS_INIT
   "-nostdinc++ -isystem /usr/lib/llvm-16/include/wasm32-wasi/c++/v1 --sysroot=/usr -fexceptions -D_LIBCPP_NO_EXCEPTIONS -DJSON_HAS_FILESYSTEM=0 -DJSON_HAS_EXPERIMENTAL_FILESYSTEM=0")
-set(CMAKE_EXE_LINKER_FLAGS_INIT "--sysroot=/usr -fuse-ld=/usr/bin/wasm-ld-16 -mexec-model=reactor")
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-Wno-unused-command-line-argument --sysroot=/usr -fuse-ld=/usr/bin/wasm-ld-16 -mexec-model=reactor")
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)

@@ -41,3 +41,7 @@ test_packages+=(librsvg2-bin chromium chromium-driver python3-selenium python3-p
 
 # What builds for Windows and runs it.
 windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 googletest)
+
+# What compiles to WebAssembly, and makes the module small.
+web_packages=(clang-16 lld-16 llvm libc++-16-dev-wasm32 libc++abi-16-dev-wasm32 wasi-libc libclang-rt-16-dev-wasm32 binaryen
+  libfast-float-dev ccache python3)

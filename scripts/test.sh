@@ -27,6 +27,7 @@ shown_step "The Microsoft compiler's target" scripts/msvc.sh
 shown_step "Ways of building" scripts/builds.sh --quick
 shown_step "Styles in QGIS" scripts/qgis.sh
 shown_step "Styles in MapLibre" scripts/maplibre.sh
+shown_step "The page in a browser" scripts/web.sh
 
 # The foreign pair is built and tested with sanitizers and for Windows.
 shown_step "Test debug" ctest --preset debug --progress

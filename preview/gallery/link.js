@@ -31,7 +31,8 @@ const link = {
   isReading: false,
 
   keep() {
-    if (this.isReading) {
+    // A page inside another has no address of its own.
+    if (this.isReading || location.protocol === "about:") {
       return;
     }
     const values = new URLSearchParams();

@@ -34,6 +34,8 @@ OTHERS = [
     (r"scripts/msvc\.sh", None, "scripts/test.sh runs it"),
     (r"scripts/tidy\.sh( --all)?", None, "scripts/test.sh runs it; all takes half an hour"),
     (r"scripts/(qgis|maplibre)\.sh", None, "scripts/test.sh runs it"),
+    (r"scripts/web\.sh --serve", None, "serves until it is stopped; scripts/test.sh runs it without"),
+    (r"scripts/web\.sh", None, "scripts/test.sh runs it"),
     (r"scripts/(memcheck|cppcheck|threads)\.sh", None, "takes many minutes"),
     (r"scripts/fuzz\.sh \d+( \w+)?", None, "takes as long as it says"),
     (r"sudo apt-get install [a-z0-9 +-]+", "clone", [("sudo apt-get install", "apt-get install --simulate")]),

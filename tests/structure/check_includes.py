@@ -31,6 +31,8 @@ ALLOWED = {
     "conversions/reading": ["diagnostics", "documents", "exchange", "drawing", "StyleConversion"],
     # The jobs once more, for programs in C.
     "c": ["conversions", "diagnostics", "documents", "StyleConversion"],
+    # The jobs in the browser, by the options that programs in C have.
+    "web": ["c", "conversions", "diagnostics", "documents", "StyleConversion"],
     "styleconv": ["StyleConversion/platform"],
     "styleconv/commands": ["styleconv/files", "styleconv/process", "conversions", "diagnostics", "documents", "styles",
                            "StyleConversion/encoding", "StyleConversion/platform", "StyleConversion/pattern"],
@@ -40,7 +42,7 @@ ALLOWED = {
     "styleconv/process": ["diagnostics", "StyleConversion/platform"],
     "tests": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "styles", "conversions", "styleconv", "fuzz",
               "examples"],
-    "fuzz": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "conversions", "tests/support"],
+    "fuzz": ["c", "StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "conversions", "tests/support"],
     "benchmarks": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "tests/support"],
     "examples": ["StyleConversion", "drawing", "documents", "tests/support"],
 }

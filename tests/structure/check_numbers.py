@@ -5,7 +5,7 @@ import sys
 
 # The converters and what they stand on. The tool, documents and previews write doubles through the JSON library
 # and through encoding/.
-FOLDERS = ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "styles", "conversions", "styleconv"]
+FOLDERS = ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "styles", "conversions", "c", "web", "styleconv"]
 EXEMPT = ["StyleConversion/encoding/"]
 
 FORBIDDEN = re.compile(
