@@ -158,7 +158,7 @@ std::string NotesMarkup(const Picture& picture, const std::string& loss) {
 std::string ParametersMarkup(std::size_t count) {
     return count == 0
                ? ""
-               : "<details class=\"parameters\"><summary tabindex=\"-1\">" + Counted(count, "parameter") +
+               : R"(<details class="parameters"><summary tabindex="-1">)" + Counted(count, "parameter") +
                      "</summary><div class=\"controls\"></div></details>\n";
 }
 
