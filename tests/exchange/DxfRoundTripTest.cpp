@@ -2,6 +2,7 @@
 // that lack any one line are read or refused with a place.
 #include "tests/exchange/DxfFiles.h"
 
+#include <array>
 #include <gtest/gtest.h>
 #include <numbers>
 #include <random>
@@ -39,13 +40,14 @@ private:
     void AddKind(std::size_t kind) {
         json_ += json_.empty() ? "" : ",";
         using Adder = void (RandomEntities::*)();
-        constexpr Adder kAdders[] = {
+        constexpr std::array<Adder, 14> kAdders = {
             &RandomEntities::AddPoint,   &RandomEntities::AddLine,     &RandomEntities::AddCircle,
             &RandomEntities::AddArc,     &RandomEntities::AddText,     &RandomEntities::AddDefinition,
             &RandomEntities::AddInsert,  &RandomEntities::AddPolyline, // up to here in old files, too
             &RandomEntities::AddEllipse, &RandomEntities::AddSpline,   &RandomEntities::AddCurve,
             &RandomEntities::AddHatch,   &RandomEntities::AddAreas,    &RandomEntities::AddParagraph};
-        (this->*kAdders[kind])();
+        const Adder adder = kAdders.at(kind);
+        (this->*adder)();
         json_ += "}";
     }
 
