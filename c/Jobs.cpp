@@ -132,6 +132,37 @@ std::string TitleOf(const std::string& file) {
 
 namespace {
 
+// Writes symbols and appends what their style lacks to what is told already.
+template <typename Write>
+Diagnostics WriteAndTell(const Input& input, Diagnostics told, styleconversion_result& result,
+                         const Write& write) {
+    conversions::StyleJob styles;
+    styles.file = input.name;
+    const auto append = [&](std::string_view text) {
+        result.document += text;
+        return true;
+    };
+    write(append, styles);
+    MergeAlike(styles.diagnostics);
+    MergeAcrossFiles(styles.diagnostics);
+    Append(told, std::move(styles.diagnostics));
+    return told;
+}
+
+// Only those that were asked for, in that order, and as often.
+Diagnostics WriteNamed(const Conversion& conversion, const Input& input, Form form, CallbackFront& front,
+                       styleconversion_result& result) {
+    if (!conversion.isConverted) {
+        result.status = STYLECONVERSION_INPUT;
+        return conversion.diagnostics;
+    }
+    return WriteAndTell(input, conversion.diagnostics, result,
+                        [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
+                            WriteSymbols(conversion.symbols, form, sink, front, conversion.fidelity,
+                                         conversion.captions, &styles);
+                        });
+}
+
 Diagnostics Convert(FileKind kind, const Input& input, const Options& options, CallbackFront& front,
                     styleconversion_result& result) {
     const bool hasNoNames = kind == FileKind::kShapes || kind == FileKind::kSymbols;
@@ -142,6 +173,9 @@ Diagnostics Convert(FileKind kind, const Input& input, const Options& options, C
     }
     Conversion conversion = ConvertKind(kind, input, options, front);
     conversion.captions.title = TitleOf(input.name);
+    if (!options.names.empty()) {
+        return WriteNamed(conversion, input, options.form, front, result);
+    }
     conversions::Gathering gathering;
     gathering.Add(input.name, kind, std::move(conversion));
     Diagnostics told = gathering.Told();
@@ -149,17 +183,10 @@ Diagnostics Convert(FileKind kind, const Input& input, const Options& options, C
         result.status = STYLECONVERSION_INPUT;
         return told;
     }
-    conversions::StyleJob styles;
-    styles.file = input.name;
-    const auto append = [&](std::string_view text) {
-        result.document += text;
-        return true;
-    };
-    gathering.Write(options.form, false, append, front, &styles);
-    MergeAlike(styles.diagnostics);
-    MergeAcrossFiles(styles.diagnostics);
-    Append(told, std::move(styles.diagnostics));
-    return told;
+    return WriteAndTell(input, std::move(told), result,
+                        [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
+                            gathering.Write(options.form, false, sink, front, &styles);
+                        });
 }
 
 conversions::Listing ListKind(FileKind kind, const Input& input, bool isTolerant) {

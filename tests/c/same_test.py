@@ -67,6 +67,24 @@ class Same(unittest.TestCase):
         for path in FILES:
             self.same(path, "convert", {"faithful": True, "tolerant": True}, "--faithful", "--tolerant")
 
+    # By the commands of one kind, which choose by name: what is asked for, in that order, and as often.
+    def test_what_is_chosen_by_names_is_the_same(self):
+        for command, file, names in (("linetypes", "linetypes/simple.lin", ["TRACK", "FOOTPATH", "TRACK"]),
+                                     ("patterns", "patterns/brick.pat", ["BRICK", "BRICK"]),
+                                     ("blocks", "drawings/boundaries.json", ["POND", "PLOT_RUNNING"]),
+                                     ("linetypes", "linetypes/simple.lin", ["NONE"])):
+            path = os.path.join(EXAMPLES, *file.split("/"))
+            chosen = [argument for name in names for argument in ("--name", name)]
+            for form in ("json", "svg", "html"):
+                with self.subTest(file=file, form=form):
+                    tool = output(self.folder, TOOL, command, path, "--format", form, *chosen)
+                    program = output(self.folder, PROGRAM, "convert", path, json.dumps({"format": form, "names": names}),
+                                     ".")
+                    self.assertEqual(program, tool)
+            if tool[0] == 0:
+                document = output(self.folder, PROGRAM, "convert", path, json.dumps({"names": names}), ".")[1]
+                self.assertEqual([symbol["name"] for symbol in json.loads(document)["symbols"]], names)
+
     def test_lists_are_the_same(self):
         for path in FILES:
             self.same(path, "list", {"tolerant": True}, "--tolerant", "--format", "json")
