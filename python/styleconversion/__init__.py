@@ -20,7 +20,8 @@ __all__ = ["ConversionError", "Diagnostic", "Entry", "Parameter", "Result", "Sym
            "list_symbols", "version"]
 __version__ = version()
 
-Source = Union[str, "os.PathLike[str]", bytes, bytearray, memoryview]
+Path = Union[str, "os.PathLike[str]"]
+Source = Union[Path, bytes, bytearray, memoryview]
 
 
 @dataclass(frozen=True)
@@ -61,6 +62,10 @@ class ConversionError(ValueError):
         self.diagnostics: Tuple[Diagnostic, ...] = tuple(diagnostics)
         errors = [str(diagnostic) for diagnostic in self.diagnostics if diagnostic.severity == "error"]
         super().__init__("\n".join(errors) or "nothing was converted")
+
+    def __reduce__(self):
+        # Exceptions of another process are made anew, from what they were made of.
+        return type(self), (self.diagnostics,)
 
 
 @dataclass(frozen=True)
@@ -110,6 +115,9 @@ class Symbol:
 
     def _repr_svg_(self) -> str:
         return self.svg()
+
+    def _repr_html_(self) -> str:
+        return f"<div>{_of_page(self.svg())}</div>"
 
 
 class Result(Sequence[Symbol]):
@@ -162,13 +170,12 @@ class Result(Sequence[Symbol]):
 
     def _repr_html_(self) -> str:
         told = "".join(f"<li>{_escaped(str(diagnostic))}</li>" for diagnostic in self.diagnostics)
-        picture = self.svg()
-        return f"<div>{picture[picture.index('<svg'):]}{f'<ul>{told}</ul>' if told else ''}</div>"
+        return f"<div>{_of_page(self.svg())}{f'<ul>{told}</ul>' if told else ''}</div>"
 
 
 def convert(source: Source, *, name: Optional[str] = None, find: Optional[Find] = None, kind: Optional[str] = None,
             tolerant: bool = False, faithful: bool = False, names: Optional[Sequence[str]] = None,
-            font: Optional[str] = None, drawing: Optional[str] = None, encoding: Optional[str] = None,
+            font: Optional[str] = None, drawing: Optional[Path] = None, encoding: Optional[str] = None,
             ignore_layers: Optional[Sequence[str]] = None) -> Result:
     """Converts a file to symbols.
 
@@ -179,26 +186,26 @@ def convert(source: Source, *, name: Optional[str] = None, find: Optional[Find] 
     kind: "linetypes", "patterns", "shapes", "drawing" or "symbols".
     tolerant: use what is valid, and report the rest in `diagnostics`.
     faithful: symbols that draw what the definition says, where the required output draws something else.
-    names: only linetypes, patterns or blocks of these names, in this order.
+    names: only linetypes, patterns or blocks of these names, in this order; or of one name.
     font: the font of text style STANDARD of linetypes: an SHX file, or the name of a typeface.
-    drawing: the file with the text styles of linetypes.
+    drawing: the file with the text styles of linetypes: its path, or its name beside the source.
     encoding: of linetype, pattern and shape files, as "WINDOWS-1251". Otherwise UTF-8 where the whole file is.
-    ignore_layers: layers of drawings that are left out.
+    ignore_layers: layers of drawings that are left out; or one.
 
     Raises ConversionError where the file is refused, ValueError where an option is wrong, OSError where the file cannot
     be read.
     """
-    opened = _open(source, name, find)
+    opened = _open(source, name, find, drawing)
     return Result(*opened[:2], _options(kind=kind, tolerant=tolerant, faithful=faithful, names=names, font=font,
                                         drawing=drawing, encoding=encoding, ignoreLayers=ignore_layers), opened[2])
 
 
 def check(source: Source, *, name: Optional[str] = None, find: Optional[Find] = None, kind: Optional[str] = None,
-          tolerant: bool = False, notes: bool = False, font: Optional[str] = None, drawing: Optional[str] = None,
+          tolerant: bool = False, notes: bool = False, font: Optional[str] = None, drawing: Optional[Path] = None,
           encoding: Optional[str] = None, ignore_layers: Optional[Sequence[str]] = None) -> Tuple[Diagnostic, ...]:
     """What there is to say of a file: errors and likely surprises, and with `notes` also what is as it should be. The
     arguments are those of convert."""
-    opened = _open(source, name, find)
+    opened = _open(source, name, find, drawing)
     options = _options(kind=kind, tolerant=tolerant, notes=notes, font=font, drawing=drawing, encoding=encoding,
                        ignoreLayers=ignore_layers)
     return _diagnostics(_run("check", *opened[:2], options, opened[2])[2])
@@ -207,7 +214,7 @@ def check(source: Source, *, name: Optional[str] = None, find: Optional[Find] = 
 def list_symbols(source: Source, *, name: Optional[str] = None, kind: Optional[str] = None, tolerant: bool = False,
                  encoding: Optional[str] = None) -> Tuple[Entry, ...]:
     """What a file holds, without converting it. The arguments are those of convert."""
-    opened = _open(source, name, None)
+    opened = _open(source, name, None, None)
     status, document, diagnostics, _ = _run("list", *opened[:2],
                                             _options(kind=kind, tolerant=tolerant, encoding=encoding), None)
     if status != _library.DONE:
@@ -216,28 +223,43 @@ def list_symbols(source: Source, *, name: Optional[str] = None, kind: Optional[s
                        entry.get("line")) for entry in json.loads(document))
 
 
-def _open(source: Source, name: Optional[str], find: Optional[Find]) -> Tuple[str, bytes, Optional[Find]]:
+def _open(source: Source, name: Optional[str], find: Optional[Find],
+          drawing: Optional[Path]) -> Tuple[str, bytes, Optional[Find]]:
     if isinstance(source, (bytes, bytearray, memoryview)):
         return name or "(bytes)", bytes(source), find
     path = os.fspath(source)
-    with open(path, "rb") as file:
-        return name or path, file.read(), find or (lambda wanted: _beside(path, wanted))
-
-
-def _beside(path: str, wanted: str) -> Optional[bytes]:
-    """The bytes of the file of that name, in any case of its letters, in the folder of another."""
     folder = os.path.dirname(os.path.abspath(path))
+    with open(path, "rb") as file:
+        return name or path, file.read(), find or (lambda wanted: _found(folder, wanted, drawing))
+
+
+def _found(folder: str, wanted: str, drawing: Optional[Path]) -> Optional[bytes]:
+    """The bytes of a file of that folder, or of the drawing, whose path the caller gave."""
+    if drawing is not None and wanted == os.fspath(drawing) and os.path.isfile(wanted):
+        with open(wanted, "rb") as file:
+            return file.read()
+    return _beside(folder, wanted)
+
+
+def _beside(folder: str, wanted: str) -> Optional[bytes]:
+    """The bytes of the file of that name, in any case of its letters."""
     wanted = wanted.replace("\\", "/").rsplit("/", 1)[-1].lower()
     for entry in sorted(os.listdir(folder)):
-        if entry.lower() == wanted:
-            with open(os.path.join(folder, entry), "rb") as file:
+        path = os.path.join(folder, entry)
+        if entry.lower() == wanted and os.path.isfile(path):
+            with open(path, "rb") as file:
                 return file.read()
     return None
 
 
 def _options(**options: Any) -> Dict[str, Any]:
-    return {key: list(value) if key in ("names", "ignoreLayers") else value
-            for key, value in options.items() if value is not None and value is not False}
+    return {key: _option(key, value) for key, value in options.items() if value is not None and value is not False}
+
+
+def _option(key: str, value: Any) -> Any:
+    if key in ("names", "ignoreLayers"):
+        return [value] if isinstance(value, str) else list(value)
+    return os.fspath(value) if key == "drawing" else value
 
 
 def _run(job: str, name: str, content: bytes, options: Dict[str, Any],
@@ -267,6 +289,10 @@ def _symbol(data: Mapping[str, Any]) -> Symbol:
                                              parameter.get("description", ""), parameter.get("defaultValue", ""),
                                              parameter.get("dataType", 0)) for parameter in data.get("parameters", ())),
                   symbols=tuple(map(_symbol, data.get("symbols", ()))), data=data)
+
+
+def _of_page(picture: str) -> str:
+    return picture[picture.index("<svg"):]
 
 
 def _escaped(text: str) -> str:

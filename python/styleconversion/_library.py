@@ -59,12 +59,16 @@ def run(job: str, name: str, content: bytes, options: str, find: Optional[Find])
         try:
             found = find(wanted.decode()) if find is not None and not raised else None
             if found is not None:
-                _library.styleconversion_answer_file(answer, bytes(found), len(found))
+                content = bytes(found)
+                if not _library.styleconversion_answer_file(answer, content, len(content)):
+                    raise MemoryError(wanted.decode())
         except BaseException as error:  # pylint: disable=broad-except
             raised.append(error)
 
-    result = getattr(_library, "styleconversion_" + job)(name.encode(), content, len(content), options.encode(),
-                                                         _FIND(asked), None)
+    # Of a path that is no text, messages show what is.
+    shown = name.encode(errors="replace")
+    result = getattr(_library, "styleconversion_" + job)(shown, content, len(content), options.encode(), _FIND(asked),
+                                                         None)
     if not result:
         raise MemoryError("the conversion ran out of memory")
     try:

@@ -2,6 +2,9 @@
 import dataclasses
 import json
 import os
+import pathlib
+import pickle
+import shutil
 import subprocess
 import tempfile
 import unittest
@@ -56,6 +59,12 @@ class Converting(unittest.TestCase):
         with self.assertRaises(TypeError):
             styleconversion.convert(content, name="a.pat", tolerent=True)
 
+    def test_one_name_is_a_name_and_not_its_letters(self):
+        simple = os.path.join(EXAMPLES, "linetypes", "simple.lin")
+        self.assertEqual([symbol.name for symbol in styleconversion.convert(simple, names="TRACK")], ["TRACK"])
+        self.assertEqual([symbol.name for symbol in styleconversion.convert(simple, names=["TRACK", "FOOTPATH"])],
+                         ["TRACK", "FOOTPATH"])
+
     def test_refused_files_raise_with_their_diagnostics(self):
         with self.assertRaises(styleconversion.ConversionError) as raised:
             styleconversion.convert(b"*BAD,without its first field\nB,1,-1\n", name="a.lin")
@@ -64,6 +73,18 @@ class Converting(unittest.TestCase):
         self.assertIn("a.lin:2: error: ", str(raised.exception))
         with self.assertRaises(FileNotFoundError):
             styleconversion.convert(os.path.join(EXAMPLES, "none.pat"))
+
+    def test_errors_come_whole_from_other_processes(self):
+        error = styleconversion.ConversionError([styleconversion.Diagnostic("error", "no-patterns", "none", "a.pat")])
+        again = pickle.loads(pickle.dumps(error))
+        self.assertEqual((str(again), again.diagnostics), (str(error), error.diagnostics))
+
+    def test_paths_that_are_no_text_are_converted(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, os.fsdecode(b"\xff.pat"))
+            with open(path, "wb") as file:
+                file.write(b"*ONE\n0,0,0,0,1\nx\n")
+            self.assertIn("?.pat:3: warning: ", str(styleconversion.check(path)[0]))
 
 
 class FurtherFiles(unittest.TestCase):
@@ -76,6 +97,29 @@ class FurtherFiles(unittest.TestCase):
                     with open(os.path.join(folder, name), "wb") as written:
                         written.write(read.read())
             self.assertTrue(styleconversion.convert(os.path.join(folder, "complex.lin"), drawing="styles.json"))
+
+    def test_the_drawing_may_be_anywhere(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for source in ("linetypes/complex.lin", "shapes/marks.shx", "shapes/single-stroke.shx"):
+                shutil.copy(os.path.join(EXAMPLES, source), folder)
+            path, drawing = os.path.join(folder, "complex.lin"), os.path.join(EXAMPLES, "linetypes", "styles.json")
+            self.assertTrue(styleconversion.convert(path, drawing=drawing))
+            self.assertTrue(styleconversion.convert(path, drawing=pathlib.Path(drawing)))
+
+    def test_a_folder_is_no_file(self):
+        with tempfile.TemporaryDirectory() as folder:
+            os.mkdir(os.path.join(folder, "MARKS.SHX"))
+            path = os.path.join(folder, "a.lin")
+            with open(path, "wb") as file:
+                file.write(b"*X\nA,1,-1,[M,marks.shx],-1\n")
+            self.assertIn("missing-shape-file", {diagnostic.code for diagnostic in styleconversion.check(path)})
+
+    def test_find_may_give_any_bytes(self):
+        def find(name):
+            with open(os.path.join(EXAMPLES, "shapes", name.lower()), "rb") as file:
+                return memoryview(file.read())
+
+        self.assertTrue(styleconversion.convert(b"*X\nA,1,-1,[TREE,marks.shx],-1\n", name="a.lin", find=find))
 
     def test_find_gives_them(self):
         asked = []
@@ -121,7 +165,8 @@ class Pictures(unittest.TestCase):
     def test_notebooks_show_symbols_and_results(self):
         result = styleconversion.convert(BRICK)
         self.assertTrue(result["BRICK"]._repr_svg_().startswith("<?xml"))
-        self.assertIn("<svg", result._repr_html_())
+        for shown in (result, result["BRICK"]):
+            self.assertTrue(shown._repr_html_().startswith("<div><svg"))
         self.assertEqual(result._repr_svg_(), result.svg())
 
     def test_diagnostics_are_shown_as_text(self):
