@@ -208,9 +208,9 @@ bool DxfEntityReader::IsMirrored(const DxfRecord& record) {
 }
 
 const std::wstring& DxfEntityReader::Name(std::string_view word, std::wstring fallback) {
-    const auto [name, isNew] = names_.try_emplace(word);
-    if (isNew) {
-        name->second = word.empty() ? std::move(fallback) : texts_.Decode(word);
+    auto name = names_.find(word);
+    if (name == names_.end()) {
+        name = names_.emplace(word, word.empty() ? std::move(fallback) : texts_.Decode(word)).first;
     }
     return name->second;
 }
@@ -317,7 +317,7 @@ bool DxfEntityReader::TakeCurve(const DxfRecord& record) {
         AddLightPolyline(record);
     } else if (type == "POLYLINE" && (record.Integer(70, 0) & kNotPlane) == 0) {
         const bool isMirrored = IsMirrored(record);
-        polyline_ = OpenPolyline{record, {}, {}, isMirrored, false};
+        polyline_ = OpenPolyline{DxfKeptRecord(record), {}, {}, isMirrored, false};
     } else if (type == "SPLINE" || type == "HELIX") {
         AddSpline(record);
     } else if (type == "HATCH") {
@@ -401,7 +401,7 @@ void DxfEntityReader::TakeVertex(const DxfRecord& record) {
     const double bulge = record.Number(42, 0.0);
     polyline_->vertices.push_back(
         {InPlane(Point(record, 10, polyline_->isMirrored)), polyline_->isMirrored ? -bulge : bulge});
-    const DxfRecord& whole = polyline_->record;
+    const DxfRecord& whole = polyline_->record.Get();
     polyline_->widths.push_back(
         {record.Number(40, whole.Number(40, 0.0)), record.Number(41, whole.Number(41, 0.0))});
     polyline_->isDamaged = IsLost(record) || polyline_->isDamaged;
@@ -414,9 +414,10 @@ void DxfEntityReader::FinishPolyline() {
         if (polyline.isDamaged) {
             return;
         }
-        const std::int32_t flags = polyline.record.Integer(70, 0);
-        auto* const added = Add<drawing::Polyline>(polyline.record, polyline.vertices, (flags & kClosed) != 0,
-                                                   (flags & kRunsOn) != 0);
+        const DxfRecord& record = polyline.record.Get();
+        const std::int32_t flags = record.Integer(70, 0);
+        auto* const added =
+            Add<drawing::Polyline>(record, polyline.vertices, (flags & kClosed) != 0, (flags & kRunsOn) != 0);
         if (added != nullptr) {
             added->SetWidths(polyline.widths);
         }

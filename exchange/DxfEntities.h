@@ -10,9 +10,12 @@
 #include "exchange/DxfRecords.h"
 #include "exchange/DxfText.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -72,11 +75,17 @@ private:
 
     /// A polyline whose vertices are records of their own.
     struct OpenPolyline {
-        DxfRecord record;
+        DxfKeptRecord record;
         std::vector<geometry::BulgeVertex> vertices;
         std::vector<drawing::SegmentWidth> widths;
         bool isMirrored = false;
         bool isDamaged = false; // has been told of
+    };
+
+    /// Finds names without a copy of them.
+    struct NameHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view name) const { return std::hash<std::string_view>()(name); }
     };
 
     drawing::Database& database_;
@@ -84,10 +93,10 @@ private:
     DxfNotes& notes_;
     DxfBlock* block_ = nullptr;
     std::optional<OpenPolyline> polyline_;
-    drawing::BlockReference* insert_ = nullptr;                // that attributes belong to
-    drawing::EntityProperties properties_;                     // of the entity that is read
-    bool hasLayer_ = false;                                    // its layer is in the table
-    std::unordered_map<std::string_view, std::wstring> names_; // by their bytes in the file
+    drawing::BlockReference* insert_ = nullptr; // that attributes belong to
+    drawing::EntityProperties properties_;      // of the entity that is read
+    bool hasLayer_ = false;                     // its layer is in the table
+    std::unordered_map<std::string, std::wstring, NameHash, std::equal_to<>> names_; // by their bytes
 };
 
 /// Group code 370, in hundredths of a millimetre; below 0 by layer, by block and default.

@@ -3,11 +3,14 @@
 
 #include "StyleConversion/encoding/NumberReader.h"
 #include "StyleConversion/platform/Characters.h"
+#include "StyleConversion/platform/Utf8.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <limits>
 #include <string>
+#include <utility>
 
 namespace exchange {
 namespace {
@@ -108,6 +111,11 @@ std::optional<int> ReadCode(std::string_view word) {
     return isNegative ? -code : code;
 }
 
+bool IsAscii(std::string_view bytes) {
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char c) { return static_cast<std::uint8_t>(c) < 0x80; });
+}
+
 } // namespace
 
 bool DxfPair::IsText() const {
@@ -164,40 +172,90 @@ std::uint64_t DxfPair::Handle() const {
     return handle;
 }
 
-DxfPairCursor::DxfPairCursor(std::string_view bytes) : bytes_(bytes) {
-    if (bytes.size() >= kBinaryHeadLength &&
-        bytes.substr(kProgramNameLength, kBinaryMark.size()) == kBinaryMark) {
+DxfPairCursor::DxfPairCursor(DxfPieces pieces) : pieces_(std::move(pieces)) {
+    pieces_.Require(kBinaryHeadLength + 2);
+    const std::string_view start = pieces_.Rest();
+    if (start.size() >= kBinaryHeadLength &&
+        start.substr(kProgramNameLength, kBinaryMark.size()) == kBinaryMark) {
         isBinary_ = true;
-        position_ = kBinaryHeadLength;
         // The first group code is 0, and its value is a text that is not empty.
-        hasShortCodes_ = bytes.size() > position_ + 1 && bytes[position_ + 1] != '\0';
+        hasShortCodes_ = start.size() > kBinaryHeadLength + 1 && start[kBinaryHeadLength + 1] != '\0';
+        pieces_.Skip(kBinaryHeadLength);
         return;
     }
-    if (platform::StartsWithByteOrderMark(bytes)) {
-        position_ = platform::kUtf8ByteOrderMark.size();
+    if (platform::StartsWithByteOrderMark(start)) {
+        pieces_.Skip(platform::kUtf8ByteOrderMark.size());
     }
-    if (bytes.find('\n') == std::string_view::npos) {
+    FindLineEnd();
+}
+
+// Lines end with "\n", before which any number of "\r" may stand, or, as in very old files, with "\r" alone:
+// the end of the first line tells.
+void DxfPairCursor::FindLineEnd() {
+    std::size_t at = 0;
+    bool hasReturn = false;
+    while (pieces_.Require(at + 1)) {
+        const char c = pieces_.Rest()[at];
+        if (c == '\n') {
+            return;
+        }
+        if (hasReturn && c != '\r') {
+            break;
+        }
+        hasReturn = hasReturn || c == '\r';
+        ++at;
+    }
+    if (hasReturn) {
         lineEnd_ = '\r';
     }
 }
 
+// The bytes before the next `end`, which is taken away too. Without one: false, and all that is left.
+bool DxfPairCursor::TakeUpTo(char end, std::string_view& taken) {
+    std::size_t searched = 0;
+    std::size_t found = 0;
+    while ((found = pieces_.Rest().find(end, searched)) == std::string_view::npos) {
+        searched = pieces_.Rest().size();
+        if (!pieces_.Extend()) {
+            taken = pieces_.Rest();
+            pieces_.Skip(taken.size());
+            return false;
+        }
+    }
+    taken = pieces_.Rest().substr(0, found);
+    pieces_.Skip(found + 1);
+    return true;
+}
+
 bool DxfPairCursor::TakeLine(std::string_view& line) {
-    if (position_ >= bytes_.size()) {
+    if (!TakeUpTo(lineEnd_, line) && line.empty()) {
         return false;
     }
-    const std::size_t end = std::min(bytes_.find(lineEnd_, position_), bytes_.size());
-    line = bytes_.substr(position_, end - position_);
     if (!line.empty() && line.back() == '\r') {
         line.remove_suffix(1);
     }
-    position_ = end + 1;
     ++line_;
     return true;
 }
 
 DxfPairCursor::Outcome DxfPairCursor::Next(DxfPair& pair) {
     pair.isBinary = isBinary_;
-    return isBinary_ ? NextOfBinary(pair) : NextOfText(pair);
+    const Outcome outcome = isBinary_ ? NextOfBinary(pair) : NextOfText(pair);
+    if (outcome == Outcome::kPair) {
+        NoteEncoding(pair);
+    }
+    return outcome;
+}
+
+void DxfPairCursor::NoteEncoding(const DxfPair& pair) {
+    if (encoding_ >= DxfEncoding::kOther || IsAscii(pair.value) || !pair.IsText()) {
+        return;
+    }
+    if (platform::IsUtf8(pair.value)) {
+        encoding_ = DxfEncoding::kUtf8;
+    } else {
+        encoding_ = encoding_ == DxfEncoding::kAscii ? DxfEncoding::kOther : DxfEncoding::kOtherThanUtf8;
+    }
 }
 
 DxfPairCursor::Outcome DxfPairCursor::NextOfText(DxfPair& pair) {
@@ -220,49 +278,42 @@ DxfPairCursor::Outcome DxfPairCursor::NextOfText(DxfPair& pair) {
     return TakeLine(pair.value) ? Outcome::kPair : Outcome::kCut;
 }
 
+bool DxfPairCursor::Take(std::size_t count, std::string_view& taken) {
+    if (!pieces_.Require(count)) {
+        return false;
+    }
+    taken = pieces_.Rest().substr(0, count);
+    pieces_.Skip(count);
+    return true;
+}
+
 DxfPairCursor::Outcome DxfPairCursor::NextOfBinary(DxfPair& pair) {
-    pair.place = position_;
-    std::string_view rest = bytes_.substr(std::min(position_, bytes_.size()));
-    if (rest.empty()) {
+    pair.place = pieces_.Offset();
+    if (!pieces_.Require(1)) {
         return Outcome::kEnd;
     }
-    const auto take = [&](std::size_t count, std::string_view& taken) {
-        taken = rest.substr(0, count);
-        rest.remove_prefix(taken.size());
-        return taken.size() == count;
-    };
     std::string_view code;
-    if (!take(hasShortCodes_ ? 1 : 2, code)) {
+    if (!Take(hasShortCodes_ ? 1 : 2, code)) {
         return Outcome::kCut;
     }
-    if (hasShortCodes_ && static_cast<std::uint8_t>(code.front()) == kLongCode && !take(2, code)) {
+    if (hasShortCodes_ && static_cast<std::uint8_t>(code.front()) == kLongCode && !Take(2, code)) {
         return Outcome::kCut;
     }
     pair.code = static_cast<int>(code.size() == 1 ? Assemble(code)
                                                   : static_cast<std::uint64_t>(AssembleSigned(code)));
     const Kind kind = KindOf(pair.code);
     if (kind == Kind::kText) {
-        const std::size_t end = rest.find('\0');
-        if (end == std::string_view::npos) {
-            return Outcome::kCut;
-        }
-        take(end, pair.value);
-        rest.remove_prefix(1);
-    } else {
-        std::size_t size = SizeOf(kind);
-        std::string_view length;
-        if (kind == Kind::kChunk) {
-            if (!take(1, length)) {
-                return Outcome::kCut;
-            }
-            size = static_cast<std::uint8_t>(length.front());
-        }
-        if (!take(size, pair.value)) {
-            return Outcome::kCut;
-        }
+        return TakeUpTo('\0', pair.value) ? Outcome::kPair : Outcome::kCut;
     }
-    position_ = bytes_.size() - rest.size();
-    return Outcome::kPair;
+    std::size_t size = SizeOf(kind);
+    std::string_view length;
+    if (kind == Kind::kChunk) {
+        if (!Take(1, length)) {
+            return Outcome::kCut;
+        }
+        size = static_cast<std::uint8_t>(length.front());
+    }
+    return Take(size, pair.value) ? Outcome::kPair : Outcome::kCut;
 }
 
 } // namespace exchange

@@ -1,6 +1,8 @@
 // The pairs of a DXF file: a group code, which says what a value means, and the value.
 #pragma once
 
+#include "exchange/DxfPieces.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -27,11 +29,18 @@ struct DxfPair {
     std::uint64_t Handle() const;
 };
 
+/// What the texts of a file are written in, as far as it is read.
+enum class DxfEncoding : std::uint8_t {
+    kAscii,
+    kUtf8,
+    kOther,         ///< and all before the first one that is no UTF-8 were ASCII
+    kOtherThanUtf8, ///< and some before it were UTF-8
+};
+
 /// Hands out the pairs of a file from the first to the last.
 class DxfPairCursor {
 public:
-    /// `bytes` must outlive the cursor and the pairs.
-    explicit DxfPairCursor(std::string_view bytes);
+    explicit DxfPairCursor(DxfPieces pieces);
 
     enum class Outcome {
         kPair,
@@ -39,8 +48,14 @@ public:
         kNoCode, ///< a line that must hold a group code holds something else
         kCut,    ///< the file ends within a pair
     };
-    /// The next pair. After any other outcome than a pair there are no more; `pair` then has the place.
+    /// The next pair, which is valid until Release is called for a later one. After any other outcome than a
+    /// pair there are no more; `pair` then has the place.
     Outcome Next(DxfPair& pair);
+    /// No pair is in use any more but the last one.
+    void Release() { pieces_.Release(); }
+
+    /// Of the values that were read up to now.
+    DxfEncoding Encoding() const { return encoding_; }
 
     /// Places are bytes, not lines.
     bool IsBinary() const { return isBinary_; }
@@ -49,9 +64,13 @@ private:
     Outcome NextOfText(DxfPair& pair);
     Outcome NextOfBinary(DxfPair& pair);
     bool TakeLine(std::string_view& line);
+    bool TakeUpTo(char end, std::string_view& taken);
+    bool Take(std::size_t count, std::string_view& taken);
+    void FindLineEnd();
+    void NoteEncoding(const DxfPair& pair);
 
-    std::string_view bytes_;
-    std::size_t position_ = 0;
+    DxfPieces pieces_;
+    DxfEncoding encoding_ = DxfEncoding::kAscii;
     std::size_t line_ = 0;
     char lineEnd_ = '\n';
     bool isBinary_ = false;

@@ -12,6 +12,7 @@
 #include <deque>
 #include <optional>
 #include <unordered_map>
+#include <utility>
 
 namespace exchange {
 namespace {
@@ -54,33 +55,22 @@ Header ReadHeader(const DxfRecord& section) {
     return header;
 }
 
-// The numbers of a binary file are no characters.
-bool HasUtf8Texts(std::string_view bytes) {
-    DxfPairCursor cursor(bytes);
-    if (!cursor.IsBinary()) {
-        return platform::IsUtf8(bytes);
-    }
-    DxfPair pair;
-    while (cursor.Next(pair) == DxfPairCursor::Outcome::kPair) {
-        if (pair.IsText() && !platform::IsUtf8(pair.value)) {
-            return false;
-        }
-    }
-    return true;
-}
-
 class Reader {
 public:
-    Reader(std::string_view bytes, DxfNotes& notes)
-        : notes_(notes), cursor_(bytes), isUtf8_(HasUtf8Texts(bytes)) {
+    /// A file `isUtf8` as long as it does not turn out to be in another encoding.
+    Reader(DxfPieces pieces, bool isUtf8, DxfNotes& notes)
+        : notes_(notes), cursor_(std::move(pieces)), isUtf8_(isUtf8) {
         if (cursor_.IsBinary()) {
             notes_.CountBytes();
         }
     }
 
     std::unique_ptr<drawing::Database> Read(diagnostics::Diagnostic& fault);
+    /// Texts were read as UTF-8 before one came that is none: the file is to be read anew, as not in UTF-8.
+    bool IsMisread() const { return isMisread_; }
 
 private:
+    void FollowEncoding();
     std::unique_ptr<drawing::Database> Refuse(const DxfFault& why, diagnostics::Diagnostic& fault) const;
     void Take(const DxfRecord& record);
     void BeginSection(const DxfRecord& record);
@@ -93,6 +83,8 @@ private:
     DxfNotes& notes_;
     DxfRecordCursor cursor_;
     bool isUtf8_;
+    bool isMisread_ = false;
+    std::string codePage_;
     std::unique_ptr<drawing::Database> database_ = std::make_unique<drawing::Database>();
     // These wait for the header, which says how texts are encoded.
     std::optional<DxfTextDecoder> texts_;
@@ -108,9 +100,23 @@ private:
 void Reader::Open(const Header& header) {
     database_->SetInsunits(header.units);
     if (!texts_) {
-        texts_.emplace(isUtf8_, header.codePage);
+        codePage_ = header.codePage;
+        texts_.emplace(isUtf8_, codePage_);
         tables_.emplace(*database_, *texts_, notes_);
         entities_.emplace(*database_, *texts_, notes_);
+    }
+}
+
+// The encoding is that of all texts, and known only when the last one is read. What was read before the first
+// text that is no UTF-8 was mostly ASCII, and is right then.
+void Reader::FollowEncoding() {
+    if (!isUtf8_ || cursor_.Encoding() < DxfEncoding::kOther) {
+        return;
+    }
+    isUtf8_ = false;
+    if (texts_) {
+        texts_.emplace(isUtf8_, codePage_);
+        isMisread_ = cursor_.Encoding() == DxfEncoding::kOtherThanUtf8 || !texts_->ReadsAscii();
     }
 }
 
@@ -126,6 +132,10 @@ std::unique_ptr<drawing::Database> Reader::Read(diagnostics::Diagnostic& fault) 
     bool hasSection = false;
     bool isAtEnd = false;
     while (!isAtEnd && cursor_.Next(record)) {
+        FollowEncoding();
+        if (isMisread_) {
+            return nullptr;
+        }
         hasSection = hasSection || record.type == "SECTION";
         isAtEnd = record.type == "EOF";
         if (!isAtEnd && cursor_.IsBroken()) {
@@ -311,10 +321,25 @@ void Reader::TakeDrawOrder(const DxfRecord& record) {
     block.record->SetDrawOrder(std::move(order));
 }
 
+// `begin` gives the bytes from the first one on.
+template <class Begin>
+std::unique_ptr<drawing::Database> ReadAnew(const Begin& begin, diagnostics::Diagnostic& fault,
+                                            DxfNotes& notes) {
+    for (const bool isUtf8 : {true, false}) {
+        notes = {};
+        Reader reader(begin(), isUtf8, notes);
+        std::unique_ptr<drawing::Database> drawing = reader.Read(fault);
+        if (!reader.IsMisread()) {
+            return drawing;
+        }
+    }
+    return nullptr; // not reached: a file that is not taken for UTF-8 is not misread
+}
+
 } // namespace
 
 bool LooksLikeDxf(std::string_view bytes) {
-    DxfPairCursor cursor(bytes);
+    DxfPairCursor cursor{DxfPieces(bytes)};
     DxfPair pair;
     constexpr int kComment = 999;
     do {
@@ -327,7 +352,17 @@ bool LooksLikeDxf(std::string_view bytes) {
 
 std::unique_ptr<drawing::Database> ReadDxf(std::string_view bytes, diagnostics::Diagnostic& fault,
                                            DxfNotes& notes) {
-    return Reader(bytes, notes).Read(fault);
+    return ReadAnew([bytes] { return DxfPieces(bytes); }, fault, notes);
+}
+
+std::unique_ptr<drawing::Database> ReadDxf(ByteSource& source, diagnostics::Diagnostic& fault,
+                                           DxfNotes& notes, std::size_t pieceSize) {
+    return ReadAnew(
+        [&source, pieceSize] {
+            source.Rewind();
+            return DxfPieces(source, pieceSize);
+        },
+        fault, notes);
 }
 
 } // namespace exchange

@@ -3,7 +3,9 @@
 
 #include "drawing/database/Database.h"
 #include "exchange/DxfNotes.h"
+#include "exchange/DxfPieces.h"
 
+#include <cstddef>
 #include <memory>
 #include <string_view>
 
@@ -22,5 +24,10 @@ bool LooksLikeDxf(std::string_view bytes);
 /// texts are decoded.
 std::unique_ptr<drawing::Database> ReadDxf(std::string_view bytes, diagnostics::Diagnostic& fault,
                                            DxfNotes& notes);
+/// The same of a file that is never held as a whole: `pieceSize` bytes are read at once, or as many as a long
+/// line or the entity that is read just now takes. From the first byte on, and maybe a second time: texts
+/// that are no UTF-8 may come late. Where reading fails, the file seems to end; `source` must tell.
+std::unique_ptr<drawing::Database> ReadDxf(ByteSource& source, diagnostics::Diagnostic& fault,
+                                           DxfNotes& notes, std::size_t pieceSize = DxfPieces::kPieceSize);
 
 } // namespace exchange

@@ -1,6 +1,9 @@
 // The records of a DXF file.
 #include "exchange/DxfRecords.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace exchange {
 namespace {
 
@@ -69,7 +72,29 @@ std::string_view DxfRecord::Word(int code, std::string_view fallback) const {
     return pair != nullptr ? pair->Word() : fallback;
 }
 
-DxfRecordCursor::DxfRecordCursor(std::string_view bytes) : cursor_(bytes) {
+DxfKeptRecord::DxfKeptRecord(const DxfRecord& record) : record_(record) {
+    std::size_t size = record.type.size();
+    for (const DxfPair& pair : record.pairs) {
+        size += pair.value.size();
+    }
+    size += record.invalid ? record.invalid->value.size() : 0;
+    bytes_ = std::make_unique<char[]>(size);
+    char* end = bytes_.get();
+    const auto keep = [&end](std::string_view& bytes) {
+        char* const start = end;
+        end = std::copy(bytes.begin(), bytes.end(), start);
+        bytes = {start, bytes.size()};
+    };
+    keep(record_.type);
+    for (DxfPair& pair : record_.pairs) {
+        keep(pair.value);
+    }
+    if (record_.invalid) {
+        keep(record_.invalid->value);
+    }
+}
+
+DxfRecordCursor::DxfRecordCursor(DxfPieces pieces) : cursor_(std::move(pieces)) {
     do { // comments may stand before the first record
         hasStart_ = Take(start_);
     } while (hasStart_ && start_.code == kComment);
@@ -97,6 +122,7 @@ bool DxfRecordCursor::Next(DxfRecord& record) {
     if (!hasStart_) {
         return false;
     }
+    cursor_.Release();
     record.type = start_.Word();
     record.place = start_.place;
     record.pairs.clear();

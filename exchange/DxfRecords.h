@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -44,6 +45,17 @@ struct DxfRecord {
     mutable std::optional<DxfPair> invalid;
 };
 
+/// A record with bytes of its own, which stays when the file is read on.
+class DxfKeptRecord {
+public:
+    explicit DxfKeptRecord(const DxfRecord& record);
+    const DxfRecord& Get() const { return record_; }
+
+private:
+    std::unique_ptr<char[]> bytes_;
+    DxfRecord record_;
+};
+
 /// Why a file is refused.
 struct DxfFault {
     std::size_t place = 0; ///< line from 1, or in binary files byte from 0
@@ -57,13 +69,15 @@ std::string ShownValue(std::string_view bytes);
 /// Hands out the records of a file from the first to the last.
 class DxfRecordCursor {
 public:
-    explicit DxfRecordCursor(std::string_view bytes);
+    explicit DxfRecordCursor(DxfPieces pieces);
 
-    /// False behind the last record and where the file breaks off; `fault` is set in the latter case.
+    /// The next record, which is valid until the next call. False behind the last record and where the file
+    /// breaks off; `fault` is set in the latter case.
     bool Next(DxfRecord& record);
     bool IsBroken() const { return isBroken_; }
     const DxfFault& Fault() const { return fault_; }
     bool IsBinary() const { return cursor_.IsBinary(); }
+    DxfEncoding Encoding() const { return cursor_.Encoding(); }
 
 private:
     bool Take(DxfPair& pair);

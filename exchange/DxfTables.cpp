@@ -41,7 +41,7 @@ void DxfTableReader::Take(const DxfRecord& record) {
     } else if (record.type == "STYLE") {
         TakeStyle(record);
     } else if (record.type == "LTYPE") {
-        linetypes_.push_back(record);
+        linetypes_.emplace_back(record);
     } else if (record.type == "BLOCK_RECORD") {
         TakeBlockRecord(record);
     }
@@ -109,8 +109,8 @@ std::wstring DxfTableReader::StyleOf(const DxfPair& handle) const {
 }
 
 void DxfTableReader::Finish() {
-    for (const DxfRecord& record : linetypes_) {
-        AddLinetype(record);
+    for (const DxfKeptRecord& record : linetypes_) {
+        AddLinetype(record.Get());
     }
     linetypes_.clear();
 }

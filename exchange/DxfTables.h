@@ -43,7 +43,7 @@ private:
     drawing::Database& database_;
     const DxfTextDecoder& texts_;
     DxfNotes& notes_;
-    std::vector<DxfRecord> linetypes_;
+    std::vector<DxfKeptRecord> linetypes_;
     std::map<std::uint64_t, std::wstring> styles_; // by their handles
     std::unordered_map<std::string, DxfBlockProperties> blocks_;
 };

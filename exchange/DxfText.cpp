@@ -110,6 +110,14 @@ std::size_t ReadCode(std::string_view rest, std::wstring& text) {
 DxfTextDecoder::DxfTextDecoder(bool isUtf8, std::string_view pageOfFile)
     : page_(ChosenPage(isUtf8, pageOfFile)) {}
 
+bool DxfTextDecoder::ReadsAscii() const {
+    std::string ascii;
+    for (char c = ' '; c <= '~'; ++c) {
+        ascii += c;
+    }
+    return page_.ToWide(ascii) == std::wstring(ascii.begin(), ascii.end());
+}
+
 std::wstring DxfTextDecoder::Decode(std::string_view bytes) const {
     bytes = bytes.substr(0, bytes.find('\0'));
     std::wstring text;

@@ -19,6 +19,10 @@ public:
     /// "^" and a character from "@" to "_" is a control character, "^ " is "^". A character 0 ends the text.
     std::wstring Decode(std::string_view bytes) const;
 
+    /// Whether it reads the ASCII characters as what they are. Some East Asian pages have others in the place
+    /// of one or two.
+    bool ReadsAscii() const;
+
 private:
     platform::PageDecoder page_;
 };

@@ -64,11 +64,45 @@ std::unique_ptr<drawing::Database> ReadDocument(const Input& input, std::string_
     return drawing;
 }
 
-std::unique_ptr<drawing::Database> ReadDxfFile(const Input& input, std::string_view bytes, Reading reading,
-                                               Diagnostics& diagnostics) {
+Diagnostic Unreadable(const Input& input) {
+    return {Severity::kError,
+            diagnostics::Code::kUnreadableFile,
+            {input.name},
+            {"reading failed before its end"}};
+}
+
+/// The bytes of a stream from where it stands.
+class StreamSource : public exchange::ByteSource {
+public:
+    explicit StreamSource(std::FILE* stream) : stream_(stream) {
+        canRewind_ = std::fgetpos(stream, &start_) == 0 && std::fsetpos(stream, &start_) == 0;
+    }
+
+    /// False for a pipe.
+    bool CanRewind() const { return canRewind_; }
+    std::size_t Read(char* bytes, std::size_t most) override { return std::fread(bytes, 1, most, stream_); }
+    void Rewind() override {
+        std::clearerr(stream_);
+        static_cast<void>(std::fsetpos(stream_, &start_));
+    }
+
+private:
+    std::FILE* stream_;
+    std::fpos_t start_{};
+    bool canRewind_ = false;
+};
+
+// `read` reads it with what it is given for the fault and the notes.
+template <class Read>
+std::unique_ptr<drawing::Database> ReadDxfFile(const Input& input, Reading reading, Diagnostics& diagnostics,
+                                               const Read& read) {
     Diagnostic fault;
     exchange::DxfNotes notes;
-    auto drawing = exchange::ReadDxf(bytes, fault, notes);
+    std::unique_ptr<drawing::Database> drawing = read(fault, notes);
+    if (input.stream != nullptr && std::ferror(input.stream) != 0) {
+        diagnostics.push_back(Unreadable(input));
+        return nullptr;
+    }
     if (drawing == nullptr) {
         fault.place.file = input.name;
         diagnostics.push_back(std::move(fault));
@@ -93,28 +127,48 @@ bool ReadRest(std::FILE* stream, std::string& bytes) {
     return std::ferror(stream) == 0;
 }
 
-// Drawing documents are read as they come; what begins as none is read whole.
-std::unique_ptr<drawing::Database> Read(const Input& input, Reading reading, Diagnostics& diagnostics) {
-    std::string read;
-    std::string_view bytes = input.bytes;
-    if (input.stream != nullptr) {
-        const int first = std::getc(input.stream);
-        if (first == '{' || first == EOF) {
-            std::ungetc(first, input.stream);
-            return ReadDocument(input, {}, reading, diagnostics);
-        }
-        read += static_cast<char>(first);
-        if (!ReadRest(input.stream, read)) {
-            diagnostics.push_back({Severity::kError,
-                                   diagnostics::Code::kUnreadableFile,
-                                   {input.name},
-                                   {"reading failed before its end"}});
-            return nullptr;
-        }
-        bytes = read;
+std::unique_ptr<drawing::Database> ReadBytes(const Input& input, std::string_view bytes, Reading reading,
+                                             Diagnostics& diagnostics) {
+    if (!IsDxf(input.name, bytes)) {
+        return ReadDocument(input, bytes, reading, diagnostics);
     }
-    return IsDxf(input.name, bytes) ? ReadDxfFile(input, bytes, reading, diagnostics)
-                                    : ReadDocument(input, bytes, reading, diagnostics);
+    return ReadDxfFile(input, reading, diagnostics, [bytes](Diagnostic& fault, exchange::DxfNotes& notes) {
+        return exchange::ReadDxf(bytes, fault, notes);
+    });
+}
+
+// Both kinds are read as they come where their first bytes tell which of them it is, and, for DXF, where
+// reading can begin anew; else the file is held as a whole.
+std::unique_ptr<drawing::Database> ReadStream(const Input& input, Reading reading, Diagnostics& diagnostics) {
+    StreamSource source(input.stream);
+    const int first = std::getc(input.stream);
+    std::ungetc(first, input.stream);
+    if (first == '{' || first == EOF) {
+        return ReadDocument(input, {}, reading, diagnostics);
+    }
+    if (source.CanRewind()) {
+        std::array<char, 1 << 12> start{};
+        source.Rewind();
+        const std::size_t size = source.Read(start.data(), start.size());
+        source.Rewind();
+        if (IsDxf(input.name, {start.data(), size})) {
+            return ReadDxfFile(input, reading, diagnostics,
+                               [&](Diagnostic& fault, exchange::DxfNotes& notes) {
+                                   return exchange::ReadDxf(source, fault, notes);
+                               });
+        }
+    }
+    std::string bytes;
+    if (!ReadRest(input.stream, bytes)) {
+        diagnostics.push_back(Unreadable(input));
+        return nullptr;
+    }
+    return ReadBytes(input, bytes, reading, diagnostics);
+}
+
+std::unique_ptr<drawing::Database> Read(const Input& input, Reading reading, Diagnostics& diagnostics) {
+    return input.stream != nullptr ? ReadStream(input, reading, diagnostics)
+                                   : ReadBytes(input, input.bytes, reading, diagnostics);
 }
 
 } // namespace

@@ -32,6 +32,35 @@ std::string SymbolsOf(drawing::Database& database) {
     return fuzzing::TextOf(fuzzing::ConvertBlocks(database));
 }
 
+/// Gives the bytes of a file one by one.
+class SingleBytes : public exchange::ByteSource {
+public:
+    explicit SingleBytes(std::string_view bytes) : bytes_(bytes) {}
+    std::size_t Read(char* bytes, std::size_t) override {
+        if (at_ == bytes_.size()) {
+            return 0;
+        }
+        *bytes = bytes_[at_++];
+        return 1;
+    }
+    void Rewind() override { at_ = 0; }
+
+private:
+    std::string_view bytes_;
+    std::size_t at_ = 0;
+};
+
+// Reading piece by piece gives the same, or refuses the same.
+void RequireSameOfPieces(std::string_view bytes, const drawing::Database* whole) {
+    diagnostics::Diagnostic fault;
+    exchange::DxfNotes notes;
+    SingleBytes source(bytes);
+    constexpr std::size_t kPieceSize = 16;
+    const auto pieces = exchange::ReadDxf(source, fault, notes, kPieceSize);
+    Require((pieces == nullptr) == (whole == nullptr), "pieces to be refused as the whole");
+    Require(pieces == nullptr || DocumentOf(*pieces) == DocumentOf(*whole), "the same drawing of pieces");
+}
+
 void CopyAll(drawing::Database& database) {
     for (const drawing::BlockRecord* const block : database.Blocks()) {
         drawing::BlockCopyLosses losses;
@@ -47,6 +76,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     diagnostics::Diagnostic fault;
     exchange::DxfNotes notes;
     const auto database = exchange::ReadDxf(bytes, fault, notes);
+    RequireSameOfPieces(bytes, database.get());
     if (database == nullptr) {
         Require(fault.place.line > 0 || fault.place.byte, "a refusal to have a place");
         return 0;

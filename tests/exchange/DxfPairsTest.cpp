@@ -8,11 +8,12 @@ namespace {
 
 using exchange::DxfPair;
 using exchange::DxfPairCursor;
+using exchange::DxfPieces;
 using Outcome = DxfPairCursor::Outcome;
 
 // "code=value@place" of each pair, and how the file ends.
 std::string Pairs(std::string_view bytes) {
-    DxfPairCursor cursor(bytes);
+    DxfPairCursor cursor{DxfPieces(bytes)};
     DxfPair pair;
     std::string all;
     Outcome outcome = Outcome::kPair;
@@ -79,8 +80,8 @@ TEST(DxfPairs, BinaryValuesAreThoseOfTheText) {
     for (const bool shortCodes : {false, true}) {
         const std::string bytes = file.Binary(shortCodes);
         const std::string ascii = file.Ascii();
-        DxfPairCursor binary(bytes);
-        DxfPairCursor text(ascii);
+        DxfPairCursor binary{DxfPieces(bytes)};
+        DxfPairCursor text{DxfPieces(ascii)};
         EXPECT_TRUE(binary.IsBinary());
         DxfPair fromBinary;
         DxfPair fromText;

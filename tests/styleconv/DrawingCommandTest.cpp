@@ -76,6 +76,32 @@ TEST_F(DrawingCommand, WritesADocumentAgain) {
     EXPECT_EQ(RunTool({"drawing", folder.Write("d.json", kDocument)}).output, kDocument);
 }
 
+// Files are read piece by piece, and again from their start where a late text tells of another encoding; what
+// comes through a pipe cannot be.
+TEST_F(DrawingCommand, LargeFilesAndPipesGiveTheSameInEveryEncoding) {
+    DxfWriter lines;
+    for (int i = 0; i < 3000; ++i) {
+        lines.Text(0, "LINE")
+            .Text(8, "STRA\xC3\x9F"
+                     "E")
+            .Point(10, i, 0.5)
+            .Point(11, i, 2.25);
+    }
+    for (const std::string text : {"\xC3\xA4", "\xE4"}) {
+        DxfWriter all = lines;
+        all.Text(0, "TEXT").Text(8, "0").Point(10, 0, 0).Number(40, 1).Text(1, text);
+        const std::string bytes = FileOf(all).Ascii();
+        ASSERT_GT(bytes.size(), 2U << 16);
+        const ToolResult result = RunTool({"drawing", folder.Write("large.dxf", bytes)});
+        const bool isUtf8 = text.size() > 1;
+        EXPECT_NE(result.output.find("\"text\": \"\xC3\xA4\""), std::string::npos);
+        EXPECT_EQ(result.output.find("\"STRA\xC3\x9F"
+                                     "E\"") != std::string::npos,
+                  isUtf8);
+        EXPECT_EQ(RunTool({"drawing", "-"}, bytes).output, result.output);
+    }
+}
+
 TEST_F(DrawingCommand, TellsTheKindByTheContents) {
     const std::string symbols = RunTool({"blocks", dxf}).output;
     EXPECT_NE(symbols.find("M 0.0,0.0 L 2.0,0.0"), std::string::npos) << symbols;
