@@ -2,37 +2,13 @@
 #include "exchange/DxfPieces.h"
 
 #include "tests/exchange/DxfFiles.h"
+#include "tests/support/Trickle.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
 
 using exchange::DxfPieces;
-
-/// Gives the bytes of a file, so many at a time.
-class Trickle : public exchange::ByteSource {
-public:
-    Trickle(std::string_view bytes, std::size_t most) : bytes_(bytes), most_(most) {}
-
-    std::size_t Read(char* bytes, std::size_t most) override {
-        const std::size_t count = std::min({most, most_, bytes_.size() - at_});
-        std::copy_n(bytes_.data() + at_, count, bytes);
-        at_ += count;
-        return count;
-    }
-    void Rewind() override {
-        at_ = 0;
-        ++begun;
-    }
-
-    int begun = 0; // how often the file was read from its start
-
-private:
-    std::string_view bytes_;
-    std::size_t most_;
-    std::size_t at_ = 0;
-};
 
 /// The drawing's document or the refusal, and what is said of the reading.
 std::string OutcomeOf(const std::unique_ptr<drawing::Database>& database,

@@ -6,6 +6,7 @@
 #include "exchange/DxfReader.h"
 #include "tests/faults/Documents.h"
 #include "tests/support/Allocations.h"
+#include "tests/support/Trickle.h"
 
 #include <filesystem>
 #include <fstream>
@@ -151,6 +152,13 @@ TEST(FailedAllocations, OfReadingADxfFileReachTheCaller) {
                   EXPECT_FALSE(notes.All().empty());
               }),
               60U);
+    EXPECT_GE(FailEach([&] {
+                  Trickle source(bytes, 100);
+                  diagnostics::Diagnostic fault;
+                  exchange::DxfNotes notes;
+                  EXPECT_NE(exchange::ReadDxf(source, fault, notes, 16), nullptr);
+              }),
+              70U);
 }
 
 TEST(FailedAllocations, OfReadingSymbolsReachTheCaller) {
