@@ -326,7 +326,7 @@ template <class Begin>
 std::unique_ptr<drawing::Database> ReadAnew(const Begin& begin, diagnostics::Diagnostic& fault,
                                             DxfNotes& notes) {
     for (const bool isUtf8 : {true, false}) {
-        notes = {};
+        notes = DxfNotes();
         Reader reader(begin(), isUtf8, notes);
         std::unique_ptr<drawing::Database> drawing = reader.Read(fault);
         if (!reader.IsMisread()) {
