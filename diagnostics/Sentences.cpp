@@ -207,7 +207,7 @@ constexpr auto kRows = std::to_array<Row>({
     {Code::kEmptyPattern, "empty-pattern",
      "the pattern has no lines", "", ""},
     {Code::kPatternWithoutTile, "pattern-without-tile",
-     "the pattern has no repeat tile: no rectangle repeats its lines", "", ""},
+     "the pattern has no repeat tile: no rectangle of a strict symbol repeats its lines (--faithful draws it)", "", ""},
     {Code::kTinyTile, "tiny-tile",
      "the repeat tile of the pattern is too small to draw: its sides are shorter than 0.0001", "", ""},
     {Code::kDuplicatePattern, "duplicate-pattern",

@@ -154,9 +154,11 @@ TEST(PatternsCommand, APatternWithoutATileIsNamedAndLeftOut) {
     const ToolResult result = RunTool({"patterns", file});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"A"}));
-    EXPECT_EQ(result.errors,
-              file + ":3: warning: the pattern has no repeat tile: no rectangle repeats its lines; skipped "
-                     "(pattern NOTILE)\n");
+    EXPECT_EQ(
+        result.errors,
+        file +
+            ":3: warning: the pattern has no repeat tile: no rectangle of a strict symbol repeats its lines "
+            "(--faithful draws it); skipped (pattern NOTILE)\n");
 }
 
 TEST(PatternsCommand, APatternWithoutATileThatIsAskedForIsAFault) {
@@ -167,8 +169,8 @@ TEST(PatternsCommand, APatternWithoutATileThatIsAskedForIsAFault) {
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(
         result.errors,
-        file +
-            ":3: error: the pattern has no repeat tile: no rectangle repeats its lines (pattern NOTILE)\n");
+        file + ":3: error: the pattern has no repeat tile: no rectangle of a strict symbol repeats its lines "
+               "(--faithful draws it) (pattern NOTILE)\n");
     EXPECT_EQ(folder.Read("out.json"), "old");
 }
 
@@ -178,11 +180,12 @@ TEST(PatternsCommand, AFileWhosePatternsAllLackATileIsAFault) {
     const ToolResult result = RunTool({"patterns", file});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output, "");
-    EXPECT_EQ(result.errors,
-              file + ":1: warning: the pattern has no lines; skipped (pattern EMPTY)\n" + file +
-                  ":2: warning: the pattern has no repeat tile: no rectangle repeats its lines; skipped "
-                  "(pattern NOTILE)\n" +
-                  file + ": error: none of the patterns can be converted\n");
+    EXPECT_EQ(
+        result.errors,
+        file + ":1: warning: the pattern has no lines; skipped (pattern EMPTY)\n" + file +
+            ":2: warning: the pattern has no repeat tile: no rectangle of a strict symbol repeats its lines "
+            "(--faithful draws it); skipped (pattern NOTILE)\n" +
+            file + ": error: none of the patterns can be converted\n");
 }
 
 TEST(PatternsCommand, APatternWhoseTileHasNextToNoSizeIsAFault) {
@@ -278,9 +281,9 @@ TEST(PatternsCommand, WarnsOfWhatTheSymbolsLoseAndConverts) {
     const ScratchFolder folder;
     // The tile is 0.005 of 0.105 too low, and after ten tiles 0.05.
     const std::string file = folder.Write("a.pat", "*X\n0,0,0,0,0.105\n*Y\n0,0,0,0,1\n0,0,0,0.001,1,1,-1\n");
-    const std::string said =
-        file + ":2: warning: drawn up to 48 % of the line spacing out of place: 0.105 is written 0.1; "
-               "--faithful draws it (pattern X)\n";
+    const std::string said = file + ":2: warning: drawn up to 48 % of the line spacing out of place: 0.105 "
+                                    "is written 0.1;  (--faithful draws it) "
+                                    "(pattern X)\n";
     const ToolResult all = RunTool({"patterns", file});
     EXPECT_EQ(all.status, 0);
     EXPECT_EQ(all.errors, said + file +
