@@ -282,7 +282,7 @@ TEST(PatternsCommand, WarnsOfWhatTheSymbolsLoseAndConverts) {
     // The tile is 0.005 of 0.105 too low, and after ten tiles 0.05.
     const std::string file = folder.Write("a.pat", "*X\n0,0,0,0,0.105\n*Y\n0,0,0,0,1\n0,0,0,0.001,1,1,-1\n");
     const std::string said = file + ":2: warning: drawn up to 48 % of the line spacing out of place: 0.105 "
-                                    "is written 0.1;  (--faithful draws it) "
+                                    "is written 0.1; --faithful draws it "
                                     "(pattern X)\n";
     const ToolResult all = RunTool({"patterns", file});
     EXPECT_EQ(all.status, 0);
