@@ -71,25 +71,16 @@ Diagnostic Unreadable(const Input& input) {
             {"reading failed before its end"}};
 }
 
-/// The bytes of a stream from where it stands.
+/// The bytes of a file that is open.
 class StreamSource : public exchange::ByteSource {
 public:
-    explicit StreamSource(std::FILE* stream) : stream_(stream) {
-        canRewind_ = std::fgetpos(stream, &start_) == 0 && std::fsetpos(stream, &start_) == 0;
-    }
+    explicit StreamSource(std::FILE* stream) : stream_(stream) {}
 
-    /// False for a pipe.
-    bool CanRewind() const { return canRewind_; }
     std::size_t Read(char* bytes, std::size_t most) override { return std::fread(bytes, 1, most, stream_); }
-    void Rewind() override {
-        std::clearerr(stream_);
-        static_cast<void>(std::fsetpos(stream_, &start_));
-    }
+    void Rewind() override { std::rewind(stream_); }
 
 private:
     std::FILE* stream_;
-    std::fpos_t start_{};
-    bool canRewind_ = false;
 };
 
 // `read` reads it with what it is given for the fault and the notes.
@@ -140,15 +131,14 @@ std::unique_ptr<drawing::Database> ReadBytes(const Input& input, std::string_vie
 // Both kinds are read as they come where their first bytes tell which of them it is, and, for DXF, where
 // reading can begin anew; else the file is held as a whole.
 std::unique_ptr<drawing::Database> ReadStream(const Input& input, Reading reading, Diagnostics& diagnostics) {
-    StreamSource source(input.stream);
     const int first = std::getc(input.stream);
     std::ungetc(first, input.stream);
     if (first == '{' || first == EOF) {
         return ReadDocument(input, {}, reading, diagnostics);
     }
-    if (source.CanRewind()) {
+    if (input.canRewind) {
+        StreamSource source(input.stream);
         std::array<char, 1 << 12> start{};
-        source.Rewind();
         const std::size_t size = source.Read(start.data(), start.size());
         source.Rewind();
         if (IsDxf(input.name, {start.data(), size})) {

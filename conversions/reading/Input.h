@@ -17,6 +17,8 @@ struct Input {
     /// Instead of the bytes, for drawings only: an open stream that is read as far as the drawing goes. Large
     /// drawings need never be held as a whole.
     std::FILE* stream = nullptr;
+    /// The stream is a file that stands at its first byte, and can be set there again.
+    bool canRewind = false;
 };
 
 /// Whether text of that encoding can be read.

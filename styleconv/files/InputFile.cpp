@@ -60,7 +60,11 @@ std::optional<Diagnostic> InputFile::Read() {
 }
 
 conversions::Input InputFile::ForJob(const std::string& encoding) const {
-    return {name_, bytes_, encoding, isRead_ ? nullptr : IsStandardInput() ? stdin : file_.get()};
+    return {name_, bytes_, encoding,
+            isRead_             ? nullptr
+            : IsStandardInput() ? stdin
+                                : file_.get(),
+            !isRead_ && !IsStandardInput()};
 }
 
 std::optional<Diagnostic> InputFile::OpenNamed() {
