@@ -126,7 +126,7 @@ private:
         const std::wstring name = other.isA()->name();
         if (const auto* const area = std::get_if<FilledCorners>(&other.Shape())) {
             ++losses_.filled[name];
-            Fill(InPlane(area->corners), map, properties);
+            Fill(Straight(InPlane(area->corners)), map, properties);
             return true;
         }
         if (const auto* const own = std::get_if<OwnBlock>(&other.Shape())) {
@@ -136,11 +136,7 @@ private:
         }
         if (const auto* const path = std::get_if<OpenPath>(&other.Shape())) {
             ++losses_.paths[name];
-            std::vector<BulgeVertex> vertices;
-            for (const OxGePoint2d& point : InPlane(path->points)) {
-                vertices.push_back({point, 0.0});
-            }
-            AddPolyline(vertices, map, properties);
+            AddPolyline(Straight(InPlane(path->points)), map, properties);
             return true;
         }
         return false;
@@ -154,17 +150,17 @@ private:
         }
         return flat;
     }
-    void Fill(const std::vector<OxGePoint2d>& corners, const PlaneMap& map,
-              const EntityProperties& properties) {
-        PolylineLoop outline;
-        for (const OxGePoint2d& corner : corners) {
-            outline.vertices.push_back({map.Of(corner), 0.0});
+    static std::vector<BulgeVertex> Straight(const std::vector<OxGePoint2d>& points) {
+        std::vector<BulgeVertex> vertices;
+        vertices.reserve(points.size());
+        for (const OxGePoint2d& point : points) {
+            vertices.push_back({point, 0.0});
         }
-        HatchData area;
-        area.solid = true;
-        area.loops.emplace_back();
-        area.loops.back().polyline = std::move(outline);
-        target_.Add<Hatch>(properties, std::move(area));
+        return vertices;
+    }
+    void Fill(const std::vector<BulgeVertex>& outline, const PlaneMap& map,
+              const EntityProperties& properties) {
+        AddPlacedArea(target_, outline, properties, map);
     }
     void AddPolyline(const std::vector<BulgeVertex>& vertices, const PlaneMap& map,
                      const EntityProperties& properties) {

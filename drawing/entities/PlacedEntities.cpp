@@ -92,7 +92,7 @@ private:
         const double middle = 0.5 * (start + end);
         const OxGePoint2d first = At(start);
         const OxGePoint2d last = At(end);
-        const double bulge = BulgeThrough(first, At(middle), last);
+        const double bulge = geometry::BulgeThrough(first, At(middle), last);
         if (halvings > 0 && (IsOff(first, last, bulge, At(0.5 * (start + middle))) ||
                              IsOff(first, last, bulge, At(0.5 * (middle + end))))) {
             AddPiece(start, middle, halvings - 1);
@@ -100,14 +100,6 @@ private:
         } else {
             placed_.push_back({first, bulge});
         }
-    }
-
-    // The angle between the chords of an arc's two parts is half its sweep.
-    static double BulgeThrough(const OxGePoint2d& first, const OxGePoint2d& through,
-                               const OxGePoint2d& last) {
-        const OxGeVector2d in = {through.x - first.x, through.y - first.y};
-        const OxGeVector2d out = {last.x - through.x, last.y - through.y};
-        return std::tan(0.5 * std::atan2(in.x * out.y - in.y * out.x, in.x * out.x + in.y * out.y));
     }
 
     bool IsOff(const OxGePoint2d& first, const OxGePoint2d& last, double bulge,
@@ -428,6 +420,19 @@ void AddPlaced(BlockRecord& block, OxDbObjectId entity, const EntityProperties& 
 void AddPlacedPolyline(BlockRecord& block, const std::vector<BulgeVertex>& vertices,
                        const EntityProperties& properties, const PlaneMap& map) {
     block.Add<Polyline>(properties, Placed(vertices, false, map), false, false);
+}
+
+void AddPlacedArea(BlockRecord& block, const std::vector<BulgeVertex>& outline,
+                   const EntityProperties& properties, const PlaneMap& map) {
+    PolylineLoop loop;
+    loop.vertices = Placed(outline, true, map);
+    loop.hasBulges = std::any_of(loop.vertices.begin(), loop.vertices.end(),
+                                 [](const BulgeVertex& vertex) { return vertex.bulge != 0.0; });
+    HatchData area;
+    area.solid = true;
+    area.loops.emplace_back();
+    area.loops.back().polyline = std::move(loop);
+    block.Add<Hatch>(properties, std::move(area));
 }
 
 EntityProperties PropertiesOf(OxDbObjectId entity) {

@@ -17,11 +17,13 @@ struct SegmentWidth {
     bool operator!=(const SegmentWidth& other) const { return !(*this == other); }
 };
 
-/// A segment of a polyline: the corners of the area that it covers, or, of one without a width, nothing.
-using SegmentOutline = std::vector<OxGePoint2d>;
+/// A segment of a polyline: the closed outline of the area that it covers, or, of one without a width,
+/// nothing.
+using SegmentOutline = std::vector<geometry::BulgeVertex>;
 
-/// One for each segment. Neighbours of one width meet in a mitre, unless they turn back too sharply for one;
-/// arcs are followed by chords that leave them by 0.03 % of the radius.
+/// One for each segment. Neighbours of one width meet in a mitre, unless they turn back too sharply for one.
+/// Arcs of one width have arcs as edges; where the width changes along an arc, its edges are spirals, which
+/// are followed by arcs to a millionth of that change.
 OXDB_API std::vector<SegmentOutline> OutlinesOf(const std::vector<geometry::BulgeVertex>& vertices,
                                                 const std::vector<SegmentWidth>& widths, bool closed);
 

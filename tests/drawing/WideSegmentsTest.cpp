@@ -27,9 +27,14 @@ std::vector<SegmentWidth> Same(std::size_t count, double width) {
 double AreaOf(const SegmentOutline& outline) {
     double twice = 0.0;
     for (std::size_t i = 0; i < outline.size(); ++i) {
-        const OxGePoint2d& from = outline[i];
-        const OxGePoint2d& to = outline[(i + 1) % outline.size()];
+        const OxGePoint2d& from = outline[i].point;
+        const OxGePoint2d& to = outline[(i + 1) % outline.size()].point;
         twice += from.x * to.y - to.x * from.y;
+        // The segment of a circle between an arc and its chord.
+        const double sweep = 4.0 * std::atan(outline[i].bulge);
+        const double radius =
+            sweep == 0.0 ? 0.0 : std::hypot(to.x - from.x, to.y - from.y) / 2.0 / std::sin(sweep / 2.0);
+        twice += radius * radius * (sweep - std::sin(sweep));
     }
     return std::fabs(twice) / 2.0;
 }
@@ -37,8 +42,9 @@ double AreaOf(const SegmentOutline& outline) {
 void ExpectOutline(const SegmentOutline& outline, const std::vector<OxGePoint2d>& expected) {
     ASSERT_EQ(outline.size(), expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i) {
-        EXPECT_NEAR(outline[i].x, expected[i].x, 1e-12) << i;
-        EXPECT_NEAR(outline[i].y, expected[i].y, 1e-12) << i;
+        EXPECT_NEAR(outline[i].point.x, expected[i].x, 1e-12) << i;
+        EXPECT_NEAR(outline[i].point.y, expected[i].y, 1e-12) << i;
+        EXPECT_EQ(outline[i].bulge, 0.0) << i;
     }
 }
 
@@ -75,17 +81,66 @@ TEST(WideSegments, NeighboursThatTurnBackOrDifferInWidthEndBluntly) {
     ExpectOutline(thick[0], {{0, 3}, {10, 3}, {10, -3}, {0, -3}});
 }
 
-TEST(WideSegments, AnArcIsABandAlongIt) {
-    // A half circle of the radius 5.
+TEST(WideSegments, AnArcIsABandOfTwoArcs) {
+    // A half circle of the radius 5, counter-clockwise below its chord; on its left is its inner edge.
     const auto outlines = OutlinesOf({{{-5, 0}, 1.0}, {{5, 0}, 0.0}}, Same(2, 2), false);
     ASSERT_EQ(outlines.size(), 1U);
-    // 64 chords of equal length on either side.
-    EXPECT_NEAR(AreaOf(outlines[0]), 64.0 * std::sin(std::numbers::pi / 64.0) * (36.0 - 16.0) / 2.0, 1e-9);
-    for (const OxGePoint2d& corner : outlines[0]) {
-        const double radius = std::hypot(corner.x, corner.y);
-        EXPECT_NEAR(radius, radius > 5.0 ? 6.0 : 4.0, 1e-9);
-        EXPECT_LT(corner.y, 1e-9); // it runs counter-clockwise, below its chord
+    const SegmentOutline expected = {{{-4, 0}, 1.0}, {{4, 0}, 0.0}, {{6, 0}, -1.0}, {{-6, 0}, 0.0}};
+    ASSERT_EQ(outlines[0].size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_NEAR(outlines[0][i].point.x, expected[i].point.x, 1e-12) << i;
+        EXPECT_NEAR(outlines[0][i].point.y, expected[i].point.y, 1e-12) << i;
+        EXPECT_NEAR(outlines[0][i].bulge, expected[i].bulge, 1e-12) << i;
     }
+    EXPECT_NEAR(AreaOf(outlines[0]), std::numbers::pi * (36.0 - 16.0) / 2.0, 1e-9);
+}
+
+TEST(WideSegments, ABandThatWidensAlongAnArcFollowsItsSpirals) {
+    // Half of the width grows from 0 to 2 while the arc of the radius 5 turns by half of a circle.
+    const auto outlines = OutlinesOf({{{-5, 0}, 1.0}, {{5, 0}, 0.0}}, {{0, 4}, {}}, false);
+    ASSERT_EQ(outlines.size(), 1U);
+    // The integral of ((5 + 2 a / pi)² - (5 - 2 a / pi)²) / 2 over the angle a.
+    EXPECT_NEAR(AreaOf(outlines[0]), 10.0 * std::numbers::pi, 1e-6);
+    for (const BulgeVertex& vertex : outlines[0]) {
+        const double part =
+            (std::numbers::pi + std::atan2(vertex.point.y, vertex.point.x)) / std::numbers::pi;
+        const double half = std::fabs(std::hypot(vertex.point.x, vertex.point.y) - 5.0);
+        EXPECT_NEAR(half, 2.0 * std::fmod(part, 2.0), 1e-9);
+    }
+}
+
+TEST(WideSegments, AnArcMeetsALineInAMitre) {
+    // Up along x = 0, then, at a right angle, along an arc that begins in the direction +x and turns left.
+    const double quarter = std::tan(std::numbers::pi / 8.0);
+    const auto outlines = OutlinesOf({{{0, -10}, 0.0}, {{0, 0}, quarter}, {{5, 5}, 0.0}}, Same(3, 2), false);
+    ASSERT_EQ(outlines.size(), 2U);
+    ExpectOutline(outlines[0], {{-1, -10}, {-1, 1}, {1, -1}, {1, -10}});
+    // The centre is at (0, 5). On the left the mitre lengthens the edge of the radius 4 along the tangent; on
+    // the right it cuts away the piece of the edge of the radius 6 up to the corner.
+    const SegmentOutline& arc = outlines[1];
+    ASSERT_EQ(arc.size(), 6U);
+    const OxGePoint2d corners[] = {{-1, 1}, {0, 1}, {4, 5}, {6, 5}, {arc[4].point.x, arc[4].point.y},
+                                   {1, -1}};
+    for (std::size_t i = 0; i < arc.size(); ++i) {
+        EXPECT_NEAR(arc[i].point.x, corners[i].x, 1e-12) << i;
+        EXPECT_NEAR(arc[i].point.y, corners[i].y, 1e-12) << i;
+    }
+    EXPECT_NEAR(arc[1].bulge, quarter, 1e-12);
+    EXPECT_NEAR(std::hypot(arc[4].point.x, arc[4].point.y - 5.0), 6.0, 1e-12);
+    EXPECT_NEAR(std::atan2(arc[4].point.x, 5.0 - arc[4].point.y), std::asin(1.0 / std::hypot(1.0, 6.0)),
+                1e-12);
+    const double left = std::numbers::pi / 2.0 - std::asin(1.0 / std::hypot(1.0, 6.0));
+    EXPECT_NEAR(arc[3].bulge, -std::tan(left / 4.0), 1e-12);
+}
+
+TEST(WideSegments, AWidthBeyondTheCentreOfAnArcStaysABand) {
+    // The edge of the radius 1 - 3 runs on the other side of the centre.
+    const auto outlines = OutlinesOf({{{-1, 0}, 1.0}, {{1, 0}, 0.0}}, Same(2, 6), false);
+    ASSERT_EQ(outlines[0].size(), 4U);
+    EXPECT_NEAR(outlines[0][0].point.x, 2.0, 1e-12);
+    EXPECT_NEAR(outlines[0][0].bulge, 1.0, 1e-12);
+    EXPECT_NEAR(outlines[0][2].point.x, 4.0, 1e-12);
+    EXPECT_NEAR(outlines[0][2].bulge, -1.0, 1e-12);
 }
 
 TEST(WideSegments, WhatHasNoWidthOrNoLengthCoversNothing) {
