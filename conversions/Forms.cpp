@@ -119,6 +119,14 @@ bool WriteSymbols(const SymbolList& symbols, Form form, const TextSink& sink, Fr
         StyleJob unheard;
         return WriteAll(symbols, QgisStyles(sink, captions, styles != nullptr ? *styles : unheard), front);
     }
+    case Form::kQml: {
+        StyleJob unheard;
+        if (symbols.empty()) {
+            return false;
+        }
+        AtSymbol(*symbols.front(), front);
+        return WriteLayerStyle(*symbols.front(), sink, captions, styles != nullptr ? *styles : unheard);
+    }
     case Form::kMaplibre: {
         StyleJob unheard;
         return WriteAll(symbols, MaplibreStyles(sink, captions, styles != nullptr ? *styles : unheard),

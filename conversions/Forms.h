@@ -21,6 +21,7 @@ enum class Form : std::uint8_t {
     kPng,      // the same, written as SVG here; who stores it makes pixels of it
     kHtml,     // a gallery for the browser
     kQgis,     // a style library for QGIS
+    kQml,      // a layer style for QGIS, of one symbol
     kMaplibre, // a style of MapLibre
 };
 
@@ -48,7 +49,8 @@ struct StyleJob {
 };
 
 /// Writes symbols of that fidelity, which may be in the list more than once. Captions stand in galleries; a
-/// form that is a style takes a job. False when the sink refuses a text.
+/// form that is a style takes a job. A form of one symbol takes the first; without one that is false. False
+/// when the sink refuses a text.
 bool WriteSymbols(const std::vector<TylModel::SymbolDefinition*>& symbols, Form form, const TextSink& sink,
                   Front& front, encoding::Fidelity fidelity = encoding::Fidelity::kStrict,
                   const Captions& captions = {}, StyleJob* styles = nullptr);

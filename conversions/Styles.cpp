@@ -5,6 +5,7 @@
 #include "conversions/reading/Shown.h"
 #include "styles/Limits.h"
 #include "styles/Numbers.h"
+#include "styles/QgisLayerStyle.h"
 
 #include <cmath>
 #include <utility>
@@ -127,6 +128,16 @@ std::string QgisEntries::Of(TylModel::SymbolDefinition& symbol) {
     styles_.Add(symbol);
     return text_.starts_with(styles::kQgisLibraryHead) ? text_.substr(styles::kQgisLibraryHead.size())
                                                        : text_;
+}
+
+bool WriteLayerStyle(TylModel::SymbolDefinition& symbol, const TextSink& sink, const Captions& captions,
+                     StyleJob& job) {
+    styles::Losses losses;
+    if (!sink(styles::QgisLayerStyle(symbol, OptionsOf(job), losses))) {
+        return false;
+    }
+    TellOfLosses(losses, PlaceOf(symbol, captions, job), job);
+    return true;
 }
 
 MaplibreStyles::MaplibreStyles(const TextSink& sink, const Captions& captions, StyleJob& job)

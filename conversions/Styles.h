@@ -45,6 +45,11 @@ private:
     QgisStyles styles_;
 };
 
+/// Writes the symbol as a layer style. What that does not say of it is added to the job. False when the sink
+/// refuses the text.
+bool WriteLayerStyle(TylModel::SymbolDefinition& symbol, const TextSink& sink, const Captions& captions,
+                     StyleJob& job);
+
 /// Writes the symbols that it is given to a style of MapLibre. The pictures that it shows are added to the
 /// job, and so is what it does not say of the symbols.
 class MaplibreStyles {

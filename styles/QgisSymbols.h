@@ -1,15 +1,20 @@
-// The layers of QGIS symbols, one function for each kind of symbol.
+// QGIS symbols and their layers, one function for each kind of symbol.
 #pragma once
 
 #include "styles/AreaParts.h"
 #include "styles/LineParts.h"
 #include "styles/MarkerParts.h"
 #include "styles/QgisExpression.h"
+#include "styles/QgisLibrary.h"
 #include "styles/QgisXml.h"
 
 #include <string_view>
 
 namespace styles {
+
+/// Writes the symbol under the name that `added` has, and adds what that does not say of it.
+void WriteSymbol(QgisXml& xml, const preview::ResolvedSymbol& symbol, const QgisOptions& options,
+                 std::string_view tags, AddedStyle& added);
 
 /// Each writes the layers of the symbol that was opened last, which has that name. False where there are
 /// none.

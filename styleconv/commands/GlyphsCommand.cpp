@@ -54,6 +54,9 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     if (!glyphs.isConverted) {
         return SayFailure(file, options.tolerant, glyphs.diagnostics);
     }
+    if (!CheckCount(*form, glyphs.positions.size(), "choose one with --number")) {
+        return kUsageFault;
+    }
     SayAll(glyphs.diagnostics);
     glyphs.captions.title = TitleOf(file);
     return WriteForm(options, *form, file,

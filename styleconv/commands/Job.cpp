@@ -77,11 +77,13 @@ constexpr FormName kForms[] = {{"json", "", conversions::Form::kJson},
                                {"png", ".png", conversions::Form::kPng},
                                {"html", ".html", conversions::Form::kHtml},
                                {"qgis", ".xml", conversions::Form::kQgis},
+                               {"qml", ".qml", conversions::Form::kQml},
                                // A folder, whose name has no end of its own.
                                {"maplibre", "/", conversions::Form::kMaplibre}};
 
 bool IsStyle(conversions::Form form) {
-    return form == conversions::Form::kQgis || form == conversions::Form::kMaplibre;
+    return form == conversions::Form::kQgis || form == conversions::Form::kQml ||
+           form == conversions::Form::kMaplibre;
 }
 
 // Says what options of styles cannot be used with this form, or with each other.
@@ -103,11 +105,13 @@ bool CheckStyleForm(const CommonOptions& options, conversions::Form form, bool f
                                  : style.scale != 1.0 ? "--scale"
                                                       : nullptr;
     if (ofStyles != nullptr && !IsStyle(form) && style.inGallery.empty()) {
-        SayLine("styleconv: " + std::string(ofStyles) + " can only be used with --format qgis or maplibre");
+        SayLine("styleconv: " + std::string(ofStyles) +
+                " can only be used with --format qgis, qml or maplibre");
         return false;
     }
-    if (style.hatchUnits != "map" && form != conversions::Form::kQgis && style.inGallery.empty()) {
-        SayLine("styleconv: --hatch-units can only be used with --format qgis");
+    const bool isOfQgis = form == conversions::Form::kQgis || form == conversions::Form::kQml;
+    if (style.hatchUnits != "map" && !isOfQgis && style.inGallery.empty()) {
+        SayLine("styleconv: --hatch-units can only be used with --format qgis or qml");
         return false;
     }
     if (style.allowsApproximate && form != conversions::Form::kMaplibre) {
@@ -255,6 +259,15 @@ ExitStatus WriteResult(const std::string& output,
                                                                                            : kInputFault;
 }
 
+bool CheckCount(conversions::Form form, std::size_t symbols, std::string_view advice) {
+    if (form != conversions::Form::kQml || symbols == 1) {
+        return true;
+    }
+    SayLine("styleconv: --format qml is the style of one symbol, and there are " + std::to_string(symbols) +
+            ": " + std::string(advice));
+    return false;
+}
+
 std::string TitleOf(const std::string& file) {
     const platform::PathParts parts = platform::SplitPath(platform::PathFromBytes(file));
     return file == "-" ? "" : platform::WideToValidUtf8(parts.fileName + parts.extension);
@@ -280,6 +293,9 @@ ExitStatus Finish(conversions::Conversion conversion, const std::string& file, b
                   const CommonOptions& options, conversions::Form form, conversions::Front& front) {
     if (!conversion.isConverted) {
         return SayFailure(file, isTolerant, conversion.diagnostics);
+    }
+    if (!CheckCount(form, conversion.symbols.size(), "choose one with --name")) {
+        return kUsageFault;
     }
     SayAll(conversion.diagnostics);
     SayRestyled(Restyle(conversion, options.restyling), options.restyling);
@@ -320,7 +336,7 @@ std::optional<conversions::Form> FormOf(const CommonOptions& options, bool faith
         }
     }
     SayLine("styleconv: -o " + diagnostics::ShownText(options.output) +
-            ": the end of the name tells no format; use .json, .svg, .png, .html or .xml, or --format");
+            ": the end of the name tells no format; use .json, .svg, .png, .html, .xml or .qml, or --format");
     return std::nullopt;
 }
 

@@ -149,6 +149,12 @@ ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert,
         gathering.Add(files.files[i], kind, std::move(conversion));
     }
     NameProgress("");
+    if (gathering.HasSymbols() &&
+        !CheckCount(
+            form, gathering.SymbolCount(),
+            "convert one file by linetypes, patterns or blocks with --name, or by glyphs with --number")) {
+        return kUsageFault;
+    }
     Diagnostics told = files.diagnostics;
     Append(told, gathering.Told());
     SayAll(told);

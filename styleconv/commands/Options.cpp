@@ -118,9 +118,9 @@ void AddOutputOption(Command& command, std::string& output) {
 
 void AddCommonOptions(Command& command, CommonOptions& options) {
     AddOutputOption(command, options.output);
-    command.AddChoice(
-        "--format", options.format, {"json", "svg", "png", "html", "qgis", "maplibre"},
-        "Form of the result: json, svg, png, html, qgis or maplibre (default: by the end of -o, else json)");
+    command.AddChoice("--format", options.format, {"json", "svg", "png", "html", "qgis", "qml", "maplibre"},
+                      "Form of the result: json, svg, png, html, qgis, qml or maplibre (default: by the end "
+                      "of -o, else json)");
 }
 
 void AddNameOption(Command& command, std::vector<std::string>& names, const std::string& description) {
@@ -157,9 +157,9 @@ void AddFaithfulOption(Command& command, bool& faithful) {
 }
 
 void AddStrictSymbolsOption(Command& command, CommonOptions& options) {
-    command.AddFlag(
-        "--strict-symbols", options.style.strictSymbols,
-        "With --format qgis or maplibre: make styles of the required output, not as --faithful draws it");
+    command.AddFlag("--strict-symbols", options.style.strictSymbols,
+                    "With --format qgis, qml or maplibre: make styles of the required output, not as "
+                    "--faithful draws it");
 }
 
 void AddApproximateOption(Command& command, CommonOptions& options) {
@@ -174,12 +174,12 @@ void AddWithStyleOption(Command& command, CommonOptions& options) {
 
 void AddHatchUnitsOption(Command& command, CommonOptions& options) {
     command.AddChoice("--hatch-units", options.style.hatchUnits, {"map", "mm"},
-                      "With --format qgis: repeat hatches in units of the map, or in mm of the page");
+                      "With --format qgis or qml: repeat hatches in units of the map, or in mm of the page");
 }
 
 void AddStyleScaleOption(Command& command, CommonOptions& options) {
     AddScaleOption(command, "--scale", options.style.scale,
-                   "With --format qgis or maplibre: multiply all lengths by this (default: 1)");
+                   "With --format qgis, qml or maplibre: multiply all lengths by this (default: 1)");
 }
 
 void AddRestylingOptions(Command& command, CommonOptions& options) {

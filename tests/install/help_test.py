@@ -92,7 +92,7 @@ class Help(unittest.TestCase):
     def test_shells_complete_the_words_that_an_option_takes(self):
         for shell, completions in SHELLS.items():
             with self.subTest(shell):
-                self.assertEqual(completions("patterns", "--format", ""), {"json", "svg", "png", "html", "qgis", "maplibre"})
+                self.assertEqual(completions("patterns", "--format", ""), {"json", "svg", "png", "html", "qgis", "qml", "maplibre"})
                 self.assertEqual(completions("check", "--format", ""), {"text", "json", "sarif"})
                 self.assertEqual(completions("patterns", "--units", "i"), {"inch"})
 

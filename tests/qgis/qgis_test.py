@@ -19,7 +19,7 @@ import maps
 import numpy
 import painter
 from PIL import Image
-from qgis.core import QgsExpression, QgsStyle
+from qgis.core import QgsExpression, QgsNullSymbolRenderer, QgsStyle, QgsVectorLayer
 from qgis.PyQt.QtGui import QColor
 
 MOST_OFF = 0.001
@@ -121,6 +121,44 @@ class Library(unittest.TestCase):
         self.assertEqual(sorted(name.split()[1] for name in style.symbolNames()), sorted(listed))
         for name in style.symbolNames():
             self.assertEqual(style.tagsOfSymbol(QgsStyle.SymbolEntity, name), ["shape", "marks"])
+
+    def test_a_layer_style_gives_a_layer_its_symbol(self):
+        furniture = f"{examples}/drawings/street-furniture.dxf"
+        cases = (
+            (["patterns", f"{examples}/patterns/brick.pat"], placed(TILTED), extent()),
+            (["patterns", f"{examples}/patterns/brick.pat", "--hatch-units", "mm"], placed(TILTED), extent()),
+            (["linetypes", f"{examples}/linetypes/simple.lin", "--name", "COUNTY_BOUNDARY"],
+             maps.line([(x + ORIGIN[0], y + ORIGIN[1]) for x, y in Lines.CORNERS]), extent()),
+            (["blocks", furniture, "--name", "LAMP", "--scale", "0.05"],
+             f"POINT({ORIGIN[0] + 33} {ORIGIN[1] + 33})", extent()),
+            (["glyphs", f"{examples}/shapes/marks.shx", "--number", "131"],
+             f"POINT({ORIGIN[0] + 33} {ORIGIN[1] + 33})", extent()),
+        )
+        for command, wkt, view in cases:
+            with self.subTest(command=command):
+                style = os.path.join(folder, "layer.qml")
+                library = os.path.join(folder, "layer.xml")
+                for target in (style, library):
+                    subprocess.run([styleconv, *command, "-o", target], stderr=subprocess.DEVNULL, check=True)
+                known = symbols_of(library)
+                symbol = known.symbol(known.symbolNames()[0])
+                layer = maps.layer_of([wkt], symbol)
+                expected, _ = maps.draw(layer, view)
+                layer.setRenderer(QgsNullSymbolRenderer())
+                self.assertEqual(int(maps.draw(layer, view)[0].min()), 255)
+                message, loaded = layer.loadNamedStyle(style)
+                self.assertTrue(loaded, message)
+                self.assertEqual(layer.renderer().type(), "singleSymbol")
+                picture, _ = maps.draw(layer, view)
+                self.assertLess(int(picture.min()), 128)
+                self.assertTrue((picture == expected).all())
+
+    def test_a_layer_of_another_geometry_does_not_take_a_layer_style(self):
+        style = os.path.join(folder, "layer.qml")
+        subprocess.run([styleconv, "patterns", f"{examples}/patterns/brick.pat", "-o", style],
+                       stderr=subprocess.DEVNULL, check=True)
+        layer = QgsVectorLayer("Point?crs=EPSG:25832", "layer", "memory")
+        self.assertFalse(layer.loadNamedStyle(style)[1])
 
     def test_a_name_that_is_there_twice_is_changed_and_told(self):
         file = os.path.join(folder, "twice.lin")

@@ -202,7 +202,7 @@ TEST(PictureFormats, NameThatTellsNoFormatIsAFaultOfTheCommandLine) {
         EXPECT_EQ(result.status, 2);
         EXPECT_EQ(result.errors,
                   "styleconv: -o " + (folder / "a.gif") +
-                      ": the end of the name tells no format; use .json, .svg, .png, .html or .xml, or "
+                      ": the end of the name tells no format; use .json, .svg, .png, .html, .xml or .qml, or "
                       "--format\n");
         EXPECT_EQ(folder.Read("a.gif"), "(none)");
     }

@@ -1,5 +1,6 @@
 // The style libraries that commands write. How they look on a map is tested in the map program.
 #include "tests/support/Has.h"
+#include "tests/support/ShapeFileBuilder.h"
 #include "tests/support/ToolRun.h"
 
 #include <gtest/gtest.h>
@@ -93,6 +94,47 @@ TEST(StyleFormats, TheEndOfTheOutputsNameTellsTheFormat) {
     const std::string file = folder.Write("pipes.lin", "*GAS\nA,1,-1\n");
     EXPECT_EQ(RunTool({"linetypes", file, "-o", folder / "pipes.xml"}).status, 0);
     EXPECT_EQ(folder.Read("pipes.xml"), RunQgis({"linetypes", file}).output);
+}
+
+TEST(StyleFormats, ALayerStyleIsOfOneSymbol) {
+    const ScratchFolder folder;
+    const std::string file = folder.Write("pipes.lin", "*GAS\nA,1,-1\n*WATER\nA,2,-1\n");
+    const ToolResult chosen = RunTool({"linetypes", file, "--name", "GAS", "-o", folder / "gas.qml"});
+    EXPECT_EQ(chosen.status, 0) << chosen.errors;
+    const std::string style = folder.Read("gas.qml");
+    EXPECT_TRUE(Has(style, "<symbol type=\"line\" name=\"0\"")) << style;
+    EXPECT_EQ(RunTool({"linetypes", file, "--name", "GAS", "--format", "qml"}).output, style);
+    const std::string one = folder.Write("a.pat", "*LEVEL\n0, 0,0, 0,.125\n");
+    const ToolResult hatch = RunTool({"convert", one, "--format", "qml", "--scale", "4"});
+    EXPECT_EQ(hatch.errors,
+              "styleconv: 1 file, 1 symbol\n" + one +
+                  ": note: the style keeps the angle at the default of its parameter (symbol LEVEL)\n");
+    EXPECT_TRUE(Has(hatch.output, "y_min($geometry)+@element*0.5+0")) << hatch.output;
+}
+
+TEST(StyleFormats, SeveralSymbolsAreNoLayerStyle) {
+    const ScratchFolder folder;
+    const std::string lines = folder.Write("pipes.lin", "*GAS\nA,1,-1\n*WATER\nA,2,-1\n");
+    const std::string marks = folder.Write("marks.shx", test_support::ShapeFileBuilder::Shapes()
+                                                            .Shape(130, "UP", {0x14, 0})
+                                                            .Shape(129, "E", {0x10, 0})
+                                                            .Text());
+    const std::string many =
+        "convert one file by linetypes, patterns or blocks with --name, or by glyphs with --number";
+    const std::pair<std::vector<std::string>, std::string> cases[] = {
+        {{"linetypes", lines}, "choose one with --name"},
+        {{"linetypes", lines, "--name", "GAS", "--name", "WATER"}, "choose one with --name"},
+        {{"convert", lines}, many},
+        {{"glyphs", marks}, "choose one with --number"},
+    };
+    for (auto [arguments, advice] : cases) {
+        arguments.insert(arguments.end(), {"-o", folder / "a.qml"});
+        const ToolResult result = RunTool(arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.errors,
+                  "styleconv: --format qml is the style of one symbol, and there are 2: " + advice + "\n");
+        EXPECT_EQ(folder.Read("a.qml"), "(none)");
+    }
 }
 
 // 0.33333333 inches are 8.466666582 mm; the required output has five decimals of it.
@@ -303,9 +345,9 @@ TEST(StyleFormats, OptionsOfStylesAreForStyles) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.pat", "*LEVEL\n0, 0,0, 0,.125\n");
     for (const std::vector<std::string>& option :
-         std::vector<std::vector<std::string>>{{"--scale", "2", "qgis or maplibre"},
-                                               {"--strict-symbols", "qgis or maplibre"},
-                                               {"--hatch-units", "mm", "qgis"},
+         std::vector<std::vector<std::string>>{{"--scale", "2", "qgis, qml or maplibre"},
+                                               {"--strict-symbols", "qgis, qml or maplibre"},
+                                               {"--hatch-units", "mm", "qgis or qml"},
                                                {"--allow-approximate", "maplibre"}}) {
         std::vector<std::string> arguments = {"patterns", file};
         arguments.insert(arguments.end(), option.begin(), option.end() - 1);
