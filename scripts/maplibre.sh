@@ -2,6 +2,7 @@
 # Shows the styles of all examples in MapLibre, in a browser without a window, and compares what it shows with drawings of
 # the same symbols: maplibre.sh [STYLECONV]. What it needs comes by npm: without npm this is skipped, unless CI is set,
 # and where npm has no network, too.
+# Where STYLECONV_MORE_FILES names a folder, its .pat and .lin files are tested with the examples.
 # "scripts/maplibre.sh --pictures" takes the pictures of docs/maplibre.md anew.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
