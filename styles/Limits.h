@@ -13,6 +13,10 @@ inline constexpr double kMostStrokes = 100'000;
 /// expressions again and again.
 inline constexpr std::size_t kMostGroups = 2;
 
+/// Strokes of a tile that a map program repeats together. It cuts all of them by the polygon, which may be
+/// much smaller than the tile: those of larger tiles are repeated one by one.
+inline constexpr std::size_t kMostInTile = 8;
+
 /// Layers of one line symbol that repeat a mark.
 inline constexpr std::size_t kMostMarks = 1'000;
 

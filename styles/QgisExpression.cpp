@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
+#include <utility>
 
 namespace styles {
 namespace {
@@ -38,14 +40,14 @@ public:
             groups.push_back(InTurnedPolygon(Column(x)));
         }
         if (!tiling_.strokes.empty()) {
-            std::string tile;
-            Box box;
+            std::vector<Piece> pieces;
             for (const Stroke& stroke : tiling_.strokes) {
-                tile += (tile.empty() ? "(" : ",(") + Pair(stroke.from) + "," + Pair(stroke.to) + ")";
-                box.Include(stroke.from);
-                box.Include(stroke.to);
+                Piece& piece = pieces.emplace_back();
+                piece.text = "(" + Pair(stroke.from) + "," + Pair(stroke.to) + ")";
+                piece.box.Include(stroke.from);
+                piece.box.Include(stroke.to);
             }
-            groups.push_back(InTurnedPolygon(Tiles("MULTILINESTRING(" + tile + ")", box)));
+            groups.push_back(InTurnedPolygon(Repeated("MULTILINESTRING", pieces)));
         }
     }
 
@@ -53,16 +55,22 @@ public:
         if (tiling_.dots.empty()) {
             return;
         }
-        std::string tile;
-        Box box;
+        std::vector<Piece> pieces;
         for (const Point dot : tiling_.dots) {
-            tile += (tile.empty() ? "(" : ",(") + Pair(dot) + ")";
-            box.Include(dot);
+            Piece& piece = pieces.emplace_back();
+            piece.text = "(" + Pair(dot) + ")";
+            piece.box.Include(dot);
         }
-        groups.push_back(InTurnedPolygon(Tiles("MULTIPOINT(" + tile + ")", box)));
+        groups.push_back(InTurnedPolygon(Repeated("MULTIPOINT", pieces)));
     }
 
 private:
+    // A stroke or a dot, as a part of a geometry's text.
+    struct Piece {
+        std::string text;
+        Box box;
+    };
+
     // For an axis that points down.
     void Mirror() {
         tiling_.angle = 0.0 - tiling_.angle;
@@ -84,9 +92,12 @@ private:
     std::string Series(char axis, double low, double high, double step) const {
         const std::string anchor = axis == 'x' ? "x_min($geometry)" : anchorY_;
         const std::string width = ")//" + PlainNumber(step);
+        // What touches the end is not lost to rounding. There is always one: a group without a geometry would
+        // take the others of its expression with it.
+        const double slack = step * 1e-6;
         return std::string("generate_series((") + axis + "_min(@g)-" + anchor + "+" +
                PlainNumber(0.0 - high) + width + ",(" + axis + "_max(@g)-" + anchor + "+" +
-               PlainNumber(0.0 - low) + width + "+1)";
+               PlainNumber(slack - low) + width + ")";
     }
 
     std::string Row(double y) const {
@@ -102,12 +113,74 @@ private:
                ",make_line(make_point(" + at + ",y_min(@g)),make_point(" + at + ",y_max(@g)))))";
     }
 
-    std::string Tiles(const std::string& tile, const Box& box) const {
-        return "collect_geometries(with_variable('r',collect_geometries(array_foreach(" +
-               Series('x', box.low.x, box.high.x, tiling_.stepX) + ",translate(geom_from_wkt('" + tile +
-               "'),x_min($geometry)+@element*" + PlainNumber(tiling_.stepX) + "," + anchorY_ +
-               "))),array_foreach(" + Series('y', box.low.y, box.high.y, tiling_.stepY) +
-               ",translate(@r,0,@element*" + PlainNumber(tiling_.stepY) + "))))";
+    std::string Repeated(const std::string& type, std::vector<Piece> pieces) const {
+        return pieces.size() > kMostInTile ? OneByOne(type, std::move(pieces)) : Tiles(type, pieces);
+    }
+
+    static std::string TileOf(const std::string& type, const std::vector<Piece>& pieces) {
+        std::string text;
+        for (const Piece& piece : pieces) {
+            text += (text.empty() ? "" : ",") + piece.text;
+        }
+        return "geom_from_wkt('" + type + "(" + text + ")')";
+    }
+
+    static Box BoxOf(const std::vector<Piece>& pieces) {
+        Box box;
+        for (const Piece& piece : pieces) {
+            box.Include(piece.box.low);
+            box.Include(piece.box.high);
+        }
+        return box;
+    }
+
+    std::string Tiles(const std::string& type, const std::vector<Piece>& pieces) const {
+        const Box box = BoxOf(pieces);
+        return Grid(Series('x', box.low.x, box.high.x, tiling_.stepX),
+                    "translate(" + TileOf(type, pieces) + ",x_min($geometry)+@element*" +
+                        PlainNumber(tiling_.stepX) + "," + anchorY_ + ")",
+                    Series('y', box.low.y, box.high.y, tiling_.stepY),
+                    "translate(@r,0,@element*" + PlainNumber(tiling_.stepY) + ")");
+    }
+
+    // The pieces of a tile in the order of its longer axis, counted through all tiles: a polygon smaller than
+    // a tile takes only those that reach into it. Where pieces are spread evenly, their numbers tell where
+    // they are.
+    std::string OneByOne(const std::string& type, std::vector<Piece> pieces) const {
+        const bool isTall = tiling_.stepY >= tiling_.stepX;
+        double Point::*const along = isTall ? &Point::y : &Point::x;
+        std::stable_sort(pieces.begin(), pieces.end(), [along](const Piece& a, const Piece& b) {
+            return a.box.low.*along < b.box.low.*along;
+        });
+        const double step = isTall ? tiling_.stepY : tiling_.stepX;
+        const double width = step / static_cast<double>(pieces.size());
+        double low = std::numeric_limits<double>::infinity();
+        double high = -low;
+        for (std::size_t i = 0; i < pieces.size(); ++i) {
+            low = std::min(low, pieces[i].box.low.*along - width * static_cast<double>(i));
+            high = std::max(high, pieces[i].box.high.*along - width * static_cast<double>(i));
+        }
+        const Box box = BoxOf(pieces);
+        const std::string count = std::to_string(pieces.size());
+        const std::string piece =
+            "geometry_n(" + TileOf(type, pieces) + ",@element-@element//" + count + "*" + count + "+1)";
+        const std::string tile = "@element//" + count + "*" + PlainNumber(step);
+        if (isTall) {
+            return Grid(Series('y', low, high, width),
+                        "translate(" + piece + ",0," + anchorY_ + "+" + tile + ")",
+                        Series('x', box.low.x, box.high.x, tiling_.stepX),
+                        "translate(@r,x_min($geometry)+@element*" + PlainNumber(tiling_.stepX) + ",0)");
+        }
+        return Grid(Series('x', low, high, width), "translate(" + piece + ",x_min($geometry)+" + tile + ",0)",
+                    Series('y', box.low.y, box.high.y, tiling_.stepY),
+                    "translate(@r,0," + anchorY_ + "+@element*" + PlainNumber(tiling_.stepY) + ")");
+    }
+
+    // What is repeated along one axis, @r, is repeated along the other.
+    static std::string Grid(const std::string& series, const std::string& repeated, const std::string& others,
+                            const std::string& repeatedRow) {
+        return "collect_geometries(with_variable('r',collect_geometries(array_foreach(" + series + "," +
+               repeated + ")),array_foreach(" + others + "," + repeatedRow + ")))";
     }
 
     // Each group is cut by itself: cutting lines that cross each other takes longer.

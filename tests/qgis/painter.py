@@ -49,6 +49,11 @@ def dots(geometry):
         at = to
 
 
+def count(definition):
+    """How many straight pieces a symbol without members has."""
+    return sum(1 for graphic in definition["graphics"] for _ in pieces(graphic["geometry"]))
+
+
 def svg_path(geometry, scale):
     """The path with y downwards, as an attribute of SVG."""
     out = []

@@ -346,16 +346,47 @@ class Areas(unittest.TestCase):
         print(f"the longest expression is read in {worst * 1000:.1f} ms")
         self.assertLess(worst, yardstick() / 25)
 
-    def test_a_thousand_polygons_are_drawn_quickly(self):
-        path, _, _ = convert("patterns", f"{examples}/patterns/brick.pat")
+    @staticmethod
+    def time_of_a_thousand(symbol, size, runs=4):
+        """Seconds of processor time that a map of 1,000 polygons takes, each so many units wide and high."""
         wkts = []
         for i in range(1000):
-            x, y = ORIGIN[0] + i % 40 * 10, ORIGIN[1] + i // 40 * 10
-            wkts.append(maps.polygon([[(x, y), (x + 9, y + 1), (x + 8, y + 9), (x + 1, y + 8)]]))
-        layer = maps.layer_of(wkts, symbols_of(path).symbol("BRICK"))
-        taken = min(maps.draw(layer, extent(units=400), 1000)[1] for _ in range(4))
+            x, y, unit = ORIGIN[0] + i % 40 * size, ORIGIN[1] + i // 40 * size, size / 10
+            corners = [(x, y), (x + 9 * unit, y + unit), (x + 8 * unit, y + 9 * unit), (x + unit, y + 8 * unit)]
+            wkts.append(maps.polygon([corners]))
+        layer = maps.layer_of(wkts, symbol)
+        return min(maps.draw(layer, extent(units=40 * size), 1000)[1] for _ in range(runs))
+
+    def test_a_thousand_polygons_are_drawn_quickly(self):
+        path, _, _ = convert("patterns", f"{examples}/patterns/brick.pat")
+        taken = self.time_of_a_thousand(symbols_of(path).symbol("BRICK"), 10)
         print(f"1000 polygons: {taken:.2f} s")
         self.assertLess(taken, 6 * yardstick())
+
+    @staticmethod
+    def rubble():
+        """A pattern of short strokes at twelve odd angles: tiles of hundreds of units, with hundreds of strokes."""
+        file = os.path.join(folder, "rubble.pat")
+        with open(file, "w", encoding="utf-8") as stream:
+            stream.write("*RUBBLE\n")
+            for i in range(12):
+                angle = math.radians(i * 30 + 2.5 + i * i / 7)
+                across, along = math.sin(angle) + math.cos(angle), abs(math.cos(angle) - math.sin(angle))
+                x, y = i * 0.37 % 1, i * 0.61 % 1
+                stream.write(f"{math.degrees(angle):.4f}, {x:.4f},{y:.4f}, {abs(across):.6f},{along:.6f}, .117,-1.297\n")
+        return file
+
+    def test_a_hatch_of_large_tiles_is_exact_and_quick_on_polygons_that_are_smaller(self):
+        path, symbols, _ = convert("patterns", self.rubble(), *SCALED)
+        strokes = max(painter.count(member) for member in painter.members(symbols[0]))
+        self.assertGreater(strokes, 100)
+        self.compare(symbols_of(path), symbols[0], TILTED, float(SCALED[-1]), (4, 4), "rubble")
+        path, _, _ = convert("patterns", self.rubble())
+        symbol = symbols_of(path).symbol("RUBBLE")
+        taken = self.time_of_a_thousand(symbol, 2.5, 2)
+        print(f"1000 polygons of rubble: {taken:.2f} s")
+        # Repeated as whole tiles they take a hundred times as long.
+        self.assertLess(taken, 45 * yardstick())
 
 
 class Lines(unittest.TestCase):

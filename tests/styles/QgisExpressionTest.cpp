@@ -42,7 +42,7 @@ TEST(QgisExpression, RowsAreLinesFromOneSideOfThePolygonToTheOther) {
         OnlyLines({tiling}, HatchUnit::kMap),
         "with_variable('g'," + kSeen +
             ",intersection(collect_geometries(array_foreach("
-            "generate_series((y_min(@g)-y_min($geometry)+-1.5)//5,(y_max(@g)-y_min($geometry)+-1.5)//5+1),"
+            "generate_series((y_min(@g)-y_min($geometry)+-1.5)//5,(y_max(@g)-y_min($geometry)+-1.499995)//5),"
             "make_line(make_point(x_min(@g),y_min($geometry)+@element*5+1.5),"
             "make_point(x_max(@g),y_min($geometry)+@element*5+1.5)))),@g))");
 }
@@ -54,7 +54,7 @@ TEST(QgisExpression, ColumnsAreLinesFromItsFootToItsHead) {
         OnlyLines({tiling}, HatchUnit::kMap),
         "with_variable('g'," + kSeen +
             ",intersection(collect_geometries(array_foreach("
-            "generate_series((x_min(@g)-x_min($geometry)+-2)//10,(x_max(@g)-x_min($geometry)+-2)//10+1),"
+            "generate_series((x_min(@g)-x_min($geometry)+-2)//10,(x_max(@g)-x_min($geometry)+-1.99999)//10),"
             "make_line(make_point(x_min($geometry)+@element*10+2,y_min(@g)),"
             "make_point(x_min($geometry)+@element*10+2,y_max(@g))))),@g))");
 }
@@ -63,30 +63,69 @@ TEST(QgisExpression, StrokesAreTilesOfTheTurnedPolygonThatAreTurnedBack) {
     Tiling tiling = TilingOf(30, 4, 3);
     tiling.strokes = {{{0, 0}, {1, 2}}, {{2, -1}, {3, 0}}};
     const std::string anchor = ",make_point(x_min($geometry),y_min($geometry)))";
-    EXPECT_EQ(OnlyLines({tiling}, HatchUnit::kMap),
-              "rotate(with_variable('g',rotate(" + kSeen + ",30" + anchor +
-                  ",intersection(collect_geometries(with_variable('r',collect_geometries(array_foreach("
-                  "generate_series((x_min(@g)-x_min($geometry)+-3)//4,(x_max(@g)-x_min($geometry)+0)//4+1),"
-                  "translate(geom_from_wkt('MULTILINESTRING((0 0,1 2),(2 -1,3 0))'),"
-                  "x_min($geometry)+@element*4,y_min($geometry)))),array_foreach("
-                  "generate_series((y_min(@g)-y_min($geometry)+-2)//3,(y_max(@g)-y_min($geometry)+1)//3+1),"
-                  "translate(@r,0,@element*3)))),@g)),330" +
-                  anchor);
+    EXPECT_EQ(
+        OnlyLines({tiling}, HatchUnit::kMap),
+        "rotate(with_variable('g',rotate(" + kSeen + ",30" + anchor +
+            ",intersection(collect_geometries(with_variable('r',collect_geometries(array_foreach("
+            "generate_series((x_min(@g)-x_min($geometry)+-3)//4,(x_max(@g)-x_min($geometry)+0.000004)//4),"
+            "translate(geom_from_wkt('MULTILINESTRING((0 0,1 2),(2 -1,3 0))'),"
+            "x_min($geometry)+@element*4,y_min($geometry)))),array_foreach("
+            "generate_series((y_min(@g)-y_min($geometry)+-2)//3,(y_max(@g)-y_min($geometry)+1.000003)//3),"
+            "translate(@r,0,@element*3)))),@g)),330" +
+            anchor);
+}
+
+// The strokes' feet are even steps apart and 4 high: what is number e is at 10 e, and the first one that
+// reaches into a polygon from y on begins above y - 4.
+TEST(QgisExpression, StrokesOfALargeTileAreRepeatedOneByOneAlongItsLongerAxis) {
+    const double count = static_cast<double>(kMostInTile) + 1;
+    for (const bool isTall : {true, false}) {
+        Tiling tiling = isTall ? TilingOf(0, 2, count * 10) : TilingOf(0, count * 10, 2);
+        std::string tile;
+        for (int i = 0; i < static_cast<int>(count); ++i) {
+            // In the order of neither axis.
+            const double foot = (i + 4) % static_cast<int>(count) * 10;
+            tiling.strokes.push_back(isTall ? Stroke{{0, foot}, {1, foot + 4}}
+                                            : Stroke{{foot, 0}, {foot + 4, 1}});
+            const std::string from = std::to_string(i * 10);
+            const std::string to = std::to_string(i * 10 + 4);
+            tile +=
+                (i == 0 ? "(" : ",(") + (isTall ? "0 " + from + ",1 " + to : from + " 0," + to + " 1") + ")";
+        }
+        const std::string piece =
+            "translate(geometry_n(geom_from_wkt('MULTILINESTRING(" + tile + ")'),@element-@element//9*9+1),";
+        const std::string x = "generate_series((x_min(@g)-x_min($geometry)+";
+        const std::string y = "generate_series((y_min(@g)-y_min($geometry)+";
+        const std::string tall =
+            y + "-4)//10,(y_max(@g)-y_min($geometry)+0.00001)//10)," + piece +
+            "0,y_min($geometry)+@element//9*90))),array_foreach(" + x +
+            "-1)//2,(x_max(@g)-x_min($geometry)+0.000002)//2),translate(@r,x_min($geometry)+@element*2,0))))";
+        const std::string wide =
+            x + "-4)//10,(x_max(@g)-x_min($geometry)+0.00001)//10)," + piece +
+            "x_min($geometry)+@element//9*90,0))),array_foreach(" + y +
+            "-1)//2,(y_max(@g)-y_min($geometry)+0.000002)//2),translate(@r,0,y_min($geometry)+@element*2))))";
+        static_assert(kMostInTile == 8);
+        EXPECT_EQ(OnlyLines({tiling}, HatchUnit::kMap),
+                  "with_variable('g'," + kSeen +
+                      ",intersection(collect_geometries(with_variable('r',collect_geometries(array_foreach(" +
+                      (isTall ? tall : wide) + ",@g))");
+    }
 }
 
 TEST(QgisExpression, OnThePageYPointsDown) {
     Tiling tiling = TilingOf(30, 4, 3);
     tiling.strokes = {{{0, 0}, {1, 2}}};
     const std::string anchor = ",make_point(x_min($geometry),y_max($geometry)))";
-    EXPECT_EQ(OnlyLines({tiling}, HatchUnit::kMillimetre),
-              "rotate(with_variable('g',rotate(" + kWhole + ",330" + anchor +
-                  ",intersection(collect_geometries(with_variable('r',collect_geometries(array_foreach("
-                  "generate_series((x_min(@g)-x_min($geometry)+-1)//4,(x_max(@g)-x_min($geometry)+0)//4+1),"
-                  "translate(geom_from_wkt('MULTILINESTRING((0 0,1 -2))'),"
-                  "x_min($geometry)+@element*4,y_max($geometry)))),array_foreach("
-                  "generate_series((y_min(@g)-y_max($geometry)+0)//3,(y_max(@g)-y_max($geometry)+2)//3+1),"
-                  "translate(@r,0,@element*3)))),@g)),30" +
-                  anchor);
+    EXPECT_EQ(
+        OnlyLines({tiling}, HatchUnit::kMillimetre),
+        "rotate(with_variable('g',rotate(" + kWhole + ",330" + anchor +
+            ",intersection(collect_geometries(with_variable('r',collect_geometries(array_foreach("
+            "generate_series((x_min(@g)-x_min($geometry)+-1)//4,(x_max(@g)-x_min($geometry)+0.000004)//4),"
+            "translate(geom_from_wkt('MULTILINESTRING((0 0,1 -2))'),"
+            "x_min($geometry)+@element*4,y_max($geometry)))),array_foreach("
+            "generate_series((y_min(@g)-y_max($geometry)+0)//3,(y_max(@g)-y_max($geometry)+2.000003)//3),"
+            "translate(@r,0,@element*3)))),@g)),30" +
+            anchor);
 }
 
 TEST(QgisExpression, DotsAreAnExpressionOfTheirOwn) {
