@@ -106,6 +106,8 @@ private:
     // In the colour and weight of `owner`.
     void StrokePolyline(OxDbBlockTableRecord& record, OxDbPolyline& polyline, OxDbEntity& owner,
                         block::BlockSymbol& symbol) const;
+    // Solid, with moves only where it is interrupted, so that corners are joined.
+    void StrokeJoined(OxDbPolyline& polyline, std::wstring& path) const;
     void CollectGeometryFromSpline(OxDbBlockTableRecord& record, OxDbSpline& spline,
                                    block::BlockSymbol& symbol) const;
     void CollectGeometryFromArc(OxDbBlockTableRecord& record, OxDbArc& arc, block::BlockSymbol& symbol) const;

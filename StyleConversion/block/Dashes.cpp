@@ -6,14 +6,9 @@
 
 #include <cmath>
 
-namespace {
-
-// Null is a linetype that could not be opened.
-bool HasPattern(OxDbLinetypeTableRecord* linetype) {
-    return linetype != nullptr && linetype->patternLength() != 0.0 && block::CountDashes(*linetype) >= 1;
+bool block::HasPattern(OxDbLinetypeTableRecord* linetype) {
+    return linetype != nullptr && linetype->patternLength() != 0.0 && CountDashes(*linetype) >= 1;
 }
-
-} // namespace
 
 void BlockConverter::Dashes::StartAt(const OxGePoint2d& point) {
     block::StartAt(path_, point, converter_.scale_);
@@ -40,7 +35,7 @@ void BlockConverter::ParseDashLine(OxDbLinetypeTableRecord* linetype, const OxGe
                                    const OxGePoint2d& end, std::wstring& path,
                                    std::wstring& shapePath) const {
     block::StartAt(path, start, scale_);
-    if (!HasPattern(linetype)) {
+    if (!block::HasPattern(linetype)) {
         block::LineTo(path, end, scale_);
         return;
     }
@@ -73,7 +68,7 @@ void BlockConverter::ParseDashArc(OxDbLinetypeTableRecord* linetype, const OxGeP
                                   double sweep, bool clockwise, std::wstring& path,
                                   std::wstring& shapePath) const {
     block::StartAt(path, start, scale_);
-    if (!HasPattern(linetype)) {
+    if (!block::HasPattern(linetype)) {
         AppendArcString(&path, radius, radius, 0.0, sweep >= block::kPi, clockwise, end);
         return;
     }

@@ -24,6 +24,9 @@ inline int CountDashes(OxDbLinetypeTableRecord& linetype) {
     return static_cast<int>(linetype.numDashes());
 }
 
+/// False for null, a linetype that could not be opened: what has it is solid.
+bool HasPattern(OxDbLinetypeTableRecord* linetype);
+
 inline DashFit FitDashes(OxDbLinetypeTableRecord& linetype, double length) {
     const double patternLength = linetype.patternLength();
     const std::int32_t repetitions = encoding::ToInt32(length / patternLength);

@@ -77,16 +77,16 @@ double PartOfExtent(OxGeNurbCurve2d& curve, double part) {
     return part * extent == 0.0 ? part : part * extent;
 }
 
-std::vector<OxGePoint2d> Sample(OxGeNurbCurve2d& curve, double tolerance) {
+std::vector<CurveVertex> Sample(OxGeNurbCurve2d& curve, double tolerance) {
     const host::ParameterRange range = host::ParametersOf(curve, kIntervalTolerance);
     host::Points2d points;
     host::Doubles parameters;
     curve.getSamplePoints(range.lower, range.upper, tolerance, points, parameters);
     const int count = host::LengthOf(points);
-    std::vector<OxGePoint2d> samples;
+    std::vector<CurveVertex> samples;
     samples.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
-        samples.push_back(host::ElementAt(points, i));
+        samples.push_back({host::ElementAt(points, i), 0.0});
     }
     return samples;
 }
@@ -94,12 +94,12 @@ std::vector<OxGePoint2d> Sample(OxGeNurbCurve2d& curve, double tolerance) {
 // Halves the tolerance while there are fewer samples than defining points, else doubles it while there are
 // very many. A curve of very many defining points could go back and forth between two tolerances for ever: it
 // gets the finer of the two.
-std::vector<OxGePoint2d> SampleEvenly(OxGeNurbCurve2d& curve, int definingPoints) {
+std::vector<CurveVertex> SampleEvenly(OxGeNurbCurve2d& curve, int definingPoints) {
     double tolerance = PartOfExtent(curve, kToleranceOfExtent);
     bool halved = false;
     bool doubled = false;
     for (;;) {
-        std::vector<OxGePoint2d> points = Sample(curve, tolerance);
+        std::vector<CurveVertex> points = Sample(curve, tolerance);
         const auto count = static_cast<int>(points.size());
         const bool tooFew = count < definingPoints;
         double next = tolerance;
@@ -122,17 +122,17 @@ std::vector<OxGePoint2d> SampleEvenly(OxGeNurbCurve2d& curve, int definingPoints
 
 } // namespace
 
-std::vector<OxGePoint2d> SampleSpline(OxDbSpline& spline) {
+std::vector<CurveVertex> SampleSpline(OxDbSpline& spline) {
     const SplineCurve source =
         spline.hasFitData() ? CurveThroughFitPoints(spline) : CurveFromControlPoints(spline);
     if (source.curve == nullptr) {
         return {};
     }
-    return IsFaithful() ? SampleClosely(*source.curve) : SampleEvenly(*source.curve, source.definingPoints);
+    return IsFaithful() ? FollowClosely(*source.curve) : SampleEvenly(*source.curve, source.definingPoints);
 }
 
-std::vector<OxGePoint2d> SampleClosely(OxGeNurbCurve2d& curve) {
-    return Sample(curve, PartOfExtent(curve, FaithfulCurveTolerance()));
+std::vector<CurveVertex> FollowClosely(OxGeNurbCurve2d& curve) {
+    return FollowCurve(curve, PartOfExtent(curve, FaithfulCurveTolerance()));
 }
 
 } // namespace block

@@ -1,6 +1,7 @@
-// Splines as points along them.
+// Splines as polylines along them.
 #pragma once
 
+#include "StyleConversion/block/SplineArcs.h"
 #include "StyleConversion/interfaces/HostNames.h"
 
 #include <type_traits>
@@ -8,12 +9,14 @@
 
 namespace block {
 
-/// Points along the spline from its start to its end, close enough for its size and no fewer, where that is
-/// possible, than the points that define it. None when the spline cannot be read or makes no curve.
-std::vector<OxGePoint2d> SampleSpline(OxDbSpline& spline);
+/// Vertices along the spline from its start to its end, close enough for its size and no fewer, where that is
+/// possible, than the points that define it, with straight segments between them. A faithful conversion has
+/// as many as FollowClosely. None when the spline cannot be read or makes no curve.
+std::vector<CurveVertex> SampleSpline(OxDbSpline& spline);
 
-/// Points along a curve from its start to its end, off it by at most a millionth of its extent.
-std::vector<OxGePoint2d> SampleClosely(OxGeNurbCurve2d& curve);
+/// Arcs along a curve from its start to its end, off it by at most the part of its extent that a faithful
+/// conversion may be.
+std::vector<CurveVertex> FollowClosely(OxGeNurbCurve2d& curve);
 
 /// An edge of a hatch as a spline; null when it is none, or the database's curves cannot be told apart.
 template <class Edge>

@@ -29,8 +29,8 @@ drawing::NurbsData Cubic(const std::vector<OxGePoint3d>& controlPoints) {
 
 OxGePoint2dArray Sampled(OxDbSpline& spline) {
     OxGePoint2dArray points;
-    for (const OxGePoint2d& point : block::SampleSpline(spline)) {
-        points.append(point);
+    for (const block::CurveVertex& vertex : block::SampleSpline(spline)) {
+        points.append(vertex.point);
     }
     return points;
 }

@@ -78,18 +78,18 @@ private:
                 AppendArc(*ellipse, ellipse->majorRadius(), ellipse->minorRadius());
             }
         } else if (OxGeNurbCurve2d* const spline = block::IsFaithful() ? block::AsSpline(edge) : nullptr) {
-            AppendPoints(block::SampleClosely(*spline));
+            AppendCurve(block::FollowClosely(*spline));
         }
     }
 
-    void AppendPoints(const std::vector<OxGePoint2d>& points) {
-        for (std::size_t i = 0; i < points.size(); ++i) {
+    void AppendCurve(const std::vector<block::CurveVertex>& vertices) {
+        for (std::size_t i = 0; i < vertices.size(); ++i) {
             if (i == 0) {
-                MoveTo(points[i]);
+                MoveTo(vertices[i].point);
             } else {
-                block::LineTo(path_, points[i], converter_.scale_);
+                AppendSegment(vertices[i - 1].point, vertices[i].point, vertices[i - 1].bulge);
             }
-            current_ = points[i];
+            current_ = vertices[i].point;
         }
     }
 

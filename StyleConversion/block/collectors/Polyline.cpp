@@ -3,8 +3,10 @@
 #include "StyleConversion/block/Dashes.h"
 #include "StyleConversion/block/Faithful.h"
 #include "StyleConversion/block/Opened.h"
+#include "StyleConversion/block/PathPoints.h"
 #include "StyleConversion/block/SplineSampling.h"
 
+#include <optional>
 #include <vector>
 
 namespace {
@@ -12,6 +14,9 @@ namespace {
 // What OxDbPolyline::segType answers; other kinds have no length.
 constexpr int kStraightSegment = 0;
 constexpr int kArcSegment = 1;
+
+// The part of a segment's length that the computed ends of arcs are off their vertices by.
+constexpr double kRounding = 1e-9;
 
 bool ReadStraightSegment(OxDbPolyline& polyline, unsigned int index, block::PolylineSegment& segment) {
     OxGeLineSeg2d line;
@@ -80,6 +85,8 @@ void BlockConverter::StrokePolyline(OxDbBlockTableRecord& record, OxDbPolyline& 
         Dashes dashes(*this, *linetype.Get(), path, shapes);
         PolylineDashes alongPolyline(dashes, block::FitDashes(*linetype.Get(), length));
         ForEachSegment(polyline, [&](const block::PolylineSegment& segment) { alongPolyline.Add(segment); });
+    } else if (block::IsFaithful() && !block::HasPattern(linetype.Get())) {
+        StrokeJoined(polyline, path);
     } else {
         ForEachSegment(polyline, [&, &path = path, &shapes = shapes](const block::PolylineSegment& segment) {
             if (segment.isArc) {
@@ -96,17 +103,33 @@ void BlockConverter::StrokePolyline(OxDbBlockTableRecord& record, OxDbPolyline& 
     symbol.AdoptStroke(color, GetEntityLineweight(record, owner, symbol));
 }
 
+void BlockConverter::StrokeJoined(OxDbPolyline& polyline, std::wstring& path) const {
+    std::optional<OxGePoint2d> end;
+    ForEachSegment(polyline, [&](const block::PolylineSegment& segment) {
+        if (!end || block::Distance(*end, segment.start) > kRounding * segment.length) {
+            block::StartAt(path, segment.start, scale_);
+        }
+        if (segment.isArc) {
+            const auto& [center, radius, clockwise] = segment.travel;
+            AppendArcString(&path, radius, radius, 0.0, segment.sweep >= block::kPi, clockwise, segment.end);
+        } else {
+            block::LineTo(path, segment.end, scale_);
+        }
+        end = segment.end;
+    });
+}
+
 void BlockConverter::CollectGeometryFromSpline(OxDbBlockTableRecord& record, OxDbSpline& spline,
                                                block::BlockSymbol& symbol) const {
-    const std::vector<OxGePoint2d> points = block::SampleSpline(spline);
-    if (points.empty()) {
+    const std::vector<block::CurveVertex> vertices = block::SampleSpline(spline);
+    if (vertices.empty()) {
         return;
     }
     // Required: R20
     OxDbPolyline polyline;
     unsigned int index = 0;
-    for (const OxGePoint2d& point : points) {
-        static_cast<void>(polyline.addVertexAt(index, point, 0.0, -1.0, -1.0));
+    for (const block::CurveVertex& vertex : vertices) {
+        static_cast<void>(polyline.addVertexAt(index, vertex.point, vertex.bulge, -1.0, -1.0));
         ++index;
     }
     static_cast<void>(polyline.setColor(spline.color()));
