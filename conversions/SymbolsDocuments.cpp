@@ -1,9 +1,11 @@
 #include "conversions/SymbolsDocuments.h"
 
 #include "StyleConversion/platform/Utf8.h"
-#include "conversions/reading/FileKind.h"
+#include "conversions/reading/Shown.h"
 #include "documents/SymbolsReader.h"
 
+#include <algorithm>
+#include <map>
 #include <string>
 #include <utility>
 
@@ -13,6 +15,7 @@ namespace {
 using diagnostics::Code;
 using diagnostics::Diagnostic;
 using diagnostics::Diagnostics;
+using diagnostics::Outcome;
 using diagnostics::Severity;
 using documents::ReadSymbol;
 using documents::SymbolsOfDocument;
@@ -71,6 +74,102 @@ bool Read(const Input& input, bool tolerant, SymbolsOfDocument& document, Diagno
     return isRead;
 }
 
+// What symbols of the kind are called, as a document says it.
+std::string_view SymbolKindOf(FileKind kind) {
+    switch (kind) {
+    case FileKind::kLinetypes:
+        return "linetype";
+    case FileKind::kPatterns:
+        return "pattern";
+    case FileKind::kShapes:
+        return "glyph";
+    default:
+        return "block";
+    }
+}
+
+bool IsOfKind(const Conversion& conversion, std::size_t i, std::string_view kind) {
+    const bool isAnyPoint = !conversion.hasOrigin[i] && conversion.kinds[i] == "block";
+    return conversion.kinds[i] == kind || (isAnyPoint && kind == "glyph");
+}
+
+// Leaves those at these positions, in their order.
+void Keep(const std::vector<std::size_t>& positions, Conversion& conversion) {
+    Conversion kept;
+    for (const std::size_t i : positions) {
+        kept.owned.push_back(std::move(conversion.owned[i]));
+        kept.places.push_back(std::move(conversion.places[i]));
+        kept.kinds.push_back(conversion.kinds[i]);
+        kept.hasOrigin.push_back(conversion.hasOrigin[i]);
+    }
+    conversion.owned = std::move(kept.owned);
+    conversion.places = std::move(kept.places);
+    conversion.kinds = std::move(kept.kinds);
+    conversion.hasOrigin = std::move(kept.hasOrigin);
+    conversion.symbols.clear();
+    conversion.UseAll();
+}
+
+// Nothing is left where the conversion fails.
+void Refuse(Conversion& conversion) {
+    Keep({}, conversion);
+    conversion.isConverted = false;
+}
+
+void KeepKind(const Input& input, std::string_view kind, Conversion& conversion) {
+    std::vector<std::size_t> positions;
+    for (std::size_t i = 0; i < conversion.owned.size(); ++i) {
+        if (IsOfKind(conversion, i, kind)) {
+            positions.push_back(i);
+        }
+    }
+    const std::size_t all = conversion.owned.size();
+    const std::size_t others = all - positions.size();
+    if (others > 0) {
+        Diagnostic told;
+        told.severity = positions.empty() ? Severity::kError : Severity::kWarning;
+        told.code = Code::kSymbolsOfOtherKinds;
+        told.place.file = input.name;
+        told.subjects = {std::to_string(others), std::to_string(all), std::string(kind)};
+        told.outcome = positions.empty() ? Outcome::kNone : Outcome::kSkipped;
+        conversion.diagnostics.push_back(std::move(told));
+    }
+    if (positions.empty()) {
+        Refuse(conversion);
+    } else if (others > 0) {
+        Keep(positions, conversion);
+    }
+}
+
+// A document may have several of one name. Each is taken once, however often its name is asked for.
+void KeepNamed(const Input& input, std::string_view kind, const std::vector<std::wstring>& names,
+               bool tolerant, Conversion& conversion) {
+    std::map<std::wstring, std::vector<std::size_t>> byName;
+    for (std::size_t i = 0; i < conversion.owned.size(); ++i) {
+        byName[conversion.owned[i]->GetName()].push_back(i);
+    }
+    std::vector<std::size_t> positions;
+    bool isComplete = true;
+    for (const std::wstring& name : names) {
+        const auto found = byName.find(name);
+        if (found == byName.end()) {
+            isComplete = false;
+            conversion.diagnostics.push_back({tolerant ? Severity::kWarning : Severity::kError,
+                                              Code::kMissingName,
+                                              {input.name},
+                                              {std::string(kind), ShownText(name)}});
+        } else {
+            positions.insert(positions.end(), found->second.begin(), found->second.end());
+            found->second.clear();
+        }
+    }
+    if (positions.empty() || (!isComplete && !tolerant)) {
+        Refuse(conversion);
+    } else {
+        Keep(positions, conversion);
+    }
+}
+
 } // namespace
 
 Conversion ConvertSymbols(const Input& input, bool tolerant, Front& front) {
@@ -95,6 +194,19 @@ Conversion ConvertSymbols(const Input& input, bool tolerant, Front& front) {
     return result;
 }
 
+Conversion ConvertSymbolsOfKind(const Input& input, FileKind kind, const std::vector<std::wstring>& names,
+                                bool tolerant, Front& front) {
+    Conversion result = ConvertSymbols(input, tolerant, front);
+    const std::string_view word = SymbolKindOf(kind);
+    if (result.isConverted) {
+        KeepKind(input, word, result);
+    }
+    if (result.isConverted && !names.empty()) {
+        KeepNamed(input, word, names, tolerant, result);
+    }
+    return result;
+}
+
 Listing ListSymbols(const Input& input, bool tolerant) {
     Listing listing;
     SymbolsOfDocument document;
@@ -115,7 +227,7 @@ Diagnostics CheckSymbols(const Input& input) {
     Read(input, true, document, problems);
     for (Diagnostic& problem : problems) {
         problem.severity = Severity::kError;
-        problem.outcome = diagnostics::Outcome::kNone;
+        problem.outcome = Outcome::kNone;
     }
     return problems;
 }

@@ -27,6 +27,7 @@ enum class Code : std::uint8_t {
     kUnreadableFolder,
     kNameOfAnotherFile,
     kOtherFidelity,
+    kSymbolsOfOtherKinds,
     // Linetype files: syntax. The subject is the line.
     kHeaderWithoutPattern,
     kIncompletePattern,

@@ -63,6 +63,8 @@ constexpr auto kRows = std::to_array<Row>({
      "the name is already used by another symbol", "", "the file is added to it", true},
     {Code::kOtherFidelity, "other-fidelity",
      "its symbols are {0}, those of the files before {1}; convert it alone, or the others {2} --faithful", "", ""},
+    {Code::kSymbolsOfOtherKinds, "symbols-of-other-kinds",
+     "{0} of its {1} symbols are not of the kind {2}", R"("styleconv convert" takes them all)", "skipped"},
     // Linetype files: syntax. The subject is the line.
     {Code::kHeaderWithoutPattern, "header-without-pattern",
      "header without a pattern", "", ""},

@@ -37,12 +37,26 @@ conversions::BlocksOptions BlocksJob(const BlocksOptions& options, conversions::
     return job;
 }
 
+std::vector<MakingOption> BlocksMakingOptions(const BlocksOptions& options) {
+    return {{"--ignore-layer", !options.layersToIgnore.empty()},
+            {"--model-space", options.modelSpace},
+            {"--expand", options.expand},
+            {"--from-base-point", options.fromBasePoint},
+            {"--visible-only", options.visibleOnly},
+            {"--color-7", options.whiteAs.has_value()},
+            {"--units", !options.units.empty()}};
+}
+
 ExitStatus SeveralBlocks(const BlocksOptions& options, conversions::Form form) {
-    if (!CheckSeveralFiles(options.files, "--name", !options.names.empty())) {
+    if (!CheckSeveralFiles(options.files, "--name", !options.names.empty()) ||
+        !CheckMakingOptions(options.files, BlocksMakingOptions(options))) {
         return kUsageFault;
     }
+    FilesToConvert files =
+        FilesOfKind(conversions::FileKind::kDrawing, options.files, options.allOrNothing, options.tolerant);
+    files.names = WideTexts(options.names);
     return ConvertFiles(
-        FilesOfKind(conversions::FileKind::kDrawing, options.files, options.allOrNothing, options.tolerant),
+        files,
         [&](const InputFile& input, conversions::FileKind /*kind*/, conversions::Front& front) {
             return ConvertBlocks(input.ForJob(), BlocksJob(options, form), front);
         },
@@ -61,7 +75,7 @@ ExitStatus Blocks(const BlocksOptions& options) {
     if (!form) {
         return kUsageFault;
     }
-    if (options.files.size() > 1) {
+    if (options.files.size() > 1 || AreSymbolsAmong(options.files)) {
         return SeveralBlocks(options, *form);
     }
     const std::string& file = options.files.front();
@@ -80,7 +94,8 @@ void AddBlocksCommand(CommandLine& line) {
     const auto options = std::make_shared<BlocksOptions>();
     Command command =
         line.AddCommand("blocks", "Convert the blocks of a drawing", [options] { return Blocks(*options); });
-    command.AddFiles(options->files, "A DXF file or drawing document, or - for standard input");
+    command.AddFiles(options->files,
+                     "A DXF file or drawing document, - for standard input, or a symbols document");
     AddNameOption(command, options->names, "Convert only this block; may be given again");
     AddIgnoreLayerOption(command, options->layersToIgnore);
     AddShapesOption(command, options->shapeFolders);

@@ -17,8 +17,17 @@ struct GlyphsOptions : CommonOptions, conversions::GlyphsOptions {
     std::string codePage;
 };
 
+std::vector<MakingOption> GlyphsMakingOptions(const GlyphsOptions& options) {
+    return {{"--number", !options.numbers.empty()},
+            {"--scale", options.scale != 1.0},
+            {"--rotation", options.rotation != 0.0},
+            {"--at", options.x != 0.0 || options.y != 0.0},
+            {"--vertical", options.vertical}};
+}
+
 ExitStatus SeveralGlyphs(const GlyphsOptions& options, conversions::Form form) {
     if (!CheckSeveralFiles(options.files, "--number", !options.numbers.empty()) ||
+        !CheckMakingOptions(options.files, GlyphsMakingOptions(options)) ||
         !CheckEncoding(options.codePage)) {
         return kUsageFault;
     }
@@ -38,7 +47,7 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     if (!form) {
         return kUsageFault;
     }
-    if (options.files.size() > 1) {
+    if (options.files.size() > 1 || AreSymbolsAmong(options.files)) {
         return SeveralGlyphs(options, *form);
     }
     const std::string& file = options.files.front();
@@ -71,7 +80,7 @@ void AddGlyphsCommand(CommandLine& line) {
     const auto options = std::make_shared<GlyphsOptions>();
     Command command = line.AddCommand("glyphs", "Draw the shapes of a shape or font file",
                                       [options] { return Glyphs(*options); });
-    command.AddFiles(options->files, "A .shx file, or - for standard input");
+    command.AddFiles(options->files, "A .shx file, - for standard input, or a symbols document");
     command.AddIntegers("--number", options->numbers, "N", "Draw only this shape; may be given again");
     AddScaleOption(command, "--scale", options->scale, "Path units per shape unit (default: 1)");
     AddNumberOption(command, "--rotation", options->rotation,

@@ -172,6 +172,7 @@ bool IsLocal(const Diagnostic& diagnostic) {
     case Code::kNoBlocks:
     case Code::kNoSymbols:
     case Code::kOtherFidelity:
+    case Code::kSymbolsOfOtherKinds:
     case Code::kOnlyModelSpace:
     case Code::kNoModelSpace:
     case Code::kTooManyEntities:

@@ -37,11 +37,15 @@ conversions::Conversion ConvertOpenLinetypes(const LinetypesOptions& options, co
 
 ExitStatus SeveralLinetypes(const LinetypesOptions& options, conversions::Form form) {
     if (!CheckSeveralFiles(options.files, "--name", !options.names.empty()) ||
+        !CheckMakingOptions(options.files, {{"--scale", options.scale != 1.0}}) ||
         !CheckEncoding(options.codePage)) {
         return kUsageFault;
     }
+    FilesToConvert files =
+        FilesOfKind(conversions::FileKind::kLinetypes, options.files, options.allOrNothing, options.tolerant);
+    files.names = WideTexts(options.names);
     return ConvertFiles(
-        FilesOfKind(conversions::FileKind::kLinetypes, options.files, options.allOrNothing, options.tolerant),
+        files,
         [&](const InputFile& input, conversions::FileKind /*kind*/, conversions::Front& front) {
             return ConvertOpenLinetypes(options, form, input, front);
         },
@@ -56,7 +60,7 @@ ExitStatus ConvertedLinetypes(const LinetypesOptions& options) {
     if (!form) {
         return kUsageFault;
     }
-    if (options.files.size() > 1) {
+    if (options.files.size() > 1 || AreSymbolsAmong(options.files)) {
         return SeveralLinetypes(options, *form);
     }
     const std::string& file = options.files.front();
@@ -87,7 +91,7 @@ void AddLinetypesCommand(CommandLine& line) {
     const auto options = std::make_shared<LinetypesOptions>();
     Command command = line.AddCommand("linetypes", "Convert the linetypes of a .lin file",
                                       [options] { return Linetypes(*options); });
-    command.AddFiles(options->files, "A linetype file, or - for standard input");
+    command.AddFiles(options->files, "A linetype file, - for standard input, or a symbols document");
     AddNameOption(command, options->names, "Convert only the linetypes of this name; may be given again");
     AddScaleOption(command, "--scale", options->scale, "Multiply all lengths by this (default: 1)");
     AddStyleOptions(command, *options);

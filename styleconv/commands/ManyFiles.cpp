@@ -1,14 +1,18 @@
 #include "styleconv/commands/ManyFiles.h"
 
 #include "conversions/Gathering.h"
+#include "conversions/SymbolsDocuments.h"
 #include "diagnostics/Sentences.h"
 #include "diagnostics/ShownText.h"
 #include "styleconv/commands/Job.h"
+#include "styleconv/files/Paths.h"
 #include "styleconv/process/Messages.h"
 #include "styleconv/process/Progress.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
+#include <system_error>
 #include <utility>
 
 namespace styleconv {
@@ -68,8 +72,24 @@ void SaySummary(const FilesToConvert& files, const conversions::Gathering& gathe
     }
 }
 
-Conversion ConvertOne(const std::string& file, FileKind& kind, const ConvertFile& convert,
-                      const MakeFront& makeFront) {
+// Of a symbols document among files of one kind, what is of their kind.
+Conversion ConvertDocument(const FilesToConvert& files, const std::string& file, const MakeFront& makeFront) {
+    InputFile input(file);
+    if (const auto problem = input.Read()) {
+        Conversion unread;
+        unread.diagnostics.push_back(*problem);
+        return unread;
+    }
+    const auto front = makeFront(file, FileKind::kSymbols);
+    return ConvertSymbolsOfKind(input.ForJob(), files.kind, files.names, files.isTolerant, *front);
+}
+
+Conversion ConvertOne(const FilesToConvert& files, const std::string& file, FileKind& kind,
+                      const ConvertFile& convert, const MakeFront& makeFront) {
+    if (kind != FileKind::kUnknown && IsSymbolsDocument(file)) {
+        kind = FileKind::kSymbols;
+        return ConvertDocument(files, file, makeFront);
+    }
     Conversion conversion;
     InputFile input(file);
     const bool isGiven = kind != FileKind::kUnknown;
@@ -101,6 +121,7 @@ FilesToConvert FilesOfKind(FileKind kind, const std::vector<std::string>& files,
     result.kind = kind;
     result.allOrNothing = allOrNothing;
     result.isTolerant = isTolerant;
+    result.tellsOrigins = files.size() > 1;
     return result;
 }
 
@@ -128,11 +149,37 @@ bool CheckSeveralFiles(const std::vector<std::string>& files, const std::string&
         SayLine("styleconv: standard input cannot be one of several files");
         return false;
     }
-    if (isSelected) {
+    if (isSelected && files.size() > 1) {
         SayLine("styleconv: " + selection + " cannot be used with several files: it selects from one");
         return false;
     }
     return true;
+}
+
+// What is no file, as a pipe, is read but once.
+bool IsSymbolsDocument(const std::string& path) {
+    std::error_code ignored;
+    if (conversions::KindByName(path) != FileKind::kDrawing ||
+        !std::filesystem::is_regular_file(OpenablePath(NativePath(path)), ignored)) {
+        return false;
+    }
+    InputFile input(path);
+    return !input.Open() && conversions::KindByContents(input.Start()) == FileKind::kSymbols;
+}
+
+bool AreSymbolsAmong(const std::vector<std::string>& files) {
+    return std::any_of(files.begin(), files.end(), IsSymbolsDocument);
+}
+
+bool CheckMakingOptions(const std::vector<std::string>& files, const std::vector<MakingOption>& options) {
+    const auto given = std::find_if(options.begin(), options.end(),
+                                    [](const MakingOption& option) { return option.isGiven; });
+    if (given == options.end() || !AreSymbolsAmong(files)) {
+        return true;
+    }
+    SayLine(std::string("styleconv: ") + given->name +
+            " cannot be used with a symbols document: its symbols are made already");
+    return false;
 }
 
 ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert, const MakeFront& makeFront,
@@ -143,7 +190,7 @@ ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert,
         NameProgress("File " + std::to_string(i + 1) + " of " + std::to_string(files.files.size()) + ", " +
                      Counted(gathering.SymbolCount(), "symbol") + ": ");
         FileKind kind = files.kind;
-        Conversion conversion = ConvertOne(files.files[i], kind, convert, makeFront);
+        Conversion conversion = ConvertOne(files, files.files[i], kind, convert, makeFront);
         conversion.captions.title = TitleOf(files.files[i]);
         restyled.Add(Restyle(conversion, options.restyling));
         gathering.Add(files.files[i], kind, std::move(conversion));

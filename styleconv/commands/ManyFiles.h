@@ -37,7 +37,8 @@ struct FilesToConvert {
     std::size_t others = 0;               // files that were not taken
     bool allOrNothing = false;
     bool isTolerant = false;
-    bool tellsOrigins = true; // of the symbols, in a document
+    std::vector<std::wstring> names; // of a symbols document, only those; all where it is empty
+    bool tellsOrigins = true;        // of the symbols, in a document
 };
 
 FilesToConvert FilesOfKind(conversions::FileKind kind, const std::vector<std::string>& files,
@@ -54,6 +55,22 @@ conversions::Conversion ConvertWithStyles(const conversions::Input& input, conve
 
 /// False, with a message, when standard input is among several files, or parts of one file are asked for.
 bool CheckSeveralFiles(const std::vector<std::string>& files, const std::string& selection, bool isSelected);
+
+/// Whether it is a symbols document that stands among files of one kind: by the end of its name, .json, and
+/// by what it begins with.
+bool IsSymbolsDocument(const std::string& path);
+
+/// Whether any of the files is one.
+bool AreSymbolsAmong(const std::vector<std::string>& files);
+
+/// An option that says how symbols are made, and whether it is given.
+struct MakingOption {
+    const char* name;
+    bool isGiven;
+};
+
+/// False, with a message, where one of the files is a symbols document, whose symbols are made already.
+bool CheckMakingOptions(const std::vector<std::string>& files, const std::vector<MakingOption>& options);
 
 /// "1 file", "2 files".
 std::string Counted(std::size_t count, const std::string& what);

@@ -34,11 +34,15 @@ conversions::PatternsOptions PatternsJob(const PatternsOptions& options, convers
 
 ExitStatus SeveralPatterns(const PatternsOptions& options, conversions::Form form) {
     if (!CheckSeveralFiles(options.files, "--name", !options.names.empty()) ||
+        !CheckMakingOptions(options.files, {{"--units", !options.units.empty()}}) ||
         !CheckEncoding(options.codePage)) {
         return kUsageFault;
     }
+    FilesToConvert files =
+        FilesOfKind(conversions::FileKind::kPatterns, options.files, options.allOrNothing, options.tolerant);
+    files.names = WideTexts(options.names);
     return ConvertFiles(
-        FilesOfKind(conversions::FileKind::kPatterns, options.files, options.allOrNothing, options.tolerant),
+        files,
         [&](const InputFile& input, conversions::FileKind /*kind*/, conversions::Front& front) {
             return ConvertPatterns(input.ForJob(options.codePage), PatternsJob(options, form), front);
         },
@@ -53,7 +57,7 @@ ExitStatus Patterns(const PatternsOptions& options) {
     if (!form) {
         return kUsageFault;
     }
-    if (options.files.size() > 1) {
+    if (options.files.size() > 1 || AreSymbolsAmong(options.files)) {
         return SeveralPatterns(options, *form);
     }
     const std::string& file = options.files.front();
@@ -75,7 +79,7 @@ void AddPatternsCommand(CommandLine& line) {
     const auto options = std::make_shared<PatternsOptions>();
     Command command = line.AddCommand("patterns", "Convert the hatch patterns of a .pat file",
                                       [options] { return Patterns(*options); });
-    command.AddFiles(options->files, "A pattern file, or - for standard input");
+    command.AddFiles(options->files, "A pattern file, - for standard input, or a symbols document");
     AddNameOption(command, options->names, "Convert only this pattern; may be given again");
     AddTolerantOption(command, options->tolerant);
     AddFaithfulOption(command, options->faithful);

@@ -131,12 +131,130 @@ TEST_F(SymbolsDocuments, GlyphsGoWithSymbolsOfBothFidelities) {
     }
 }
 
-TEST_F(SymbolsDocuments, OtherCommandsNameTheOneThatReadsThem) {
+// All kinds in one document, with their origins.
+std::string DocumentOf(const ScratchFolder& folder, std::vector<std::string> files) {
+    const std::string document = folder / "all.json";
+    files.insert(files.begin(), "convert");
+    files.insert(files.end(), {"-o", document});
+    EXPECT_EQ(RunTool(files).status, 0);
+    return document;
+}
+
+std::string WarningOfOthers(const std::string& document, const std::string& others, const std::string& kind) {
+    return document + ": warning: " + others + " symbols are not of the kind " + kind + "; skipped\n";
+}
+
+TEST_F(SymbolsDocuments, EachCommandTakesThoseOfItsKindAndSaysWhatItLeavesOut) {
+    const std::string drawing = Folder().Write(
+        "d.json", R"({"format": "styleconversion/drawing", "version": 1, "insunits": 6, "blocks": [)"
+                  R"({"name": "CROSS", "entities": [{"type": "line", "start": [0, 0], "end": [1, 0]}]}]})");
+    const std::string document = DocumentOf(Folder(), {lines, walls, marks, drawing});
+    struct Case {
+        const char* command;
+        const char* kind;
+        const char* others;
+        std::vector<std::string> names;
+    };
+    const Case cases[] = {{"linetypes", "linetype", "4 of its 6", {"GAS", "GAS (" + lines + ")"}},
+                          {"patterns", "pattern", "4 of its 6", {"BRICK", "STONE"}},
+                          {"glyphs", "glyph", "5 of its 6", {"130 MARK"}},
+                          {"blocks", "block", "5 of its 6", {"CROSS"}}};
+    for (const Case& c : cases) {
+        const ToolResult result = RunTool({c.command, document});
+        EXPECT_EQ(result.status, 0) << c.command;
+        EXPECT_EQ(support::ValuesOf(result.output, "name"), c.names) << c.command;
+        EXPECT_EQ(support::ValuesOf(result.output, "kind"), std::vector<std::string>(c.names.size(), c.kind));
+        EXPECT_EQ(result.errors.rfind(WarningOfOthers(document, c.others, c.kind), 0), 0U) << result.errors;
+    }
+}
+
+TEST_F(SymbolsDocuments, DocumentOfOneKindBecomesWhatItsFileDoes) {
     const std::string document = Folder() / "walls.json";
     ASSERT_EQ(RunTool({"patterns", walls, "-o", document}).status, 0);
-    EXPECT_EQ(RunTool({"linetypes", document}).errors,
-              document +
-                  ": error: this is a symbols document, not a linetype file; use \"styleconv convert\"\n");
+    for (const std::string form : {"json", "svg", "qgis"}) {
+        const ToolResult direct = form == "qgis"
+                                      ? RunTool({"patterns", walls, "--format", form, "--strict-symbols"})
+                                      : RunTool({"patterns", walls, "--format", form});
+        const ToolResult read = RunTool({"patterns", document, "--format", form});
+        EXPECT_EQ(read.status, 0) << form;
+        EXPECT_EQ(read.errors.rfind("styleconv: 1 file, 2 symbols\n", 0), 0U) << read.errors;
+        EXPECT_EQ(WithoutTags(read.output), WithoutTags(direct.output)) << form;
+    }
+}
+
+TEST_F(SymbolsDocuments, FilesAndDocumentsOfOneKindAreOneResult) {
+    const std::string document = Folder() / "walls.json";
+    ASSERT_EQ(RunTool({"patterns", walls, "-o", document}).status, 0);
+    const std::string others = Folder().Write("o.pat", "*REED,r\n0,0,0,0,1\n");
+    const ToolResult result = RunTool({"patterns", others, document});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(support::ValuesOf(result.output, "name"), (std::vector<std::string>{"REED", "BRICK", "STONE"}));
+}
+
+TEST_F(SymbolsDocuments, NamesSelectFromThem) {
+    const std::string document = DocumentOf(Folder(), {lines, walls});
+    const ToolResult both = RunTool({"patterns", document, "--name", "STONE", "--name", "BRICK"});
+    EXPECT_EQ(support::ValuesOf(both.output, "name"), (std::vector<std::string>{"STONE", "BRICK"}));
+    const std::vector<std::string> missing = {"patterns", document, "--name", "GAS", "--name", "BRICK"};
+    const ToolResult strict = RunTool(missing);
+    EXPECT_EQ(strict.status, 1);
+    EXPECT_EQ(strict.output, "");
+    EXPECT_NE(strict.errors.find(": error: there is no pattern named GAS\n"), std::string::npos)
+        << strict.errors;
+    std::vector<std::string> tolerated = missing;
+    tolerated.emplace_back("--tolerant");
+    const ToolResult tolerant = RunTool(tolerated);
+    EXPECT_EQ(tolerant.status, 0);
+    EXPECT_EQ(support::ValuesOf(tolerant.output, "name"), std::vector<std::string>{"BRICK"});
+}
+
+TEST_F(SymbolsDocuments, OneWithoutTheKindIsRefused) {
+    const std::string document = Folder() / "walls.json";
+    ASSERT_EQ(RunTool({"patterns", walls, "-o", document}).status, 0);
+    for (const std::string command : {"linetypes", "blocks", "glyphs"}) {
+        const ToolResult result = RunTool({command, document});
+        EXPECT_EQ(result.status, 1) << command;
+        EXPECT_EQ(result.output, "") << command;
+        EXPECT_EQ(result.errors.rfind(document + ": error: 2 of its 2 symbols are not of the kind ", 0), 0U)
+            << result.errors;
+        EXPECT_NE(result.errors.find("; \"styleconv convert\" takes them all\n"), std::string::npos)
+            << result.errors;
+    }
+}
+
+TEST_F(SymbolsDocuments, PointsOfUnknownOriginAreBlocksAndGlyphs) {
+    const std::string document = DocumentOf(Folder(), {marks});
+    for (const std::string command : {"blocks", "glyphs"}) {
+        EXPECT_EQ(support::ValuesOf(RunTool({command, document}).output, "name"),
+                  std::vector<std::string>{"130 MARK"})
+            << command;
+    }
+}
+
+TEST_F(SymbolsDocuments, OptionsOfHowSymbolsAreMadeAreRefused) {
+    const std::string document = DocumentOf(Folder(), {lines, walls, marks});
+    const std::vector<std::string> cases[] = {{"linetypes", "--scale", "2"}, {"patterns", "--units", "mm"},
+                                              {"blocks", "--expand"},        {"glyphs", "--number", "130"},
+                                              {"glyphs", "--at", "1,0"},     {"blocks", "--model-space"}};
+    for (const std::vector<std::string>& c : cases) {
+        std::vector<std::string> arguments = c;
+        arguments.push_back(document);
+        const ToolResult result = RunTool(arguments);
+        EXPECT_EQ(result.status, 2) << c[1];
+        EXPECT_EQ(result.errors,
+                  "styleconv: " + c[1] +
+                      " cannot be used with a symbols document: its symbols are made already\n");
+    }
+}
+
+TEST_F(SymbolsDocuments, DrawingThatSpeaksOfSymbolsStaysADrawing) {
+    const std::string drawing = Folder().Write(
+        "d.json", R"({"format": "styleconversion/drawing", "version": 1, "insunits": 6, "blocks": [)"
+                  R"({"name": "styleconversion/symbols", "entities": [)"
+                  R"({"type": "line", "start": [0, 0], "end": [1, 0]}]}]})");
+    const ToolResult result = RunTool({"blocks", drawing});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(support::ValuesOf(result.output, "name"), std::vector<std::string>{"styleconversion/symbols"});
 }
 
 } // namespace
