@@ -15,6 +15,12 @@ namespace {
 using preview::Box;
 using preview::Point;
 
+// A buffer of nothing keeps the parts of a polygon that crosses itself that turn one way; in a box beside it
+// the others make holes.
+constexpr const char* kValid =
+    "if(is_valid($geometry),$geometry,union(buffer($geometry,0),difference(bounds($geometry),"
+    "buffer(collect_geometries(bounds($geometry),$geometry),0))))";
+
 // What is repeated is anchored at the polygon's own lower left corner: numbers stay small wherever on the map
 // it lies, and all views agree. Expressions are kept shallow, for the program's time to parse them doubles
 // with nearly each level of brackets; "//" divides and rounds down; "--" would begin a comment.
@@ -22,7 +28,7 @@ class TilingExpression {
 public:
     TilingExpression(const Tiling& tiling, HatchUnit unit)
         : tiling_(tiling), anchorY_(unit == HatchUnit::kMap ? "y_min($geometry)" : "y_max($geometry)"),
-          seen_("if(is_valid($geometry),$geometry,buffer($geometry,0))") {
+          seen_(kValid) {
         if (unit == HatchUnit::kMap) {
             // Only what the map shows.
             seen_ = "intersection(" + seen_ +

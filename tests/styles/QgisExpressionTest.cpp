@@ -8,10 +8,12 @@ namespace {
 
 using namespace styles;
 
+const std::string kWhole =
+    "if(is_valid($geometry),$geometry,union(buffer($geometry,0),difference(bounds($geometry),"
+    "buffer(collect_geometries(bounds($geometry),$geometry),0))))";
 // What of the polygon the map shows, for hatches in map units.
-const std::string kSeen = "intersection(if(is_valid($geometry),$geometry,buffer($geometry,0)),"
-                          "coalesce(transform(@map_extent,@map_crs,@layer_crs),bounds($geometry)))";
-const std::string kWhole = "if(is_valid($geometry),$geometry,buffer($geometry,0))";
+const std::string kSeen =
+    "intersection(" + kWhole + ",coalesce(transform(@map_extent,@map_crs,@layer_crs),bounds($geometry)))";
 
 Tiling TilingOf(double angle, double stepX, double stepY) {
     Tiling tiling;
