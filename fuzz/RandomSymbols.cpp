@@ -158,7 +158,7 @@ std::string Color(Choices& choices) {
     return choices.Of(kColors);
 }
 
-json Path(Choices& choices) {
+json PathElement(Choices& choices) {
     json path = {{"type", "Path"}};
     Set(path, "geometry", Geometry(choices));
     if (choices.Below(4) != 3) {
@@ -176,7 +176,7 @@ json Path(Choices& choices) {
     return path;
 }
 
-json Text(Choices& choices) {
+json TextElement(Choices& choices) {
     constexpr std::array<std::string_view, 4> kAcross = {"'Left'", "'Center'", "'Right'", "'Aligned'"};
     constexpr std::array<std::string_view, 4> kUp = {"'Baseline'", "'Middle'", "'Top'", "'Bottom'"};
     json text = {{"type", "Text"}};
@@ -226,7 +226,7 @@ json Simple(Choices& choices, std::size_t usage) {
     json symbol = {{"type", "SimpleSymbolDefinition"}, {"name", Words(choices)}};
     symbol["graphics"] = json::array();
     for (std::size_t count = choices.Below(5); count > 0; --count) {
-        symbol["graphics"].push_back(choices.Below(4) == 3 ? Text(choices) : Path(choices));
+        symbol["graphics"].push_back(choices.Below(4) == 3 ? TextElement(choices) : PathElement(choices));
     }
     symbol["parameters"] = {Parameter(choices, "C", 6, choices.Yes() ? "0xff000000" : Words(choices)),
                             Parameter(choices, "N", 5, choices.Yes() ? "0.0" : Number(choices)),

@@ -22,6 +22,7 @@ from PIL import Image
 from qgis.core import QgsExpression, QgsNullSymbolRenderer, QgsStyle, QgsVectorLayer
 from qgis.PyQt.QtGui import QColor
 
+HERE = os.path.dirname(os.path.abspath(__file__))
 MOST_OFF = 0.001
 TILTED = [[(4, 4), (61, 9), (55, 60), (9, 52)], [(25, 25), (42, 28), (33, 44)]]  # with a hole
 ORIGIN = (400000.0, 5700000.0)
@@ -109,6 +110,7 @@ class Library(unittest.TestCase):
             for name in style.symbolNames():
                 self.assertEqual(sorted(style.tagsOfSymbol(QgsStyle.SymbolEntity, name)), sorted([kind, stem]), name)
                 self.assertGreater(style.symbol(name).symbolLayerCount(), 0, name)
+            self.assertEqual(style.symbolsOfFavorite(QgsStyle.SymbolEntity), [])
             count += len(symbols)
         self.assertGreater(count, 50)
 
@@ -206,6 +208,25 @@ class Library(unittest.TestCase):
                     other, ink = self.inks(symbol)
                     self.assertEqual(other, 0)
                     self.assertEqual(ink > 0, name != "MARGIN")
+
+    def test_the_pen_of_dashes_follows_the_button_of_the_symbol(self):
+        path, _, _ = convert("linetypes", f"{examples}/linetypes/simple.lin")
+        symbol = symbols_of(path).symbol("COUNTY_BOUNDARY")
+        view, wkt = extent(), maps.line([(ORIGIN[0] + 5, ORIGIN[1] + 33), (ORIGIN[0] + 60, ORIGIN[1] + 33)])
+
+        def ink():
+            pixels, _ = maps.draw(maps.layer_of([wkt], symbol), view)
+            rows = (painter.darkness(pixels) > 127).any(axis=1)
+            return int(rows.sum()), (painter.darkness(pixels) > 127).any(axis=0)
+
+        thin, dashes = ink()
+        symbol.setWidth(4 * symbol.width())
+        thick, dashes_of_thick = ink()
+        # From a third of a millimetre to more than one.
+        self.assertLessEqual(thin, 4)
+        self.assertGreaterEqual(thick, 8)
+        # The dashes stay where they are; a dot grows.
+        self.assertFalse((dashes & ~dashes_of_thick).any())
 
     def inks(self, symbol):
         """Pixels of a map that are neither magenta nor paper nor between them, and pixels that are not paper."""
@@ -502,6 +523,7 @@ class Points(unittest.TestCase):
 
         without = picture()
         self.assertTrue((without == picture(("STOP_NUMBER", "000"))).all())
+        self.assertTrue((without == picture(("STOP_NUMBER", None))).all())
         self.assertFalse((without == picture(("STOP_NUMBER", "471"))).all())
 
     def test_size_and_angle_act_on_the_whole(self):
@@ -513,6 +535,23 @@ class Points(unittest.TestCase):
         symbol.setAngle(90)
         after, _ = maps.draw(maps.layer_of([wkt], symbol), view)
         self.assertLess(painter.off(numpy.rot90(before, -1), after), MOST_OFF)
+
+
+class Documentation(unittest.TestCase):
+    def test_its_pictures_are_what_the_program_draws(self):
+        target = os.path.join(folder, "documentation")
+        os.makedirs(target)
+        subprocess.run([sys.executable, "-B", os.path.join(HERE, "pictures.py"), styleconv, examples, target], check=True)
+        names = sorted(os.listdir(target))
+        self.assertEqual(len(names), 3)
+        for name in names:
+            with self.subTest(name=name):
+                shown, drawn = (
+                    numpy.asarray(Image.open(os.path.join(place, name)).convert("RGB"))
+                    for place in (os.path.join(HERE, "..", "..", "docs"), target)
+                )
+                self.assertEqual(shown.shape, drawn.shape)
+                self.assertLess(painter.off(shown, drawn), MOST_OFF)
 
 
 if __name__ == "__main__":
