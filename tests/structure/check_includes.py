@@ -43,7 +43,7 @@ ALLOWED = {
     "tests": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "styles", "conversions", "styleconv", "fuzz",
               "examples"],
     "fuzz": ["c", "StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "conversions", "tests/support"],
-    "benchmarks": ["StyleConversion", "drawing", "diagnostics", "documents", "exchange", "preview", "tests/support"],
+    "benchmarks": ["StyleConversion", "conversions", "drawing", "diagnostics", "documents", "exchange", "preview", "tests/support"],
     "examples": ["StyleConversion", "drawing", "documents", "tests/support"],
 }
 
