@@ -298,7 +298,18 @@ class Pictures(Browser):
         convert(command, os.path.join(examples, file), site, *options)
         return [self.show(read_style(site), name, geometry, TILE) for name in names]
 
-    def test_takes_pictures(self):
+    def test_are_those_of_the_documentation(self):
+        self.take()
+        if documentation:
+            return
+        for name in ("maplibre-hatches.png", "maplibre-lines.png", "maplibre-blocks.png"):
+            with self.subTest(name):
+                shown, drawn = (numpy.asarray(Image.open(os.path.join(place, name)).convert("RGB"))
+                                for place in (os.path.join(HERE, "..", "..", "docs"), pictures))
+                self.assertEqual(shown.shape, drawn.shape)
+                self.assertLess(painter.off(shown, drawn), 0.01)
+
+    def take(self):
         def placed(points):
             return [lonlat(x, y, TILE) for x, y in points]
 
@@ -331,12 +342,13 @@ class Quiet(http.server.SimpleHTTPRequestHandler):
 
 if __name__ == "__main__":
     styleconv, examples, modules = (os.path.abspath(path) for path in sys.argv[1:4])
-    pictures = os.path.abspath(sys.argv[4]) if len(sys.argv) > 4 else None
+    documentation = os.path.abspath(sys.argv[4]) if len(sys.argv) > 4 else None
     more = os.environ.get("STYLECONV_MORE_FILES")
-    sys.argv[1:] = ["Pictures"] if pictures else ["Styles", "Maps"]
+    sys.argv[1:] = ["Pictures"] if documentation else ["Styles", "Maps", "Pictures"]
     with tempfile.TemporaryDirectory() as folder:
-        site = os.path.join(folder, "site")
+        site, pictures = os.path.join(folder, "site"), documentation or os.path.join(folder, "pictures")
         os.makedirs(site)
+        os.makedirs(pictures, exist_ok=True)
         os.symlink(os.path.join(modules, "maplibre-gl"), os.path.join(site, "maplibre-gl"))
         with open(os.path.join(site, "index.html"), "w", encoding="utf-8") as stream:
             stream.write(PAGE)
