@@ -118,7 +118,7 @@ private:
     }
 
     std::string_view ReadName() {
-        const std::size_t size = static_cast<std::size_t>(
+        const auto size = static_cast<std::size_t>(
             std::find_if_not(text_.begin(), text_.end(), IsNameCharacter) - text_.begin());
         const std::string_view name = text_.substr(0, size);
         text_.remove_prefix(size);

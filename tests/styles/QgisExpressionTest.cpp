@@ -77,41 +77,43 @@ TEST(QgisExpression, StrokesAreTilesOfTheTurnedPolygonThatAreTurnedBack) {
             anchor);
 }
 
-// The strokes' feet are even steps apart and 4 high: what is number e is at 10 e, and the first one that
-// reaches into a polygon from y on begins above y - 4.
+// What repeats nine strokes one by one that are 2 units apart across, of which number e begins at 10 e and
+// ends 4 beyond: the first one that reaches into a polygon from y on begins above y - 4.
+std::string NineStrokes(const std::string& tile, bool isTall) {
+    const std::string piece =
+        "translate(geometry_n(geom_from_wkt('MULTILINESTRING(" + tile + ")'),@element-@element//9*9+1),";
+    const std::string x = "generate_series((x_min(@g)-x_min($geometry)+";
+    const std::string y = "generate_series((y_min(@g)-y_min($geometry)+";
+    const std::string tall =
+        y + "-4)//10,(y_max(@g)-y_min($geometry)+0.00001)//10)," + piece +
+        "0,y_min($geometry)+@element//9*90))),array_foreach(" + x +
+        "-1)//2,(x_max(@g)-x_min($geometry)+0.000002)//2),translate(@r,x_min($geometry)+@element*2,0))))";
+    const std::string wide =
+        x + "-4)//10,(x_max(@g)-x_min($geometry)+0.00001)//10)," + piece +
+        "x_min($geometry)+@element//9*90,0))),array_foreach(" + y +
+        "-1)//2,(y_max(@g)-y_min($geometry)+0.000002)//2),translate(@r,0,y_min($geometry)+@element*2))))";
+    return "with_variable('g'," + kSeen +
+           ",intersection(collect_geometries(with_variable('r',collect_geometries(array_foreach(" +
+           (isTall ? tall : wide) + ",@g))";
+}
+
 TEST(QgisExpression, StrokesOfALargeTileAreRepeatedOneByOneAlongItsLongerAxis) {
-    const double count = static_cast<double>(kMostInTile) + 1;
-    for (const bool isTall : {true, false}) {
-        Tiling tiling = isTall ? TilingOf(0, 2, count * 10) : TilingOf(0, count * 10, 2);
-        std::string tile;
-        for (int i = 0; i < static_cast<int>(count); ++i) {
-            // In the order of neither axis.
-            const double foot = (i + 4) % static_cast<int>(count) * 10;
-            tiling.strokes.push_back(isTall ? Stroke{{0, foot}, {1, foot + 4}}
-                                            : Stroke{{foot, 0}, {foot + 4, 1}});
-            const std::string from = std::to_string(i * 10);
-            const std::string to = std::to_string(i * 10 + 4);
-            tile +=
-                (i == 0 ? "(" : ",(") + (isTall ? "0 " + from + ",1 " + to : from + " 0," + to + " 1") + ")";
-        }
-        const std::string piece =
-            "translate(geometry_n(geom_from_wkt('MULTILINESTRING(" + tile + ")'),@element-@element//9*9+1),";
-        const std::string x = "generate_series((x_min(@g)-x_min($geometry)+";
-        const std::string y = "generate_series((y_min(@g)-y_min($geometry)+";
-        const std::string tall =
-            y + "-4)//10,(y_max(@g)-y_min($geometry)+0.00001)//10)," + piece +
-            "0,y_min($geometry)+@element//9*90))),array_foreach(" + x +
-            "-1)//2,(x_max(@g)-x_min($geometry)+0.000002)//2),translate(@r,x_min($geometry)+@element*2,0))))";
-        const std::string wide =
-            x + "-4)//10,(x_max(@g)-x_min($geometry)+0.00001)//10)," + piece +
-            "x_min($geometry)+@element//9*90,0))),array_foreach(" + y +
-            "-1)//2,(y_max(@g)-y_min($geometry)+0.000002)//2),translate(@r,0,y_min($geometry)+@element*2))))";
-        static_assert(kMostInTile == 8);
-        EXPECT_EQ(OnlyLines({tiling}, HatchUnit::kMap),
-                  "with_variable('g'," + kSeen +
-                      ",intersection(collect_geometries(with_variable('r',collect_geometries(array_foreach(" +
-                      (isTall ? tall : wide) + ",@g))");
+    static_assert(kMostInTile == 8);
+    Tiling tall = TilingOf(0, 2, 90);
+    Tiling wide = TilingOf(0, 90, 2);
+    // In the order of neither axis.
+    for (const double foot : {40, 50, 60, 70, 80, 0, 10, 20, 30}) {
+        tall.strokes.push_back({{0, foot}, {1, foot + 4}});
+        wide.strokes.push_back({{foot, 0}, {foot + 4, 1}});
     }
+    EXPECT_EQ(OnlyLines({tall}, HatchUnit::kMap),
+              NineStrokes("(0 0,1 4),(0 10,1 14),(0 20,1 24),(0 30,1 34),(0 40,1 44),(0 50,1 54),(0 60,1 64),"
+                          "(0 70,1 74),(0 80,1 84)",
+                          true));
+    EXPECT_EQ(OnlyLines({wide}, HatchUnit::kMap),
+              NineStrokes("(0 0,4 1),(10 0,14 1),(20 0,24 1),(30 0,34 1),(40 0,44 1),(50 0,54 1),(60 0,64 1),"
+                          "(70 0,74 1),(80 0,84 1)",
+                          false));
 }
 
 TEST(QgisExpression, OnThePageYPointsDown) {
