@@ -84,6 +84,7 @@ Conversion ConvertDrawing(const Input& input, const Options& options, CallbackFr
     job.fidelity = FidelityOf(options);
     job.seenAs.leavesOutHidden = job.fidelity == Fidelity::kFaithful;
     job.seenAs.drawsOthers = job.fidelity == Fidelity::kFaithful;
+    job.seenAs.drawsDashes = job.fidelity == Fidelity::kFaithful;
     return ConvertBlocks(input, job, front);
 }
 

@@ -162,6 +162,7 @@ enum class Code : std::uint8_t {
     kUnsupportedClass,
     kDrawnIfFaithful,
     kWidthNotDrawn,
+    kOtherDashes,
     kDrawnAs,
     kInsertNotDrawn,
     kRecursiveInsert,

@@ -315,7 +315,7 @@ constexpr auto kRows = std::to_array<Row>({
      "the boundary of {0} cannot be read", "", ""},
     // Drawings: what is not drawn, or not as it should be.
     {Code::kNoUnit, "no-unit",
-     "the drawing has no unit", "its lengths are read as metres: --units names another", ""},
+     "the drawing has no unit", "its lengths are read as metres: {0}", ""},
     {Code::kNotInDrawOrder, "not-in-draw-order",
      "{entities} {is} not drawn: missing in the draw order of the block", "", ""},
     {Code::kUnsupportedClass, "unsupported-class",
@@ -324,6 +324,8 @@ constexpr auto kRows = std::to_array<Row>({
      "{entities} of the type {0} {is} not drawn", "--faithful draws what the drawing shows of such", ""},
     {Code::kWidthNotDrawn, "width",
      "{entities} (polyline) {is} drawn without a width", "--faithful draws the area", ""},
+    {Code::kOtherDashes, "other-dashes",
+     "the dashes of {entities} are drawn without {0}", "--faithful draws them", ""},
     {Code::kDrawnAs, "drawn-as",
      "{entities} of the type {0} {is} drawn as {1}", "", ""},
     {Code::kInsertNotDrawn, "insert",
@@ -589,6 +591,14 @@ bool HasOneCause(Code code) {
 
 bool CountsEntities(Code code) {
     return RowOf(code).sentence.find("{entities}") != std::string_view::npos;
+}
+
+std::string UnitHelp(std::optional<bool> isMetric) {
+    if (!isMetric) {
+        return "--units names another";
+    }
+    return *isMetric ? "--units mm is likely, as it was drawn with metric linetypes"
+                     : "--units inch is likely, as it was drawn with linetypes in inches";
 }
 
 } // namespace diagnostics

@@ -42,4 +42,7 @@ bool HasOneCause(Code code);
 /// Whether its sentence tells how many entities it is about.
 bool CountsEntities(Code code);
 
+/// What helps where a drawing has no unit; `isMetric` is what else it says of how it was drawn, if anything.
+std::string UnitHelp(std::optional<bool> isMetric);
+
 } // namespace diagnostics

@@ -66,6 +66,8 @@ DrawingNode::DrawingNode() {
     Bind("format", format_, kRequired);
     Bind("version", version_, kRequired);
     Bind("insunits", insunits_);
+    Bind("linetypeScale", linetypeScale_);
+    Bind("metric", metric_);
     Bind("layers", layers_);
     Bind("linetypes", linetypes_);
     Bind("textStyles", textStyles_);
@@ -78,6 +80,10 @@ bool DrawingNode::EndCut(ReadState& state) {
 
 bool DrawingNode::Finish(ReadState& state) {
     state.Target().SetInsunits(static_cast<OxDb::UnitsValue>(insunits_.Value()));
+    state.Target().SetLinetypeScale(linetypeScale_.Value());
+    if (Has(metric_)) {
+        state.Target().SetMetric(metric_.Value());
+    }
     return true;
 }
 

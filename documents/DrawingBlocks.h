@@ -49,6 +49,8 @@ private:
     FixedTextNode format_{"styleconversion/drawing"};
     IntegerNode version_{1, 1, 1};
     UnitsNode insunits_;
+    ScaleNode linetypeScale_;
+    BooleanNode metric_;
     ListNode<LayerNode> layers_;
     ListNode<LinetypeNode> linetypes_;
     ListNode<TextStyleNode> textStyles_;

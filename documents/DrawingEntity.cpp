@@ -40,6 +40,7 @@ AttributeNode::AttributeNode(std::vector<Attribute>& attributes) : attributes_(a
     Bind("lineWeight", lineWeight_);
     Bind("linetype", linetype_);
     Bind("hidden", hidden_);
+    Bind("linetypeScale", linetypeScale_);
     Bind("position", position_, kRequired);
     Bind("height", height_, kRequired);
     Bind("text", text_, kRequired);
@@ -53,7 +54,7 @@ AttributeNode::AttributeNode(std::vector<Attribute>& attributes) : attributes_(a
 bool AttributeNode::Finish(ReadState& /*state*/) {
     attributes_.push_back(
         {{layer_.Value(), color_.Value(), static_cast<OxDb::LineWeight>(lineWeight_.Value()),
-          linetype_.Value(), hidden_.Value()},
+          linetype_.Value(), hidden_.Value(), linetypeScale_.Value()},
          {position_.Point3d(), height_.Value(), rotation_.Value(), text_.Value(), style_.Value(),
           static_cast<OxDb::TextHorzMode>(horizontalMode_.Value()),
           static_cast<OxDb::TextVertMode>(verticalMode_.Value())}});
@@ -70,6 +71,7 @@ EntityNode::EntityNode(BlockInReading& block) : ObjectNode("an entity"), block_(
     BindCommon("lineWeight", lineWeight_);
     BindCommon("linetype", linetype_);
     BindCommon("hidden", hidden_);
+    BindCommon("linetypeScale", linetypeScale_);
     BindGeometry();
     spline_.BindTo(*this);
     BindAreasAndTexts();
@@ -149,8 +151,8 @@ void EntityNode::AddTypes() {
 }
 
 drawing::EntityProperties EntityNode::Properties() const {
-    return {layer_.Value(), color_.Value(), static_cast<OxDb::LineWeight>(lineWeight_.Value()),
-            linetype_.Value(), hidden_.Value()};
+    return {layer_.Value(),    color_.Value(),  static_cast<OxDb::LineWeight>(lineWeight_.Value()),
+            linetype_.Value(), hidden_.Value(), linetypeScale_.Value()};
 }
 
 template <class T, class... Args>

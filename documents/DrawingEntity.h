@@ -48,6 +48,7 @@ private:
     IntegerNode lineWeight_{OxDb::kLnWtByLayer};
     TextNode linetype_{L"ByLayer"};
     BooleanNode hidden_;
+    ScaleNode linetypeScale_;
     PointNode position_;
     NumberNode height_;
     TextNode text_;
@@ -93,6 +94,7 @@ private:
     IntegerNode lineWeight_{OxDb::kLnWtByLayer};
     TextNode linetype_{L"ByLayer"};
     BooleanNode hidden_;
+    ScaleNode linetypeScale_;
 
     PointNode position_;
     PointNode start_;

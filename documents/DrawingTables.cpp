@@ -19,6 +19,7 @@ LayerNode::LayerNode() {
     Bind("name", name_, kRequired);
     Bind("color", color_);
     Bind("lineWeight", lineWeight_);
+    Bind("linetype", linetype_);
     Bind("off", off_);
     Bind("frozen", frozen_);
 }
@@ -29,6 +30,7 @@ bool LayerNode::Finish(ReadState& state) {
     if (layer == nullptr) {
         return RefuseName(state, "layer", name_.Value());
     }
+    layer->SetLinetype(linetype_.Value());
     layer->SetState(frozen_.Value() ? drawing::LayerState::kFrozen
                     : off_.Value()  ? drawing::LayerState::kOff
                                     : drawing::LayerState::kShown);

@@ -27,6 +27,7 @@ protected:
 private:
     TextNode name_;
     ColorNode color_{IndexColor(7)};
+    TextNode linetype_{L"Continuous"};
     BooleanNode off_;
     BooleanNode frozen_;
     IntegerNode lineWeight_{OxDb::kLnWtByLwDefault};

@@ -45,6 +45,10 @@ bool NumberNode::Number(ReadState& /*state*/, const NumberToken& number) {
     return true;
 }
 
+bool ScaleNode::Number(ReadState& state, const NumberToken& number) {
+    return number.value > 0.0 ? NumberNode::Number(state, number) : RefuseKind(state, Shown(number));
+}
+
 std::string IntegerNode::Expected() const {
     if (lowest_ == highest_) {
         return "the number " + std::to_string(lowest_);

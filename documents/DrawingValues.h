@@ -26,6 +26,14 @@ private:
     double value_;
 };
 
+/// A number above 0, 1 where it is left out.
+class ScaleNode : public NumberNode {
+public:
+    ScaleNode() : NumberNode(1.0) {}
+    std::string Expected() const override { return "a number above 0"; }
+    bool Number(ReadState& state, const NumberToken& number) override;
+};
+
 /// A whole number within bounds.
 class IntegerNode : public Node {
 public:

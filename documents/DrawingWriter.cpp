@@ -22,6 +22,11 @@ public:
         json_.Key("version");
         json_.Integer(1);
         PutInteger(json_, "insunits", drawing.insunits(), OxDb::kUnitsUndefined);
+        PutNumber(json_, "linetypeScale", drawing.LinetypeScale(), 1.0);
+        if (drawing.IsMetric()) {
+            json_.Key("metric");
+            json_.Boolean(*drawing.IsMetric());
+        }
         WriteTable("layers", drawing.Layers());
         WriteTable("linetypes", drawing.Linetypes());
         WriteTable("textStyles", drawing.TextStyles());
@@ -61,6 +66,7 @@ private:
     void WriteRecord(const drawing::LayerRecord& layer) {
         PutColor(json_, "color", layer.color());
         PutInteger(json_, "lineWeight", layer.lineWeight(), OxDb::kLnWtByLwDefault);
+        PutText(json_, "linetype", layer.Linetype(), L"Continuous");
         PutFlag(json_, "off", layer.State() == drawing::LayerState::kOff);
         PutFlag(json_, "frozen", layer.State() == drawing::LayerState::kFrozen);
     }

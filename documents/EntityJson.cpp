@@ -397,6 +397,7 @@ private:
         PutInteger(json_, "lineWeight", properties.lineWeight, defaults.lineWeight);
         PutText(json_, "linetype", properties.linetype, defaults.linetype);
         PutFlag(json_, "hidden", properties.hidden);
+        documents::PutNumber(json_, "linetypeScale", properties.linetypeScale, defaults.linetypeScale);
     }
 
     void PutTextData(const drawing::TextData& data) {

@@ -220,6 +220,7 @@ const drawing::EntityProperties& DxfEntityReader::Properties(const DxfRecord& re
     std::string_view linetype;
     const DxfPair* weight = nullptr;
     bool hidden = false;
+    double linetypeScale = 1.0;
     for (const DxfPair& pair : record.pairs) {
         if (pair.code == 8) {
             layer = pair.Word();
@@ -229,6 +230,8 @@ const drawing::EntityProperties& DxfEntityReader::Properties(const DxfRecord& re
             weight = &pair;
         } else if (pair.code == 60) {
             hidden = record.IntegerOf(pair, 0) == kHidden;
+        } else if (pair.code == 48) {
+            linetypeScale = PositiveScale(record.NumberOf(pair, 1.0));
         }
     }
     const std::wstring& layerName = layer.empty() ? kDefaultLayer : Name(layer, {});
@@ -239,6 +242,7 @@ const drawing::EntityProperties& DxfEntityReader::Properties(const DxfRecord& re
     }
     properties_.linetype = linetype.empty() ? L"ByLayer" : Name(linetype, {});
     properties_.hidden = hidden;
+    properties_.linetypeScale = linetypeScale;
     properties_.color = ReadColor(record, ByLayerColor());
     properties_.lineWeight = static_cast<OxDb::LineWeight>(
         weight != nullptr ? record.IntegerOf(*weight, OxDb::kLnWtByLayer, kLineWeights) : OxDb::kLnWtByLayer);

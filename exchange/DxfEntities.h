@@ -102,6 +102,11 @@ private:
 /// Group code 370, in hundredths of a millimetre; below 0 by layer, by block and default.
 inline constexpr DxfRange kLineWeights = {OxDb::kLnWtByLwDefault, 211};
 
+/// A scale of linetypes; 1 where it is none.
+inline double PositiveScale(double scale) {
+    return scale > 0.0 ? scale : 1.0;
+}
+
 /// The colour of group codes 62 and 420; `fallback` where there is none.
 OxCmColor ReadColor(const DxfRecord& record, const OxCmColor& fallback);
 /// The colour "by layer".

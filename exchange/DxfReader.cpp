@@ -3,6 +3,7 @@
 
 #include "StyleConversion/platform/Characters.h"
 #include "StyleConversion/platform/Utf8.h"
+#include "diagnostics/Sentences.h"
 #include "diagnostics/ShownText.h"
 #include "exchange/DxfEntities.h"
 #include "exchange/DxfTables.h"
@@ -36,6 +37,8 @@ bool IsLayoutName(std::string_view name) {
 /// The header's variables that count.
 struct Header {
     OxDb::UnitsValue units = OxDb::kUnitsUndefined;
+    double linetypeScale = 1.0;
+    std::optional<bool> isMetric;
     std::string_view codePage;
 };
 
@@ -47,6 +50,10 @@ Header ReadHeader(const DxfRecord& section) {
             variable = pair.Word();
         } else if (variable == "$INSUNITS" && pair.code == 70) {
             header.units = static_cast<OxDb::UnitsValue>(section.IntegerOf(pair, 0, {0}));
+        } else if (variable == "$LTSCALE" && pair.code == 40) {
+            header.linetypeScale = PositiveScale(section.NumberOf(pair, 1.0));
+        } else if (variable == "$MEASUREMENT" && pair.code == 70) {
+            header.isMetric = section.IntegerOf(pair, 0) != 0;
         } else if (pair.code == 3 && (pair.Word().starts_with("ANSI_") || pair.Word().starts_with("ansi_") ||
                                       pair.Word().starts_with("DOS") || pair.Word().starts_with("dos"))) {
             header.codePage = pair.Word(); // whatever the variable is called
@@ -99,6 +106,10 @@ private:
 
 void Reader::Open(const Header& header) {
     database_->SetInsunits(header.units);
+    database_->SetLinetypeScale(header.linetypeScale);
+    if (header.isMetric) {
+        database_->SetMetric(*header.isMetric);
+    }
     if (!texts_) {
         codePage_ = header.codePage;
         texts_.emplace(isUtf8_, codePage_);
@@ -156,7 +167,8 @@ std::unique_ptr<drawing::Database> Reader::Read(diagnostics::Diagnostic& fault) 
         notes_.Repair({record.place, {}}, Code::kMissingEndMark, {});
     }
     if (database_->insunits() == OxDb::kUnitsUndefined) {
-        notes_.Add({}, diagnostics::Severity::kWarning, Code::kNoUnit, {}, diagnostics::Outcome::kNone);
+        notes_.Add({}, diagnostics::Severity::kWarning, Code::kNoUnit,
+                   {diagnostics::UnitHelp(database_->IsMetric())}, diagnostics::Outcome::kNone);
     }
     tables_->Finish();
     entities_->End();
@@ -206,7 +218,8 @@ void Reader::BeginSection(const DxfRecord& record) {
         entities_->End();
     }
     const std::string_view name = record.Word(2);
-    Open(name == "HEADER" ? ReadHeader(record) : Header{database_->insunits(), {}});
+    Open(name == "HEADER" ? ReadHeader(record)
+                          : Header{database_->insunits(), database_->LinetypeScale(), {}, {}});
     notes_.RepairInvalid({record.place, {}}, record);
     current_ = nullptr;
     section_ = name == "TABLES"     ? Section::kTables

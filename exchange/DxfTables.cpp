@@ -56,6 +56,10 @@ void DxfTableReader::TakeLayer(const DxfRecord& record) {
         static_cast<OxDb::LineWeight>(record.Integer(370, OxDb::kLnWtByLwDefault, kLineWeights));
     drawing::LayerRecord* const layer = database_.AddLayer(name, ReadColor(record, white), weight);
     if (layer != nullptr) {
+        const std::string_view linetype = record.Word(6);
+        if (!linetype.empty() && FoldedName(linetype) != "continuous") {
+            layer->SetLinetype(texts_.Decode(linetype));
+        }
         const bool isFrozen = (record.Integer(70, 0) & kFrozen) != 0;
         const bool isOff = record.Integer(62, 0) < 0;
         layer->SetState(isFrozen ? drawing::LayerState::kFrozen

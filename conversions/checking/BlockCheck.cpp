@@ -5,6 +5,7 @@
 #include "StyleConversion/block/SplineSampling.h"
 #include "conversions/reading/Shown.h"
 #include "drawing/entities/EntityVisit.h"
+#include "drawing/entities/PlacedEntities.h"
 
 #include <algorithm>
 #include <type_traits>
@@ -152,6 +153,9 @@ void BlockCheck::CountEntity(OxDbEntity& entity) {
         static_cast<const drawing::Polyline&>(entity).Widths() != nullptr) {
         Surprise(false, Code::kWidthNotDrawn);
     }
+    if (block::HasDashes(entityClass) || entityClass == block::EntityClass::kSpline) {
+        CompareDashes(entity);
+    }
     if (IsHidden(entity)) {
         Surprise(false, Code::kHiddenEntity);
     }
@@ -186,6 +190,23 @@ void BlockCheck::CountNotDrawn(const OxDbEntity& entity) {
         return false;
     });
     Surprise(true, hasShape ? Code::kDrawnIfFaithful : Code::kUnsupportedClass, {className});
+}
+
+// What strict conversion does not know of: linetypes of layers, and scales.
+void BlockCheck::CompareDashes(const OxDbEntity& entity) {
+    const drawing::EntityProperties properties = drawing::PropertiesOf(entity.objectId());
+    const drawing::LayerRecord* const layer = drawing_.FindLayer(properties.layer);
+    const drawing::LinetypeRecord* const own = drawing_.FindLinetype(properties.linetype);
+    const drawing::LinetypeRecord* const ofLayer =
+        layer != nullptr && own == drawing_.FindLinetype(L"ByLayer")
+            ? drawing_.FindLinetype(layer->Linetype())
+            : nullptr;
+    if (ofLayer != nullptr && !ofLayer->Dashes().empty()) {
+        Surprise(false, Code::kOtherDashes, {"the linetypes of layers"});
+    } else if (own != nullptr && !own->Dashes().empty() &&
+               drawing_.LinetypeScale() * properties.linetypeScale != 1.0) {
+        Surprise(false, Code::kOtherDashes, {"their scale"});
+    }
 }
 
 bool BlockCheck::IsHidden(const OxDbEntity& entity) const {

@@ -38,6 +38,7 @@ private:
     void Count(const OxDbBlockTableRecord& record);
     void CountEntity(OxDbEntity& entity);
     void CountNotDrawn(const OxDbEntity& entity);
+    void CompareDashes(const OxDbEntity& entity);
     bool IsHidden(const OxDbEntity& entity) const;
     bool IsWhite(const OxDbEntity& entity) const;
     const drawing::BlockRecord* BlockOf(const OxDbBlockTableRecord& record) const;

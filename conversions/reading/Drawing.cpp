@@ -1,6 +1,7 @@
 #include "conversions/reading/Drawing.h"
 
 #include "conversions/reading/FileKind.h"
+#include "diagnostics/Sentences.h"
 #include "documents/DrawingReader.h"
 #include "exchange/DxfReader.h"
 
@@ -53,6 +54,7 @@ std::unique_ptr<drawing::Database> ReadDocument(const Input& input, std::string_
         noUnit.severity = Severity::kWarning;
         noUnit.code = diagnostics::Code::kNoUnit;
         noUnit.place.file = input.name;
+        noUnit.subjects = {diagnostics::UnitHelp(drawing->IsMetric())};
         diagnostics.push_back(std::move(noUnit));
     }
     if (drawing != nullptr || reading == Reading::kTolerant) {

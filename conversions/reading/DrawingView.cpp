@@ -70,7 +70,7 @@ void SetUnitAndColor(const DrawingView& view, drawing::Database& drawing, Diagno
 bool ChangesBlocks(const DrawingView& view) {
     const drawing::BlockCopyOptions& options = view.seenAs;
     return options.expandsInserts || options.startsAtBasePoint || options.leavesOutHidden ||
-           options.drawsOthers;
+           options.drawsOthers || options.drawsDashes;
 }
 
 std::unique_ptr<drawing::BlockRecord> CopyAsSeen(const DrawingView& view, const std::string& file,

@@ -164,6 +164,13 @@ LayerRecord* Database::FindLayer(const std::wstring& name) const {
                                                          : nullptr;
 }
 
+LinetypeRecord* Database::FindLinetype(const std::wstring& name) const {
+    const NamedThings* const things = core_->names.Find(name);
+    return things != nullptr && things->linetype != nullptr
+               ? static_cast<LinetypeRecord*>(things->linetype->object)
+               : nullptr;
+}
+
 BlockRecord* Database::FindBlock(const std::wstring& name) const {
     const NamedThings* const things = core_->names.Find(name);
     return things != nullptr && things->block != nullptr ? static_cast<BlockRecord*>(things->block->object)

@@ -22,6 +22,12 @@ public:
 
     /// The unit of what is in no block.
     void SetInsunits(OxDb::UnitsValue units) { insunits_ = units; }
+    /// What all dashes are multiplied by, where conversions are asked to; above 0.
+    double LinetypeScale() const { return linetypeScale_; }
+    void SetLinetypeScale(double scale) { linetypeScale_ = scale; }
+    /// Whether it was drawn with metric linetypes and patterns, or with those in inches, if it says so.
+    std::optional<bool> IsMetric() const { return isMetric_; }
+    void SetMetric(bool isMetric) { isMetric_ = isMetric; }
 
     /// Each gives the added record, or null when the table has the name already.
     LayerRecord* AddLayer(const std::wstring& name, const OxCmColor& color,
@@ -49,6 +55,7 @@ public:
     std::vector<BlockRecord*> Blocks() const;
     /// The record of a name in any case of its letters; null where there is none.
     LayerRecord* FindLayer(const std::wstring& name) const;
+    LinetypeRecord* FindLinetype(const std::wstring& name) const;
     BlockRecord* FindBlock(const std::wstring& name) const;
 
     /// The name by which the drawing refers to something that it does not have; null for any other id.
@@ -85,6 +92,8 @@ private:
     std::unique_ptr<Core> core_;
     std::unique_ptr<Tables> tables_;
     OxDb::UnitsValue insunits_ = OxDb::kUnitsUndefined;
+    double linetypeScale_ = 1.0;
+    std::optional<bool> isMetric_;
 };
 
 } // namespace drawing

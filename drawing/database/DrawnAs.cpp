@@ -7,7 +7,8 @@ namespace drawing {
 namespace {
 
 auto PartsOf(const DrawnAs& drawnAs) {
-    return std::make_tuple(drawnAs.layer, drawnAs.linetype, drawnAs.color.entityColor(), drawnAs.lineWeight);
+    return std::make_tuple(drawnAs.layer, drawnAs.linetype, drawnAs.color.entityColor(), drawnAs.lineWeight,
+                           drawnAs.linetypeScale);
 }
 
 } // namespace

@@ -18,6 +18,7 @@ struct DrawnAs {
     NameIndex linetype = 0;
     OxCmColor color;
     OxDb::LineWeight lineWeight = OxDb::kLnWtByLayer;
+    double linetypeScale = 1.0;
 
     bool operator==(const DrawnAs& other) const;
     bool operator<(const DrawnAs& other) const; // in any order that is one

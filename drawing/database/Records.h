@@ -54,6 +54,10 @@ public:
     /// Shown unless it was set otherwise.
     LayerState State() const { return state_; }
     void SetState(LayerState state) { state_ = state; }
+    /// The name of the linetype of what is by layer; "Continuous" unless it was set otherwise. Conversions
+    /// look at it only where they are asked to.
+    const std::wstring& Linetype() const { return linetype_; }
+    void SetLinetype(std::wstring name) { linetype_ = std::move(name); }
     /// Before the drawing is converted.
     void Recolor(const OxCmColor& color) { color_ = color; }
 
@@ -61,6 +65,7 @@ private:
     OxCmColor color_;
     OxDb::LineWeight lineWeight_;
     LayerState state_ = LayerState::kShown;
+    std::wstring linetype_ = L"Continuous";
 };
 
 /// One dash of a linetype and what it carries.

@@ -44,6 +44,8 @@ struct EntityProperties {
     /// have gives the entity an id that cannot be opened.
     std::wstring linetype = L"ByLayer";
     bool hidden = false; ///< conversions look at it only where they are asked to
+    /// What its dashes are multiplied by, beside the drawing's own scale, where they are asked to.
+    double linetypeScale = 1.0;
 
     /// The colour of the entity's layer.
     static OxCmColor ByLayerColor() {
@@ -76,8 +78,8 @@ public:
     EntityProperties Properties() const {
         const NamePool& names = this->SharedCore().names;
         const DrawnAs& drawn = Drawn();
-        return {names.Text(drawn.layer), drawn.color, drawn.lineWeight, names.Text(drawn.linetype),
-                this->Stub().hidden != 0};
+        return {names.Text(drawn.layer),  drawn.color,        drawn.lineWeight, names.Text(drawn.linetype),
+                this->Stub().hidden != 0, drawn.linetypeScale};
     }
     /// Before the drawing is converted.
     void Recolor(const OxCmColor& color) {
@@ -99,7 +101,7 @@ protected:
         : Resident<Interface>(core, args...) {
         this->Stub().drawnAs =
             core.drawnAs.Intern({core.names.Intern(properties.layer), core.names.Intern(properties.linetype),
-                                 properties.color, properties.lineWeight});
+                                 properties.color, properties.lineWeight, properties.linetypeScale});
         this->Stub().hidden = properties.hidden ? 1 : 0;
     }
 

@@ -6,12 +6,15 @@
 #include "drawing/entities/PlacedEntities.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
 #include <numbers>
 
 namespace drawing {
 namespace {
 
 const std::wstring kInheritingLayer = L"0";
+const std::wstring kSolid = L"Continuous";
 
 // Whether two words are the same but for the case of ASCII letters; the second has small ones.
 bool IsWord(const std::wstring& text, std::wstring_view word) {
@@ -60,15 +63,45 @@ private:
             IsWord(properties.layer, L"defpoints")) {
             return;
         }
+        const EntityProperties drawn = options_.drawsDashes ? WithDashes(properties) : properties;
         if (options_.drawsOthers &&
-            VisitEntity(entity, [&](const auto& itself) { return DrawShape(itself, map, properties); })) {
+            VisitEntity(entity, [&](const auto& itself) { return DrawShape(itself, map, drawn); })) {
             return;
         }
         if (isExpanded) {
             Expand(static_cast<const BlockReference&>(*entity.stub()->object), map, properties);
         } else if (insert == nullptr || entity.stub()->object->isA() != OxDbAttributeDefinition::desc()) {
-            AddPlaced(target_, entity, properties, map);
+            AddPlaced(target_, entity, drawn, map);
         }
+    }
+
+    // With the linetype that it is seen in: the layer's where it is by layer, in its scale.
+    EntityProperties WithDashes(EntityProperties properties) {
+        if (IsWord(properties.linetype, L"bylayer")) {
+            const LayerRecord* const layer = database_.FindLayer(properties.layer);
+            properties.linetype = layer != nullptr ? layer->Linetype() : kSolid;
+        }
+        properties.linetype =
+            ScaledLinetype(properties.linetype, database_.LinetypeScale() * properties.linetypeScale);
+        return properties;
+    }
+
+    // The name of a linetype that is that many times as long, which is added where there is none yet.
+    std::wstring ScaledLinetype(const std::wstring& name, double scale) {
+        const LinetypeRecord* const linetype = database_.FindLinetype(name);
+        if (linetype == nullptr || linetype->Dashes().empty() || scale == 1.0 || !(scale > 0.0)) {
+            return name;
+        }
+        std::vector<Dash> dashes = linetype->Dashes();
+        for (Dash& dash : dashes) {
+            dash.length *= scale;
+            dash.scale *= scale;
+            dash.offset = {dash.offset.x * scale, dash.offset.y * scale};
+        }
+        // No name of a file has that character.
+        std::wstring scaled = name + L'\x1f' + std::to_wstring(std::bit_cast<std::uint64_t>(scale));
+        database_.AddLinetype(scaled, std::move(dashes), linetype->patternLength() * scale);
+        return scaled;
     }
 
     // False where the copy has come to its limit.

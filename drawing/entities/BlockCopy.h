@@ -18,6 +18,7 @@ struct BlockCopyOptions {
     bool startsAtBasePoint = false; ///< the base point becomes 0, 0
     bool leavesOutHidden = false;   ///< hidden entities, and layers that are off or frozen
     bool drawsOthers = false;       ///< widths of polylines, and the shapes of other entities
+    bool drawsDashes = false;       ///< linetypes of layers, and the scales of the drawing and of entities
 };
 
 /// Inserts in inserted blocks may stand so deep.

@@ -34,6 +34,7 @@ conversions::BlocksOptions BlocksJob(const BlocksOptions& options, conversions::
     const bool isFaithful = job.fidelity == encoding::Fidelity::kFaithful;
     job.seenAs.leavesOutHidden = options.visibleOnly || isFaithful;
     job.seenAs.drawsOthers = isFaithful;
+    job.seenAs.drawsDashes = isFaithful;
     return job;
 }
 

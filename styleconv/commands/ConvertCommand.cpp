@@ -61,6 +61,7 @@ Conversion BlocksOf(const ConvertOptions& options, conversions::Form form, const
     job.fidelity = FidelityOf(options.faithful, options, form);
     job.seenAs.leavesOutHidden = options.visibleOnly || job.fidelity == encoding::Fidelity::kFaithful;
     job.seenAs.drawsOthers = job.fidelity == encoding::Fidelity::kFaithful;
+    job.seenAs.drawsDashes = job.fidelity == encoding::Fidelity::kFaithful;
     return ConvertBlocks(input.ForJob(), job, front);
 }
 

@@ -22,6 +22,49 @@ std::unique_ptr<drawing::Database> DrawingOfFile(const DxfWriter& file) {
     return exchange::ReadDxf(file.Ascii(), fault, notes);
 }
 
+TEST(DxfTables, TheHeaderLayersAndEntitiesHaveScalesAndLinetypes) {
+    DxfWriter header;
+    header.Text(9, "$INSUNITS").Integer(70, 4).Text(9, "$LTSCALE").Number(40, 2.5);
+    header.Text(9, "$MEASUREMENT").Integer(70, 1);
+    DxfWriter layers;
+    layers.Text(0, "LAYER").Text(2, "0").Integer(70, 0).Integer(62, 7).Text(6, "CONTINUOUS");
+    layers.Text(0, "LAYER").Text(2, "ROAD").Integer(70, 0).Integer(62, 7).Text(6, "GAPS");
+    const DxfWriter scaled = ShortLine().Number(48, 0.5);
+    const DxfWriter flat = ShortLine().Number(48, 0);
+    EXPECT_EQ(DocumentOfDxf(Section("HEADER", header)
+                                .Append(Section("TABLES", TableOf("LAYER", layers)))
+                                .Append(FileOf(DxfWriter(scaled).Append(flat)))
+                                .Ascii()),
+              DocumentOfJson(R"("insunits": 4, "linetypeScale": 2.5, "metric": true,
+                                "layers": [{"name": "0"}, {"name": "ROAD", "linetype": "GAPS"}],
+                                "blocks": [{"name": "B", "entities": [
+                                    {"type": "line", "start": [0, 0], "end": [1, 0], "linetypeScale": 0.5},
+                                    {"type": "line", "start": [0, 0], "end": [1, 0]}]}])"));
+    const std::string inches =
+        Section("HEADER",
+                DxfWriter().Text(9, "$MEASUREMENT").Integer(70, 0).Text(9, "$LTSCALE").Number(40, -1))
+            .Append(FileOf({}))
+            .Ascii();
+    EXPECT_EQ(DocumentOfDxf(inches),
+              DocumentOfJson(R"("metric": false, "blocks": [{"name": "B", "entities": []}])"));
+}
+
+TEST(DxfTables, TheSystemOfUnitsTellsWhichUnitIsLikely) {
+    const auto said = [](const DxfWriter& header) {
+        diagnostics::Diagnostic fault;
+        exchange::DxfNotes notes;
+        exchange::ReadDxf(Section("HEADER", header).Append(FileOf({})).Ascii(), fault, notes);
+        return notes.All().size() == 1 ? diagnostics::MessageOf(notes.All()[0]) : "";
+    };
+    const std::string start = ": warning: the drawing has no unit; its lengths are read as metres: --units ";
+    const DxfWriter system = DxfWriter().Text(9, "$MEASUREMENT");
+    EXPECT_EQ(said({}), start + "names another");
+    EXPECT_EQ(said(DxfWriter(system).Integer(70, 1)),
+              start + "mm is likely, as it was drawn with metric linetypes");
+    EXPECT_EQ(said(DxfWriter(system).Integer(70, 0)),
+              start + "inch is likely, as it was drawn with linetypes in inches");
+}
+
 TEST(DxfTables, LayersHaveColorsWeightsAndStates) {
     DxfWriter layers;
     layers.Text(0, "LAYER").Text(2, "0").Integer(70, 0).Integer(62, 7);

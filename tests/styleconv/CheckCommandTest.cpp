@@ -398,6 +398,32 @@ TEST_F(Check, BlocksAreMeasuredAsTheyAreSeen) {
     EXPECT_EQ(found.find("(block A) [block-out-of-place]"), std::string::npos) << found;
 }
 
+TEST_F(Check, DashesThatOnlyTheDrawingKnowsAreTold) {
+    const auto found = [this](const std::string& head, const std::string& line) {
+        return RunTool(
+                   {"check",
+                    folder.Write("d.json",
+                                 R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4, )" +
+                                     head + R"("layers": [{"name": "0", "linetype": "GAPS"}, {"name": "A"}],
+            "linetypes": [{"name": "GAPS", "dashes": [{"length": 2}, {"length": -1}]}], "blocks": [{"name": "B",
+            "entities": [{"type": "line", "start": [0, 0], "end": [900, 0], "color": 3, )" +
+                                     line + "}]}]}")})
+            .output;
+    };
+    EXPECT_NE(found("", R"("layer": "0")")
+                  .find("the dashes of 1 entity are drawn without the linetypes of layers; "
+                        "--faithful draws them (block B) [other-dashes]"),
+              std::string::npos)
+        << found("", R"("layer": "0")");
+    const std::string scaled = R"("layer": "A", "linetype": "GAPS")";
+    EXPECT_NE(
+        found(R"("linetypeScale": 2, )", scaled).find("the dashes of 1 entity are drawn without their scale"),
+        std::string::npos)
+        << found(R"("linetypeScale": 2, )", scaled);
+    EXPECT_EQ(found("", scaled).find("other-dashes"), std::string::npos);
+    EXPECT_EQ(found(R"("linetypeScale": 2, )", R"("layer": "A")").find("other-dashes"), std::string::npos);
+}
+
 TEST_F(Check, PartsThatAreLostAreTold) {
     // A fill of one spline, which strict symbols skip, inside a square that is whole.
     EXPECT_EQ(Found("a.json", BlockOf(R"({"type": "hatch", "solid": true, "loops": [{"edges": [

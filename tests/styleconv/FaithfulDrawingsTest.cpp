@@ -2,6 +2,7 @@
 #include "tests/support/ToolRun.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace {
 
@@ -44,6 +45,40 @@ TEST_F(FaithfulDrawings, HiddenEntitiesAreNotDrawn) {
         "hidden": true}]}]})";
     EXPECT_EQ(Run("blocks", "a.json", drawing, {"--faithful"}).output.find("M 2,0"), std::string::npos);
     EXPECT_NE(Run("blocks", "a.json", drawing, {}).output.find("M 2.0,0.0"), std::string::npos);
+}
+
+TEST_F(FaithfulDrawings, DashesHaveTheirScalesAndTheLinetypesOfLayers) {
+    const auto convert = [this](const std::string& head, const std::string& dashes, const std::string& line,
+                                std::vector<std::string> more) {
+        const std::string drawing = R"({"format": "styleconversion/drawing", "version": 1, "insunits": 4, )" +
+                                    head +
+                                    R"("layers": [{"name": "0"}, {"name": "ROAD", "linetype": "gaps"}],
+               "linetypes": [{"name": "GAPS", "dashes": [)" +
+                                    dashes + R"(]}],
+               "blocks": [{"name": "B", "entities": [{"type": "line", "start": [0, 0], "end": [30, 0], )" +
+                                    line + "}]}]}";
+        return Run("blocks", "a.json", drawing, std::move(more)).output;
+    };
+    const std::string once = R"({"length": 2}, {"length": -1})";
+    const std::string thrice = R"({"length": 6}, {"length": -3})";
+    const std::string gaps = R"("linetype": "GAPS")";
+    const std::vector<std::string> faithful = {"--faithful"};
+    const std::string expected = convert("", thrice, gaps, faithful);
+    EXPECT_NE(expected.find(" M "), std::string::npos) << expected;
+    EXPECT_NE(expected, convert("", once, gaps, faithful));
+    EXPECT_EQ(convert(R"("linetypeScale": 3, )", once, gaps, faithful), expected);
+    EXPECT_EQ(convert("", once, gaps + R"(, "linetypeScale": 3)", faithful), expected);
+    EXPECT_EQ(convert(R"("linetypeScale": 1.5, )", once, gaps + R"(, "linetypeScale": 2)", faithful),
+              expected);
+    // By layer; the parameters of the layer stay.
+    const std::string byLayer = R"("layer": "ROAD", "linetypeScale": 3)";
+    EXPECT_EQ(convert("", once, byLayer, faithful),
+              convert("", thrice, R"("layer": "ROAD", "linetype": "GAPS")", faithful));
+    // Strict symbols know neither.
+    EXPECT_EQ(convert(R"("linetypeScale": 3, )", once, gaps + R"(, "linetypeScale": 2)", {}),
+              convert("", once, gaps, {}));
+    EXPECT_EQ(convert("", once, byLayer, {}),
+              convert("", once, R"("layer": "ROAD", "linetype": "Continuous")", {}));
 }
 
 TEST_F(FaithfulDrawings, AreDrawnInPicturesAndGalleries) {
