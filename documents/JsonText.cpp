@@ -21,15 +21,34 @@ bool IsAscii(wchar_t c) {
     return static_cast<std::uint32_t>(c) <= 0x7f;
 }
 
-// Narrows in pieces, since a string that is made longer in one step is filled with zeros first.
-void AppendPlain(std::string& text, const wchar_t* first, const wchar_t* last) {
-    char piece[256];
-    while (first != last) {
-        const auto length = std::min<std::size_t>(static_cast<std::size_t>(last - first), sizeof piece);
-        std::transform(first, first + length, piece, [](wchar_t c) { return static_cast<char>(c); });
-        text.append(piece, length);
-        first += length;
+constexpr std::size_t kPiece = 32;
+
+// IsPlain of so many characters, without branches between them: the highest bit of a sum stands for below 0.
+bool IsPlainPiece(const wchar_t* characters) {
+    std::uint32_t others = 0;
+    for (std::size_t i = 0; i < kPiece; ++i) {
+        const auto c = static_cast<std::uint32_t>(characters[i]);
+        others |= c | (c - 0x20U) | (0x7fU - c) | ((c ^ 0x22U) - 1U) | ((c ^ 0x5cU) - 1U);
     }
+    return others < 0x80000000U;
+}
+
+// Appends the plain characters that a text begins with, and returns where they end. Narrows in pieces, since
+// a string that is made longer in one step is filled with zeros first.
+const wchar_t* AppendPlain(std::string& text, const wchar_t* first, const wchar_t* last) {
+    char piece[kPiece];
+    for (; static_cast<std::size_t>(last - first) >= kPiece && IsPlainPiece(first); first += kPiece) {
+        for (std::size_t i = 0; i < kPiece; ++i) {
+            piece[i] = static_cast<char>(first[i]);
+        }
+        text.append(piece, kPiece);
+    }
+    std::size_t length = 0; // below that of a piece, or all of it would be plain
+    while (first != last && IsPlain(*first)) {
+        piece[length++] = static_cast<char>(*first++);
+    }
+    text.append(piece, length);
+    return first;
 }
 
 void AppendEscaped(std::string& text, char c) {
@@ -62,9 +81,7 @@ void JsonText::Text(std::wstring_view value) {
     const wchar_t* const end = value.data() + value.size();
     for (const wchar_t* c = value.data(); c != end;) {
         if (IsPlain(*c)) {
-            const wchar_t* const stop = std::find_if_not(c, end, IsPlain);
-            AppendPlain(text_, c, stop);
-            c = stop;
+            c = AppendPlain(text_, c, end);
         } else if (IsAscii(*c)) {
             AppendEscaped(text_, static_cast<char>(*c));
             ++c;

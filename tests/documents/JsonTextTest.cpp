@@ -46,12 +46,33 @@ TEST(JsonText, EscapesQuotesBackslashesAndControlCharactersAndNothingElse) {
     }
 }
 
+TEST(JsonText, WhatIsNotPlainIsSeenWhereverItStands) {
+    for (std::size_t place = 0; place < 100; ++place) {
+        for (const wchar_t other : {L'"', L'\\', L'\x1f', L'\0', L'\x80', L'\xff22', wchar_t(0xd800)}) {
+            std::wstring value(100, L'a');
+            value[place] = other;
+            EXPECT_EQ(TextOf(value), nlohmann::json(platform::WideToValidUtf8(value)).dump()) << place;
+        }
+        for (const wchar_t plain : {L' ', L'!', L'#', L'[', L']', L'\x7f'}) {
+            std::wstring value(100, L'a');
+            value[place] = plain;
+            std::string text(100, 'a');
+            text[place] = static_cast<char>(plain);
+            EXPECT_EQ(TextOf(value), '"' + text + '"') << place;
+        }
+    }
+}
+
 TEST(JsonText, WhatIsNoCharacterIsReplaced) {
     if constexpr (sizeof(wchar_t) > 2) {
         const auto beyond = static_cast<wchar_t>(0x110000);
         const auto negative = static_cast<wchar_t>(0x80000041);
         EXPECT_EQ(TextOf({&beyond, 1}), "\"\xEF\xBF\xBD\"");
         EXPECT_EQ(TextOf({&negative, 1}), "\"\xEF\xBF\xBD\"");
+        for (const std::uint32_t none : {0x80000041U, 0x800000a0U, 0xffffffffU, 0x7fffffffU, 0x110000U}) {
+            const std::wstring many(40, static_cast<wchar_t>(none));
+            EXPECT_EQ(TextOf(L'a' + many).size(), 3 + 3 * many.size()) << none;
+        }
     }
 }
 
