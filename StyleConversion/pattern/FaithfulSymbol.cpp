@@ -24,12 +24,21 @@ constexpr double kOnSide = 1e-9;
 // What is a smaller share of a tile is nothing but the last digits of sines.
 constexpr double kNothing = 1e-13;
 
+// Room for so many dashes is made beforehand; half of what a family lists are gaps.
+constexpr std::size_t kMostReserved = 1024;
+constexpr std::size_t kCharactersOfDash = 40;
+
 // Paths of families in one tile.
 class TilePath {
 public:
     TilePath(const FaithfulTile& tile, const std::vector<PatternLine>& lines)
         : rectangle_(tile.rectangle), frame_(DirectionAt(0.0 - tile.rectangle.angle)),
           nothing_(kNothing * std::max(rectangle_.width, rectangle_.height)) {
+        std::size_t dashes = 0;
+        for (const TiledFamily& family : tile.families) {
+            dashes += static_cast<std::size_t>(family.fit.Cells()) * lines[family.family].dashes.size();
+        }
+        path_.reserve(std::min(dashes, kMostReserved) * kCharactersOfDash);
         for (const TiledFamily& family : tile.families) {
             if (tile.isContinuous) {
                 AppendContinuous(lines[family.family]);
@@ -49,24 +58,37 @@ private:
 
     double Clean(double value) const { return std::fabs(value) < nothing_ ? 0.0 : value; }
 
-    void AppendLine(const Vector& from, const Vector& direction, double length) {
+    // What draws a dash from where the path stands. All dashes of one length have the same.
+    static std::wstring Stroke(const Vector& direction, double length) {
         encoding::PathPiece piece;
-        piece.Words(path_.empty() ? L"M " : L" M ").General(Clean(from.x)).Words(L",");
-        piece.General(Clean(from.y));
         if (direction.y == 0.0) {
             piece.Words(L" h ").General(length * direction.x);
         } else {
-            piece.Words(L" L ").General(Clean(from.x + length * direction.x)).Words(L",");
-            piece.General(Clean(from.y + length * direction.y));
+            piece.Words(L" l ").General(length * direction.x).Words(L",").General(length * direction.y);
         }
-        piece.AppendTo(path_);
+        std::wstring stroke;
+        piece.AppendTo(stroke);
+        return stroke;
+    }
+
+    void AppendLine(const Vector& from, const std::wstring& stroke) {
+        encoding::PathPiece piece;
+        piece.Words(path_.empty() ? L"M " : L" M ").General(Clean(from.x)).Words(L",");
+        piece.General(Clean(from.y)).AppendTo(path_);
+        path_ += stroke;
     }
 
     void AppendContinuous(const PatternLine& line) {
         const double y = Turned(line.originX, line.originY).y;
         const double lines = std::floor(y / rectangle_.height + kOnSide);
-        AppendLine({0.0, y - lines * rectangle_.height}, {1.0, 0.0}, rectangle_.width);
+        AppendLine({0.0, y - lines * rectangle_.height}, Stroke({1.0, 0.0}, rectangle_.width));
     }
+
+    // A dash of a cycle: where it begins for the lattice's origin, and what draws it.
+    struct Dash {
+        Vector start;
+        std::wstring stroke;
+    };
 
     // The lattice of the tile is a part of the family's. Every class of places that differ by a vector of the
     // tile's has just one with so few lines and cycles.
@@ -74,25 +96,29 @@ private:
         const FamilyLattice lattice(line, rectangle_.angle);
         const std::int64_t lines = std::max<std::int64_t>(1, std::gcd(fit.right.lines, fit.up.lines));
         const std::int64_t cycles = fit.Cells() / lines;
-        const Vector origin = Turned(line.originX, line.originY);
+        const std::vector<Dash> dashes = DashesOf(line, lattice);
         for (std::int64_t row = 0; row < lines; ++row) {
             for (std::int64_t cycle = 0; cycle < cycles; ++cycle) {
-                AppendCycle(line, lattice, fit, origin, {cycle, row});
+                for (const Dash& dash : dashes) {
+                    AppendLine(IntoTile(lattice, fit, dash.start, {cycle, row}), dash.stroke);
+                }
             }
         }
     }
 
-    void AppendCycle(const PatternLine& line, const FamilyLattice& lattice, const FamilyFit& fit,
-                     const Vector& origin, const LatticePoint& point) {
+    std::vector<Dash> DashesOf(const PatternLine& line, const FamilyLattice& lattice) const {
+        const Vector origin = Turned(line.originX, line.originY);
+        const Vector& direction = lattice.Direction();
+        std::vector<Dash> dashes;
         double before = 0.0; // of the cycle
         for (const double dash : line.dashes) {
             if (dash >= 0) {
-                const Vector start = {origin.x + before * lattice.Direction().x,
-                                      origin.y + before * lattice.Direction().y};
-                AppendLine(IntoTile(lattice, fit, start, point), lattice.Direction(), dash);
+                dashes.push_back({{origin.x + before * direction.x, origin.y + before * direction.y},
+                                  Stroke(direction, dash)});
             }
             before += std::fabs(dash);
         }
+        return dashes;
     }
 
     // Where the dash is that lies at `start` for the lattice's origin, of those in the same class that which

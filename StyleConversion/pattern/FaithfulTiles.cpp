@@ -106,17 +106,17 @@ private:
 
     // False where no rectangle can be told for its numbers.
     bool TileAlone(std::size_t index) {
-        const Rectangle rectangle = TileOf(families_[index]);
-        const FamilyFit fit = FitOf(families_[index], rectangle);
-        if (fit.Cells() < 1) {
+        const FaithfulTile& tile = Alone(index);
+        if (tile.families.front().fit.Cells() < 1) {
             plan_.unplaced.push_back(index);
             return false;
         }
-        plan_.tiles.push_back({rectangle, false, {{index, fit}}});
+        plan_.tiles.push_back(tile);
         return true;
     }
 
-    // Takes those of the rest that the tile repeats no worse than its own family.
+    // Takes those of the rest that the tile repeats no worse than its own family, and without much more ink
+    // than a tile of their own.
     void TakeFitting(FaithfulTile& tile) {
         const double share = std::max(tile.families.front().fit.share, kUnseenMiss);
         double dashes = DashesIn(tile.families.front());
@@ -124,7 +124,8 @@ private:
         for (const std::size_t index : rest_) {
             const TiledFamily family{index, FitOf(families_[index], tile.rectangle)};
             const double more = DashesIn(family);
-            if (family.fit.share <= share && family.fit.Cells() >= 1 && dashes + more <= mostDashes_) {
+            if (family.fit.share <= share && family.fit.Cells() >= 1 && dashes + more <= mostDashes_ &&
+                (more <= kDashesOfTile || more <= DashesIn(Alone(index).families.front()) + kDashesOfTile)) {
                 tile.families.push_back(family);
                 dashes += more;
             } else {
@@ -134,18 +135,28 @@ private:
         rest_ = std::move(others);
     }
 
+    // Found once.
+    const FaithfulTile& Alone(std::size_t index) {
+        FaithfulTile& tile = alone_[index];
+        if (tile.families.empty()) {
+            tile.rectangle = TileOf(families_[index]);
+            tile.families.push_back({index, FitOf(families_[index], tile.rectangle)});
+        }
+        return tile;
+    }
+
     double DashesIn(const TiledFamily& family) const {
         return static_cast<double>(family.fit.Cells()) *
                static_cast<double>(families_[family.family].dashes.size());
     }
 
     Rectangle TileOf(const PatternLine& family) const {
-        for (const TileBounds& bounds : {TileBounds{kUnseenMiss, kMostExactCells, mostDashes_},
-                                         TileBounds{kSlightMiss, kMostSlightCells, mostDashes_},
-                                         TileBounds{kSmallMiss, kMostCells, mostDashes_}}) {
-            if (const auto rectangle = FindRectangleAtAnyAngle(family, bounds)) {
-                return *rectangle;
-            }
+        if (const auto rectangle =
+                FindRectangleAtAnyAngle(family, {{kExactMiss, kMostExactCells, mostDashes_},
+                                                 {kUnseenMiss, kMostSlightCells, mostDashes_},
+                                                 {kSlightMiss, kMostSlightCells, mostDashes_},
+                                                 {kSmallMiss, kMostCells, mostDashes_}})) {
+            return *rectangle;
         }
         const auto dashes = static_cast<double>(family.dashes.size());
         return NearestStack(family, std::min(kMostCells, mostDashes_ / dashes));
@@ -153,6 +164,7 @@ private:
 
     const std::vector<PatternLine>& families_;
     std::map<std::pair<double, double>, std::size_t> continuous_; // tiles by their angle and height
+    std::map<std::size_t, FaithfulTile> alone_;                   // families by themselves
     std::vector<std::size_t> rest_;                               // families of dashes without a tile
     double dashes_ = 0.0;                                         // of one cycle of each of them
     double mostDashes_ = 0.0;

@@ -40,24 +40,31 @@ inline constexpr double kDotShare = 0.0001;
 /// Families with numbers of this size, or below its reciprocal, are beyond what a picture can hold.
 inline constexpr double kLargestNumber = 1e15;
 
-/// How far one side of a tile may miss a family's lattice, as a share of the family's shortest dash: so
-/// little that after 50 tiles it is still below a hundredth; so little that it is after ten; a hundredth; and
-/// so much as families of one picture that were rounded one by one miss each other's.
+/// How far one side of a tile may miss a family's lattice, as a share of the family's shortest dash: as much
+/// as numbers of a file miss what they were rounded from; so little that after 50 tiles it is still below a
+/// hundredth; so little that it is after ten; a hundredth; and so much as families of one picture that were
+/// rounded one by one miss each other's.
+inline constexpr double kExactMiss = 0.00001;
 inline constexpr double kUnseenMiss = 0.0001;
 inline constexpr double kSlightMiss = 0.001;
 inline constexpr double kSmallMiss = 0.01;
 inline constexpr double kRoundedMiss = 0.02;
 
-/// The most dash cycles of one family in a tile that misses unseen or slightly, and in one that all families
-/// share though it misses by more: larger ones come about by chance.
+/// The most dash cycles of one family in a tile that is exact; in one that misses unseen or slightly where a
+/// smaller one misses by more; and in one that all families share though it misses by more: larger ones come
+/// about by chance.
 inline constexpr double kMostExactCells = 256;
-inline constexpr double kMostSlightCells = 1024;
+inline constexpr double kMostSlightCells = 64;
 inline constexpr double kMostSharedCells = 64;
 
 /// The most dash cycles of one family in any tile, and the most dashes in a tile beside those that the
 /// families have in one cycle each.
 inline constexpr double kMostCells = 4096;
 inline constexpr double kMostDashes = 16384;
+
+/// A family goes into the tile of others where that takes no more dashes than these and those of a tile of
+/// its own: so many are as long to write as what a tile needs beside them.
+inline constexpr double kDashesOfTile = 16;
 
 /// Groups of families for which all others are tried; what is left has a tile for each.
 inline constexpr int kMostGroups = 64;

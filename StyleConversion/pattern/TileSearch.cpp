@@ -1,11 +1,14 @@
-// Each side is searched for by itself, among the vectors of the coarsest family's lattice.
+// Sides that families share are searched for one by one, among the vectors of the coarsest lattice; one
+// family is tiled by stacks of its lattice's lines along any of its short vectors.
 #include "StyleConversion/pattern/TileSearch.h"
 
 #include "StyleConversion/pattern/LatticeWalk.h"
 #include "StyleConversion/pattern/PatternLimits.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <cstdlib>
 #include <numbers>
 #include <numeric>
@@ -28,13 +31,22 @@ Lattices LatticesOf(const std::vector<const PatternLine*>& families, double fram
     return lattices;
 }
 
-// The worst miss of (length, 0) in the lattices; infinite where it leads to the origin of one.
-double WorstShare(const Lattices& lattices, double length, double enough) {
+double ShareAlong(const FamilyLattice& lattice, double length) {
+    const LatticeFit fit = lattice.NearestTo({length, 0.0});
+    return IsOrigin(fit.point) ? HUGE_VAL : lattice.ShareOf(fit);
+}
+
+// The worst miss of (length, 0) in the lattices; infinite where it leads to the origin of one, or is more
+// than enough. The lattice that said so is asked first the next time: mostly it says so again.
+double WorstShare(const Lattices& lattices, double length, double enough, std::size_t& first) {
+    if (!(ShareAlong(lattices[first], length) <= enough)) {
+        return HUGE_VAL;
+    }
     double worst = 0.0;
-    for (const FamilyLattice& lattice : lattices) {
-        const LatticeFit fit = lattice.NearestTo({length, 0.0});
-        worst = std::max(worst, IsOrigin(fit.point) ? HUGE_VAL : lattice.ShareOf(fit));
+    for (std::size_t i = 0; i < lattices.size(); ++i) {
+        worst = std::max(worst, ShareAlong(lattices[i], length));
         if (!(worst <= enough)) {
+            first = i;
             return HUGE_VAL;
         }
     }
@@ -84,18 +96,19 @@ std::optional<double> FindSide(const Lattices& lattices, const TileBounds& bound
         std::max(coarsest.AlongFor(bounds.share), coarsest.AcrossFor(bounds.share)) * std::numbers::sqrt2;
     const double longest =
         std::min(mostLength, bounds.mostCells * std::max(coarsest.Cycle(), std::fabs(coarsest.Spacing())));
+    std::size_t first = 0;
     double from = 0.0;
     double to = 2.0 * std::sqrt(coarsest.CellArea());
     for (int round = 0; round < kMostRounds && from < longest; ++round) {
         to = std::min(to, longest);
         for (const LatticeStep& step : StepsAlongX(coarsest, from, to, height)) {
-            const double share = WorstShare(lattices, step.vector.x, 2.0 * bounds.share);
+            const double share = WorstShare(lattices, step.vector.x, 2.0 * bounds.share, first);
             if (share <= kNoMiss) {
                 return step.vector.x;
             }
             if (std::isfinite(share)) {
                 const double between = BetweenPoints(lattices, step.vector.x);
-                if (between > 0.0 && WorstShare(lattices, between, bounds.share) <= bounds.share) {
+                if (between > 0.0 && WorstShare(lattices, between, bounds.share, first) <= bounds.share) {
                     return between;
                 }
             }
@@ -119,22 +132,156 @@ bool KeepsBounds(const std::vector<const PatternLine*>& families, const Rectangl
     return dashes <= bounds.mostDashes;
 }
 
-// The angles of short vectors of a family's lattice.
-std::vector<double> AnglesOfShortVectors(const PatternLine& family) {
-    constexpr int kMostTimes = 3;
-    const LatticeBasis basis = ReducedBasis(FamilyLattice(family));
-    std::vector<double> angles;
-    for (int p = 0; p <= kMostTimes; ++p) {
-        for (int q = p == 0 ? 1 : -kMostTimes; q <= kMostTimes; ++q) {
+/// A vector of a lattice as the lower side of a tile, and one that makes up the lattice with it.
+struct Side {
+    Vector along;
+    Vector next;
+};
+
+/// The same by their multiples of the vectors of a basis.
+struct SideTimes {
+    int along[2];
+    int next[2];
+};
+
+// Both multiples of a side are at most so many, and no multiples of fewer.
+constexpr int kMostTimes = 8;
+
+constexpr std::size_t WriteSides(SideTimes* target) {
+    std::size_t count = 0;
+    for (int p = 1; p <= kMostTimes; ++p) {
+        for (int q = -kMostTimes; q <= kMostTimes; ++q) {
             if (std::gcd(p, q) == 1) {
-                const double x = p * basis.first.vector.x + q * basis.second.vector.x;
-                const double y = p * basis.first.vector.y + q * basis.second.vector.y;
-                angles.push_back(AngleOfRectangle(std::atan2(y, x) / kRadiansPerDegree));
+                int r = 0;
+                while ((1 + q * r) % p != 0) {
+                    ++r;
+                }
+                if (target != nullptr) {
+                    target[count] = {{p, q}, {r, (1 + q * r) / p}};
+                }
+                ++count;
             }
         }
     }
-    return angles;
+    return count;
 }
+
+constexpr auto kSides = [] {
+    std::array<SideTimes, WriteSides(nullptr) + 1> sides{{{{0, 1}, {1, 0}}}};
+    WriteSides(sides.data() + 1);
+    return sides;
+}();
+
+Vector Combined(const LatticeBasis& basis, const int (&times)[2]) {
+    return {times[0] * basis.first.vector.x + times[1] * basis.second.vector.x,
+            times[0] * basis.first.vector.y + times[1] * basis.second.vector.y};
+}
+
+// The rectangles with the fewest dash cycles, one for each of several bounds. Their lower sides are vectors
+// of the lattice; lines of the lattice along these are stacked until they are in phase.
+class Stacks {
+    static constexpr double kNearlyWhole = 1e-3; // degrees
+
+public:
+    Stacks(const PatternLine& family, const std::vector<TileBounds>& bounds)
+        : family_(family), lattice_(family, family.angle), bounds_(bounds), best_(bounds.size()) {
+        for (const TileBounds& one : bounds) {
+            most_.push_back(
+                std::min(one.mostCells, one.mostDashes / static_cast<double>(family.dashes.size())));
+        }
+    }
+
+    // Of the first bounds that any keeps. No other is better than one of one cell along the family's lines.
+    std::optional<Rectangle> Run() {
+        Try({{lattice_.Cycle(), 0.0}, {lattice_.Shift(), lattice_.Spacing()}});
+        if (!(best_.front() && most_.front() < 1.0)) {
+            const LatticeBasis basis = ReducedBasis(lattice_);
+            for (const SideTimes& times : kSides) {
+                Try({Combined(basis, times.along), Combined(basis, times.next)});
+            }
+        }
+        for (const std::optional<Rectangle>& best : best_) {
+            if (best) {
+                return best;
+            }
+        }
+        return std::nullopt;
+    }
+
+private:
+    // The first of the multiples of a ratio that comes so near to a whole number is the denominator of one of
+    // its convergents, which Euclid's algorithm gives.
+    void Try(const Side& side) {
+        const double length = std::sqrt(side.along.x * side.along.x + side.along.y * side.along.y);
+        const Vector direction = {side.along.x / length, side.along.y / length};
+        const double along = std::fabs(side.next.x * direction.x + side.next.y * direction.y);
+        const double shift = along - std::floor(along / length) * length;
+        // How far from phase a share of 1 is.
+        const double whole = std::min(lattice_.AlongFor(1.0) / std::fabs(direction.x),
+                                      lattice_.AcrossFor(1.0) / std::fabs(direction.y));
+        double rows = 1.0;
+        double before = 0.0;
+        double rest = shift;
+        double last = length;
+        double off = std::min(rest, length - rest);
+        std::size_t open = bounds_.size(); // the bounds before this one are not kept yet
+        double most = MostOf(open);
+        while (rows <= most) {
+            for (; open > 0 && off <= bounds_[open - 1].share * whole; most = MostOf(open)) {
+                Take(--open, side, length, rows);
+            }
+            if (!(rest > 0.0)) {
+                return;
+            }
+            const double quotient = std::floor(last / rest);
+            last -= quotient * rest;
+            std::swap(last, rest);
+            before += quotient * rows;
+            std::swap(before, rows);
+            off = rest;
+        }
+    }
+
+    // Of the first bounds; -1 without any.
+    double MostOf(std::size_t count) const {
+        double most = -1.0;
+        for (std::size_t i = 0; i < count; ++i) {
+            most = std::max(most, most_[i]);
+        }
+        return most;
+    }
+
+    void Take(std::size_t index, const Side& side, double length, double rows) {
+        if (!(rows <= most_[index])) {
+            return;
+        }
+        const bool isOwn = side.along.y == 0.0;
+        const double turn = isOwn ? 0.0 : std::atan2(side.along.y, side.along.x) / kRadiansPerDegree;
+        const double apart = isOwn ? std::fabs(lattice_.Spacing()) : lattice_.CellArea() / length;
+        const double angle = family_.angle + turn;
+        Rectangle rectangle{AngleOfRectangle(std::round(angle)), length, rows * apart};
+        // Angles are meant to be whole where that makes no difference.
+        if (std::fabs(angle - std::round(angle)) > kNearlyWhole ||
+            !Keeps(rectangle, rows, std::min(kUnseenMiss, bounds_[index].share))) {
+            rectangle.angle = AngleOfRectangle(angle);
+        }
+        if (Keeps(rectangle, rows, bounds_[index].share)) {
+            best_[index] = rectangle;
+            most_[index] = rows - 1.0;
+        }
+    }
+
+    bool Keeps(const Rectangle& rectangle, double cells, double share) const {
+        const FamilyFit fit = FitOf(family_, rectangle);
+        return static_cast<double>(fit.Cells()) == cells && fit.share <= share;
+    }
+
+    const PatternLine& family_;
+    FamilyLattice lattice_;
+    const std::vector<TileBounds>& bounds_;
+    std::vector<std::optional<Rectangle>> best_;
+    std::vector<double> most_; // cells, for each of the bounds
+};
 
 } // namespace
 
@@ -174,27 +321,9 @@ std::optional<Rectangle> FindRectangle(const std::vector<const PatternLine*>& fa
     return KeepsBounds(families, rectangle, bounds) ? std::optional(rectangle) : std::nullopt;
 }
 
-std::optional<Rectangle> FindRectangleAtAnyAngle(const PatternLine& family, const TileBounds& bounds) {
-    constexpr double kFewCells = 16.0;
-    std::optional<Rectangle> best;
-    double fewest = HUGE_VAL;
-    TileBounds fewer = bounds;
-    const auto tryAngle = [&](double angle) {
-        if (const auto rectangle = FindRectangle({&family}, angle, fewer)) {
-            fewest = static_cast<double>(FitOf(family, *rectangle).Cells());
-            fewer.mostCells = fewest - 1.0;
-            best = rectangle;
-        }
-    };
-    tryAngle(AngleOfRectangle(family.angle));
-    tryAngle(0.0);
-    if (fewest <= kFewCells) {
-        return best;
-    }
-    for (const double angle : AnglesOfShortVectors(family)) {
-        tryAngle(angle);
-    }
-    return best;
+std::optional<Rectangle> FindRectangleAtAnyAngle(const PatternLine& family,
+                                                 const std::vector<TileBounds>& bounds) {
+    return Stacks(family, bounds).Run();
 }
 
 Rectangle NearestStack(const PatternLine& family, double mostRows) {

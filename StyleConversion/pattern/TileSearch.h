@@ -43,8 +43,9 @@ std::optional<Rectangle> FindRectangle(const std::vector<const PatternLine*>& fa
                                        const TileBounds& bounds);
 
 /// The rectangle of one family that holds the fewest dash cycles, at any angle that a short vector of its
-/// lattice has.
-std::optional<Rectangle> FindRectangleAtAnyAngle(const PatternLine& family, const TileBounds& bounds);
+/// lattice has: of the first of the bounds, each wider than those before, that any rectangle keeps.
+std::optional<Rectangle> FindRectangleAtAnyAngle(const PatternLine& family,
+                                                 const std::vector<TileBounds>& bounds);
 
 /// A rectangle along the lines of a family, one dash cycle wide and at most `mostRows` lines high, whose last
 /// line is the nearest to being in phase with the first.

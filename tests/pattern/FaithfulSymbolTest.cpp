@@ -60,11 +60,12 @@ std::vector<Dash> DashesOf(const std::wstring& path, double degrees) {
         double toX = 0.0;
         double toY = 0.0;
         words >> toX;
-        if (word == L"h") {
-            toX += x;
-            toY = y;
-        } else {
+        if (word != L"h") {
             words >> comma >> toY;
+        }
+        if (word != L"M") {
+            toX += x;
+            toY += y;
         }
         if (word != L"M") {
             dashes.push_back({x * c - y * s, x * s + y * c, std::hypot(toX - x, toY - y)});
@@ -218,7 +219,7 @@ private:
 TEST_F(FaithfulSymbols, DrawDashesOfFamiliesThatRepeatIn50By50TilesInTheirPlaces) {
     for (int round = 0; round < 60; ++round) {
         Definition family = RandomFamily();
-        const int n = 1 + Below(60);
+        const int n = 1 + Below(round % 2 == 0 ? 60 : 256);
         family.shift = family.Cycle() * Below(2 * n) / n;
         const auto definitions = SimpleDefinitions(FaithfulSymbol(family.Text()));
         ASSERT_EQ(definitions.size(), 1U);
@@ -262,9 +263,32 @@ TEST_F(FaithfulSymbols, StackRowsUntilTheDashesAreInPhase) {
     EXPECT_LE(cells, 100.5);
 }
 
+// 300 lines are in phase. Four lines up and one cycle more or less are (6.08, 6) and (-5.92, 6), the sides of
+// 8 cells. They are upright to each other but for 0.0064 / 8.54 = 0.00075, a quarter of a hundredth of a
+// dash.
+TEST_F(FaithfulSymbols, AreNoLargerThanAHundredthOfTheirShortestDashAsks) {
+    const Definition family{0, 0, 0.75, 0.02, 1.5, {0.3, -5.7}};
+    const auto definitions = SimpleDefinitions(FaithfulSymbol(family.Text()));
+    ASSERT_EQ(definitions.size(), 1U);
+    const Tiling tiling = TilingOf(definitions.front());
+    ExpectComplete(family, tiling);
+    EXPECT_LE(tiling.dashes.size(), 8U);
+    EXPECT_LT(WorstShare(family, tiling, 0, 0), 1e-6);
+    EXPECT_LT(WorstShare(family, tiling, 1, 0), 0.0026);
+    EXPECT_LT(WorstShare(family, tiling, 0, 1), 0.0026);
+}
+
+// The first family's tile of 40 by 40 would hold 1600 dashes of the second one, which needs one.
+TEST_F(FaithfulSymbols, TakeNoFamilyIntoATileThatHoldsManyOfItsDashes) {
+    const Drawn drawn = DrawnBy("0,0,0,0,40,10,-30\n0,0.1,0.2,0,1,0.5,-0.5\n30,0,0,0.1,7,1,-2.3\n");
+    ASSERT_EQ(drawn.size(), 3U);
+    EXPECT_EQ(drawn[0], (std::vector<std::wstring>{L"%HATCHANGLE%", L"40", L"40", L"M 0,0 h 10"}));
+    EXPECT_EQ(drawn[1], (std::vector<std::wstring>{L"%HATCHANGLE%", L"1", L"1", L"M 0.1,0.2 h 0.5"}));
+}
+
 TEST_F(FaithfulSymbols, DrawFamiliesOfOneLatticeInOneTile) {
     EXPECT_EQ(DrawnBy("0,0,0,0,2,1,-1\n90,1,0,0,2,1,-1\n"),
-              (Drawn{{L"%HATCHANGLE%", L"2", L"2", L"M 0,0 h 1 M 1,0 L 1,1"}}));
+              (Drawn{{L"%HATCHANGLE%", L"2", L"2", L"M 0,0 h 1 M 1,0 l 0,1"}}));
 }
 
 // The sides of bricks that are half a unit apart along a diagonal: numbers of five decimals.
