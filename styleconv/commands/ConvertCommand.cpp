@@ -109,6 +109,7 @@ ExitStatus Convert(ConvertOptions& options) {
     files.files = std::move(walk.files);
     files.diagnostics = std::move(walk.diagnostics);
     files.others = walk.others;
+    files.repeated = walk.repeated;
     files.allOrNothing = options.allOrNothing;
     files.isTolerant = options.tolerant;
     files.tellsOrigins = options.paths.size() > 1 || !walk.folders.empty();

@@ -5,6 +5,7 @@
 #include "diagnostics/Sentences.h"
 #include "diagnostics/ShownText.h"
 #include "styleconv/commands/Job.h"
+#include "styleconv/files/FileWalk.h"
 #include "styleconv/files/Paths.h"
 #include "styleconv/process/Messages.h"
 #include "styleconv/process/Progress.h"
@@ -59,7 +60,8 @@ void SaySummary(const FilesToConvert& files, const conversions::Gathering& gathe
                 const Diagnostics& told) {
     SayLine("styleconv: " + Counted(gathering.FileCount(), "file") + ", " +
             Counted(gathering.SymbolCount(), "symbol") +
-            (files.others > 0 ? "; " + Counted(files.others, "file") + " of no kind that is converted" : ""));
+            (files.others > 0 ? "; " + Counted(files.others, "file") + " of no kind that is converted" : "") +
+            (files.repeated > 0 ? "; " + Counted(files.repeated, "file") + " given again" : ""));
     for (const Severity severity : {Severity::kError, Severity::kWarning}) {
         if (const std::string counts = CountsByCode(told, severity); !counts.empty()) {
             SayLine("styleconv: " + counts);
@@ -118,6 +120,7 @@ FilesToConvert FilesOfKind(FileKind kind, const std::vector<std::string>& files,
                            bool isTolerant) {
     FilesToConvert result;
     result.files = files;
+    result.repeated = files.size() > 1 ? KeepFirst(result.files) : 0;
     result.kind = kind;
     result.allOrNothing = allOrNothing;
     result.isTolerant = isTolerant;

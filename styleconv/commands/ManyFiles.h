@@ -35,6 +35,7 @@ struct FilesToConvert {
     std::vector<std::string> folders;     // that were given, where some of the files are
     diagnostics::Diagnostics diagnostics; // what was told when they were looked for
     std::size_t others = 0;               // files that were not taken
+    std::size_t repeated = 0;             // files that were given again
     bool allOrNothing = false;
     bool isTolerant = false;
     std::vector<std::wstring> names; // of a symbols document, only those; all where it is empty

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <map>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -101,7 +103,39 @@ private:
     Walk& walk_;
 };
 
+// Tells files apart by their folder, whatever the way to it, and their name.
+class SeenFiles {
+public:
+    // False where it was there before.
+    bool Add(const std::string& file) {
+        const fs::path path = NativePath(file);
+        return seen_.insert(FolderOf(path) / path.filename()).second;
+    }
+
+private:
+    const fs::path& FolderOf(const fs::path& path) {
+        const fs::path given = path.has_parent_path() ? path.parent_path() : fs::path(".");
+        const auto [at, isNew] = folders_.try_emplace(given);
+        if (isNew) {
+            std::error_code error;
+            at->second = fs::canonical(given, error);
+            if (error) {
+                at->second = given;
+            }
+        }
+        return at->second;
+    }
+
+    std::map<fs::path, fs::path> folders_; // as given, and where they are
+    std::set<fs::path> seen_;
+};
+
 } // namespace
+
+std::size_t KeepFirst(std::vector<std::string>& files) {
+    SeenFiles seen;
+    return std::erase_if(files, [&](const std::string& file) { return !seen.Add(file); });
+}
 
 Walk FilesBehind(const std::vector<std::string>& paths, const WalkOptions& options) {
     Walk walk;
@@ -113,6 +147,7 @@ Walk FilesBehind(const std::vector<std::string>& paths, const WalkOptions& optio
             walk.files.push_back(path);
         }
     }
+    walk.repeated = paths.size() > 1 ? KeepFirst(walk.files) : 0;
     return walk;
 }
 

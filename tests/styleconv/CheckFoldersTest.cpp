@@ -37,6 +37,13 @@ TEST_F(CheckFolders, AllFilesOfKnownKindsInAFolderAreCheckedInSortedOrder) {
                   "2 errors, 0 warnings in 2 files\n");
 }
 
+TEST_F(CheckFolders, FileThatIsGivenAgainIsJudgedOnce) {
+    const std::string file = Write("a/walls.pat", "*X\n");
+    const std::string error = ":1: error: the pattern has no lines (pattern X) [empty-pattern]\n";
+    EXPECT_EQ(RunTool({"check", folder / "a", file, folder / "a/../a/walls.pat"}).output,
+              file + error + "1 error, 0 warnings in 1 file\n");
+}
+
 TEST_F(CheckFolders, IncludeAndExcludeChooseFilesOfFolders) {
     Write("one.lin", "*X\nA,x\n");
     Write("two.lin", "*X\nA,x\n");

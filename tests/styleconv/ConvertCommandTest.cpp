@@ -91,6 +91,27 @@ TEST_F(ConvertCommand, FoldersAreWalkedInSortedOrderAndOtherFilesCounted) {
     EXPECT_EQ(Said(result), "styleconv: 4 files, 4 symbols; 2 files of no kind that is converted\n");
 }
 
+TEST_F(ConvertCommand, FileThatIsGivenAgainIsTakenOnceHoweverItIsSpelled) {
+    const std::string brick = Write("std/a.pat", kBrick);
+    const std::string stone = Write("std/b/a.pat", "*STONE\n0,0,0,0,1\n");
+    const std::string around = folder / "std/b/../a.pat";
+    for (const std::string command : {"convert", "patterns"}) {
+        const ToolResult result = RunTool({command, stone, around, brick, stone});
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(ValuesOf(result.output, "name"), (Texts{"STONE", "BRICK"}));
+        EXPECT_EQ(ValuesOf(result.output, "file"), (Texts{stone, around}));
+        EXPECT_EQ(Said(result), "styleconv: 2 files, 2 symbols; 2 files given again\n") << command;
+    }
+    const ToolResult mixed = RunTool({"convert", stone, folder / "std"});
+    EXPECT_EQ(ValuesOf(mixed.output, "name"), (Texts{"STONE", "BRICK"}));
+    EXPECT_EQ(Said(mixed), "styleconv: 2 files, 2 symbols; 1 file given again\n");
+    const ToolResult missing = RunTool({"convert", brick, folder / "no/x.pat", folder / "no/x.pat"});
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_TRUE(
+        Has(Said(missing), "no/x.pat: error: not found\nstyleconv: 2 files, 1 symbol; 1 file given again\n"))
+        << Said(missing);
+}
+
 TEST_F(ConvertCommand, FilesOfFoldersAreChosenByPatterns) {
     Write("std/b/z.pat", "*Z\n0,0,0,0,1\n");
     Write("std/b/a.lin", "*A\nA,1,-1\n");

@@ -65,7 +65,13 @@ TEST_F(ListSeveral, FilesOfAllKindsAreOneTableThatNamesThem) {
 TEST_F(ListSeveral, OneFileGivesNamesAloneWhereNobodyReadsThem) {
     const std::string file = folder.Write("a.lin", "*GAS,____ GAS ____\nA,1\n*WATER\nA,1\n");
     EXPECT_EQ(RunTool({"list", file}).output, "GAS\nWATER\n");
-    EXPECT_EQ(RunTool({"list", file, "--format", "names", file}).output, "GAS\nWATER\nGAS\nWATER\n");
+    const std::string other = folder.Write("b.lin", "*GAS\nA,1\n");
+    EXPECT_EQ(RunTool({"list", file, "--format", "names", other}).output, "GAS\nWATER\nGAS\n");
+}
+
+TEST_F(ListSeveral, FileThatIsGivenAgainIsListedOnce) {
+    const std::string file = folder.Write("a.lin", "*GAS\nA,1\n");
+    EXPECT_EQ(RunTool({"list", file, "--format", "names", folder / ""}).output, "GAS\n");
 }
 
 TEST_F(ListSeveral, JsonIsAListOfObjects) {
