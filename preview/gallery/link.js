@@ -1,8 +1,17 @@
 // The page's address keeps what the reader did: "#NAME" opens a symbol, and behind a "?" stand the values that
 // were changed, for all symbols ("color=…", "weight=…", "angle=…", "text=…") and for single ones
-// ("set=NAME/IDENTIFIER/VALUE", each written as in an address), and the line of text that was typed ("sample=…").
+// ("set=NAME/IDENTIFIER/VALUE", each written as in an address), the line of text that was typed ("sample=…"), and what
+// is shown in which order ("search=…", "kind=…", "group=…", "sort=…").
 
 const kQuantityNames = ["color", "weight", "angle", "text"];
+
+// The controls of what is shown, and what they hold where an address says nothing.
+const kArranging = [
+  [search, ""],
+  [kind, ""],
+  [groupBy, "none"],
+  [sortBy, "place"],
+];
 
 // A name that stood before is followed by a number: "NAME~2".
 function uniqueNames(names) {
@@ -44,6 +53,11 @@ const link = {
     if (sample.text !== undefined) {
       values.set("sample", sample.text);
     }
+    for (const [control, usual] of kArranging) {
+      if (control.value !== usual) {
+        values.set(control.id, control.value);
+      }
+    }
     for (const symbol of symbols) {
       for (const [identifier, value] of symbol.own) {
         values.append("set", [linkNames.get(symbol), identifier, value].map(encodeURIComponent).join("/"));
@@ -71,6 +85,7 @@ const link = {
         symbol.own.set(identifier, kept);
       }
     }
+    readArranging(values);
     sample.text = values.get("sample") ?? undefined;
     sample.draw();
     showRestyling();
@@ -86,6 +101,16 @@ const link = {
     this.isReading = false;
   },
 };
+
+// Shows what an address says. A choice that is not offered is left out.
+function readArranging(values) {
+  for (const [control, usual] of kArranging) {
+    const wanted = values.get(control.id) ?? usual;
+    const isOffered = [...(control.options ?? [])].some((option) => option.value === wanted && !option.disabled);
+    control.value = isOffered || control === search ? wanted : usual;
+  }
+  arrangement.arrange();
+}
 
 // A value as an address holds it; undefined for none.
 function valueOf(text, isNumber) {
@@ -105,4 +130,6 @@ function decoded(text) {
   }
 }
 
+search.addEventListener("input", () => link.keep());
+[kind, groupBy, sortBy].forEach((control) => control.addEventListener("change", () => link.keep()));
 window.addEventListener("hashchange", () => link.read());

@@ -55,6 +55,12 @@ grid.addEventListener(
 
 // ---- The keyboard -----------------------------------------------------------------------------------------
 
+// Going past the bar leaves the address as it is.
+document.querySelector(".skip").addEventListener("click", (event) => {
+  event.preventDefault();
+  grid.focus();
+});
+
 // The cards are one stop of the tabulator key: the picture that had the focus last, or the first one.
 let stop = null;
 
@@ -138,5 +144,4 @@ document.addEventListener("keydown", (event) => {
 
 setTheme(matchMedia("(prefers-color-scheme: dark)").matches);
 offerGroups();
-arrangement.arrange();
 link.read();

@@ -715,7 +715,7 @@ class Gallery(unittest.TestCase):
                 self.assertEqual(self.taken("#take-svg")[0], "symbols.svg")
                 self.assertTrue(self.taken("#take-style")[1].startswith("<styles>"))
                 self.card("FENCE").find_element(By.CSS_SELECTOR, ".picture").send_keys(Keys.ENTER)
-                self.assertEqual(self.address(), "#FENCE")
+                self.assertEqual(self.address(), "#FENCE?search=water&group=folder")
                 dialog = self.find("#closeup")
                 self.pick(self.control(dialog, "LINECOLOR"), "#ff0000")
                 self.assertGreater(self.count(self.shot(self.find("#closeup-picture")), is_red), 100)
@@ -1151,6 +1151,33 @@ class Gallery(unittest.TestCase):
         self.wait(lambda: browser.find_elements(By.CSS_SELECTOR, ".sample svg"))
         self.assertEqual(self.find("#sample-text").get_attribute("value"), "I & J")
         self.assertEqual([letter for letter, _, _ in self.places_of_letters()], list("I & J"))
+
+    def test_the_address_keeps_what_is_shown(self):
+        self.open("typical")
+        self.enter(self.find("#search"), "line & gas")
+        self.choose("#kind", "line")
+        self.choose("#group", "kind")
+        self.choose("#sort", "name")
+        address = self.address()
+        self.assertEqual(address, "#?search=line+%26+gas&kind=line&group=kind&sort=name")
+        self.find(".skip").send_keys(Keys.ENTER)
+        self.wait(lambda: browser.execute_script("return document.activeElement.id") == "symbols")
+        self.assertEqual(self.address(), address)
+        for address, names, controls in (
+            (address, [], ["line & gas", "line", "kind", "name"]),
+            ("#?kind=line&sort=name", ["DASHDOT", "FENCE", "GAS"], ["", "line", "none", "name"]),
+            ("#?search=gas", ["GAS"], ["gas", "", "none", "place"]),
+            # One file makes no group, and there is no such order.
+            ("#?kind=point&group=file&sort=odd", ["TREE"], ["", "point", "none", "place"]),
+            ("", ["DASHDOT", "GAS", "FENCE", "BRICKS", "TREE"], ["", "", "none", "place"]),
+        ):
+            browser.get("about:blank")
+            browser.get(pathlib.Path(samples, "typical.html").as_uri() + address)
+            self.wait(lambda: self.texts("#symbols .name") == names)
+            shown = browser.execute_script(
+                "return ['search', 'kind', 'group', 'sort'].map((id) => document.getElementById(id).value)"
+            )
+            self.assertEqual(shown, controls)
 
     def test_each_font_has_a_line_with_its_name(self):
         self.open("fonts")
