@@ -227,8 +227,9 @@ private:
         std::size_t open = bounds_.size(); // the bounds before this one are not kept yet
         double most = MostOf(open);
         while (rows <= most) {
-            for (; open > 0 && off <= bounds_[open - 1].share * whole; most = MostOf(open)) {
+            while (open > 0 && off <= bounds_[open - 1].share * whole) {
                 Take(--open, side, length, rows);
+                most = MostOf(open);
             }
             if (!(rest > 0.0)) {
                 return;
