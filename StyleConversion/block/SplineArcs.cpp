@@ -51,8 +51,8 @@ double BulgeThrough(const OxGePoint2d& from, const OxGePoint2d& middle, const Ox
 class Arc {
 public:
     Arc(const OxGePoint2d& from, const OxGePoint2d& to, double bulge)
-        : from_(from), chord_(std::hypot(to.x - from.x, to.y - from.y)),
-          bulge_(bulge), along_{(to.x - from.x) / chord_, (to.y - from.y) / chord_} {}
+        : from_(from), chord_(std::hypot(to.x - from.x, to.y - from.y)), bulge_(bulge),
+          alongX_((to.x - from.x) / chord_), alongY_((to.y - from.y) / chord_) {}
 
     double Curvature() const { return 4.0 * bulge_ / (chord_ * (1.0 + bulge_ * bulge_)); }
 
@@ -66,8 +66,8 @@ public:
     Place Of(const OxGePoint2d& point) const {
         const double x = point.x - from_.x;
         const double y = point.y - from_.y;
-        const double u = x * along_.x + y * along_.y;
-        const double v = y * along_.x - x * along_.y;
+        const double u = x * alongX_ + y * alongY_;
+        const double v = y * alongX_ - x * alongY_;
         const double square = bulge_ * bulge_;
         const double bent = 2.0 * bulge_ * (u * (u - chord_) + v * v) / chord_;
         return {u, (bent - v * (1.0 - square)) / (1.0 + square)};
@@ -77,7 +77,8 @@ private:
     OxGePoint2d from_;
     double chord_;
     double bulge_;
-    OxGeVector2d along_;
+    double alongX_; // the chord's direction
+    double alongY_;
 };
 
 /// Lays arcs through samples, each over as many as it can.
