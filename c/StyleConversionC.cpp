@@ -5,27 +5,22 @@
 #include "c/Jobs.h"
 
 #include <memory>
-#include <mutex>
 #include <utility>
 
 namespace {
 
 using c_interface::Job;
 
-// The encoding of narrow text is the whole process's: one call converts at a time.
-std::mutex converting;
-// Whether this thread is in a call, whose callback must not come back here.
+// Whether this thread is in a call, whose callback must not come back here: the encoding of narrow text is
+// the thread's.
 thread_local bool isInCall = false;
 
 class Call {
 public:
-    Call() : lock_(converting) { isInCall = true; }
+    Call() { isInCall = true; }
     ~Call() { isInCall = false; }
     Call(const Call&) = delete;
     Call& operator=(const Call&) = delete;
-
-private:
-    std::lock_guard<std::mutex> lock_;
 };
 
 void Refuse(styleconversion_result& result, const char* error) {

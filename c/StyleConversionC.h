@@ -4,8 +4,8 @@
  * bytes that their size counts. Sizes are in bytes. Nothing that is given is kept beyond the call, and no
  * call opens a file or prints.
  *
- * Calls may come from several threads at once; one of them converts, the others wait for it. A result may be
- * read by several threads at once, and is released by one.
+ * Calls may come from several threads at once, and convert at once. A result may be read by several threads
+ * at once, and is released by one.
  *
  * Functions may be added; those that are there keep their names, arguments and meaning as long as
  * STYLECONVERSION_INTERFACE is the same.

@@ -10,14 +10,19 @@
 
 namespace platform {
 
+/// Chooses the code page of the calling thread, by a name as for SetAnsiCodePage. It stays in force there,
+/// before that of the process, until another one is chosen for the thread, or by the thread for the process.
+/// False, and no change, for an unknown name.
+bool SetThreadCodePage(const std::string& name);
+
 /// Converts bytes of the code page in force. Bytes that it does not define are kept so that WideToAnsi gives
 /// them back where the system allows it: as U+DC80 to U+DCFF under UTF-8, as the character of the byte's own
 /// number under every other page.
 std::wstring AnsiToWide(std::string_view narrow);
 /// The same into a string whose storage is used again.
 void AnsiToWide(std::string_view narrow, std::wstring& wide);
-/// The same by the calling thread's ANSI code page, where the system has one for each thread and the process
-/// has chosen none.
+/// The same by the calling thread's ANSI code page, where the system has one for each thread and neither the
+/// thread nor the process has chosen one.
 void ThreadAnsiToWide(std::string_view narrow, std::wstring& wide);
 
 /// Converts to bytes of the code page in force; "?" stands for a character that it cannot express.

@@ -6,12 +6,12 @@
 namespace conversions {
 
 bool IsKnownEncoding(const std::string& encoding) {
-    return platform::SetAnsiCodePage(encoding);
+    return platform::PageDecoder(encoding).IsKnown();
 }
 
 void UseEncoding(const Input& input) {
-    if (input.encoding.empty() || !platform::SetAnsiCodePage(input.encoding)) {
-        platform::SetAnsiCodePage(platform::IsUtf8(input.bytes) ? "UTF-8" : "WINDOWS-1252");
+    if (input.encoding.empty() || !platform::SetThreadCodePage(input.encoding)) {
+        platform::SetThreadCodePage(platform::IsUtf8(input.bytes) ? "UTF-8" : "WINDOWS-1252");
     }
 }
 

@@ -24,7 +24,7 @@ struct Input {
 /// Whether text of that encoding can be read.
 bool IsKnownEncoding(const std::string& encoding);
 
-/// Reads narrow text in the encoding of the input from now on, in the whole process.
+/// Reads narrow text in the encoding of the input from now on, in the calling thread.
 void UseEncoding(const Input& input);
 
 } // namespace conversions

@@ -1,4 +1,4 @@
-// The code page that the process has chosen. UTF-8 is built in.
+// The code page that the thread or the process has chosen. UTF-8 is built in.
 #include "StyleConversion/platform/CodePage.h"
 
 #include "StyleConversion/platform/Characters.h"
@@ -11,10 +11,26 @@
 namespace platform {
 namespace {
 
+struct Choice {
+    std::unique_ptr<IconvPage> page; // null: UTF-8
+    bool isMade = false;
+};
+
+// UTF-8 until one is made.
+Choice& OfProcess() {
+    static Choice choice;
+    return choice;
+}
+
+Choice& OfThread() {
+    static thread_local Choice choice;
+    return choice;
+}
+
 // Null while UTF-8 is in force.
-std::unique_ptr<IconvPage>& Current() {
-    static std::unique_ptr<IconvPage> current;
-    return current;
+const IconvPage* Current() {
+    const Choice& thread = OfThread();
+    return (thread.isMade ? thread : OfProcess()).page.get();
 }
 
 bool IsUtf8Name(const std::string& name) {
@@ -25,19 +41,31 @@ bool IsUtf8Name(const std::string& name) {
     return upper == "UTF-8" || upper == "UTF8";
 }
 
+bool Choose(const std::string& name, Choice& choice) {
+    std::unique_ptr<IconvPage> page;
+    if (!IsUtf8Name(name)) {
+        page = IconvPage::Open(name);
+        if (page == nullptr) {
+            return false;
+        }
+    }
+    choice.page = std::move(page);
+    choice.isMade = true;
+    return true;
+}
+
 } // namespace
 
 bool SetAnsiCodePage(const std::string& name) {
-    if (IsUtf8Name(name)) {
-        Current().reset();
-        return true;
-    }
-    std::unique_ptr<IconvPage> page = IconvPage::Open(name);
-    if (page == nullptr) {
+    if (!Choose(name, OfProcess())) {
         return false;
     }
-    Current() = std::move(page);
+    OfThread() = {};
     return true;
+}
+
+bool SetThreadCodePage(const std::string& name) {
+    return Choose(name, OfThread());
 }
 
 struct PageDecoder::Page {
@@ -64,12 +92,13 @@ std::wstring PageDecoder::ToWide(std::string_view narrow) const {
 }
 
 std::wstring AnsiToWide(std::string_view narrow) {
-    return Current() ? Current()->Decode(narrow) : Utf8ToWide(narrow);
+    const IconvPage* const page = Current();
+    return page != nullptr ? page->Decode(narrow) : Utf8ToWide(narrow);
 }
 
 void AnsiToWide(std::string_view narrow, std::wstring& wide) {
-    if (Current()) {
-        wide = Current()->Decode(narrow);
+    if (const IconvPage* const page = Current(); page != nullptr) {
+        wide = page->Decode(narrow);
     } else {
         Utf8ToWide(narrow, wide);
     }
@@ -80,11 +109,12 @@ void ThreadAnsiToWide(std::string_view narrow, std::wstring& wide) {
 }
 
 std::string WideToAnsi(std::wstring_view wide) {
-    return Current() ? Current()->Encode(wide) : WideToUtf8Bytes(wide);
+    const IconvPage* const page = Current();
+    return page != nullptr ? page->Encode(wide) : WideToUtf8Bytes(wide);
 }
 
 std::size_t FindInMultiByte(std::string_view text, char sought) {
-    const IconvPage* const page = Current().get();
+    const IconvPage* const page = Current();
     for (std::size_t at = 0; at < text.size(); ++at) {
         if (text[at] == sought) {
             return at;

@@ -1,5 +1,5 @@
-// The code page that the process has chosen, or the system's ANSI code page, through the system's own
-// conversion.
+// The code page that the thread or the process has chosen, or the system's ANSI code page, through the
+// system's own conversion.
 #include "StyleConversion/platform/CodePage.h"
 
 #include "StyleConversion/platform/Characters.h"
@@ -18,9 +18,30 @@
 namespace platform {
 namespace {
 
-unsigned& Current() {
+unsigned& OfProcess() {
     static unsigned page = CP_ACP;
     return page;
+}
+
+struct ThreadPage {
+    unsigned page = CP_ACP; // the thread goes by the process
+    bool hasPairs = false;  // characters of two bytes
+};
+
+ThreadPage& OfThread() {
+    static thread_local ThreadPage page;
+    return page;
+}
+
+unsigned Current() {
+    const unsigned page = OfThread().page;
+    return page != CP_ACP ? page : OfProcess();
+}
+
+bool HasPairs(unsigned page) {
+    constexpr unsigned kPair = 2;
+    CPINFO information{};
+    return GetCPInfo(page, &information) != FALSE && information.MaxCharSize == kPair;
 }
 
 // Names that are no number behind a word.
@@ -102,11 +123,18 @@ bool SetAnsiCodePage(const std::string& name) {
     if (!page) {
         return false;
     }
-    CPINFO information{};
-    const bool doubleByte = GetCPInfo(*page, &information) != FALSE && information.MaxCharSize == 2;
-    _setmbcp(doubleByte ? static_cast<int>(*page) : _MB_CP_SBCS);
-    Current() = *page;
+    _setmbcp(HasPairs(*page) ? static_cast<int>(*page) : _MB_CP_SBCS);
+    OfProcess() = *page;
+    OfThread() = {};
     return true;
+}
+
+bool SetThreadCodePage(const std::string& name) {
+    const std::optional<unsigned> page = KnownPage(name);
+    if (page) {
+        OfThread() = {*page, HasPairs(*page)};
+    }
+    return page.has_value();
 }
 
 struct PageDecoder::Page {
@@ -157,7 +185,27 @@ std::string WideToAnsi(std::wstring_view wide) {
     return narrow;
 }
 
+namespace {
+
+// The function of the runtime library knows the process's page alone.
+std::size_t FindInPage(const ThreadPage& page, std::string_view text, char sought) {
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == sought) {
+            return at;
+        }
+        if (page.hasPairs && IsDBCSLeadByteEx(page.page, static_cast<BYTE>(text[at])) != FALSE) {
+            ++at;
+        }
+    }
+    return std::string_view::npos;
+}
+
+} // namespace
+
 std::size_t FindInMultiByte(std::string_view text, char sought) {
+    if (const ThreadPage& page = OfThread(); page.page != CP_ACP) {
+        return FindInPage(page, text, sought);
+    }
     // Behind a first half that stands last, some versions of the function look past the end: it has a second
     // one.
     std::string copy(text);
