@@ -8,6 +8,7 @@
 #include "documents/SarifDocument.h"
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/DrawingViewOptions.h"
+#include "styleconv/commands/FilesInOrder.h"
 #include "styleconv/commands/FontArguments.h"
 #include "styleconv/commands/Job.h"
 #include "styleconv/commands/ManyFiles.h"
@@ -150,9 +151,11 @@ Findings FindingsOf(const CheckOptions& options, const std::set<Code>& codesToIg
     Findings findings;
     findings.files = walk.files.size();
     findings.found = std::move(walk.diagnostics);
-    for (const std::string& file : walk.files) {
-        Append(findings.found, CheckOne(options, file));
-    }
+    std::vector<Diagnostics> found(walk.files.size());
+    FileWork work;
+    work.work = [&](std::size_t i) { found[i] = CheckOne(options, walk.files[i]); };
+    work.take = [&](std::size_t i) { Append(findings.found, std::move(found[i])); };
+    WorkOnFiles(walk.files, work);
     std::erase_if(findings.found, [&](const Diagnostic& diagnostic) {
         return diagnostic.severity == Severity::kNote && !options.notes;
     });

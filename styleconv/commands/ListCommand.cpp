@@ -8,6 +8,7 @@
 #include "diagnostics/ShownText.h"
 #include "documents/ListDocument.h"
 #include "styleconv/commands/Commands.h"
+#include "styleconv/commands/FilesInOrder.h"
 #include "styleconv/commands/Job.h"
 #include "styleconv/commands/TextTable.h"
 #include "styleconv/files/FileWalk.h"
@@ -118,13 +119,17 @@ ExitStatus List(const ListOptions& options) {
     SayAll(walk.diagnostics);
     std::vector<ListedSymbol> symbols;
     std::size_t listed = 0;
-    for (const std::string& file : walk.files) {
-        conversions::Listing listing = ListFile(file, options);
+    std::vector<conversions::Listing> listings(walk.files.size());
+    FileWork work;
+    work.work = [&](std::size_t i) { listings[i] = ListFile(walk.files[i], options); };
+    work.take = [&](std::size_t i) {
+        conversions::Listing listing = std::exchange(listings[i], {});
         SayAll(listing.diagnostics);
         listed += listing.isListed ? 1 : 0;
         symbols.insert(symbols.end(), std::make_move_iterator(listing.symbols.begin()),
                        std::make_move_iterator(listing.symbols.end()));
-    }
+    };
+    WorkOnFiles(walk.files, work);
     if (listed == 0) {
         if (walk.files.empty() && walk.diagnostics.empty()) {
             SayLine("styleconv: list: no file of a kind that is converted");

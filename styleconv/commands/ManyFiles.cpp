@@ -4,11 +4,11 @@
 #include "conversions/SymbolsDocuments.h"
 #include "diagnostics/Sentences.h"
 #include "diagnostics/ShownText.h"
+#include "styleconv/commands/FilesInOrder.h"
 #include "styleconv/commands/Job.h"
 #include "styleconv/files/FileWalk.h"
 #include "styleconv/files/Paths.h"
 #include "styleconv/process/Messages.h"
-#include "styleconv/process/Progress.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -189,16 +189,20 @@ ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert,
                         const CommonOptions& options, conversions::Form form) {
     conversions::Gathering gathering;
     conversions::RestyledCounts restyled;
-    for (std::size_t i = 0; i < files.files.size(); ++i) {
-        NameProgress("File " + std::to_string(i + 1) + " of " + std::to_string(files.files.size()) + ", " +
-                     Counted(gathering.SymbolCount(), "symbol") + ": ");
-        FileKind kind = files.kind;
-        Conversion conversion = ConvertOne(files, files.files[i], kind, convert, makeFront);
+    std::vector<FileKind> kinds(files.files.size(), files.kind);
+    std::vector<Conversion> conversions(files.files.size());
+    FileWork work;
+    work.work = [&](std::size_t i) {
+        conversions[i] = ConvertOne(files, files.files[i], kinds[i], convert, makeFront);
+    };
+    work.take = [&](std::size_t i) {
+        Conversion conversion = std::exchange(conversions[i], {});
         conversion.captions.title = TitleOf(files.files[i]);
         restyled.Add(Restyle(conversion, options.restyling));
-        gathering.Add(files.files[i], kind, std::move(conversion));
-    }
-    NameProgress("");
+        gathering.Add(files.files[i], kinds[i], std::move(conversion));
+    };
+    work.soFar = [&] { return Counted(gathering.SymbolCount(), "symbol"); };
+    WorkOnFiles(files.files, work);
     if (gathering.HasSymbols() &&
         !CheckCount(
             form, gathering.SymbolCount(),

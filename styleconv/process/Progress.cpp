@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <mutex>
 #include <optional>
+#include <thread>
 
 #if defined(_WIN32)
 #include <io.h>
@@ -23,12 +24,15 @@ constexpr std::chrono::milliseconds kInterval(100);
 struct Line {
     std::mutex mutex;
     bool allowed = false;
+    std::thread::id thread; // whose progress is shown
     std::string prefix;
     std::string stage;
     std::size_t item = 0;
     std::size_t total = 0;
     std::size_t shown = 0; // characters on the terminal now
     std::optional<Clock::time_point> next;
+
+    bool IsOfThisThread() const { return thread == std::this_thread::get_id(); }
 };
 
 Line& CurrentLine() {
@@ -78,18 +82,21 @@ void AllowProgress() {
     Line& line = CurrentLine();
     const std::lock_guard lock(line.mutex);
     line.allowed = IsTerminal(stderr);
+    line.thread = std::this_thread::get_id();
 }
 
 void NameProgress(std::string_view prefix) {
     Line& line = CurrentLine();
     const std::lock_guard lock(line.mutex);
-    line.prefix = prefix;
+    if (line.IsOfThisThread()) {
+        line.prefix = prefix;
+    }
 }
 
 void BeginStage(std::string_view stage, std::size_t total) {
     Line& line = CurrentLine();
     const std::lock_guard lock(line.mutex);
-    if (!line.allowed) {
+    if (!line.allowed || !line.IsOfThisThread()) {
         return;
     }
     line.stage = stage;
@@ -112,7 +119,7 @@ void BeginWriting(bool toStandardOutput, std::size_t total) {
 void StepStage() {
     Line& line = CurrentLine();
     const std::lock_guard lock(line.mutex);
-    if (!line.allowed) {
+    if (!line.allowed || !line.IsOfThisThread()) {
         return;
     }
     ++line.item;

@@ -8,7 +8,8 @@
 
 namespace styleconv {
 
-/// Shows progress from now on where standard error is a terminal; elsewhere, and before, nothing is shown.
+/// Shows progress of the calling thread from now on where standard error is a terminal; elsewhere, of other
+/// threads, and before, nothing is shown.
 void AllowProgress();
 
 /// Whether what is written there is shown on a terminal.
@@ -21,7 +22,7 @@ void BeginStage(std::string_view stage, std::size_t total = 0);
 /// The stage "Writing". A result that goes to a terminal has it for itself: progress ends there.
 void BeginWriting(bool toStandardOutput, std::size_t total);
 
-/// What stands before the stage from now on, as "File 3 of 200: "; nothing where it is empty.
+/// What stands before the stage from now on, as "File 3 of 200, gas.pat: "; nothing where it is empty.
 void NameProgress(std::string_view prefix);
 
 /// The stage has come to its next item.

@@ -7,8 +7,10 @@
 #include "styleconv/process/TemporaryFile.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <map>
 #include <new>
 
 namespace styleconv {
@@ -26,10 +28,34 @@ constexpr int kFailed = 1;
 
 constexpr double kBytesPerMebibyte = 1048576.0;
 
-struct Work {
-    std::mutex mutex;
+struct ThreadWork {
+    std::uint64_t begun = 0; // before those with larger numbers
     std::string file = "styleconv";
     std::string item;
+};
+
+struct Work {
+    std::mutex mutex;
+    std::uint64_t begun = 0;
+    std::map<std::thread::id, ThreadWork> threads; // that are at something
+
+    // The caller holds the mutex.
+    ThreadWork& OfThisThread() {
+        const auto [found, isNew] = threads.try_emplace(std::this_thread::get_id());
+        if (isNew) {
+            found->second.begun = ++begun;
+        }
+        return found->second;
+    }
+
+    ThreadWork Longest() {
+        const std::lock_guard lock(mutex);
+        const auto longest =
+            std::min_element(threads.begin(), threads.end(), [](const auto& one, const auto& other) {
+                return one.second.begun < other.second.begun;
+            });
+        return longest == threads.end() ? ThreadWork() : longest->second;
+    }
 };
 
 Work& CurrentWork() {
@@ -49,8 +75,7 @@ void EndProcess(const std::string& what) {
         return;
     }
     try {
-        Work& work = CurrentWork();
-        const std::lock_guard lock(work.mutex);
+        const ThreadWork work = CurrentWork().Longest();
         SayError(work.file, what, work.item);
     } catch (const std::bad_alloc&) {
         std::fputs("styleconv: not enough memory\n", stderr);
@@ -72,15 +97,22 @@ void EndInterrupted(int signal) {
 void NowAtFile(std::string_view file) {
     Work& work = CurrentWork();
     const std::lock_guard lock(work.mutex);
-    work.file = file;
-    work.item.clear();
+    ThreadWork& own = work.OfThisThread();
+    own.file = file;
+    own.item.clear();
 }
 
 void NowAtItem(std::string_view item) {
     StepStage();
     Work& work = CurrentWork();
     const std::lock_guard lock(work.mutex);
-    work.item = item;
+    work.OfThisThread().item = item;
+}
+
+void NowAtNoFile() {
+    Work& work = CurrentWork();
+    const std::lock_guard lock(work.mutex);
+    work.threads.erase(std::this_thread::get_id());
 }
 
 WorkLimits::WorkLimits(const LimitOptions& options)

@@ -18,10 +18,13 @@ struct LimitOptions {
     double memory = 4096.0;
 };
 
-/// What the command is at, for the message of a limit: a file's name and, in it, "shape 65" or "pattern
-/// BRICK" in words of messages. Each stays until it is set again; a new file is at no item.
+/// What the calling thread is at, for the message of a limit: a file's name and, in it, "shape 65" or
+/// "pattern BRICK" in words of messages. Each stays until it is set again; a new file is at no item. The
+/// message names what the thread is at that has been at its file, or at several of them, for the longest
+/// time.
 void NowAtFile(std::string_view file);
 void NowAtItem(std::string_view item);
+void NowAtNoFile();
 
 /// While an object of this class lives, the process ends with status 1 and a message soon after it has taken
 /// more time or more memory than it may, and as a signal asks soon after NoteInterruptions noted one.

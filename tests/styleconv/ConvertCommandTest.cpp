@@ -127,6 +127,41 @@ TEST_F(ConvertCommand, FilesOfFoldersAreChosenByPatterns) {
     EXPECT_EQ(RunTool({"convert", folder / "std", "--include", "*.PAT"}).status, 1);
 }
 
+// Files are worked on at once, of which some are in one encoding and some in another: a byte of one would be
+// another letter, or none, in the other.
+TEST_F(ConvertCommand, ManyFilesGiveTheirSymbolsInOrderEachInItsOwnEncoding) {
+    constexpr int kFirstFile = 100; // all numbers have the same length, by which they are sorted
+    constexpr int kLastFile = 299;
+    constexpr int kFirstPattern = 10;
+    constexpr int kLastPattern = 29;
+    Texts expected;
+    for (int file = kFirstFile; file <= kLastFile; ++file) {
+        const std::string letter = file % 2 == 0 ? "\xc3\x9c" : "\xdc";
+        std::string text;
+        for (int pattern = kFirstPattern; pattern <= kLastPattern; ++pattern) {
+            const std::string end = "N-" + std::to_string(file) + "-" + std::to_string(pattern);
+            text += "*GR" + letter + end + "\n0,0,0,0,1\n";
+            expected.push_back("GR\xc3\x9c" + end);
+        }
+        Write("all/" + std::to_string(file) + ".pat", text);
+    }
+    const ToolResult result = RunTool({"convert", folder / "all"});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    Texts names;
+    for (const std::string& name : ValuesOf(result.output, "name")) {
+        if (name.rfind("GR", 0) == 0) {
+            names.push_back(name);
+        }
+    }
+    EXPECT_EQ(names, expected);
+    const ToolResult listed = RunTool({"list", folder / "all", "--format", "names"});
+    std::string lines;
+    for (const std::string& name : expected) {
+        lines += name + "\n";
+    }
+    EXPECT_EQ(listed.output, lines);
+}
+
 TEST_F(ConvertCommand, NamesThatOccurTwiceAreKeptApartAndSaidOnce) {
     const std::string first = Write("a.pat", "*X\n0,0,0,0,1\n*Y\n0,0,0,0,1\n");
     const std::string second = Write("b.pat", "*X\n0,0,0,0,2\n*Y\n0,0,0,0,2\n");

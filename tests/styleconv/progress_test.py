@@ -19,13 +19,13 @@ class Progress(unittest.TestCase):
             for number in range(COUNT):
                 file.write(f"*P{number}\n0, 0,0, 0,1\n")
 
-    def command(self, *options):
-        return [tool, "patterns", self.patterns, "--format", "html", "-o", self.result, *options]
+    def command(self, *options, command="patterns"):
+        return [tool, command, self.patterns, "--format", "html", "-o", self.result, *options]
 
-    def on_terminal(self, *options):
+    def on_terminal(self, *options, command="patterns"):
         """What the tool writes to a terminal."""
         master, slave = pty.openpty()
-        with subprocess.Popen(self.command(*options), stderr=slave) as process:
+        with subprocess.Popen(self.command(*options, command=command), stderr=slave) as process:
             os.close(slave)
             written = b""
             try:
@@ -62,6 +62,17 @@ class Progress(unittest.TestCase):
                 column += 1
         self.assertEqual("".join(line).strip(), "")
         self.assertEqual(column, 0)
+
+    def test_a_terminal_sees_the_file_of_many_and_what_came_of_those_before(self):
+        folder = os.path.dirname(self.patterns)
+        os.remove(self.patterns)
+        for number in range(100, 140):
+            with open(os.path.join(folder, f"of-a-long-name-the-end-is-{number}.pat"), "w") as file:
+                file.write("".join(f"*Q{number}-{pattern}\n0, 0,0, 0,1\n" for pattern in range(30)))
+        self.patterns = folder
+        written = self.on_terminal(command="convert")
+        self.assertRegex(written, r"File \d+ of 40, \d+ symbols, …name-the-end-is-1\d\d.pat: ")
+        self.assertIn("Writing 1200 of 1200", written)
 
     def test_quiet_writes_nothing(self):
         self.assertEqual(self.on_terminal("--quiet"), "")
