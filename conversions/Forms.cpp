@@ -136,6 +136,13 @@ bool WriteSymbols(const SymbolList& symbols, Form form, const TextSink& sink, Fr
     case Form::kPng:
         break;
     }
+    if (styles != nullptr && styles->isBare) {
+        if (symbols.empty()) {
+            return false;
+        }
+        AtSymbol(*symbols.front(), front);
+        return WriteBarePicture(*symbols.front(), sink, captions, *styles);
+    }
     if (symbols.size() == 1) {
         AtSymbol(*symbols.front(), front);
         return sink(preview::SymbolSvg(*symbols.front()));

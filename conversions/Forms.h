@@ -43,14 +43,16 @@ struct StyleJob {
     bool hatchesInMillimetres = false;
     double scale = 1.0;
     bool allowsApproximate = false;
+    bool isBare = false; // a picture of one symbol has nothing around it, and its size in millimetres
+    double length = 0.0; // of the line along which a bare line symbol is drawn, in millimetres; 0: as usual
     bool isInGallery = false;             // a gallery holds styles for QGIS, which a reader takes out
     std::vector<StylePicture> pictures;   // what the style needs beside it is added here
     diagnostics::Diagnostics diagnostics; // what styles do not say of the symbols is added here
 };
 
 /// Writes symbols of that fidelity, which may be in the list more than once. Captions stand in galleries; a
-/// form that is a style takes a job. A form of one symbol takes the first; without one that is false. False
-/// when the sink refuses a text.
+/// form that is a style takes a job. A form of one symbol, as a bare picture is, takes the first; without one
+/// that is false. False when the sink refuses a text.
 bool WriteSymbols(const std::vector<TylModel::SymbolDefinition*>& symbols, Form form, const TextSink& sink,
                   Front& front, encoding::Fidelity fidelity = encoding::Fidelity::kStrict,
                   const Captions& captions = {}, StyleJob* styles = nullptr);

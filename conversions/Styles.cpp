@@ -3,6 +3,8 @@
 #include "StyleConversion/platform/Utf8.h"
 #include "conversions/StyleTags.h"
 #include "conversions/reading/Shown.h"
+#include "preview/ResolvedSymbol.h"
+#include "styles/BarePicture.h"
 #include "styles/Limits.h"
 #include "styles/Numbers.h"
 #include "styles/QgisLayerStyle.h"
@@ -88,6 +90,23 @@ void TellOfLosses(const styles::Losses& losses, const diagnostics::Place& place,
     }
 }
 
+// Empty where it is no reason.
+std::string WhyNoBarePicture(styles::Loss loss) {
+    const std::string side = styles::PlainNumber(styles::kLargestMillimetres) + " mm";
+    switch (loss) {
+    case styles::Loss::kNoCell:
+        return "no tile of at most " + side + " repeats it without a seam";
+    case styles::Loss::kTooLarge:
+        return "it is larger than " + side;
+    case styles::Loss::kTooDense:
+        return "it has more strokes than a picture can show";
+    case styles::Loss::kNoInk:
+        return "it draws nothing";
+    default:
+        return "";
+    }
+}
+
 } // namespace
 
 QgisStyles::QgisStyles(const TextSink& sink, const Captions& captions, StyleJob& job)
@@ -138,6 +157,20 @@ bool WriteLayerStyle(TylModel::SymbolDefinition& symbol, const TextSink& sink, c
     }
     TellOfLosses(losses, PlaceOf(symbol, captions, job), job);
     return true;
+}
+
+bool WriteBarePicture(TylModel::SymbolDefinition& symbol, const TextSink& sink, const Captions& captions,
+                      StyleJob& job) {
+    const styles::BarePicture picture = styles::DrawBare(preview::Resolve(symbol), job.scale, job.length);
+    const diagnostics::Place place = PlaceOf(symbol, captions, job);
+    for (const styles::Loss loss : picture.losses) {
+        if (const std::string why = WhyNoBarePicture(loss); !why.empty()) {
+            job.diagnostics.push_back({Severity::kError, Code::kNoBarePicture, place, {why}});
+        } else {
+            TellOfLosses({loss}, place, job);
+        }
+    }
+    return !picture.svg.empty() && sink(picture.svg) && sink("\n");
 }
 
 MaplibreStyles::MaplibreStyles(const TextSink& sink, const Captions& captions, StyleJob& job)

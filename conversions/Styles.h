@@ -50,6 +50,11 @@ private:
 bool WriteLayerStyle(TylModel::SymbolDefinition& symbol, const TextSink& sink, const Captions& captions,
                      StyleJob& job);
 
+/// Writes the symbol as styles::DrawBare does. What is left out, or why there is no picture, is added to the
+/// job. False when there is none, or the sink refuses the text.
+bool WriteBarePicture(TylModel::SymbolDefinition& symbol, const TextSink& sink, const Captions& captions,
+                      StyleJob& job);
+
 /// Writes the symbols that it is given to a style of MapLibre. The pictures that it shows are added to the
 /// job, and so is what it does not say of the symbols.
 class MaplibreStyles {

@@ -207,6 +207,7 @@ enum class Code : std::uint8_t {
     kStyleTooDense,
     kStyleNoInk,
     kStyleApproximate,
+    kNoBarePicture,
 };
 
 } // namespace diagnostics

@@ -390,11 +390,11 @@ constexpr auto kRows = std::to_array<Row>({
     {Code::kStyleTurningParts, "style-turning-parts",
      "the style keeps the angle at the default of its parameter", "", "", true},
     {Code::kStyleAreaText, "style-area-text",
-     "texts that repeat over an area are not part of the style", "", ""},
+     "texts that repeat over an area are left out", "", ""},
     {Code::kStyleAreaFill, "style-area-fill",
-     "filled shapes that repeat over an area are not part of the style", "", ""},
+     "filled shapes that repeat over an area are left out", "", ""},
     {Code::kStyleUnrepeated, "style-unrepeated",
-     "what does not repeat is not part of the style", "", ""},
+     "what does not repeat is left out", "", ""},
     {Code::kStyleTooManyMarks, "style-too-many-marks",
      "the style has only the first {0} dots and marks of a repeat", "", ""},
     {Code::kStyleUprightMarks, "style-upright-marks",
@@ -414,7 +414,9 @@ constexpr auto kRows = std::to_array<Row>({
     {Code::kStyleNoInk, "style-no-ink",
      "draws nothing; it is not part of the style", "", ""},
     {Code::kStyleApproximate, "style-approximate",
-     "repeats in the style with an error of {0} pixels", "", ""},});
+     "repeats in the style with an error of {0} pixels", "", ""},
+    {Code::kNoBarePicture, "no-bare-picture",
+     "there is no bare picture of it: {0}", "", ""},});
 // clang-format on
 
 constexpr bool RowsStandInTheOrderOfTheCodes() {

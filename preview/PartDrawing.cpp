@@ -34,8 +34,8 @@ void SetStroke(SvgWriter& svg, const PathPart& part, double scale, double thinne
                const PictureStyle& style) {
     SetPaint(svg, "stroke", *part.line, style);
     const double width = part.weight.value * scale;
-    svg.Set("stroke-width", std::max(thinnest, width));
-    if (!(width > thinnest)) {
+    svg.Set("stroke-width", style.exactPens ? width : std::max(thinnest, width));
+    if (!style.exactPens && !(width > thinnest)) {
         svg.Set("vector-effect", "non-scaling-stroke");
     }
     if (style.bindings && (part.weight.value > 0.0 || !part.weight.sum.terms.empty())) {

@@ -23,6 +23,8 @@ struct PictureStyle {
     bool trueSize = false;
     /// Pixels for each unit of the symbol; 0 for as many as show it well.
     double scale = 0;
+    /// Whether pens thinner than a screen can show are drawn as thin as they are.
+    bool exactPens = false;
     /// What of a point symbol's plane is in the middle, for pictures that lie one over the other; its own
     /// frame where there is none.
     std::optional<Box> frame;

@@ -1,116 +1,15 @@
 // One repeat of a line as a picture.
 #include "styles/Limits.h"
-#include "styles/LineParts.h"
+#include "styles/LineDrawing.h"
 #include "styles/MapPicture.h"
 #include "styles/MapPictureParts.h"
 #include "styles/UprightCell.h"
 
-#include <utility>
+#include <algorithm>
+#include <cmath>
 
 namespace styles {
 namespace {
-
-using preview::Point;
-
-// Bytes of a picture that can still be drawn in reasonable time.
-constexpr std::size_t kMostText = 8'000'000;
-
-double PeriodOf(const Dashes& dashes) {
-    double period = 0.0;
-    for (const double length : dashes.lengths) {
-        period += length;
-    }
-    return period;
-}
-
-class LineDrawing {
-public:
-    // Lengths are pixels; `scale` gives millimetres. `text` is what the writer appends to.
-    LineDrawing(double length, double middle, double scale, const std::string& text, preview::SvgWriter& svg)
-        : length_(length), middle_(middle), scale_(scale), unit_(scale * kPixelsPerMillimetre), text_(text),
-          svg_(svg) {}
-
-    bool IsTooDense() const { return isTooDense_; }
-
-    void Draw(const Dashes& dashes) {
-        std::string strokes;
-        const auto append = [&](double from, double to) {
-            strokes += "M" + PixelText(Point{from, middle_}) + "H" + PixelText(to);
-        };
-        const double period = PeriodOf(dashes) * kPixelsPerMillimetre;
-        if (dashes.lengths.empty()) {
-            append(-1, length_ + 1);
-        }
-        const double repeats = period > 0.0 ? std::ceil(length_ / period) + 1 : 0.0;
-        if (!Counts(repeats * static_cast<double>(dashes.lengths.size()))) {
-            return;
-        }
-        for (int repeat = 0; repeat < static_cast<int>(repeats); ++repeat) {
-            double at = repeat * period - dashes.phase * kPixelsPerMillimetre;
-            for (std::size_t i = 0; i + 1 < dashes.lengths.size(); i += 2) {
-                const double end = at + dashes.lengths[i] * kPixelsPerMillimetre;
-                append(at, end);
-                at = end + dashes.lengths[i + 1] * kPixelsPerMillimetre;
-            }
-        }
-        DrawInk(svg_, strokes, "", dashes.ink);
-    }
-
-    void Draw(const Dots& dots) {
-        std::string data;
-        ForEachPlace(dots.places, dots.ink.pen * kPixelsPerMillimetre, [&](double at) {
-            data += "M" + PixelText(Point{at, middle_}) + "h0.01";
-        });
-        DrawInk(svg_, "", data, dots.ink);
-    }
-
-    void Draw(const Mark& mark) {
-        const double reach = ReachOf(*mark.part, mark.anchor, scale_) * kPixelsPerMillimetre;
-        const preview::Part part = WithPen(*mark.part, scale_);
-        const preview::Placement placement{{-mark.anchor.x * unit_, mark.anchor.y * unit_}, unit_};
-        ForEachPlace(mark.places, reach, [&](double at) {
-            std::string place = "translate(" + PixelText(at) + " " + PixelText(middle_) + ")";
-            if (mark.angle != 0.0) {
-                place += " rotate(" + PlainNumber(0.0 - mark.angle) + ")";
-            }
-            if (text_.size() > kMostText) {
-                isTooDense_ = true;
-                return;
-            }
-            svg_.Open("g").Set("transform", place);
-            DrawPart(svg_, part, placement, {});
-            svg_.Close();
-        });
-    }
-
-private:
-    bool Counts(double strokes) {
-        isTooDense_ = isTooDense_ || !(strokes <= kMostPictureStrokes);
-        return !isTooDense_;
-    }
-
-    // The places in the picture, and so near to it that what stands there reaches into it.
-    template <class Visit>
-    void ForEachPlace(const Places& places, double reach, const Visit& visit) {
-        const double step = places.interval * kPixelsPerMillimetre;
-        const double offset = places.offset * kPixelsPerMillimetre;
-        const double first = std::ceil((-reach - offset) / step);
-        const double count = std::floor((length_ + reach - offset) / step) - first + 1;
-        if (Counts(count)) {
-            for (int i = 0; i < static_cast<int>(count); ++i) {
-                visit(offset + (first + i) * step);
-            }
-        }
-    }
-
-    double length_;
-    double middle_;
-    double scale_;
-    double unit_; // pixels
-    bool isTooDense_ = false;
-    const std::string& text_;
-    preview::SvgWriter& svg_;
-};
 
 struct Extent {
     std::vector<Repetition> repetitions; // pixels
@@ -175,9 +74,9 @@ MapPicture LinePicture(const preview::ResolvedSymbol& symbol, double scale) {
     preview::SvgWriter svg(picture.svg);
     OpenPicture(svg, picture.width, picture.height, length * whole.count, height);
     svg.Open("g").Set("transform", "matrix(1 0 0 -1 0 " + PixelText(height) + ")");
-    LineDrawing drawing(length * whole.count, height / 2, scale, picture.svg, svg);
+    LineDrawing drawing(length * whole.count, height / 2, scale, LineEnds::kGoOn, picture.svg, svg);
     for (const LinePart& part : line.parts) {
-        std::visit([&](const auto& drawn) { drawing.Draw(drawn); }, part);
+        drawing.Draw(part);
     }
     svg.Close().Close();
     if (drawing.IsTooDense()) {

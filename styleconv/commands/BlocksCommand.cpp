@@ -108,6 +108,7 @@ void AddBlocksCommand(CommandLine& line) {
     AddStyleScaleOption(command, *options);
     AddRestylingOptions(command, *options);
     AddStrictSymbolsOption(command, *options);
+    AddBareOption(command, *options);
     AddWithStyleOption(command, *options);
 }
 

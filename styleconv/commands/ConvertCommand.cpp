@@ -187,6 +187,8 @@ void AddConvertCommand(CommandLine& line) {
     AddStyleScaleOption(command, *options);
     AddStrictSymbolsOption(command, *options);
     AddApproximateOption(command, *options);
+    AddBareOption(command, *options);
+    AddLengthOption(command, *options);
     AddWithStyleOption(command, *options);
 }
 

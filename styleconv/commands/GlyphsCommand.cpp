@@ -63,7 +63,7 @@ ExitStatus Glyphs(const GlyphsOptions& options) {
     if (!glyphs.isConverted) {
         return SayFailure(file, options.tolerant, glyphs.diagnostics);
     }
-    if (!CheckCount(*form, glyphs.positions.size(), "choose one with --number")) {
+    if (!CheckCount(options, *form, glyphs.positions.size(), "choose one with --number")) {
         return kUsageFault;
     }
     SayAll(glyphs.diagnostics);
@@ -91,6 +91,7 @@ void AddGlyphsCommand(CommandLine& line) {
     AddTolerantOption(command, options->tolerant);
     AddCodePageOption(command, options->codePage);
     AddAllOrNothingOption(command, options->allOrNothing);
+    AddBareOption(command, *options);
     AddWithStyleOption(command, *options);
     AddCommonOptions(command, *options);
 }

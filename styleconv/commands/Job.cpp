@@ -101,12 +101,22 @@ bool CheckStyleForm(const CommonOptions& options, conversions::Form form, bool f
         SayLine("styleconv: --format png: " + WhyNoRasteriser());
         return false;
     }
-    const char* const ofStyles = style.strictSymbols  ? "--strict-symbols"
-                                 : style.scale != 1.0 ? "--scale"
-                                                      : nullptr;
+    const bool isPicture = form == conversions::Form::kSvg || form == conversions::Form::kPng;
+    if (style.isBare && !isPicture) {
+        SayLine("styleconv: --bare can only be used with --format svg or png");
+        return false;
+    }
+    if (style.length > 0.0 && !style.isBare) {
+        SayLine("styleconv: --length can only be used with --bare");
+        return false;
+    }
+    const char* const ofStyles = style.strictSymbols                   ? "--strict-symbols"
+                                 : style.scale != 1.0 && !style.isBare ? "--scale"
+                                                                       : nullptr;
     if (ofStyles != nullptr && !IsStyle(form) && style.inGallery.empty()) {
         SayLine("styleconv: " + std::string(ofStyles) +
-                " can only be used with --format qgis, qml or maplibre");
+                (style.strictSymbols ? " can only be used with --format qgis, qml or maplibre"
+                                     : " can only be used with --bare or --format qgis, qml or maplibre"));
         return false;
     }
     const bool isOfQgis = form == conversions::Form::kQgis || form == conversions::Form::kQml;
@@ -260,12 +270,14 @@ ExitStatus WriteResult(const std::string& output,
                                                                                            : kInputFault;
 }
 
-bool CheckCount(conversions::Form form, std::size_t symbols, std::string_view advice) {
-    if (form != conversions::Form::kQml || symbols == 1) {
+bool CheckCount(const CommonOptions& options, conversions::Form form, std::size_t symbols,
+                std::string_view advice) {
+    if ((form != conversions::Form::kQml && !options.style.isBare) || symbols == 1) {
         return true;
     }
-    SayLine("styleconv: --format qml is the style of one symbol, and there are " + std::to_string(symbols) +
-            ": " + std::string(advice));
+    SayLine(std::string("styleconv: ") +
+            (options.style.isBare ? "--bare is the picture" : "--format qml is the style") +
+            " of one symbol, and there are " + std::to_string(symbols) + ": " + std::string(advice));
     return false;
 }
 
@@ -295,7 +307,7 @@ ExitStatus Finish(conversions::Conversion conversion, const std::string& file, b
     if (!conversion.isConverted) {
         return SayFailure(file, isTolerant, conversion.diagnostics);
     }
-    if (!CheckCount(form, conversion.symbols.size(), "choose one with --name")) {
+    if (!CheckCount(options, form, conversion.symbols.size(), "choose one with --name")) {
         return kUsageFault;
     }
     SayAll(conversion.diagnostics);
@@ -316,6 +328,8 @@ ExitStatus WriteForm(
     styles.file = file == "-" ? "standard input" : file;
     styles.hatchesInMillimetres = options.style.hatchUnits == "mm";
     styles.scale = options.style.scale;
+    styles.isBare = options.style.isBare;
+    styles.length = options.style.length;
     styles.allowsApproximate = options.style.allowsApproximate;
     styles.isInGallery = !options.style.inGallery.empty();
     const auto writeResult = [&](const conversions::TextSink& sink) { return write(sink, styles); };

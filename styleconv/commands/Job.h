@@ -45,8 +45,9 @@ bool CheckEncoding(const std::string& encoding);
 ExitStatus WriteResult(const std::string& output,
                        const std::function<bool(const conversions::TextSink& sink)>& write);
 
-/// False, with a message that ends with the advice, when the form is of one symbol and there are others.
-bool CheckCount(conversions::Form form, std::size_t symbols, std::string_view advice);
+/// False, with a message that ends with the advice, when the result is of one symbol and there are others.
+bool CheckCount(const CommonOptions& options, conversions::Form form, std::size_t symbols,
+                std::string_view advice);
 
 /// What a page of symbols of that file is called.
 std::string TitleOf(const std::string& file);

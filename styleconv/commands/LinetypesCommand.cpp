@@ -102,6 +102,8 @@ void AddLinetypesCommand(CommandLine& line) {
     AddCommonOptions(command, *options);
     AddRestylingOptions(command, *options);
     AddStrictSymbolsOption(command, *options);
+    AddBareOption(command, *options);
+    AddLengthOption(command, *options);
     AddWithStyleOption(command, *options);
 }
 

@@ -205,7 +205,7 @@ ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert,
     WorkOnFiles(files.files, work);
     if (gathering.HasSymbols() &&
         !CheckCount(
-            form, gathering.SymbolCount(),
+            options, form, gathering.SymbolCount(),
             "convert one file by linetypes, patterns or blocks with --name, or by glyphs with --number")) {
         return kUsageFault;
     }

@@ -162,6 +162,18 @@ void AddStrictSymbolsOption(Command& command, CommonOptions& options) {
                     "--faithful draws it");
 }
 
+void AddBareOption(Command& command, CommonOptions& options) {
+    command.AddFlag("--bare", options.style.isBare,
+                    "With --format svg or png: draw one symbol without anything around it, in millimetres; a "
+                    "hatch is a tile that repeats");
+}
+
+void AddLengthOption(Command& command, CommonOptions& options) {
+    AddScaleOption(command, "--length", options.style.length,
+                   "With --bare: draw a line symbol along a line of so many millimetres (default: whole "
+                   "repeats, up to 100)");
+}
+
 void AddApproximateOption(Command& command, CommonOptions& options) {
     command.AddFlag("--allow-approximate", options.style.allowsApproximate,
                     "With --format maplibre: take hatches that no picture repeats without a seam, too");
@@ -178,8 +190,9 @@ void AddHatchUnitsOption(Command& command, CommonOptions& options) {
 }
 
 void AddStyleScaleOption(Command& command, CommonOptions& options) {
-    AddScaleOption(command, "--scale", options.style.scale,
-                   "With --format qgis, qml or maplibre: multiply all lengths by this (default: 1)");
+    AddScaleOption(
+        command, "--scale", options.style.scale,
+        "With --bare, or --format qgis, qml or maplibre: multiply all lengths by this (default: 1)");
 }
 
 void AddRestylingOptions(Command& command, CommonOptions& options) {

@@ -52,6 +52,8 @@ struct StyleFormOptions {
     std::string hatchUnits = "map";
     double scale = 1.0;
     bool allowsApproximate = false; // of areas in styles that repeat pictures
+    bool isBare = false;            // a picture of one symbol has nothing around it
+    double length = 0.0;            // of the line of a bare picture, in millimetres; 0 where it is not given
     std::string inGallery;          // the style that a gallery holds for its readers; empty for none
 };
 
@@ -90,6 +92,10 @@ void AddFaithfulOption(Command& command, bool& faithful);
 void AddStrictSymbolsOption(Command& command, CommonOptions& options);
 /// Adds --hatch-units to a command that converts patterns.
 void AddHatchUnitsOption(Command& command, CommonOptions& options);
+/// Adds --bare to a converting command.
+void AddBareOption(Command& command, CommonOptions& options);
+/// Adds --length to a command that converts linetypes.
+void AddLengthOption(Command& command, CommonOptions& options);
 /// Adds --allow-approximate to a command that converts areas.
 void AddApproximateOption(Command& command, CommonOptions& options);
 /// Adds --with-style to a command that writes galleries.

@@ -92,6 +92,7 @@ void AddPatternsCommand(CommandLine& line) {
     AddStyleScaleOption(command, *options);
     AddRestylingOptions(command, *options);
     AddStrictSymbolsOption(command, *options);
+    AddBareOption(command, *options);
     AddWithStyleOption(command, *options);
     AddApproximateOption(command, *options);
 }

@@ -259,4 +259,62 @@ TEST(PictureFormats, LettersOfAFontAreShownAtOneScale) {
     EXPECT_EQ(Count(low, "<path"), 2U) << low;
 }
 
+// Each in millimetres: lines across 100 mm of which a repeat of 2 goes into whole ones, a tile of one line
+// every eighth, a ring of 4 mm and a bar of 8, which have pens of 0.3.
+TEST(PictureFormats, BareIsOneSymbolWithNothingAroundIt) {
+    const ScratchFolder folder;
+    const std::vector<Kind> kinds = Kinds(folder);
+    const std::vector<std::string> sizes = {R"(height="0.125mm")", R"(width="100mm" height="0.3mm")",
+                                            R"(width="4.3mm" height="4.3mm")",
+                                            R"(width="0.3mm" height="8.3mm")"};
+    for (std::size_t i = 0; i < kinds.size(); ++i) {
+        std::vector<std::string> arguments = kinds[i].arguments;
+        arguments.insert(arguments.end(), {"--bare", "--format", "svg"});
+        const ToolResult several = RunTool(arguments);
+        EXPECT_EQ(several.status, 2);
+        EXPECT_EQ(several.errors,
+                  "styleconv: --bare is the picture of one symbol, and there are 2: choose one with " +
+                      kinds[i].first.front() + "\n");
+        arguments.insert(arguments.end(), kinds[i].first.begin(), kinds[i].first.end());
+        const ToolResult result = RunTool(arguments);
+        EXPECT_EQ(result.status, 0) << result.errors;
+        EXPECT_TRUE(Has(result.output, sizes[i])) << result.output;
+        EXPECT_FALSE(Has(result.output, "<text")) << "no caption: " << result.output;
+        EXPECT_TRUE(result.output.ends_with("</svg>\n"));
+        arguments[arguments.size() - 3] = "html";
+        const ToolResult page = RunTool(arguments);
+        EXPECT_EQ(page.status, 2);
+        EXPECT_EQ(page.errors, "styleconv: --bare can only be used with --format svg or png\n");
+    }
+}
+
+TEST(PictureFormats, BareTakesLengthScaleAndWeight) {
+    const ScratchFolder folder;
+    const std::string lines = folder.Write("a.lin", "*DASHED,Dashes\nA,1,-1\n");
+    const ToolResult line = RunTool({"linetypes", lines, "--bare", "--format", "svg", "--length", "25.4",
+                                     "--scale", "10", "--weight", "0.5"});
+    EXPECT_TRUE(Has(line.output, R"(width="25.4mm" height="0.5mm" viewBox="0 0 96 )")) << line.output;
+    EXPECT_TRUE(Has(line.output, "M0,0.945H37.795M75.591,0.945H96\"")) << line.output; // 0 to 10, 20 to 25.4
+    const std::string drawing = folder.Write("a.json", kRodAndRing);
+    const ToolResult ring = RunTool({"convert", drawing, "--bare", "--format", "svg"});
+    EXPECT_EQ(ring.status, 2);
+    const ToolResult scaled =
+        RunTool({"blocks", drawing, "--name", "RING", "--bare", "--format", "svg", "--scale", "2"});
+    EXPECT_TRUE(Has(scaled.output, R"(width="8.3mm" height="8.3mm")")) << scaled.output;
+    const ToolResult alone = RunTool({"linetypes", lines, "--format", "svg", "--length", "25"});
+    EXPECT_EQ(alone.status, 2);
+    EXPECT_EQ(alone.errors, "styleconv: --length can only be used with --bare\n");
+}
+
+// A drawing of nothing has no box.
+TEST(PictureFormats, WhatHasNoBarePictureIsSaidAndNothingIsWritten) {
+    const ScratchFolder folder;
+    const std::string pattern = folder.Write("a.pat", "*FINE\n45,0,0,0,.00001,.00001,-.00002\n");
+    const std::string output = folder / "fine.svg";
+    const ToolResult result = RunTool({"patterns", pattern, "--bare", "-o", output});
+    EXPECT_EQ(result.status, 1) << result.output;
+    EXPECT_TRUE(Has(result.errors, "a.pat: error: there is no bare picture of it: ")) << result.errors;
+    EXPECT_FALSE(std::filesystem::exists(output));
+}
+
 } // namespace

@@ -345,7 +345,7 @@ TEST(StyleFormats, OptionsOfStylesAreForStyles) {
     const ScratchFolder folder;
     const std::string file = folder.Write("a.pat", "*LEVEL\n0, 0,0, 0,.125\n");
     for (const std::vector<std::string>& option :
-         std::vector<std::vector<std::string>>{{"--scale", "2", "qgis, qml or maplibre"},
+         std::vector<std::vector<std::string>>{{"--scale", "2", "--bare or --format qgis, qml or maplibre"},
                                                {"--strict-symbols", "qgis, qml or maplibre"},
                                                {"--hatch-units", "mm", "qgis or qml"},
                                                {"--allow-approximate", "maplibre"}}) {
@@ -353,8 +353,9 @@ TEST(StyleFormats, OptionsOfStylesAreForStyles) {
         arguments.insert(arguments.end(), option.begin(), option.end() - 1);
         const ToolResult result = RunTool(arguments);
         EXPECT_EQ(result.status, 2);
+        const std::string with = option.front() == "--scale" ? "" : "--format ";
         EXPECT_EQ(result.errors,
-                  "styleconv: " + option.front() + " can only be used with --format " + option.back() + "\n");
+                  "styleconv: " + option.front() + " can only be used with " + with + option.back() + "\n");
     }
     const ToolResult result = RunQgis({"patterns", file}, {"--faithful", "--strict-symbols"});
     EXPECT_EQ(result.status, 2);
