@@ -55,6 +55,7 @@ namespace {
 // A side of a picture, which the library's own images end at, and all its pixels, of four bytes each.
 constexpr double kLongestSide = 32'767;
 constexpr double kMostPixels = 100'000'000;
+constexpr double kPixelsPerInch = 96; // as style sheets have them
 
 // The libraries' own types and numbers, as their binary interface has them.
 struct RsvgHandle;
@@ -82,6 +83,7 @@ bool Find(void* library, const char* name, Function*& function) {
 // What is called of the libraries. They stay loaded until the process ends.
 struct Rasteriser {
     RsvgHandle* (*newFromData)(const unsigned char* data, std::size_t size, GlibError** error);
+    void (*setDpi)(RsvgHandle* handle, double dpi);
     int (*sizeInPixels)(RsvgHandle* handle, double* width, double* height);
     int (*render)(RsvgHandle* handle, CairoContext* context, const RsvgRectangle* place, GlibError** error);
     void (*unref)(void* object);
@@ -107,6 +109,7 @@ struct Rasteriser {
         void* const glib = dlopen("libglib-2.0.so.0", RTLD_NOW | RTLD_LOCAL);
         isThere =
             Find(rsvg, "rsvg_handle_new_from_data", newFromData) &&
+            Find(rsvg, "rsvg_handle_set_dpi", setDpi) &&
             Find(rsvg, "rsvg_handle_get_intrinsic_size_in_pixels", sizeInPixels) &&
             Find(rsvg, "rsvg_handle_render_document", render) && Find(gobject, "g_object_unref", unref) &&
             Find(glib, "g_error_free", freeError) && Find(cairo, "cairo_image_surface_create", newSurface) &&
@@ -144,6 +147,8 @@ Document Load(std::string_view svg, std::string& problem) {
         TheRasteriser().unref);
     if (!document) {
         problem = TakeMessage(error);
+    } else {
+        TheRasteriser().setDpi(document.get(), kPixelsPerInch);
     }
     return document;
 }

@@ -145,6 +145,25 @@ class Pictures(unittest.TestCase):
         self.assertGreater(len(measured), 15)
         self.assertLess(max(measured)[0], 0.001, max(measured))
 
+    def test_bare_pictures_have_their_true_size(self):
+        for command, file, *options in (
+            ("patterns", "patterns/herringbone.pat", "--scale", "25.4"),
+            ("linetypes", "linetypes/simple.lin", "--name", "TRACK", "--scale", "5", "--length", "50.8"),
+            ("blocks", "drawings/utility-symbols.json", "--name", "DUCT"),
+            ("glyphs", "shapes/single-stroke.shx", "--number", "65"),
+        ):
+            with self.subTest(file):
+                options = [command, os.path.join(examples, file), *options, "--bare"]
+                svg = run(*options, "--format", "svg").stdout
+                size = [float(side) * 96 / 25.4 for side in re.search(r' width="(.+?)mm" height="(.+?)mm"', svg).groups()]
+                picture = Image.open(io.BytesIO(run(*options, "--format", "png", text=False).stdout))
+                for pixels, side in zip(picture.size, size):
+                    self.assertLessEqual(abs(pixels - side), 1)
+                self.assertGreater(sum(value > 0 for value in ink(picture).getdata()), 50)
+                shown = self.browsers(svg)
+                both = (0, 0, *map(min, picture.size, shown.size))
+                self.assertLess(off(picture.crop(both), shown.crop(both)), 0.01)
+
     def test_png_is_written_to_standard_output_too(self):
         made = run("patterns", os.path.join(examples, "patterns", "brick.pat"), "--format", "png", text=False)
         self.assertEqual(made.returncode, 0, made.stderr)
