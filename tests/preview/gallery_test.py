@@ -556,6 +556,56 @@ class Gallery(unittest.TestCase):
         self.open("folders")
         self.assertEqual(browser.execute_script(offered), ["none", "kind", "file", "folder"])
 
+    def offered_tags(self):
+        options = "return [...document.getElementById('tag').options].slice(1).map((option) => option.text)"
+        return browser.execute_script(options)
+
+    def test_tags_are_folders_and_files_with_their_counts(self):
+        self.open("folders")
+        self.assertEqual(self.offered_tags(), ["a (2)", "b (2)", "c (1)", "roads (2)", "water (3)"])
+        self.assertEqual(len(self.texts("#symbols .name")), 5)
+        for tag, count in (("roads", 2), ("c", 1), ("water", 3)):
+            self.choose("#tag", tag)
+            self.assertEqual(len(self.texts("#symbols .name")), count)
+        self.assertEqual(self.find("#count").text, "3 of 5 symbols")
+        self.assertEqual(self.address(), "#?tag=water")
+
+    def test_what_loses_something_has_a_tag_that_a_search_finds_too(self):
+        self.open("compared")
+        self.assertEqual(self.offered_tags(), ["differs from the drawing (2)"])
+        self.choose("#tag", "differs from the drawing")
+        marked = self.texts("#symbols .name")
+        self.assertEqual(len(marked), 2)
+        self.assertNotIn("RIGHT", marked)
+        self.choose("#tag", "")
+        self.enter(self.find("#search"), "differs drawing")
+        self.assertEqual(self.texts("#symbols .name"), marked)
+
+    def test_tags_that_tell_no_symbols_apart_are_not_offered(self):
+        self.open("typical")
+        self.assertEqual(self.offered_tags(), [])
+        self.menu("View")
+        self.assertTrue(self.find("#kind").is_displayed())
+        self.assertFalse(self.find("#tag").is_displayed())
+
+    def test_the_large_view_leads_to_all_with_a_tag(self):
+        self.open("folders")
+        self.find(".picture").click()
+        self.assertEqual(self.texts("#closeup-tags .tag"), ["a", "roads"])
+        button = self.find("#closeup-tags .tag:nth-child(2)")
+        self.assertEqual(button.get_attribute("title"), "Show all with this tag: roads (2)")
+        button.click()
+        self.assertFalse(self.find("#closeup").is_displayed())
+        self.assertEqual(len(self.texts("#symbols .name")), 2)
+        self.assertEqual(self.address(), "#?tag=roads")
+        browser.get("about:blank")
+        browser.get(pathlib.Path(samples, "folders.html").as_uri() + "#?tag=roads")
+        self.wait(lambda: len(self.texts("#symbols .name")) == 2)
+        self.assertEqual(self.find("#tag").get_attribute("value"), "roads")
+        browser.get("about:blank")
+        browser.get(pathlib.Path(samples, "folders.html").as_uri() + "#?tag=nowhere")
+        self.wait(lambda: len(self.texts("#symbols .name")) == 5)
+
     def test_cards_stand_in_the_order_that_is_chosen(self):
         self.open("typical")
         for order, names in (

@@ -14,14 +14,10 @@ namespace {
 using namespace styles;
 using styles_test::AreaSymbol;
 using styles_test::LineSymbol;
+using styles_test::PointSymbol;
 using support::Has;
 
 constexpr double kPixels = 96 / 25.4; // of a millimetre
-
-preview::ResolvedSymbol PointOf(const std::wstring& geometry) {
-    const auto symbol = preview_test::PointSymbol(L"POINT", geometry);
-    return preview::Resolve(*symbol);
-}
 
 std::size_t CountOf(const std::string& text, const std::string& sought) {
     std::size_t count = 0;
@@ -78,13 +74,13 @@ TEST(BarePicture, OfAnAreaIsAPatternOfTheTilesOwnSize) {
     EXPECT_TRUE(Has(scaled.svg, "stroke-width=\"1.134\"")) << "pens are not scaled: " << scaled.svg;
 }
 
-struct Stroke {
+struct DrawnStroke {
     double x1, y1, x2, y2;
 };
 
-std::vector<Stroke> StrokesOf(const std::string& svg) {
+std::vector<DrawnStroke> StrokesOf(const std::string& svg) {
     static const std::regex stroke("M(-?[0-9.]+),(-?[0-9.]+)L(-?[0-9.]+),(-?[0-9.]+)");
-    std::vector<Stroke> strokes;
+    std::vector<DrawnStroke> strokes;
     for (auto found = std::sregex_iterator(svg.begin(), svg.end(), stroke); found != std::sregex_iterator();
          ++found) {
         strokes.push_back(
@@ -94,9 +90,9 @@ std::vector<Stroke> StrokesOf(const std::string& svg) {
 }
 
 // Where strokes cross the upright line at `x`, from the top to the bottom of the tile.
-std::vector<double> CrossingsOf(const std::vector<Stroke>& strokes, double x, double height) {
+std::vector<double> CrossingsOf(const std::vector<DrawnStroke>& strokes, double x, double height) {
     std::vector<double> crossings;
-    for (const Stroke& stroke : strokes) {
+    for (const DrawnStroke& stroke : strokes) {
         const double along = (x - stroke.x1) / (stroke.x2 - stroke.x1);
         const double y = stroke.y1 + along * (stroke.y2 - stroke.y1);
         if (along > 0.0 && along < 1.0 && y > 0.0 && y < height) {
@@ -114,7 +110,7 @@ TEST(BarePicture, OfATiltedAreaMeetsAtTheEdgesOfItsTile) {
     const BarePicture picture =
         DrawBare(AreaSymbol(L"M .1,.2 L 1.9,.7 M 1,1.5 L 2.5,1.2", L"3", L"2", L"45"), 1.0, 0.0);
     EXPECT_TRUE(Has(picture.svg, R"(width="8.48528)")) << picture.svg;
-    const std::vector<Stroke> strokes = StrokesOf(picture.svg);
+    const std::vector<DrawnStroke> strokes = StrokesOf(picture.svg);
     ASSERT_GE(strokes.size(), 24U); // 12 of each in a tile, some of them at several edges
     const std::vector<double> left = CrossingsOf(strokes, 0.0, side);
     const std::vector<double> right = CrossingsOf(strokes, side, side);
@@ -134,11 +130,11 @@ TEST(BarePicture, OfAnAreaThatNoTileRepeatsIsNone) {
 
 // The box around the ink: half of the pen of 0.3 around a stroke of 2 by 4.
 TEST(BarePicture, OfAPointIsTheBoxAroundItsInk) {
-    const BarePicture picture = DrawBare(PointOf(L"M 11,1 L 13,5"), 1.0, 0.0);
+    const BarePicture picture = DrawBare(PointSymbol(L"M 11,1 L 13,5"), 1.0, 0.0);
     EXPECT_TRUE(Has(picture.svg, R"(width="2.3mm" height="4.3mm")")) << picture.svg;
     // The insertion point is 10.85 mm to the left and 0.85 below.
     EXPECT_TRUE(Has(picture.svg, "translate(-41.008 19.465)")) << picture.svg;
-    const BarePicture scaled = DrawBare(PointOf(L"M 11,1 L 13,5"), 3.0, 0.0);
+    const BarePicture scaled = DrawBare(PointSymbol(L"M 11,1 L 13,5"), 3.0, 0.0);
     EXPECT_TRUE(Has(scaled.svg, R"(width="6.3mm" height="12.3mm")")) << scaled.svg;
 }
 
@@ -152,7 +148,7 @@ TEST(BarePicture, DrawsPensThinnerThanAScreenShows) {
 }
 
 TEST(BarePicture, OfWhatDrawsNothingIsNone) {
-    for (const auto& symbol : {LineSymbol(L"", L"4"), AreaSymbol(L"", L"4", L"4"), PointOf(L"")}) {
+    for (const auto& symbol : {LineSymbol(L"", L"4"), AreaSymbol(L"", L"4", L"4"), PointSymbol(L"")}) {
         const BarePicture picture = DrawBare(symbol, 1.0, 0.0);
         EXPECT_TRUE(picture.svg.empty());
         EXPECT_EQ(picture.losses, Losses{Loss::kNoInk});
@@ -160,7 +156,7 @@ TEST(BarePicture, OfWhatDrawsNothingIsNone) {
 }
 
 TEST(BarePicture, TooLargeOrTooDenseIsNone) {
-    EXPECT_EQ(DrawBare(PointOf(L"M 0,0 L 2000000,1"), 1.0, 0.0).losses, Losses{Loss::kTooLarge});
+    EXPECT_EQ(DrawBare(PointSymbol(L"M 0,0 L 2000000,1"), 1.0, 0.0).losses, Losses{Loss::kTooLarge});
     EXPECT_EQ(DrawBare(LineSymbol(L"M 0,0 h 3", L"4"), 1.0, 2e6).losses, Losses{Loss::kTooLarge});
     EXPECT_EQ(DrawBare(LineSymbol(L"M 0,0 h .001", L".002"), 1.0, 1000).losses, Losses{Loss::kTooDense});
 }

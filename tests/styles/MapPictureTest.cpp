@@ -9,15 +9,11 @@ namespace {
 using namespace styles;
 using styles_test::AreaSymbol;
 using styles_test::LineSymbol;
+using styles_test::PointSymbol;
 using support::Has;
 
 // So that a unit is 10 pixels.
 constexpr double kTenPixels = 10 / (96 / 25.4);
-
-preview::ResolvedSymbol PointOf(const std::wstring& geometry) {
-    const auto symbol = preview_test::PointSymbol(L"POINT", geometry);
-    return preview::Resolve(*symbol);
-}
 
 TEST(MapPicture, OfAnAreaIsOneCellOfWholePixels) {
     const MapPicture picture = AreaPicture(AreaSymbol(L"M 1,1 L 2,3", L"4", L"5"), kTenPixels, false);
@@ -82,7 +78,7 @@ TEST(MapPicture, OfALineWithALongRepeatIsNone) {
 }
 
 TEST(MapPicture, OfAPointHasItsInsertionPointInTheMiddle) {
-    const MapPicture picture = PointPicture(PointOf(L"M 0,0 L 2,0"), kTenPixels);
+    const MapPicture picture = PointPicture(PointSymbol(L"M 0,0 L 2,0"), kTenPixels);
     EXPECT_EQ(picture.width, picture.height);
     EXPECT_GE(picture.width, 40);
     const std::string middle = std::to_string(picture.width / 2);
@@ -90,7 +86,7 @@ TEST(MapPicture, OfAPointHasItsInsertionPointInTheMiddle) {
 }
 
 TEST(MapPicture, OfALargePointIsNone) {
-    const MapPicture picture = PointPicture(PointOf(L"M 0,0 L 200,0"), 1.0);
+    const MapPicture picture = PointPicture(PointSymbol(L"M 0,0 L 200,0"), 1.0);
     EXPECT_TRUE(picture.svg.empty());
     EXPECT_EQ(picture.losses, Losses{Loss::kTooLarge});
 }

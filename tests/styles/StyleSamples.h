@@ -21,4 +21,9 @@ inline preview::ResolvedSymbol AreaSymbol(const std::wstring& geometry, const st
     return preview::Resolve(*symbol);
 }
 
+inline preview::ResolvedSymbol PointSymbol(const std::wstring& geometry) {
+    const auto symbol = preview_test::PointSymbol(L"POINT", geometry);
+    return preview::Resolve(*symbol);
+}
+
 } // namespace styles_test
