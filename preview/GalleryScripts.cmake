@@ -10,6 +10,7 @@ set(gallery_scripts
   closeup.js
   drawing.js
   arrangement.js
+  tags.js
   taking.js
   sample.js
   link.js

@@ -76,7 +76,7 @@ const arrangement = {
   shown: symbols, // in the order of the page
   columns: 0,
 
-  // Shows the symbols that have all words of the search, in order, below their headings. What is equal stays in
+  // Shows the symbols that have all words of the search, the kind and the tag, in order, below their headings. What is equal stays in
   // the order of the file.
   arrange() {
     const words = search.value.toLocaleLowerCase().split(/\s+/).filter(Boolean);
@@ -84,6 +84,7 @@ const arrangement = {
     const found = symbols
       .filter((symbol) => words.every((word) => symbol.words.includes(word)))
       .filter((symbol) => kind.value === "" || symbol.kind === kind.value)
+      .filter((symbol) => tag.value === "" || symbol.tags.has(tag.value))
       .sort((one, other) => order(one, other) || one.place - other.place);
     const groups = new Map();
     for (const symbol of found) {

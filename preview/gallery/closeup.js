@@ -21,6 +21,7 @@ const closeup = {
       symbol.textOf(".detail"),
       symbol.textOf(".loss"),
     ].filter(Boolean).join(" · ");
+    document.getElementById("closeup-tags").replaceChildren(...tagButtons(symbol));
     this.zoom.min = smallestZoomOf(symbol);
     this.zoom.value = kWholePicture;
     this.compare.hidden = symbol.data.faithful === undefined;

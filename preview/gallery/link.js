@@ -1,7 +1,7 @@
 // The page's address keeps what the reader did: "#NAME" opens a symbol, and behind a "?" stand the values that
 // were changed, for all symbols ("color=…", "weight=…", "angle=…", "text=…") and for single ones
 // ("set=NAME/IDENTIFIER/VALUE", each written as in an address), the line of text that was typed ("sample=…"), and what
-// is shown in which order ("search=…", "kind=…", "group=…", "sort=…").
+// is shown in which order ("search=…", "kind=…", "tag=…", "group=…", "sort=…").
 
 const kQuantityNames = ["color", "weight", "angle", "text"];
 
@@ -9,6 +9,7 @@ const kQuantityNames = ["color", "weight", "angle", "text"];
 const kArranging = [
   [search, ""],
   [kind, ""],
+  [tag, ""],
   [groupBy, "none"],
   [sortBy, "place"],
 ];
@@ -131,5 +132,5 @@ function decoded(text) {
 }
 
 search.addEventListener("input", () => link.keep());
-[kind, groupBy, sortBy].forEach((control) => control.addEventListener("change", () => link.keep()));
+[kind, tag, groupBy, sortBy].forEach((control) => control.addEventListener("change", () => link.keep()));
 window.addEventListener("hashchange", () => link.read());
