@@ -178,8 +178,9 @@ bool WritePictures(const ChosenGlyphs& glyphs, const GlyphsOptions& options, For
 } // namespace
 
 ChosenGlyphs ChooseGlyphs(const Input& input, const GlyphsOptions& options, Front& front) {
-    UseEncoding(input);
     ChosenGlyphs glyphs;
+    glyphs.encoding = EncodingOf(input);
+    const platform::ThreadCodePage page(glyphs.encoding);
     glyphs.isConverted = Load(input, options.tolerant, glyphs.file, glyphs.diagnostics) &&
                          Choose(input, options, glyphs) &&
                          (!options.tolerant || KeepDrawn(input, options, glyphs, front));
@@ -199,6 +200,7 @@ Conversion ConvertGlyphs(const Input& input, const GlyphsOptions& options, Front
     if (!result.isConverted) {
         return result;
     }
+    const platform::ThreadCodePage page(glyphs.encoding);
     for (auto& symbol : DrawnSymbols(glyphs, options, front, result.captions)) {
         diagnostics::Place place(input.name);
         place.shape = glyphs.file.shapes[glyphs.positions[result.owned.size()]].number;
@@ -211,12 +213,13 @@ Conversion ConvertGlyphs(const Input& input, const GlyphsOptions& options, Front
 
 bool WriteGlyphs(const ChosenGlyphs& glyphs, const GlyphsOptions& options, Form form, const TextSink& sink,
                  Front& front, StyleJob* styles) {
+    const platform::ThreadCodePage page(glyphs.encoding);
     return form == Form::kJson ? WriteDocument(glyphs, options, sink, front)
                                : WritePictures(glyphs, options, form, sink, front, styles);
 }
 
 Listing ListGlyphs(const Input& input, bool tolerant) {
-    UseEncoding(input);
+    const platform::ThreadCodePage page(EncodingOf(input));
     Listing listing;
     ShxUtility::ShapesInFile file;
     listing.isListed = Load(input, tolerant, file, listing.diagnostics);

@@ -25,6 +25,7 @@ struct ChosenGlyphs {
     bool isConverted = false;
     ShxUtility::ShapesInFile file;
     std::vector<std::size_t> positions; // in its shapes
+    std::string encoding;               // of its names
     Captions captions;
     diagnostics::Diagnostics diagnostics;
 };

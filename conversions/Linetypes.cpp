@@ -177,12 +177,12 @@ std::string Utf8Of(const std::string& text) {
 } // namespace
 
 Conversion ConvertLinetypes(const Input& input, const LinetypesOptions& options, Front& front) {
-    UseEncoding(input);
+    const platform::ThreadCodePage page(EncodingOf(input));
     return LinetypeConversion(input, options, front).Run();
 }
 
 Listing ListLinetypes(const Input& input, bool tolerant) {
-    UseEncoding(input);
+    const platform::ThreadCodePage page(EncodingOf(input));
     Listing listing;
     LineConverter::LinetypeFile file;
     LineConverter::LinErrorLog log;

@@ -141,9 +141,13 @@ private:
             if (auto losses = StrictLosses(input_, loaded_, name, families, *symbol)) {
                 losses->severity = Severity::kWarning;
                 result_.captions.losses[symbol.get()] = {
-                    SentenceOf(*losses), [name, families] {
-                        return std::shared_ptr<TylModel::SymbolDefinition>(pattern::BuildFaithfulSymbol(
-                            name, families, pattern::FindFaithfulTiles(families)));
+                    SentenceOf(*losses), [name, shown = symbol->GetName(), families] {
+                        std::shared_ptr<TylModel::SymbolDefinition> faithful = pattern::BuildFaithfulSymbol(
+                            name, families, pattern::FindFaithfulTiles(families));
+                        if (faithful != nullptr) {
+                            faithful->SetName(shown); // the encoding of the file is in use no more
+                        }
+                        return faithful;
                     }};
                 result_.diagnostics.push_back(std::move(*losses));
             }
@@ -162,12 +166,12 @@ private:
 } // namespace
 
 Conversion ConvertPatterns(const Input& input, const PatternsOptions& options, Front& front) {
-    UseEncoding(input);
+    const platform::ThreadCodePage page(EncodingOf(input));
     return PatternConversion(input, options, front).Run();
 }
 
 Listing ListPatterns(const Input& input, bool tolerant) {
-    UseEncoding(input);
+    const platform::ThreadCodePage page(EncodingOf(input));
     Listing listing;
     LoadedPatterns loaded;
     listing.isListed =

@@ -10,10 +10,22 @@
 
 namespace platform {
 
-/// Chooses the code page of the calling thread, by a name as for SetAnsiCodePage. It stays in force there,
-/// before that of the process, until another one is chosen for the thread, or by the thread for the process.
-/// False, and no change, for an unknown name.
-bool SetThreadCodePage(const std::string& name);
+struct PageChoice;
+
+/// While an object of this class lives, the code page of its thread is the one of this name, whatever that of
+/// the process is. Objects of one thread end in the reverse of the order in which they began.
+class ThreadCodePage {
+public:
+    /// `name` as for SetAnsiCodePage. One that the system does not know changes nothing.
+    explicit ThreadCodePage(const std::string& name);
+    ~ThreadCodePage();
+    ThreadCodePage(const ThreadCodePage&) = delete;
+    ThreadCodePage& operator=(const ThreadCodePage&) = delete;
+
+private:
+    std::unique_ptr<PageChoice> choice_;
+    const PageChoice* before_;
+};
 
 /// Converts bytes of the code page in force. Bytes that it does not define are kept so that WideToAnsi gives
 /// them back where the system allows it: as U+DC80 to U+DCFF under UTF-8, as the character of the byte's own

@@ -1,5 +1,7 @@
 #include "conversions/checking/Check.h"
 
+#include "StyleConversion/platform/CodePage.h"
+
 #include <utility>
 
 namespace conversions {
@@ -27,7 +29,7 @@ Diagnostics CheckKind(FileKind kind, const Input& input, const CheckOptions& opt
 } // namespace
 
 Diagnostics Check(FileKind kind, const Input& input, const CheckOptions& options, Front& front) {
-    UseEncoding(input);
+    const platform::ThreadCodePage page(EncodingOf(input));
     Diagnostics found = CheckKind(kind, input, options, front);
     if (CountOf(found, Severity::kError) > 0) {
         TellWrongKind(input, kind, KindAdvice::kOtherName, found);

@@ -9,10 +9,11 @@ bool IsKnownEncoding(const std::string& encoding) {
     return platform::PageDecoder(encoding).IsKnown();
 }
 
-void UseEncoding(const Input& input) {
-    if (input.encoding.empty() || !platform::SetThreadCodePage(input.encoding)) {
-        platform::SetThreadCodePage(platform::IsUtf8(input.bytes) ? "UTF-8" : "WINDOWS-1252");
+std::string EncodingOf(const Input& input) {
+    if (!input.encoding.empty() && IsKnownEncoding(input.encoding)) {
+        return input.encoding;
     }
+    return platform::IsUtf8(input.bytes) ? "UTF-8" : "WINDOWS-1252";
 }
 
 } // namespace conversions

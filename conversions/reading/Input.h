@@ -24,7 +24,7 @@ struct Input {
 /// Whether text of that encoding can be read.
 bool IsKnownEncoding(const std::string& encoding);
 
-/// Reads narrow text in the encoding of the input from now on, in the calling thread.
-void UseEncoding(const Input& input);
+/// The encoding of the input's names and texts: its own, where it names one that is known.
+std::string EncodingOf(const Input& input);
 
 } // namespace conversions

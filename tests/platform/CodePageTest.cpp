@@ -71,32 +71,41 @@ TEST_F(CodePage, TheSecondByteOfACharacterIsNotFound) {
     EXPECT_EQ(FindInMultiByte("\x83", '\\'), std::string_view::npos);
 }
 
-// A byte that is a letter in each page, and the second byte of a character in one.
-TEST_F(CodePage, AThreadHasAPageOfItsOwn) {
+// A byte that is another letter in each page, and the second byte of a character in one.
+TEST_F(CodePage, AThreadCanHaveAPageOfItsOwn) {
     ASSERT_TRUE(SetAnsiCodePage("WINDOWS-1252"));
     std::wstring ofThread;
+    std::wstring afterwards;
     std::size_t found = 0;
     std::thread([&] {
-        EXPECT_EQ(AnsiToWide("\xc6"), L"\u00c6") << "the process's where the thread has chosen none";
-        EXPECT_TRUE(SetThreadCodePage("WINDOWS-1251"));
-        EXPECT_FALSE(SetThreadCodePage("NO-SUCH-PAGE"));
-        ofThread = AnsiToWide("\xc6");
-        EXPECT_EQ(WideToAnsi(ofThread), "\xc6");
-        EXPECT_TRUE(SetThreadCodePage("SHIFT_JIS"));
+        {
+            const ThreadCodePage page("WINDOWS-1251");
+            ofThread = AnsiToWide("\xc6");
+            EXPECT_EQ(WideToAnsi(ofThread), "\xc6");
+        }
+        afterwards = AnsiToWide("\xc6");
+        const ThreadCodePage page("SHIFT_JIS");
         found = FindInMultiByte("\x83\x5cx\x5c", '\\');
-        EXPECT_TRUE(SetThreadCodePage("UTF-8"));
-        EXPECT_EQ(AnsiToWide("\xc3\x86"), L"\u00c6");
-        EXPECT_EQ(FindInMultiByte("\x83\x5c", '\\'), 1U);
     }).join();
     EXPECT_EQ(ofThread, L"\u0416");
+    EXPECT_EQ(afterwards, L"\u00c6") << "the process's";
     EXPECT_EQ(found, 3U);
-    EXPECT_EQ(AnsiToWide("\xc6"), L"\u00c6") << "other threads have theirs still";
 }
 
-TEST_F(CodePage, WhatIsChosenForTheProcessIsForTheThreadThatChoosesToo) {
-    ASSERT_TRUE(SetThreadCodePage("WINDOWS-1251"));
+TEST_F(CodePage, TheLastOneOfAThreadIsInForce) {
     ASSERT_TRUE(SetAnsiCodePage("WINDOWS-1252"));
-    EXPECT_EQ(AnsiToWide("\xc6"), L"\u00c6");
+    const ThreadCodePage outer("WINDOWS-1251");
+    {
+        const ThreadCodePage inner("UTF-8");
+        EXPECT_EQ(AnsiToWide("\xc3\x86"), L"\u00c6");
+        EXPECT_EQ(FindInMultiByte("\x83\x5c", '\\'), 1U);
+        const ThreadCodePage unknown("NO-SUCH-PAGE");
+        EXPECT_EQ(AnsiToWide("\xc3\x86"), L"\u00c6");
+    }
+    EXPECT_EQ(AnsiToWide("\xc6"), L"\u0416");
+    std::thread([] {
+        EXPECT_EQ(AnsiToWide("\xc6"), L"\u00c6") << "other threads have the process's";
+    }).join();
 }
 
 } // namespace

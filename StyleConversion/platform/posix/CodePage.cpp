@@ -6,31 +6,28 @@
 #include "StyleConversion/platform/posix/IconvPage.h"
 
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace platform {
-namespace {
 
-struct Choice {
+struct PageChoice {
     std::unique_ptr<IconvPage> page; // null: UTF-8
-    bool isMade = false;
 };
 
-// UTF-8 until one is made.
-Choice& OfProcess() {
-    static Choice choice;
-    return choice;
-}
+namespace {
 
-Choice& OfThread() {
-    static thread_local Choice choice;
+thread_local const PageChoice* ofThread = nullptr; // null where the thread goes by the process
+
+// UTF-8 until another one is chosen.
+PageChoice& OfProcess() {
+    static PageChoice choice;
     return choice;
 }
 
 // Null while UTF-8 is in force.
 const IconvPage* Current() {
-    const Choice& thread = OfThread();
-    return (thread.isMade ? thread : OfProcess()).page.get();
+    return (ofThread != nullptr ? *ofThread : OfProcess()).page.get();
 }
 
 bool IsUtf8Name(const std::string& name) {
@@ -41,31 +38,37 @@ bool IsUtf8Name(const std::string& name) {
     return upper == "UTF-8" || upper == "UTF8";
 }
 
-bool Choose(const std::string& name, Choice& choice) {
-    std::unique_ptr<IconvPage> page;
+// Nothing when the system does not know the page.
+std::optional<PageChoice> Choose(const std::string& name) {
+    PageChoice choice;
     if (!IsUtf8Name(name)) {
-        page = IconvPage::Open(name);
-        if (page == nullptr) {
-            return false;
+        choice.page = IconvPage::Open(name);
+        if (choice.page == nullptr) {
+            return std::nullopt;
         }
     }
-    choice.page = std::move(page);
-    choice.isMade = true;
-    return true;
+    return choice;
 }
 
 } // namespace
 
 bool SetAnsiCodePage(const std::string& name) {
-    if (!Choose(name, OfProcess())) {
-        return false;
+    std::optional<PageChoice> choice = Choose(name);
+    if (choice) {
+        OfProcess() = std::move(*choice);
     }
-    OfThread() = {};
-    return true;
+    return choice.has_value();
 }
 
-bool SetThreadCodePage(const std::string& name) {
-    return Choose(name, OfThread());
+ThreadCodePage::ThreadCodePage(const std::string& name) : before_(ofThread) {
+    if (std::optional<PageChoice> choice = Choose(name)) {
+        choice_ = std::make_unique<PageChoice>(std::move(*choice));
+        ofThread = choice_.get();
+    }
+}
+
+ThreadCodePage::~ThreadCodePage() {
+    ofThread = before_;
 }
 
 struct PageDecoder::Page {

@@ -16,26 +16,23 @@
 #include <optional>
 
 namespace platform {
+
+struct PageChoice {
+    unsigned page = CP_ACP;
+    bool hasPairs = false; // characters of two bytes
+};
+
 namespace {
+
+thread_local const PageChoice* ofThread = nullptr; // null where the thread goes by the process
 
 unsigned& OfProcess() {
     static unsigned page = CP_ACP;
     return page;
 }
 
-struct ThreadPage {
-    unsigned page = CP_ACP; // the thread goes by the process
-    bool hasPairs = false;  // characters of two bytes
-};
-
-ThreadPage& OfThread() {
-    static thread_local ThreadPage page;
-    return page;
-}
-
 unsigned Current() {
-    const unsigned page = OfThread().page;
-    return page != CP_ACP ? page : OfProcess();
+    return ofThread != nullptr ? ofThread->page : OfProcess();
 }
 
 bool HasPairs(unsigned page) {
@@ -125,16 +122,18 @@ bool SetAnsiCodePage(const std::string& name) {
     }
     _setmbcp(HasPairs(*page) ? static_cast<int>(*page) : _MB_CP_SBCS);
     OfProcess() = *page;
-    OfThread() = {};
     return true;
 }
 
-bool SetThreadCodePage(const std::string& name) {
-    const std::optional<unsigned> page = KnownPage(name);
-    if (page) {
-        OfThread() = {*page, HasPairs(*page)};
+ThreadCodePage::ThreadCodePage(const std::string& name) : before_(ofThread) {
+    if (const std::optional<unsigned> page = KnownPage(name)) {
+        choice_ = std::make_unique<PageChoice>(PageChoice{*page, HasPairs(*page)});
+        ofThread = choice_.get();
     }
-    return page.has_value();
+}
+
+ThreadCodePage::~ThreadCodePage() {
+    ofThread = before_;
 }
 
 struct PageDecoder::Page {
@@ -188,7 +187,7 @@ std::string WideToAnsi(std::wstring_view wide) {
 namespace {
 
 // The function of the runtime library knows the process's page alone.
-std::size_t FindInPage(const ThreadPage& page, std::string_view text, char sought) {
+std::size_t FindInPage(const PageChoice& page, std::string_view text, char sought) {
     for (std::size_t at = 0; at < text.size(); ++at) {
         if (text[at] == sought) {
             return at;
@@ -203,8 +202,8 @@ std::size_t FindInPage(const ThreadPage& page, std::string_view text, char sough
 } // namespace
 
 std::size_t FindInMultiByte(std::string_view text, char sought) {
-    if (const ThreadPage& page = OfThread(); page.page != CP_ACP) {
-        return FindInPage(page, text, sought);
+    if (ofThread != nullptr) {
+        return FindInPage(*ofThread, text, sought);
     }
     // Behind a first half that stands last, some versions of the function look past the end: it has a second
     // one.
