@@ -12,6 +12,8 @@ enum class Code : std::uint8_t {
     kUnreadableFile,
     kUnknownFileKind,
     kWrongFileKind,
+    kOtherEncoding,
+    kZipArchive,
     kOutOfMemory,
     kByteOrderMark,
     kNoLinetypes,

@@ -95,6 +95,15 @@ FileKind KindOfDocument(std::string_view bytes) {
                                                : FileKind::kUnknown;
 }
 
+// What files begin with that are none of these, but of a kind that is often met.
+struct OtherStart {
+    std::string_view bytes;
+    diagnostics::Code code;
+};
+constexpr OtherStart kOtherStarts[] = {{"\xff\xfe", diagnostics::Code::kOtherEncoding},
+                                       {"\xfe\xff", diagnostics::Code::kOtherEncoding},
+                                       {"PK\x03\x04", diagnostics::Code::kZipArchive}};
+
 diagnostics::Diagnostic WrongKind(const Input& input, FileKind kind, FileKind found, KindAdvice advice,
                                   Severity severity) {
     const KindWords& words = WordsOf(found);
@@ -140,6 +149,12 @@ bool IsDxf(std::string_view name, std::string_view bytes) {
 
 void TellWrongKind(const Input& input, FileKind kind, KindAdvice advice,
                    diagnostics::Diagnostics& diagnostics) {
+    for (const OtherStart& start : kOtherStarts) {
+        if (input.bytes.starts_with(start.bytes)) {
+            diagnostics = {{Severity::kError, start.code, {input.name}, {}}};
+            return;
+        }
+    }
     FileKind found = KindByContents(input.bytes);
     if (found == FileKind::kUnknown) {
         found = KindByName(input.name);

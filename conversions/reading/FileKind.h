@@ -28,8 +28,8 @@ bool IsDxf(std::string_view name, std::string_view bytes);
 /// What helps where a file is of another kind.
 enum class KindAdvice : std::uint8_t { kOtherCommand, kOtherName };
 
-/// For a file that could not be used as one of `kind`: where it is of another kind, that alone is what is
-/// wrong, and replaces all that was found.
+/// For a file that could not be used as one of `kind`: where it is of another kind, or clearly of none, that
+/// alone is what is wrong, and replaces all that was found.
 void TellWrongKind(const Input& input, FileKind kind, KindAdvice advice,
                    diagnostics::Diagnostics& diagnostics);
 /// For one that was used: a warning where what is in it is of another kind.

@@ -184,6 +184,10 @@ ExitStatus CheckFiles(CheckOptions& options) {
         return sink(TextOf(findings, options.format));
     });
     SayUnusedFonts(options);
+    if (findings.files == 0 && findings.found.empty()) {
+        SayNoFiles("check");
+        return kInputFault;
+    }
     const std::size_t failures =
         CountOf(findings.found, Severity::kError) +
         (options.failOn == "warning" ? CountOf(findings.found, Severity::kWarning) : 0);

@@ -175,6 +175,8 @@ bool IsLocal(const Diagnostic& diagnostic) {
     case Code::kUnreadableFolder:
     case Code::kUnknownFileKind:
     case Code::kWrongFileKind:
+    case Code::kOtherEncoding:
+    case Code::kZipArchive:
     case Code::kOutOfMemory:
     case Code::kNoLinetypes:
     case Code::kNoPatterns:

@@ -10,6 +10,7 @@
 #include "styleconv/commands/Commands.h"
 #include "styleconv/commands/FilesInOrder.h"
 #include "styleconv/commands/Job.h"
+#include "styleconv/commands/ManyFiles.h"
 #include "styleconv/commands/TextTable.h"
 #include "styleconv/files/FileWalk.h"
 #include "styleconv/files/InputFile.h"
@@ -132,7 +133,7 @@ ExitStatus List(const ListOptions& options) {
     WorkOnFiles(walk.files, work);
     if (listed == 0) {
         if (walk.files.empty() && walk.diagnostics.empty()) {
-            SayLine("styleconv: list: no file of a kind that is converted");
+            SayNoFiles("list");
         }
         return kInputFault;
     }

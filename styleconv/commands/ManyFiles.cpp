@@ -116,6 +116,10 @@ std::string Counted(std::size_t count, const std::string& what) {
     return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
+void SayNoFiles(const std::string& command) {
+    SayLine("styleconv: " + command + ": no file of a kind that is converted: .lin, .pat, .shx, .json, .dxf");
+}
+
 FilesToConvert FilesOfKind(FileKind kind, const std::vector<std::string>& files, bool allOrNothing,
                            bool isTolerant) {
     FilesToConvert result;
@@ -216,6 +220,9 @@ ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert,
     SaySummary(files, gathering, told);
     const bool isComplete = gathering.Refused().empty() && files.diagnostics.empty();
     if (!gathering.HasSymbols() || (files.allOrNothing && !isComplete)) {
+        if (files.files.empty() && files.diagnostics.empty()) {
+            SayNoFiles("convert");
+        }
         SayLine("styleconv: nothing was written");
         return kInputFault;
     }

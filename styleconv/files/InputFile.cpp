@@ -77,7 +77,7 @@ std::optional<Diagnostic> InputFile::OpenNamed() {
         return Diagnostic{Severity::kError, Code::kMissingFile, {name_}, {}};
     }
     if (std::filesystem::is_directory(status)) {
-        return Unreadable("it is a directory");
+        return Unreadable("it is a folder, of which \"styleconv convert\" takes all files");
     }
     if (!std::filesystem::is_regular_file(status)) {
         return Unreadable("it is not a regular file (give \"-\" to read standard input)");

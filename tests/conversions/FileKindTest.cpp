@@ -65,5 +65,17 @@ TEST(FileKinds, ACheckNamesTheEndThatTheNameShouldHave) {
               "[wrong-file-kind]\n");
 }
 
+TEST(FileKinds, FilesThatAreNoneOfTheseAreSaidToBeWhatTheyAre) {
+    conversions::Front front;
+    const std::string littleEndian("\xff\xfe*\0X\0\n\0", 8);
+    const std::string bigEndian("\xfe\xff\0*\0X\0\n", 8);
+    for (const std::string& text : {littleEndian, bigEndian}) {
+        EXPECT_EQ(Messages(ConvertPatterns(Named("a.pat", text), {}, front).diagnostics),
+                  "a.pat: error: the file is UTF-16; save it as UTF-8 [other-encoding]\n");
+    }
+    EXPECT_EQ(Messages(ConvertLinetypes(Named("a.lin", "PK\x03\x04*X\nA,1\n"), {}, front).diagnostics),
+              "a.lin: error: the file is a ZIP archive; unpack it, and give what is in it [zip-archive]\n");
+}
+
 } // namespace
 } // namespace conversions_test

@@ -37,6 +37,15 @@ TEST_F(CheckFolders, AllFilesOfKnownKindsInAFolderAreCheckedInSortedOrder) {
                   "2 errors, 0 warnings in 2 files\n");
 }
 
+TEST_F(CheckFolders, FolderWithoutFilesOfAKnownKindIsTold) {
+    Write("a/readme.txt", "");
+    const ToolResult result = RunTool({"check", folder / "a"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "0 errors, 0 warnings in 0 files\n");
+    EXPECT_EQ(result.errors,
+              "styleconv: check: no file of a kind that is converted: .lin, .pat, .shx, .json, .dxf\n");
+}
+
 TEST_F(CheckFolders, FileThatIsGivenAgainIsJudgedOnce) {
     const std::string file = Write("a/walls.pat", "*X\n");
     const std::string error = ":1: error: the pattern has no lines (pattern X) [empty-pattern]\n";

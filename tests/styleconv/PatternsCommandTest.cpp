@@ -128,7 +128,10 @@ TEST(PatternsCommand, ADirectoryIsAFault) {
     folder.Write("out.json", "old");
     const ToolResult result = RunTool({"patterns", folder / "d.pat", "-o", folder / "out.json"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errors, (folder / "d.pat") + ": error: cannot be read: it is a directory\n");
+    EXPECT_EQ(
+        result.errors,
+        (folder / "d.pat") +
+            ": error: cannot be read: it is a folder, of which \"styleconv convert\" takes all files\n");
     EXPECT_EQ(folder.Read("out.json"), "old");
 }
 
