@@ -1,6 +1,7 @@
 """Converts a generated standard: 436 pattern files, 2,336 linetypes in 9 files with shapes and texts, a shape library,
 a font and drawings. Prints the time of one run over its folder beside the sum of runs over each of its files, and their
-ratio: standard_benchmark.py STYLECONV [FOLDER]. FOLDER keeps the standard; it must not be there."""
+ratio, and beside a run on one core, where the system can keep a process there: standard_benchmark.py STYLECONV [FOLDER].
+FOLDER keeps the standard; it must not be there."""
 import os
 import random
 import shutil
@@ -62,9 +63,13 @@ def generate(folder):
         write(folder, f"signs-{drawing}.json", f'{{"format": "styleconversion/drawing", "version": 1, "blocks": [{blocks}]}}')
 
 
-def seconds(tool, paths, result):
+def on_one_core():
+    os.sched_setaffinity(0, {min(os.sched_getaffinity(0))})
+
+
+def seconds(tool, paths, result, **options):
     start = time.perf_counter()
-    run = subprocess.run([tool, "convert", *paths, "-o", result], capture_output=True, text=True, check=False)
+    run = subprocess.run([tool, "convert", *paths, "-o", result], capture_output=True, text=True, check=False, **options)
     took = time.perf_counter() - start
     assert os.path.exists(result), run.stderr
     os.remove(result)
@@ -77,6 +82,9 @@ def measure(tool, folder, result):
     single = sum(seconds(tool, [file], result)[0] for file in files)
     print(f"{os.path.splitext(result)[1][1:]:5} {whole:.3f} s; {len(files)} single conversions {single:.3f} s; "
           f"ratio {whole / single:.2f}")
+    if hasattr(os, "sched_setaffinity"):
+        one = statistics.median(seconds(tool, [folder], result, preexec_fn=on_one_core)[0] for _ in range(RUNS))
+        print(f"      on one core {one:.3f} s; ratio {whole / one:.2f}")
 
 
 def main():
