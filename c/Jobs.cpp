@@ -13,7 +13,9 @@
 #include "documents/DiagnosticsDocument.h"
 #include "documents/ListDocument.h"
 
+#include <cstddef>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -56,7 +58,8 @@ void AskForDrawing(FileKind kind, const Options& options, const CallbackFront& f
 }
 
 Fidelity FidelityOf(const Options& options) {
-    return options.isFaithful || options.form == Form::kQgis ? Fidelity::kFaithful : Fidelity::kStrict;
+    const bool isStyle = options.form == Form::kQgis || options.form == Form::kQml;
+    return options.isFaithful || isStyle ? Fidelity::kFaithful : Fidelity::kStrict;
 }
 
 Conversion ConvertLines(const Input& input, const Options& options, CallbackFront& front) {
@@ -150,12 +153,26 @@ Diagnostics WriteAndTell(const Input& input, Diagnostics told, styleconversion_r
     return told;
 }
 
+// Refuses a layer style of several symbols.
+bool CheckCount(Form form, std::size_t symbols, const char* advice, styleconversion_result& result) {
+    if (form != Form::kQml || symbols == 1) {
+        return true;
+    }
+    result.status = STYLECONVERSION_USAGE;
+    result.error = "option format: qml is the style of one symbol, and there are " + std::to_string(symbols) +
+                   ": " + advice;
+    return false;
+}
+
 // Only those that were asked for, in that order, and as often.
 Diagnostics WriteNamed(const Conversion& conversion, const Input& input, Form form, CallbackFront& front,
                        styleconversion_result& result) {
     if (!conversion.isConverted) {
         result.status = STYLECONVERSION_INPUT;
         return conversion.diagnostics;
+    }
+    if (!CheckCount(form, conversion.symbols.size(), "choose one with names", result)) {
+        return {};
     }
     return WriteAndTell(input, conversion.diagnostics, result,
                         [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {
@@ -183,6 +200,10 @@ Diagnostics Convert(FileKind kind, const Input& input, const Options& options, C
     if (!gathering.HasSymbols()) {
         result.status = STYLECONVERSION_INPUT;
         return told;
+    }
+    if (!CheckCount(options.form, gathering.SymbolCount(),
+                    hasNoNames ? "give a file of one" : "choose one with names", result)) {
+        return {};
     }
     return WriteAndTell(input, std::move(told), result,
                         [&](const conversions::TextSink& sink, conversions::StyleJob& styles) {

@@ -34,8 +34,11 @@ constexpr Word<FileKind> kKinds[] = {{"linetypes", FileKind::kLinetypes},
                                      {"drawing", FileKind::kDrawing},
                                      {"symbols", FileKind::kSymbols}};
 
-constexpr Word<Form> kFormats[] = {
-    {"json", Form::kJson}, {"svg", Form::kSvg}, {"html", Form::kHtml}, {"qgis", Form::kQgis}};
+constexpr Word<Form> kFormats[] = {{"json", Form::kJson},
+                                   {"svg", Form::kSvg},
+                                   {"html", Form::kHtml},
+                                   {"qgis", Form::kQgis},
+                                   {"qml", Form::kQml}};
 
 template <typename Value, std::size_t size>
 bool ReadWord(const JsonValue& json, const Word<Value> (&words)[size], Value& value) {
@@ -86,7 +89,7 @@ const Option kOptions[] = {
      "linetypes, patterns, shapes, drawing or symbols"},
     {"format", kInConvert,
      [](const JsonValue& json, Options& options) { return ReadWord(json, kFormats, options.form); },
-     "json, svg, html or qgis"},
+     "json, svg, html, qgis or qml"},
     {"tolerant", kInConvert | kInList | kInCheck,
      [](const JsonValue& json, Options& options) { return ReadBoolean(json, options.isTolerant); },
      "true or false"},

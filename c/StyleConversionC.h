@@ -71,6 +71,7 @@ STYLECONVERSION_C_API const char* STYLECONVERSION_CALL styleconversion_version(v
 /**
  * Converts a linetype file, pattern file, shape file, drawing or symbols document. The document is what
  * "styleconv convert" writes of the same file with the same options, to the byte: JSON, SVG, HTML or XML.
+ * A layer style ("qml") is of one symbol: where there are more, that is STYLECONVERSION_USAGE.
  *
  * `name` is what messages call the file; its end, as ".lin", tells the kind where the option "kind" does not.
  * `bytes` are `size` bytes, the file as it is; null where there are none.

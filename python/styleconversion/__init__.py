@@ -165,6 +165,11 @@ class Result(Sequence[Symbol]):
         """A style library for QGIS, which its style manager imports. Its symbols are always faithful."""
         return self._as("qgis")
 
+    def qml(self) -> str:
+        """The style of the one symbol, which a layer of QGIS loads; always faithful. Raises ValueError where there are
+        several: convert one of them with `names`."""
+        return self._as("qml")
+
     def _repr_svg_(self) -> str:
         return self.svg()
 

@@ -45,7 +45,7 @@ static void the_options_are_read_strictly(void) {
     refuse_options("{\"tolerent\": true}", "unknown option tolerent");
     refuse_options("{\"tolerant\": 1}", "option tolerant: expected true or false");
     refuse_options("{\"tolerant\": \"true\"}", "option tolerant: expected true or false");
-    refuse_options("{\"format\": \"pdf\"}", "option format: expected json, svg, html or qgis");
+    refuse_options("{\"format\": \"pdf\"}", "option format: expected json, svg, html, qgis or qml");
     refuse_options("{\"kind\": \"lines\"}",
                    "option kind: expected linetypes, patterns, shapes, drawing or symbols");
     refuse_options("{\"names\": [\"A\", 1]}", "option names: expected a list of texts");
@@ -59,6 +59,26 @@ static void the_options_are_read_strictly(void) {
         "unknown option format");
     expect_usage(styleconversion_convert("a.shx", pattern, 1, "{\"names\": [\"A\"]}", NULL, NULL),
                  "option names: only for linetypes, patterns and drawings");
+}
+
+static styleconversion_result* layer_style(const char* bytes, const char* options) {
+    return styleconversion_convert("a.pat", bytes, strlen(bytes), options, NULL, NULL);
+}
+
+static void a_layer_style_is_of_one_symbol(void) {
+    static const char two[] = "*ONE\n45, 0,0, 0,2\n*OTHER\n0, 0,0, 0,1\n";
+    const char* refusal =
+        "option format: qml is the style of one symbol, and there are 2: choose one with names";
+    styleconversion_result* result = layer_style(two, "{\"format\": \"qml\", \"names\": [\"OTHER\"]}");
+    EXPECT(styleconversion_status(result) == STYLECONVERSION_DONE);
+    EXPECT(strstr(styleconversion_document(result, NULL), "<symbol type=\"fill\" name=\"0\"") != NULL);
+    styleconversion_release(result);
+    expect_usage(layer_style(two, "{\"format\": \"qml\"}"), refusal);
+    expect_usage(layer_style(two, "{\"format\": \"qml\", \"names\": [\"ONE\", \"OTHER\"]}"), refusal);
+    /* A file that is refused is so, not for its count. */
+    result = styleconversion_convert("a.lin", broken, sizeof broken - 1, "{\"format\": \"qml\"}", NULL, NULL);
+    EXPECT(styleconversion_status(result) == STYLECONVERSION_INPUT);
+    styleconversion_release(result);
 }
 
 static void wrong_calls_are_told(void) {
@@ -147,6 +167,7 @@ int main(void) {
     EXPECT(styleconversion_interface() == STYLECONVERSION_INTERFACE);
     EXPECT(strcmp(styleconversion_version(), EXPECTED_VERSION) == 0);
     the_options_are_read_strictly();
+    a_layer_style_is_of_one_symbol();
     wrong_calls_are_told();
     documents_end_with_a_zero_behind_their_size();
     a_refused_file_has_diagnostics_and_no_document();

@@ -67,6 +67,16 @@ class Same(unittest.TestCase):
         for path in FILES:
             self.same(path, "convert", {"faithful": True, "tolerant": True}, "--faithful", "--tolerant")
 
+    def test_layer_styles_are_the_same(self):
+        for command, file, name in (("linetypes", "linetypes/simple.lin", "TRACK"), ("patterns", "patterns/brick.pat", "BRICK"),
+                                    ("blocks", "drawings/boundaries.json", "POND")):
+            path = os.path.join(EXAMPLES, *file.split("/"))
+            with self.subTest(file=file):
+                tool = output(self.folder, TOOL, command, path, "--format", "qml", "--name", name)
+                self.assertEqual(tool[0], 0)
+                program = output(self.folder, PROGRAM, "convert", path, json.dumps({"format": "qml", "names": [name]}), ".")
+                self.assertEqual(program, tool)
+
     # By the commands of one kind, which choose by name: what is asked for, in that order, and as often.
     def test_what_is_chosen_by_names_is_the_same(self):
         for command, file, names in (("linetypes", "linetypes/simple.lin", ["TRACK", "FOOTPATH", "TRACK"]),

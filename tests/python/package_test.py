@@ -180,3 +180,11 @@ class Pictures(unittest.TestCase):
 
     def test_style_libraries_are_the_tools(self):
         self.assertEqual(styleconversion.convert(BRICK).qgis(), written_by_tool("convert", BRICK, "--format", "qgis"))
+
+    def test_layer_styles_are_the_tools_and_of_one_symbol(self):
+        self.assertEqual(styleconversion.convert(BRICK).qml(), written_by_tool("convert", BRICK, "--format", "qml"))
+        two = b"*ONE\n45, 0,0, 0,2\n*OTHER\n0, 0,0, 0,1\n"
+        with self.assertRaisesRegex(ValueError, "the style of one symbol, and there are 2: choose one with names"):
+            styleconversion.convert(two, name="a.pat").qml()
+        one = styleconversion.convert(two, name="a.pat", names="OTHER").qml()
+        self.assertIn('<symbol type="fill" name="0"', one)
