@@ -8,7 +8,9 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace conversions {
@@ -122,6 +124,10 @@ bool ReadRest(std::FILE* stream, std::string& bytes) {
 
 std::unique_ptr<drawing::Database> ReadBytes(const Input& input, std::string_view bytes, Reading reading,
                                              Diagnostics& diagnostics) {
+    if (std::optional<Diagnostic> stranger = KnownStranger(input.name, bytes)) {
+        diagnostics.push_back(std::move(*stranger));
+        return nullptr;
+    }
     if (!IsDxf(input.name, bytes)) {
         return ReadDocument(input, bytes, reading, diagnostics);
     }
@@ -143,7 +149,8 @@ std::unique_ptr<drawing::Database> ReadStream(const Input& input, Reading readin
         std::array<char, 1 << 12> start{};
         const std::size_t size = source.Read(start.data(), start.size());
         source.Rewind();
-        if (IsDxf(input.name, {start.data(), size})) {
+        const std::string_view begin(start.data(), size);
+        if (IsDxf(input.name, begin) && !KnownStranger(input.name, begin)) {
             return ReadDxfFile(input, reading, diagnostics,
                                [&](Diagnostic& fault, exchange::DxfNotes& notes) {
                                    return exchange::ReadDxf(source, fault, notes);

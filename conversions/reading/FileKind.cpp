@@ -147,13 +147,20 @@ bool IsDxf(std::string_view name, std::string_view bytes) {
            (EndsWithIgnoringCase(name, kDxfExtension) && !platform::WithoutBlanks(bytes).starts_with('{'));
 }
 
+std::optional<diagnostics::Diagnostic> KnownStranger(const std::string& name, std::string_view bytes) {
+    for (const OtherStart& start : kOtherStarts) {
+        if (bytes.starts_with(start.bytes)) {
+            return diagnostics::Diagnostic{Severity::kError, start.code, {name}, {}};
+        }
+    }
+    return std::nullopt;
+}
+
 void TellWrongKind(const Input& input, FileKind kind, KindAdvice advice,
                    diagnostics::Diagnostics& diagnostics) {
-    for (const OtherStart& start : kOtherStarts) {
-        if (input.bytes.starts_with(start.bytes)) {
-            diagnostics = {{Severity::kError, start.code, {input.name}, {}}};
-            return;
-        }
+    if (std::optional<diagnostics::Diagnostic> stranger = KnownStranger(input.name, input.bytes)) {
+        diagnostics = {std::move(*stranger)};
+        return;
     }
     FileKind found = KindByContents(input.bytes);
     if (found == FileKind::kUnknown) {

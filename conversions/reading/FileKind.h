@@ -5,6 +5,8 @@
 #include "diagnostics/Diagnostic.h"
 
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace conversions {
@@ -27,6 +29,9 @@ bool IsDxf(std::string_view name, std::string_view bytes);
 
 /// What helps where a file is of another kind.
 enum class KindAdvice : std::uint8_t { kOtherCommand, kOtherName };
+
+/// That a file is clearly none of these, by the bytes that it begins with.
+std::optional<diagnostics::Diagnostic> KnownStranger(const std::string& name, std::string_view bytes);
 
 /// For a file that could not be used as one of `kind`: where it is of another kind, or clearly of none, that
 /// alone is what is wrong, and replaces all that was found.

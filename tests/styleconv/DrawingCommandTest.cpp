@@ -152,4 +152,31 @@ TEST_F(DrawingCommand, AFileThatOnlyEndsSoIsNoSuchFile) {
               file + ":1: error: expected a group code, found \"hello\"\n" + support::HelpBehindErrors(file));
 }
 
+TEST(DrawingFiles, FilesThatAreNoDrawingsAreSaidToBeWhatTheyAre) {
+    const ScratchFolder folder;
+    const std::string archive = "PK\x03\x04 rest\n";
+    const std::string wide("\xff\xfe{\0}\0", 6);
+    for (const char* const end : {".dxf", ".json"}) {
+        const std::string packed = folder.Write(std::string("packed") + end, archive);
+        const std::string utf16 = folder.Write(std::string("wide") + end, wide);
+        for (const char* const command : {"blocks", "list", "check"}) {
+            const ToolResult archived = RunTool({command, packed});
+            EXPECT_EQ(archived.status, 1);
+            EXPECT_NE(
+                (archived.output + archived.errors)
+                    .find(packed + ": error: the file is a ZIP archive; unpack it, and give what is in it"),
+                std::string::npos)
+                << command << ": " << archived.output << archived.errors;
+            const ToolResult widened = RunTool({command, utf16});
+            EXPECT_EQ(widened.status, 1);
+            EXPECT_NE((widened.output + widened.errors)
+                          .find(utf16 + ": error: the file is UTF-16; save it as UTF-8"),
+                      std::string::npos)
+                << command << ": " << widened.output << widened.errors;
+        }
+    }
+    EXPECT_NE(RunTool({"blocks", "-"}, wide).errors.find("the file is UTF-16; save it as UTF-8"),
+              std::string::npos);
+}
+
 } // namespace
