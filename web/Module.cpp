@@ -87,10 +87,12 @@ __attribute__((export_name("add_file"))) void AddFile(const char* name, const ch
     run->styles.file = ++run->files == 1 ? input.name : "symbols.xml";
 }
 
-/// Writes all symbols in the form of the options; without symbols, nothing.
+/// Writes all symbols in the form of the options; nothing without symbols, or where the form is of one and
+/// there are others.
 __attribute__((export_name("write"))) std::size_t Write() {
     std::string document;
-    if (run->gathering.HasSymbols()) {
+    const bool isOfOne = run->options.form == conversions::Form::kQml;
+    if (run->gathering.HasSymbols() && (!isOfOne || run->gathering.SymbolCount() == 1)) {
         c_interface::CallbackFront front(Find, nullptr);
         const auto append = [&](std::string_view piece) {
             document += piece;
