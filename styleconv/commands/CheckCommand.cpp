@@ -185,7 +185,7 @@ ExitStatus CheckFiles(CheckOptions& options) {
     });
     SayUnusedFonts(options);
     if (findings.files == 0 && findings.found.empty()) {
-        SayNoFiles("check");
+        SayNoFiles();
         return kInputFault;
     }
     const std::size_t failures =

@@ -133,7 +133,7 @@ ExitStatus List(const ListOptions& options) {
     WorkOnFiles(walk.files, work);
     if (listed == 0) {
         if (walk.files.empty() && walk.diagnostics.empty()) {
-            SayNoFiles("list");
+            SayNoFiles();
         }
         return kInputFault;
     }

@@ -116,8 +116,8 @@ std::string Counted(std::size_t count, const std::string& what) {
     return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
-void SayNoFiles(const std::string& command) {
-    SayLine("styleconv: " + command + ": no file of a kind that is converted: .lin, .pat, .shx, .json, .dxf");
+void SayNoFiles() {
+    SayLine("styleconv: no file of a kind that is converted: .lin, .pat, .shx, .json, .dxf");
 }
 
 FilesToConvert FilesOfKind(FileKind kind, const std::vector<std::string>& files, bool allOrNothing,
@@ -221,7 +221,7 @@ ExitStatus ConvertFiles(const FilesToConvert& files, const ConvertFile& convert,
     const bool isComplete = gathering.Refused().empty() && files.diagnostics.empty();
     if (!gathering.HasSymbols() || (files.allOrNothing && !isComplete)) {
         if (files.files.empty() && files.diagnostics.empty()) {
-            SayNoFiles("convert");
+            SayNoFiles();
         }
         SayLine("styleconv: nothing was written");
         return kInputFault;

@@ -73,8 +73,8 @@ struct MakingOption {
 /// False, with a message, where one of the files is a symbols document, whose symbols are made already.
 bool CheckMakingOptions(const std::vector<std::string>& files, const std::vector<MakingOption>& options);
 
-/// Says that there is nothing for a command to do in the folders that it was given.
-void SayNoFiles(const std::string& command);
+/// Says that the folders that were given hold nothing to work on.
+void SayNoFiles();
 
 /// "1 file", "2 files".
 std::string Counted(std::size_t count, const std::string& what);

@@ -43,7 +43,7 @@ TEST_F(CheckFolders, FolderWithoutFilesOfAKnownKindIsTold) {
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.output, "0 errors, 0 warnings in 0 files\n");
     EXPECT_EQ(result.errors,
-              "styleconv: check: no file of a kind that is converted: .lin, .pat, .shx, .json, .dxf\n");
+              "styleconv: no file of a kind that is converted: .lin, .pat, .shx, .json, .dxf\n");
 }
 
 TEST_F(CheckFolders, FileThatIsGivenAgainIsJudgedOnce) {

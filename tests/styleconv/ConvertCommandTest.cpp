@@ -320,7 +320,7 @@ TEST_F(ConvertCommand, WhatGivesNothingWritesNothing) {
     folder.Write("out.json", "old");
     const ToolResult result = RunTool({"convert", folder / "empty", "-o", folder / "out.json"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(Said(result), "styleconv: 0 files, 0 symbols\nstyleconv: convert: no file of a kind that is "
+    EXPECT_EQ(Said(result), "styleconv: 0 files, 0 symbols\nstyleconv: no file of a kind that is "
                             "converted: .lin, .pat, .shx, .json, .dxf\nstyleconv: nothing was written\n");
     EXPECT_EQ(folder.Read("out.json"), "old");
     EXPECT_EQ(RunTool({"convert", "-"}).status, 2);

@@ -118,7 +118,7 @@ TEST_F(ListSeveral, FolderWithoutFilesOfAKnownKindIsTold) {
     const ToolResult result = RunTool({"list", folder / ""});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors,
-              "styleconv: list: no file of a kind that is converted: .lin, .pat, .shx, .json, .dxf\n");
+              "styleconv: no file of a kind that is converted: .lin, .pat, .shx, .json, .dxf\n");
     EXPECT_EQ(RunTool({"list", folder / "", "--format", "svg"}).status, 2);
 }
 
