@@ -140,7 +140,7 @@ TEST_F(ConvertCommand, ManyFilesGiveTheirSymbolsInOrderEachInItsOwnEncoding) {
         std::string text;
         for (int pattern = kFirstPattern; pattern <= kLastPattern; ++pattern) {
             const std::string end = "N-" + std::to_string(file) + "-" + std::to_string(pattern);
-            text += "*GR" + letter + end + "\n0,0,0,0,1\n";
+            text.append("*GR").append(letter).append(end).append("\n0,0,0,0,1\n");
             expected.push_back("GR\xc3\x9c" + end);
         }
         Write("all/" + std::to_string(file) + ".pat", text);
